@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QStringView>
+#include <optional>
+
+// Strict C-locale number parsing: the whole text must be one number, with no
+// spaces and no group separators.
+namespace NumberParsing {
+std::optional<double> parseDouble(QStringView text);
+// Only ASCII digits, optionally signed; the whole text.
+std::optional<long long> parseInteger(QStringView text);
+} // namespace NumberParsing

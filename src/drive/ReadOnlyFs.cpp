@@ -1,0 +1,143 @@
+#include "drive/ReadOnlyFs.h"
+
+#include <QFile>
+#include <algorithm>
+#include <cerrno>
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace ReadOnlyFs {
+
+namespace {
+int openWith(const QByteArray &path, int flags)
+{
+    int fd;
+    do {
+        fd = ::open(path.constData(), flags | O_NOATIME | O_CLOEXEC);
+    } while (fd < 0 && errno == EINTR);
+    // O_NOATIME is refused with EPERM on files we don't own (as non-root).
+    if (fd < 0 && errno == EPERM) {
+        do {
+            fd = ::open(path.constData(), flags | O_CLOEXEC);
+        } while (fd < 0 && errno == EINTR);
+    }
+    return fd;
+}
+} // namespace
+
+int openRead(const QString &path)
+{
+    return openWith(QFile::encodeName(path), O_RDONLY);
+}
+
+Listing list(const QString &folder, int fields)
+{
+    Listing result;
+    const int fd = openWith(QFile::encodeName(folder), O_RDONLY | O_DIRECTORY);
+    if (fd < 0) {
+        result.error = errno;
+        return result;
+    }
+    DIR *dir = ::fdopendir(fd);
+    if (!dir) {
+        result.error = errno;
+        ::close(fd);
+        return result;
+    }
+    const int dirFd = ::dirfd(dir);
+    for (;;) {
+        errno = 0;
+        const dirent *d = ::readdir(dir);
+        if (!d) {
+            if (errno != 0)
+                result.error = errno;
+            break;
+        }
+        if (d->d_name[0] == '.')
+            continue; // hidden, and "." / ".."
+        Entry entry;
+        entry.name = QFile::decodeName(d->d_name);
+        const bool typeKnown = d->d_type != DT_UNKNOWN && d->d_type != DT_LNK;
+        const bool needStat = (fields & fileSize) || ((fields & directoryFlag) && !typeKnown);
+        if (needStat) {
+            struct stat st {};
+            if (::fstatat(dirFd, d->d_name, &st, 0) == 0) {
+                entry.isDirectory = S_ISDIR(st.st_mode);
+                if (fields & fileSize)
+                    entry.size = qint64(st.st_size);
+            } else if (typeKnown) {
+                entry.isDirectory = d->d_type == DT_DIR;
+            }
+        } else if (typeKnown) {
+            entry.isDirectory = d->d_type == DT_DIR;
+        }
+        result.entries.push_back(std::move(entry));
+    }
+    ::closedir(dir);
+    if (!result.ok()) {
+        result.entries.clear();
+        return result;
+    }
+    std::sort(result.entries.begin(), result.entries.end(),
+              [](const Entry &a, const Entry &b) { return a.name < b.name; });
+    return result;
+}
+
+PathInfo stat(const QString &path)
+{
+    PathInfo info;
+    struct stat st {};
+    if (::stat(QFile::encodeName(path).constData(), &st) != 0)
+        return info;
+    info.exists = true;
+    info.isDirectory = S_ISDIR(st.st_mode);
+    info.isRegularFile = S_ISREG(st.st_mode);
+    info.size = qint64(st.st_size);
+    return info;
+}
+
+std::optional<QByteArray> readFile(const QString &path, qint64 maxBytes)
+{
+    // Non-blocking open so that a FIFO or device node can't stall us;
+    // only regular files are read.
+    const int fd = openWith(QFile::encodeName(path), O_RDONLY | O_NONBLOCK);
+    if (fd < 0)
+        return std::nullopt;
+    struct stat st {};
+    if (::fstat(fd, &st) != 0 || !S_ISREG(st.st_mode)) {
+        ::close(fd);
+        return std::nullopt;
+    }
+    QByteArray data;
+    char buffer[16384];
+    bool failed = false;
+    for (;;) {
+        const ssize_t n = ::read(fd, buffer, sizeof buffer);
+        if (n < 0) {
+            if (errno == EINTR)
+                continue;
+            failed = true;
+            break;
+        }
+        if (n == 0)
+            break;
+        data.append(buffer, n);
+        if (data.size() > maxBytes) {
+            failed = true;
+            break;
+        }
+    }
+    ::close(fd);
+    if (failed)
+        return std::nullopt;
+    return data;
+}
+
+bool isPermissionDenied(int error)
+{
+    return error == EACCES || error == EPERM;
+}
+
+} // namespace ReadOnlyFs

@@ -1,0 +1,421 @@
+#include "drive/TeslaCamParser.h"
+
+#include "drive/ClipCalendar.h"
+#include "drive/EventJSONPayload.h"
+#include "drive/NumberParsing.h"
+#include "drive/ReadOnlyFs.h"
+#include "drive/ReasonMapper.h"
+#include "drive/VolumeInfo.h"
+
+#include <QChar>
+#include <algorithm>
+#include <set>
+
+namespace TeslaCamParser {
+
+const char *ParserError::what() const noexcept
+{
+    switch (case_) {
+    case rootNotFound: return "The TeslaCam folder could not be found.";
+    case rootNotAFolder: return "The selected item is not a folder.";
+    }
+    return "The TeslaCam folder could not be read.";
+}
+
+QString ScanError::message() const
+{
+    return QStringLiteral("Keelhold isn't allowed to read the folder \u201c%1\u201d.").arg(path_);
+}
+
+namespace {
+
+constexpr qint64 maxEventJSONBytes = 1 << 20;
+constexpr double recentGapTolerance = 150.0;
+
+// Matches `count` Unicode decimal digits (\d) at pos, advancing it.
+bool matchDigits(QStringView s, qsizetype &pos, int count)
+{
+    for (int i = 0; i < count; ++i) {
+        if (pos >= s.size())
+            return false;
+        char32_t cp = s[pos].unicode();
+        qsizetype width = 1;
+        if (QChar::isHighSurrogate(cp) && pos + 1 < s.size() && s[pos + 1].isLowSurrogate()) {
+            cp = QChar::surrogateToUcs4(s[pos], s[pos + 1]);
+            width = 2;
+        }
+        if (QChar::category(cp) != QChar::Number_DecimalDigit)
+            return false;
+        pos += width;
+    }
+    return true;
+}
+
+bool matchChar(QStringView s, qsizetype &pos, char16_t c)
+{
+    if (pos >= s.size() || s[pos] != c)
+        return false;
+    ++pos;
+    return true;
+}
+
+// (\d{4}-\d{2}-\d{2})_(\d{2}-\d{2}-\d{2}) from the start; pos ends after it.
+bool matchDateTime(QStringView s, qsizetype &pos, NameGroups &groups)
+{
+    pos = 0;
+    if (!(matchDigits(s, pos, 4) && matchChar(s, pos, u'-') && matchDigits(s, pos, 2) && matchChar(s, pos, u'-')
+          && matchDigits(s, pos, 2)))
+        return false;
+    const qsizetype dateEnd = pos;
+    if (!matchChar(s, pos, u'_'))
+        return false;
+    const qsizetype timeStart = pos;
+    if (!(matchDigits(s, pos, 2) && matchChar(s, pos, u'-') && matchDigits(s, pos, 2) && matchChar(s, pos, u'-')
+          && matchDigits(s, pos, 2)))
+        return false;
+    groups.date = s.first(dateEnd).toString();
+    groups.time = s.mid(timeStart, pos - timeStart).toString();
+    return true;
+}
+
+void report(const ScanProgressCallback &progress, const char16_t *phase, int folders, int events, int clips)
+{
+    if (progress)
+        progress(ScanProgress{QString::fromUtf16(phase), folders, events, clips});
+}
+
+QString childPath(const QString &folder, const QString &name)
+{
+    if (folder.endsWith(QLatin1Char('/')))
+        return folder + name;
+    return folder + QLatin1Char('/') + name;
+}
+
+QString lastComponent(const QString &path)
+{
+    return path.section(QLatin1Char('/'), -1, -1, QString::SectionSkipEmpty);
+}
+
+// Throws accessDenied when the folder refuses listing for lack of
+// permission; any other failure is left for the real listing to report.
+void assertReadable(const QString &folder)
+{
+    const ReadOnlyFs::Listing listing = ReadOnlyFs::list(folder, ReadOnlyFs::namesOnly);
+    if (!listing.ok() && ReadOnlyFs::isPermissionDenied(listing.error))
+        throw ScanError(folder);
+}
+
+bool exists(const QString &path)
+{
+    return ReadOnlyFs::stat(path).exists;
+}
+
+} // namespace
+
+std::optional<NameGroups> matchFolderName(QStringView name)
+{
+    NameGroups groups;
+    qsizetype pos = 0;
+    if (!matchDateTime(name, pos, groups) || pos != name.size())
+        return std::nullopt;
+    return groups;
+}
+
+std::optional<NameGroups> matchClipFilename(QStringView name)
+{
+    NameGroups groups;
+    qsizetype pos = 0;
+    if (!matchDateTime(name, pos, groups) || !matchChar(name, pos, u'-'))
+        return std::nullopt;
+    static constexpr QStringView extension = u".mp4";
+    if (!name.endsWith(extension))
+        return std::nullopt;
+    const qsizetype suffixEnd = name.size() - extension.size();
+    if (suffixEnd <= pos)
+        return std::nullopt;
+    for (qsizetype i = pos; i < suffixEnd; ++i) {
+        const char16_t c = name[i].unicode();
+        if (!((c >= u'a' && c <= u'z') || c == u'_'))
+            return std::nullopt;
+    }
+    groups.suffix = name.mid(pos, suffixEnd - pos).toString();
+    return groups;
+}
+
+bool isIgnoredName(QStringView name)
+{
+    return name == u".DS_Store" || name == u"desktop.ini" || name == u"Thumbs.db" || name.startsWith(u"._");
+}
+
+std::optional<Date> parseTimestamp(QStringView dateGroup, QStringView timeGroup)
+{
+    auto numbers = [](QStringView text) {
+        std::vector<long long> values;
+        for (const QStringView part : text.split(u'-', Qt::SkipEmptyParts)) {
+            // Swift's Int(String): ASCII digits with an optional sign.
+            if (const auto v = NumberParsing::parseInteger(part))
+                values.push_back(*v);
+        }
+        return values;
+    };
+    const auto date = numbers(dateGroup);
+    const auto time = numbers(timeGroup);
+    if (date.size() != 3 || time.size() != 3)
+        return std::nullopt;
+    return ClipCalendar::dateFromComponents(date[0], date[1], date[2], time[0], time[1], time[2]);
+}
+
+std::optional<ClipRef> parseClipFilename(const QString &fileURL, std::vector<ScanIssue> &issues,
+                                         std::optional<qint64> knownSize)
+{
+    const auto groups = matchClipFilename(lastComponent(fileURL));
+    if (!groups)
+        return std::nullopt;
+    const auto camera = Camera::fromFileSuffix(groups->suffix);
+    if (!camera) {
+        issues.push_back(ScanIssue{ScanIssue::Kind::unknownCameraSuffix, fileURL});
+        return std::nullopt;
+    }
+    const auto start = parseTimestamp(groups->date, groups->time);
+    if (!start)
+        return std::nullopt;
+    qint64 size = 0;
+    if (knownSize) {
+        size = *knownSize;
+    } else {
+        const auto info = ReadOnlyFs::stat(fileURL);
+        size = info.exists ? info.size : 0;
+    }
+    ClipRef clip;
+    clip.url = fileURL;
+    clip.camera = *camera;
+    clip.startDate = *start;
+    clip.fileSize = size;
+    clip.health = ClipHealth::unknown;
+    return clip;
+}
+
+std::optional<TeslaEvent> parseEventFolder(const QString &folderURL, EventKind kind, Date folderTimestamp,
+                                           std::vector<ScanIssue> &issues)
+{
+    const ReadOnlyFs::Listing listing =
+        ReadOnlyFs::list(folderURL, ReadOnlyFs::fileSize | ReadOnlyFs::directoryFlag);
+    if (!listing.ok())
+        return std::nullopt;
+
+    std::vector<ClipRef> clips;
+    std::optional<EventJSONPayload> payload;
+    std::optional<QString> thumbURL;
+    bool missingEventJSON = true;
+
+    for (const auto &entry : listing.entries) {
+        const QString path = childPath(folderURL, entry.name);
+        if (entry.name == QLatin1String("event.json")) {
+            missingEventJSON = false;
+            const auto data = ReadOnlyFs::readFile(path, maxEventJSONBytes);
+            if (data)
+                payload = EventJSONPayload::decode(*data);
+            if (!payload)
+                issues.push_back(ScanIssue{ScanIssue::Kind::badEventJSON, path});
+        } else if (entry.name == QLatin1String("thumb.png")) {
+            thumbURL = path;
+        } else {
+            if (auto clip = parseClipFilename(path, issues, entry.size.value_or(0))) {
+                clips.push_back(std::move(*clip));
+            } else if (!matchClipFilename(entry.name) && !isIgnoredName(entry.name)) {
+                issues.push_back(ScanIssue{ScanIssue::Kind::unknownFile, path});
+            }
+        }
+    }
+    ClipOrder::sort(clips);
+
+    TeslaEvent event;
+    event.kind = kind;
+    event.folderURL = folderURL;
+    event.folderName = lastComponent(folderURL);
+    event.timestamp = folderTimestamp;
+    if (payload) {
+        if (const auto t = payload->parsedTimestamp())
+            event.timestamp = *t;
+        event.city = payload->city;
+        event.latitude = payload->estLat;
+        event.longitude = payload->estLon;
+        event.reasonRaw = payload->reason;
+        event.triggerCameraRaw = payload->cameraRaw;
+    }
+    event.reason = ReasonMapper::map(event.reasonRaw);
+    event.clips = std::move(clips);
+    event.thumbURL = thumbURL;
+    event.missingEventJSON = missingEventJSON;
+    return event;
+}
+
+std::optional<std::vector<ClipRef>> parseFlatClipsDirectory(const QString &folderURL, std::vector<ScanIssue> &issues)
+{
+    const ReadOnlyFs::Listing listing = ReadOnlyFs::list(folderURL, ReadOnlyFs::fileSize);
+    if (!listing.ok())
+        return std::nullopt;
+    std::vector<ClipRef> clips;
+    clips.reserve(listing.entries.size());
+    for (const auto &entry : listing.entries) {
+        const QString path = childPath(folderURL, entry.name);
+        if (auto clip = parseClipFilename(path, issues, entry.size.value_or(0)))
+            clips.push_back(std::move(*clip));
+        else if (!matchClipFilename(entry.name) && !isIgnoredName(entry.name))
+            issues.push_back(ScanIssue{ScanIssue::Kind::unknownFile, path});
+    }
+    return clips;
+}
+
+std::vector<TeslaEvent> groupIntoRecentEvents(const std::vector<ClipRef> &clips, const QString &folderURL,
+                                              double gapTolerance)
+{
+    std::vector<TeslaEvent> events;
+    if (clips.empty())
+        return events;
+
+    std::vector<Date> dates;
+    dates.reserve(clips.size());
+    for (const auto &c : clips)
+        dates.push_back(c.startDate);
+    std::sort(dates.begin(), dates.end());
+    dates.erase(std::unique(dates.begin(), dates.end()), dates.end());
+
+    std::vector<std::vector<Date>> groups{{dates.front()}};
+    for (size_t i = 1; i < dates.size(); ++i) {
+        if (dates[i].timeIntervalSince(groups.back().back()) > gapTolerance)
+            groups.push_back({});
+        groups.back().push_back(dates[i]);
+    }
+
+    std::vector<ClipRef> sorted = clips;
+    ClipOrder::sort(sorted);
+    auto next = sorted.begin();
+    for (const auto &group : groups) {
+        TeslaEvent event;
+        event.kind = EventKind::recent;
+        event.folderURL = folderURL;
+        event.timestamp = group.front();
+        event.folderName = QStringLiteral("recent_") + ClipCalendar::folderNameString(group.front());
+        event.reason = ReasonMapper::recentDrive();
+        event.missingEventJSON = true;
+        // Groups are ascending and disjoint, so the sorted clips split in runs.
+        const Date last = group.back();
+        while (next != sorted.end() && next->startDate <= last)
+            event.clips.push_back(*next++);
+        events.push_back(std::move(event));
+    }
+    return events;
+}
+
+VolumeFormat volumeFormat(const std::optional<QString> &description)
+{
+    if (!description)
+        return VolumeFormat::unknown;
+    const QString lower = description->toLower();
+    if (lower.contains(QLatin1String("exfat")))
+        return VolumeFormat::exFAT;
+    if (lower.contains(QLatin1String("fat32")) || lower.contains(QLatin1String("ms-dos"))
+        || lower.contains(QLatin1String("fat")))
+        return VolumeFormat::fat32;
+    if (lower.contains(QLatin1String("apfs")))
+        return VolumeFormat::apfs;
+    return VolumeFormat::makeOther(*description);
+}
+
+DriveScan scan(const QString &rootIn, const ScanProgressCallback &progress)
+{
+    QString root = rootIn;
+    while (root.size() > 1 && root.endsWith(QLatin1Char('/')))
+        root.chop(1);
+
+    const ReadOnlyFs::PathInfo rootInfo = ReadOnlyFs::stat(root);
+    if (!rootInfo.exists)
+        throw ParserError(ParserError::rootNotFound);
+    if (!rootInfo.isDirectory)
+        throw ParserError(ParserError::rootNotAFolder);
+    assertReadable(root);
+
+    std::vector<ScanIssue> issues;
+    std::vector<TeslaEvent> events;
+    int foldersScanned = 0;
+    report(progress, Phase::reading, 0, 0, 0);
+
+    struct EventFolder {
+        const char *name;
+        EventKind kind;
+        const char16_t *phase;
+    };
+    for (const EventFolder &f : {EventFolder{"SentryClips", EventKind::sentry, Phase::sentry},
+                                 EventFolder{"SavedClips", EventKind::saved, Phase::saved}}) {
+        const QString folder = childPath(root, QLatin1String(f.name));
+        if (!exists(folder))
+            continue;
+        assertReadable(folder);
+        report(progress, f.phase, foldersScanned, int(events.size()), 0);
+        const ReadOnlyFs::Listing listing = ReadOnlyFs::list(folder, ReadOnlyFs::directoryFlag);
+        if (!listing.ok()) {
+            issues.push_back(ScanIssue{ScanIssue::Kind::unreadableFolder, folder});
+            continue;
+        }
+        for (const auto &entry : listing.entries) {
+            const QString path = childPath(folder, entry.name);
+            if (!entry.isDirectory) {
+                if (!isIgnoredName(entry.name))
+                    issues.push_back(ScanIssue{ScanIssue::Kind::unknownFile, path});
+                continue;
+            }
+            ++foldersScanned;
+            const auto groups = matchFolderName(entry.name);
+            if (!groups)
+                continue;
+            const auto timestamp = parseTimestamp(groups->date, groups->time);
+            if (!timestamp)
+                continue;
+            auto event = parseEventFolder(path, f.kind, *timestamp, issues);
+            if (!event) {
+                issues.push_back(ScanIssue{ScanIssue::Kind::unreadableFolder, path});
+                continue;
+            }
+            events.push_back(std::move(*event));
+            report(progress, f.phase, foldersScanned, int(events.size()), 0);
+        }
+    }
+
+    const QString recentFolder = childPath(root, QStringLiteral("RecentClips"));
+    if (exists(recentFolder)) {
+        assertReadable(recentFolder);
+        report(progress, Phase::recent, foldersScanned, int(events.size()), 0);
+        if (auto clips = parseFlatClipsDirectory(recentFolder, issues)) {
+            for (auto &e : groupIntoRecentEvents(*clips, recentFolder, recentGapTolerance))
+                events.push_back(std::move(e));
+        } else {
+            issues.push_back(ScanIssue{ScanIssue::Kind::unreadableFolder, recentFolder});
+        }
+    }
+
+    const bool encryptedClipsPresent = exists(childPath(root, QStringLiteral("EncryptedClips")));
+    EventOrder::sortNewestFirst(events);
+
+    const auto volume = VolumeInfo::query(root);
+    int clipCount = 0;
+    for (const auto &e : events)
+        clipCount += int(e.clips.size());
+    report(progress, Phase::complete, foldersScanned, int(events.size()), clipCount);
+
+    DriveScan result;
+    result.teslaCamURL = root;
+    result.volumeName = (volume && volume->name) ? *volume->name : lastComponent(root);
+    result.format = volumeFormat(volume ? volume->formatDescription : std::nullopt);
+    if (volume) {
+        result.capacityBytes = volume->capacityBytes;
+        result.freeBytes = volume->freeBytes;
+    }
+    result.events = std::move(events);
+    result.encryptedClipsPresent = encryptedClipsPresent;
+    result.issues = std::move(issues);
+    result.scannedAt = Date::now();
+    return result;
+}
+
+} // namespace TeslaCamParser

@@ -1,0 +1,82 @@
+#pragma once
+
+#include "model/Date.h"
+#include "model/DriveScan.h"
+#include "model/EventKind.h"
+#include "model/ScanIssue.h"
+#include "model/ScanProgress.h"
+#include "model/TeslaEvent.h"
+#include "model/VolumeFormat.h"
+
+#include <QString>
+#include <QStringView>
+#include <exception>
+#include <optional>
+#include <vector>
+
+// Reads a TeslaCam folder into a DriveScan. Names, sizes and each event's
+// small event.json only; never opens a clip and never writes to the drive.
+namespace TeslaCamParser {
+
+class ParserError : public std::exception {
+public:
+    enum Case { rootNotFound, rootNotAFolder };
+    explicit ParserError(Case c) : case_(c) {}
+    Case errorCase() const { return case_; }
+    const char *what() const noexcept override;
+    QString message() const { return QString::fromUtf8(what()); }
+
+private:
+    Case case_;
+};
+
+class ScanError : public std::exception {
+public:
+    // accessDenied(path:) is the only case.
+    explicit ScanError(const QString &path) : path_(path), text_(message().toStdString()) {}
+    const QString &path() const { return path_; }
+    QString message() const;
+    const char *what() const noexcept override { return text_.c_str(); }
+
+private:
+    QString path_;
+    std::string text_;
+};
+
+// The captured groups of the folder-name and clip-file-name patterns:
+//   ^(\d{4}-\d{2}-\d{2})_(\d{2}-\d{2}-\d{2})$
+//   ^(\d{4}-\d{2}-\d{2})_(\d{2}-\d{2}-\d{2})-([a-z_]+)\.mp4$
+struct NameGroups {
+    QString date;
+    QString time;
+    QString suffix; // clip names only
+};
+std::optional<NameGroups> matchFolderName(QStringView name);
+std::optional<NameGroups> matchClipFilename(QStringView name);
+
+// ".DS_Store", "desktop.ini", "Thumbs.db" and "._*" are passed over silently.
+bool isIgnoredName(QStringView name);
+
+DriveScan scan(const QString &root, const ScanProgressCallback &progress = {});
+
+std::optional<TeslaEvent> parseEventFolder(const QString &folderURL, EventKind kind, Date folderTimestamp,
+                                           std::vector<ScanIssue> &issues);
+std::optional<std::vector<ClipRef>> parseFlatClipsDirectory(const QString &folderURL, std::vector<ScanIssue> &issues);
+// knownSize skips the size read when a listing already fetched it.
+std::optional<ClipRef> parseClipFilename(const QString &fileURL, std::vector<ScanIssue> &issues,
+                                         std::optional<qint64> knownSize = std::nullopt);
+std::optional<Date> parseTimestamp(QStringView dateGroup, QStringView timeGroup);
+std::vector<TeslaEvent> groupIntoRecentEvents(const std::vector<ClipRef> &clips, const QString &folderURL,
+                                              double gapTolerance);
+VolumeFormat volumeFormat(const std::optional<QString> &description);
+
+// Progress texts, in order of appearance.
+namespace Phase {
+inline constexpr const char16_t *reading = u"Reading your Tesla drive\u2026";
+inline constexpr const char16_t *sentry = u"Reading Sentry events\u2026";
+inline constexpr const char16_t *saved = u"Reading Saved clips\u2026";
+inline constexpr const char16_t *recent = u"Reading Recent driving\u2026";
+inline constexpr const char16_t *complete = u"Scan complete.";
+} // namespace Phase
+
+} // namespace TeslaCamParser

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+#include <compare>
+
+// A moment in time: seconds since 2001-01-01 00:00:00 UTC as a double.
+// Kept as the raw double so that JSON round trips are bit-exact; QDateTime
+// only holds milliseconds and is used only at the edges (parsing, display).
+class Date {
+public:
+    static constexpr double unixOffset = 978307200.0; // 2001-01-01 in Unix seconds
+
+    constexpr Date() = default;
+    constexpr explicit Date(double secondsSinceReferenceDate) : seconds_(secondsSinceReferenceDate) {}
+
+    static Date now();
+    static Date fromUnixSeconds(double unixSeconds) { return Date(unixSeconds - unixOffset); }
+    static Date fromQDateTime(const QDateTime &dt);
+
+    constexpr double timeIntervalSinceReferenceDate() const { return seconds_; }
+    constexpr double unixSeconds() const { return seconds_ + unixOffset; }
+    double timeIntervalSince(Date other) const { return seconds_ - other.seconds_; }
+    Date addingTimeInterval(double seconds) const { return Date(seconds_ + seconds); }
+
+    // Millisecond precision only; for calendar work and display.
+    QDateTime toQDateTime() const;
+    QDateTime toLocalDateTime() const { return toQDateTime().toLocalTime(); }
+    // Formats in the machine's current local zone with a QDateTime pattern.
+    QString formatLocal(const QString &pattern) const;
+
+    constexpr auto operator<=>(const Date &) const = default;
+    constexpr bool operator==(const Date &) const = default;
+
+private:
+    double seconds_ = 0.0;
+};
+
+size_t qHash(Date d, size_t seed = 0) noexcept;

@@ -1,0 +1,48 @@
+#include "model/DriveScan.h"
+
+#include "model/JsonCoding.h"
+
+#include <algorithm>
+
+namespace {
+int countIssues(const std::vector<ScanIssue> &issues, ScanIssue::Kind kind)
+{
+    return int(std::count_if(issues.begin(), issues.end(), [kind](const ScanIssue &i) { return i.kind == kind; }));
+}
+} // namespace
+
+int DriveScan::unknownFileCount() const { return countIssues(issues, ScanIssue::Kind::unknownFile); }
+int DriveScan::unknownCameraSuffixCount() const { return countIssues(issues, ScanIssue::Kind::unknownCameraSuffix); }
+
+QJsonObject DriveScan::toJson() const
+{
+    using namespace JsonCoding;
+    QJsonObject o;
+    o.insert(QStringLiteral("teslaCamURL"), encodeURL(teslaCamURL));
+    o.insert(QStringLiteral("volumeName"), volumeName);
+    o.insert(QStringLiteral("format"), format.toJson());
+    insertOptional(o, "capacityBytes", capacityBytes);
+    insertOptional(o, "freeBytes", freeBytes);
+    o.insert(QStringLiteral("events"), encodeArray(events));
+    o.insert(QStringLiteral("encryptedClipsPresent"), encryptedClipsPresent);
+    o.insert(QStringLiteral("issues"), encodeArray(issues));
+    o.insert(QStringLiteral("scannedAt"), encodeDate(scannedAt));
+    return o;
+}
+
+DriveScan DriveScan::fromJson(const QJsonValue &value)
+{
+    using namespace JsonCoding;
+    const QJsonObject o = requireObject(value, "DriveScan");
+    DriveScan s;
+    s.teslaCamURL = decodeURL(require(o, "teslaCamURL"), "teslaCamURL");
+    s.volumeName = requireString(o, "volumeName");
+    s.format = VolumeFormat::fromJson(require(o, "format"));
+    s.capacityBytes = optionalInt64(o, "capacityBytes");
+    s.freeBytes = optionalInt64(o, "freeBytes");
+    s.events = decodeArray<TeslaEvent>(requireArray(o, "events"));
+    s.encryptedClipsPresent = requireBool(o, "encryptedClipsPresent");
+    s.issues = decodeArray<ScanIssue>(requireArray(o, "issues"));
+    s.scannedAt = decodeDate(require(o, "scannedAt"), "scannedAt");
+    return s;
+}

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "model/Date.h"
+#include "model/ScanIssue.h"
+#include "model/TeslaEvent.h"
+#include "model/VolumeFormat.h"
+
+#include <QJsonObject>
+#include <QString>
+#include <optional>
+#include <vector>
+
+// The whole result of reading one drive.
+struct DriveScan {
+    QString teslaCamURL;
+    QString volumeName;
+    VolumeFormat format;
+    std::optional<qint64> capacityBytes;
+    std::optional<qint64> freeBytes;
+    std::vector<TeslaEvent> events; // newest first
+    bool encryptedClipsPresent = false;
+    std::vector<ScanIssue> issues; // in order of discovery
+    Date scannedAt;
+
+    int unknownFileCount() const;
+    int unknownCameraSuffixCount() const;
+
+    bool operator==(const DriveScan &) const = default;
+
+    QJsonObject toJson() const;
+    static DriveScan fromJson(const QJsonValue &value);
+};

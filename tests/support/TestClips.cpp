@@ -1,0 +1,74 @@
+#include "support/TestClips.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <stdexcept>
+
+namespace TestClips {
+
+namespace {
+QString cacheDir()
+{
+    static QTemporaryDir dir(QDir::tempPath() + QStringLiteral("/keelhold-clips-XXXXXX"));
+    return dir.path();
+}
+
+QString key(const Spec &s)
+{
+    const QString text = QStringLiteral("%1|%2|%3|%4|%5|%6|%7|%8|%9")
+                             .arg(s.seconds)
+                             .arg(s.width)
+                             .arg(s.height)
+                             .arg(s.fps)
+                             .arg(s.codec, s.pixelFormat)
+                             .arg(s.audio)
+                             .arg(s.gop)
+                             .arg(s.pattern);
+    return QString::fromLatin1(QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Md5).toHex());
+}
+} // namespace
+
+bool ffmpegAvailable()
+{
+    return !QStandardPaths::findExecutable(QStringLiteral("ffmpeg")).isEmpty();
+}
+
+void generate(const Spec &s, const QString &dest)
+{
+    QStringList args{QStringLiteral("-hide_banner"), QStringLiteral("-loglevel"), QStringLiteral("error"),
+                     QStringLiteral("-y"), QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"),
+                     QStringLiteral("%1=size=%2x%3:rate=%4").arg(s.pattern).arg(s.width).arg(s.height).arg(s.fps)};
+    if (s.audio)
+        args << QStringLiteral("-f") << QStringLiteral("lavfi") << QStringLiteral("-i")
+             << QStringLiteral("sine=frequency=440:sample_rate=48000");
+    args << QStringLiteral("-t") << QString::number(s.seconds) << QStringLiteral("-c:v") << s.codec
+         << QStringLiteral("-pix_fmt") << s.pixelFormat << QStringLiteral("-g") << QString::number(s.gop);
+    if (s.codec == QLatin1String("libx264"))
+        args << QStringLiteral("-preset") << QStringLiteral("ultrafast");
+    if (s.codec == QLatin1String("libx265"))
+        args << QStringLiteral("-preset") << QStringLiteral("ultrafast") << QStringLiteral("-x265-params")
+             << QStringLiteral("log-level=error") << QStringLiteral("-tag:v") << QStringLiteral("hvc1");
+    if (s.audio)
+        args << QStringLiteral("-c:a") << QStringLiteral("aac") << QStringLiteral("-shortest");
+    else
+        args << QStringLiteral("-an");
+    args << dest;
+    QProcess p;
+    p.start(QStringLiteral("ffmpeg"), args);
+    if (!p.waitForFinished(120000) || p.exitStatus() != QProcess::NormalExit || p.exitCode() != 0)
+        throw std::runtime_error(("ffmpeg failed: " + QString::fromUtf8(p.readAllStandardError())).toStdString());
+}
+
+QString clip(const Spec &spec)
+{
+    const QString path = cacheDir() + QLatin1Char('/') + key(spec) + QStringLiteral(".mp4");
+    if (!QFile::exists(path))
+        generate(spec, path);
+    return path;
+}
+
+} // namespace TestClips

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QString>
+
+// Real movie files for tests, made with the ffmpeg tool and cached per
+// parameter set for the life of the test process.
+namespace TestClips {
+
+struct Spec {
+    double seconds = 2.0;
+    int width = 320;
+    int height = 240;
+    int fps = 36;
+    QString codec = QStringLiteral("libx264"); // or "libx265"
+    QString pixelFormat = QStringLiteral("yuvj420p");
+    bool audio = false;
+    int gop = 36;
+    QString pattern = QStringLiteral("testsrc2"); // lavfi source
+};
+
+// Path of a generated clip matching spec (do not modify it; copy it).
+QString clip(const Spec &spec = Spec());
+// Generates into dest directly.
+void generate(const Spec &spec, const QString &dest);
+bool ffmpegAvailable();
+
+} // namespace TestClips

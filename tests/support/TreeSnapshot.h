@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QByteArray>
+#include <QMap>
+#include <QString>
+
+// Names, sizes, times and digests of every entry under a folder, to prove
+// that nothing under it was created, changed, renamed or removed.
+struct TreeSnapshot {
+    struct Entry {
+        qint64 size = 0;
+        qint64 mtimeNs = 0;
+        qint64 atimeNs = 0;
+        bool isDirectory = false;
+        QByteArray sha256;
+        bool operator==(const Entry &) const = default;
+    };
+    QMap<QString, Entry> entries;
+
+    // withAccessTimes: also compare atimes (needs a file system that keeps them).
+    static TreeSnapshot take(const QString &root, bool withDigests = true);
+    // A readable list of differences; empty when equal.
+    QString differences(const TreeSnapshot &after, bool compareAccessTimes = false) const;
+};
