@@ -24,7 +24,9 @@ const char *ParserError::what() const noexcept
 
 QString ScanError::message() const
 {
-    return QStringLiteral("Keelhold isn't allowed to read the folder \u201c%1\u201d.").arg(path_);
+    return QStringLiteral("Keelhold isn't allowed to read the folder \u201c%1\u201d. Check the folder's permissions "
+                          "and try again.")
+        .arg(path_);
 }
 
 namespace {
