@@ -1,4 +1,5 @@
 #include "drive/ClipCalendar.h"
+#include "drive/ReadableFormats.h"
 #include "drive/TeslaCamParser.h"
 #include "support/TeslaCamFixture.h"
 #include "support/TreeSnapshot.h"
@@ -322,6 +323,29 @@ private Q_SLOTS:
         QCOMPARE(volumeFormat(QString("APFS")), VolumeFormat(VolumeFormat::apfs));
         QCOMPARE(volumeFormat(QString("Ext4")), VolumeFormat::makeOther("Ext4"));
         QCOMPARE(volumeFormat(QString("Ext4")).otherName(), QStringLiteral("Ext4"));
+    }
+
+    void readableFormats()
+    {
+        using namespace ReadableFormats;
+        QVERIFY(isReadable(VolumeFormat::exFAT));
+        QVERIFY(isReadable(VolumeFormat::fat32));
+        QVERIFY(isReadable(VolumeFormat::apfs));
+        QVERIFY(isComputerDisk(VolumeFormat::apfs));
+        QVERIFY(!isComputerDisk(VolumeFormat::exFAT));
+        for (const char *host : {"ext4", "EXT3", "btrfs", "xfs", "tmpfs", "overlay", "f2fs", "zfs", "bcachefs"}) {
+            QVERIFY2(isComputerDisk(VolumeFormat::makeOther(host)), host);
+            QVERIFY2(isReadable(VolumeFormat::makeOther(host)), host);
+        }
+        QCOMPARE(computerDiskName(VolumeFormat::makeOther("ext4")), QStringLiteral("ext4"));
+        QCOMPARE(computerDiskName(VolumeFormat::apfs), QStringLiteral("APFS"));
+        QVERIFY(!isReadable(VolumeFormat::makeOther("ntfs")));
+        QVERIFY(!isReadable(VolumeFormat::makeOther("hfsplus")));
+        QVERIFY(!isReadable(VolumeFormat::unknown));
+        // The host disk a scan reads here is one of the computer's own.
+        QTemporaryDir tmp;
+        TeslaCamFixture fx(tmp.path() + "/TeslaCam");
+        QVERIFY(isComputerDisk(TeslaCamParser::scan(fx.root()).format));
     }
 
     void volumeFactsOfTheHost()
