@@ -230,8 +230,9 @@ void ExportSession::report(double fraction, bool force)
     fraction = std::clamp(fraction, 0.0, 1.0);
     if (fraction < lastFraction_)
         fraction = lastFraction_;
+    // Every tenth of a second on long exports, every percent on short ones.
     const auto now = std::chrono::steady_clock::now();
-    if (!force && now - lastReport_ < reportInterval)
+    if (!force && now - lastReport_ < reportInterval && fraction - lastFraction_ < 0.01)
         return;
     lastReport_ = now;
     lastFraction_ = fraction;

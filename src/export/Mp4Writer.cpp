@@ -21,7 +21,7 @@ extern "C" {
 using Exporter::ExportError;
 
 namespace {
-constexpr int ioBufferSize = 1024 * 1024;
+constexpr int ioBufferSize = 256 * 1024;
 
 QString errorText(int averror)
 {
