@@ -12,6 +12,7 @@ extern "C" {
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 #include <ctime>
@@ -232,6 +233,31 @@ private Q_SLOTS:
         QCOMPARE(video->decodedFrames, 216);
         QCOMPARE(video->extradata, extradataOf(TestClips::clip(spec(2.0))));
         QVERIFY(std::abs(facts.duration - 6.0) < 0.1);
+    }
+
+    // A clip whose media starts seconds into its own time (an empty edit
+    // first) still goes straight behind the one before it.
+    void clipStartingLateClosesUp()
+    {
+        Footage footage;
+        const QString source = TestClips::clip(spec(2.0));
+        footage.addClip(source, 2);
+        const QString late = footage.output(QStringLiteral("late.mp4"));
+        QProcess ffmpeg;
+        ffmpeg.start(QStringLiteral("ffmpeg"), {QStringLiteral("-loglevel"), QStringLiteral("error"), QStringLiteral("-i"),
+                                                source, QStringLiteral("-c"), QStringLiteral("copy"),
+                                                QStringLiteral("-output_ts_offset"), QStringLiteral("5"), late});
+        QVERIFY(ffmpeg.waitForFinished(60000) && ffmpeg.exitCode() == 0);
+        footage.addClip(late, 3);
+
+        Exporter::exportFootage(Camera::front, footage.event, std::nullopt, footage.output(), {});
+
+        const MovieFacts facts = MovieFacts::read(footage.output());
+        const MovieFacts::Stream *video = facts.firstOf(QStringLiteral("video"));
+        QVERIFY(video);
+        QVERIFY2(std::abs(facts.duration - 4.0) < 0.05, qPrintable(QString::number(facts.duration)));
+        QVERIFY(video->largestDtsStep < 1.5 / 36);
+        QCOMPARE(video->decodedFrames, 144);
     }
 
     void h265JoinsByCopy()
