@@ -11,6 +11,7 @@ extern "C" {
 
 #include <QCommandLineParser>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <cmath>
 #include <limits>
@@ -115,14 +116,23 @@ int run(const QStringList &arguments)
         if (QFileInfo(output).isDir())
             output = QDir(output).filePath(Exporter::suggestedFileName(*event, *camera));
 
-        int shownPercent = -1;
-        Exporter::exportFootage(*camera, *event, range, output, [&](double fraction) {
-            const int percent = int(fraction * 100.0);
-            if (percent == shownPercent)
-                return;
-            shownPercent = percent;
-            CliOutput::status(QStringLiteral("Exporting\u2026 %1%").arg(percent));
-        });
+        // A half-written movie is of no use here; one that was there before
+        // is never ours to remove.
+        const bool existedBefore = QFileInfo::exists(output);
+        try {
+            int shownPercent = -1;
+            Exporter::exportFootage(*camera, *event, range, output, [&](double fraction) {
+                const int percent = int(fraction * 100.0);
+                if (percent == shownPercent)
+                    return;
+                shownPercent = percent;
+                CliOutput::status(QStringLiteral("Exporting\u2026 %1%").arg(percent));
+            });
+        } catch (...) {
+            if (!existedBefore)
+                QFile::remove(output);
+            throw;
+        }
         CliOutput::endStatus();
         CliOutput::out(QDir::toNativeSeparators(output).toUtf8() + '\n');
         return 0;

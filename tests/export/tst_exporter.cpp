@@ -275,6 +275,7 @@ private Q_SLOTS:
         const MovieFacts::Stream *video = facts.firstOf(QStringLiteral("video"));
         QVERIFY(video);
         QCOMPARE(video->codec, QStringLiteral("hevc"));
+        QCOMPARE(video->tag, QStringLiteral("hvc1")); // the tag more players accept
         QCOMPARE(video->extradata, extradataOf(source));
         QVERIFY(video->dtsStrictlyIncreasing);
         QCOMPARE(video->decodedFrames, 108);
