@@ -1,5 +1,6 @@
 #include "export/ExportComposition.h"
 
+#include "drive/IOWatchdog.h"
 #include "export/ClipInput.h"
 #include "model/CancellationError.h"
 
@@ -16,6 +17,9 @@ extern "C" {
 #include <optional>
 
 namespace {
+
+// As long as a probe of one clip may take.
+constexpr std::chrono::seconds clipTimeout{10};
 
 std::shared_ptr<const AVCodecParameters> copyParameters(const AVCodecParameters *source)
 {
@@ -133,7 +137,15 @@ ExportComposition ExportComposition::build(const std::vector<ClipRef> &clips, st
     for (const ClipRef &clip : clips) {
         if (stop.stop_requested())
             throw CancellationError();
-        std::optional<ExportSegment> segment = judge(clip.url, stop);
+        // A clip the drive doesn't answer for is skipped like a damaged one;
+        // the caller's stop still ends the whole preparation.
+        std::optional<ExportSegment> segment;
+        try {
+            segment = IOWatchdog::run(
+                clipTimeout, [path = clip.url](std::stop_token clipStop) { return judge(path, clipStop); }, stop);
+        } catch (const IOWatchdog::TimedOut &) {
+            continue;
+        }
         if (!segment)
             continue;
         segment->start = composition.duration;
