@@ -15,6 +15,8 @@ extern "C" {
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QThread>
+#include <thread>
 #include <ctime>
 
 using Exporter::ExportError;
@@ -429,6 +431,32 @@ private Q_SLOTS:
                                                                             footage.output(), progress.callback(),
                                                                             stop.get_token()));
         QVERIFY(progress.values.empty());
+        QVERIFY(!QFile::exists(footage.output()));
+    }
+
+    // Stopped while clips are still being looked at: the same cancellation,
+    // and the movie file was never made.
+    void cancelledWhilePreparingIsACancellation()
+    {
+        Footage footage;
+        const QString source = TestClips::clip(spec(1.0));
+        for (int minute = 0; minute < 60; ++minute)
+            footage.addClip(source, minute);
+        std::stop_source stop;
+        std::exception_ptr error;
+        std::thread worker([&] {
+            try {
+                Exporter::exportFootage(Camera::front, footage.event, std::nullopt, footage.output(), {},
+                                        stop.get_token());
+            } catch (...) {
+                error = std::current_exception();
+            }
+        });
+        QThread::msleep(20);
+        stop.request_stop();
+        worker.join();
+        QVERIFY(error);
+        QVERIFY_THROWS_EXCEPTION(CancellationError, std::rethrow_exception(error));
         QVERIFY(!QFile::exists(footage.output()));
     }
 
