@@ -40,7 +40,13 @@ ExportSession::ExportSession(const ExportComposition &composition, double lower,
 {
 }
 
-ExportSession::~ExportSession() = default;
+ExportSession::~ExportSession()
+{
+    // The writer flushes on its way out; that must not report into a
+    // session that is going away.
+    if (writer_)
+        writer_->setByteObserver({});
+}
 
 void ExportSession::run()
 {
