@@ -1,4 +1,5 @@
 #include "cli/CliOutput.h"
+#include "cli/ExportCommand.h"
 #include "cli/ScanCommand.h"
 
 #include <QCoreApplication>
@@ -10,6 +11,7 @@ const std::map<QString, std::function<int(const QStringList &)>> &commands()
 {
     static const std::map<QString, std::function<int(const QStringList &)>> table{
         {QStringLiteral("scan"), ScanCommand::run},
+        {QStringLiteral("export"), ExportCommand::run},
     };
     return table;
 }
