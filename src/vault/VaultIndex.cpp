@@ -57,10 +57,12 @@ void VaultIndex::save(const QString &vaultURL) const
         throw FileError(QStringLiteral("Couldn't create the folder %1.").arg(vaultURL));
     const QString path = manifestPath(vaultURL);
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
+    // Unbuffered: Qt 6.4's QSaveFile commits a short file when the final
+    // flush of its buffer fails (a full disk), so every write is checked here.
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         throw FileError(QStringLiteral("Couldn't write %1: %2").arg(path, file.errorString()));
     const QByteArray data = JsonCoding::toCompactJson(toJson());
-    if (file.write(data) != data.size()) {
+    if (file.write(data) != data.size() || file.error() != QFileDevice::NoError) {
         const QString why = file.errorString();
         file.cancelWriting();
         throw FileError(QStringLiteral("Couldn't write %1: %2").arg(path, why));
