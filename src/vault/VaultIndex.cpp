@@ -79,7 +79,14 @@ bool VaultIndex::removeEvent(const QString &eventID, const QString &vaultURL)
     if (first == index.events.end())
         return false;
 
-    const QString folder = QDir(vaultURL).filePath(first->relativePath);
+    // Only ever something below the Vault: an edited index must not be able
+    // to send the Vault itself, or anything outside it, to the Trash.
+    const QString root = QDir::cleanPath(QDir(vaultURL).absolutePath());
+    const QString folder = QDir::cleanPath(root + QLatin1Char('/') + first->relativePath);
+    if (first->relativePath.isEmpty() || QDir::isAbsolutePath(first->relativePath)
+        || !folder.startsWith(root + QLatin1Char('/')))
+        throw FileError(QStringLiteral("The Vault's index points outside the Vault folder (%1), so nothing was removed.")
+                            .arg(first->relativePath));
     const QFileInfo info(folder);
     // A folder that is already gone is no error: the record goes all the same.
     if (info.exists() || info.isSymLink()) {

@@ -287,6 +287,33 @@ private Q_SLOTS:
         QCOMPARE(VaultIndex::load(vault.path()).events.size(), size_t(1));
     }
 
+    void removeEventNeverReachesOutsideTheVault_data()
+    {
+        QTest::addColumn<QString>("relativePath");
+        QTest::newRow("empty") << QString();
+        QTest::newRow("the root itself") << QStringLiteral(".");
+        QTest::newRow("parent") << QStringLiteral("2026/../..");
+        QTest::newRow("sibling") << QStringLiteral("../outside");
+        QTest::newRow("absolute") << QStringLiteral("/tmp");
+    }
+
+    void removeEventNeverReachesOutsideTheVault()
+    {
+        QFETCH(QString, relativePath);
+        QTemporaryDir dir;
+        const QString vault = dir.filePath("Vault");
+        QDir().mkpath(dir.filePath("outside"));
+        auto e = makeEvent(QStringLiteral("2026-07-18_09-15-32"), {});
+        e.relativePath = relativePath;
+        VaultIndex index;
+        index.events = {e};
+        index.save(vault);
+        QVERIFY_THROWS_EXCEPTION(VaultIndex::FileError, VaultIndex::removeEvent(e.eventID, vault));
+        QVERIFY(QFileInfo::exists(vault + "/manifest.json"));
+        QVERIFY(QFileInfo::exists(dir.filePath("outside")));
+        QCOMPARE(VaultIndex::load(vault).events.size(), size_t(1));
+    }
+
     void removeEventWhoseFolderIsGoneStillDropsTheRecord()
     {
         QTemporaryDir vault;
