@@ -149,6 +149,11 @@ private Q_SLOTS:
         QCOMPARE(r.exitCode, 2);
         QCOMPARE(r.err.count('\n'), 1);
 
+        r = cli({"keep", drive_.root(), "--vault", drive_.root() + "/SentryClips/../Vault"});
+        QCOMPARE(r.exitCode, 2);
+        QVERIFY(r.err.contains("never writes"));
+        QVERIFY(!QFileInfo::exists(drive_.root() + "/Vault"));
+
         r = cli({"keep", drive_.root()});
         QCOMPARE(r.exitCode, 64);
         r = cli({"keep", drive_.root(), "--vault", vault.path(), "--timeout", "soon"});
