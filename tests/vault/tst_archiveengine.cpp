@@ -627,6 +627,88 @@ private Q_SLOTS:
         QCOMPARE(report.archivedEvents[0].files[1].name, clips[2]);
     }
 
+    void driveThatStopsAnsweringMidFile_data()
+    {
+        QTest::addColumn<bool>("cancel");
+        QTest::newRow("timeout") << false;
+        QTest::newRow("cancel") << true;
+    }
+
+    void driveThatStopsAnsweringMidFile()
+    {
+        QFETCH(bool, cancel);
+        if (!FaultyFs::available())
+            QSKIP("needs root and /dev/fuse");
+        QTemporaryDir mountPoint;
+        FaultyFs fs(mountPoint.path());
+        if (!fs.isMounted())
+            QSKIP("FUSE mount failed");
+        const QString name = QStringLiteral("2026-07-18_09-15-32");
+        const QStringList clips = DriveBuilder::clipNames(name, 2);
+        for (int i = 0; i < 2; ++i)
+            fs.addFile("TeslaCam/SentryClips/" + name + "/" + clips[i], DriveBuilder::randomBytes(3 << 20, quint32(i)));
+        fs.hangReadsFrom("TeslaCam/SentryClips/" + name + "/" + clips[0], 1 << 20);
+        const auto events = TeslaCamParser::scan(mountPoint.filePath("TeslaCam")).events;
+        QCOMPARE(events.size(), size_t(1));
+
+        QTemporaryDir vault;
+        std::stop_source stop;
+        std::thread answerLate([&] {
+            for (int i = 0; i < 1000 && !fs.isHanging(); ++i)
+                std::this_thread::sleep_for(10ms);
+            if (cancel)
+                stop.request_stop();
+            std::this_thread::sleep_for(700ms);
+            fs.release();
+        });
+        const ArchiveReport report = ArchiveEngine::run(ArchiveEngine::plan(events, VaultIndex{}), vault.path(), {},
+                                                        cancel ? 10000ms : 300ms, stop.get_token());
+        answerLate.join();
+        // Either way what arrived stays behind under the hidden name: the first
+        // block, and the late one, written before the next check stops the copy.
+        const QStringList leftovers = temporaryFiles(vault.filePath("2026/sentry/" + name));
+        QCOMPARE(leftovers.size(), 1);
+        QVERIFY(leftovers[0].endsWith("-" + clips[0]));
+        QCOMPARE(QFileInfo(leftovers[0]).size(), qint64(2 << 20));
+        QVERIFY(!QFileInfo::exists(vault.filePath("2026/sentry/" + name + "/" + clips[0])));
+        if (cancel) {
+            QVERIFY(report.cancelled);
+            QVERIFY(report.failedFiles.empty());
+            QVERIFY(report.archivedEvents.empty());
+        } else {
+            QVERIFY(!report.cancelled);
+            QCOMPARE(report.failedFiles.size(), size_t(1));
+            QCOMPARE(report.failedFiles[0].reason, reason(ArchiveEngine::Reason::timedOut));
+            QCOMPARE(report.archivedEvents.size(), size_t(1));
+            QCOMPARE(report.archivedEvents[0].files.size(), size_t(1));
+            QCOMPARE(report.archivedEvents[0].files[0].name, clips[1]);
+        }
+    }
+
+    void oldCopyThatCannotBeRemovedFailsTheFile()
+    {
+        Drive drive;
+        drive.builder.addEvent("SentryClips", "2026-07-18_09-15-32", 2, 5000);
+        const auto events = drive.builder.scan();
+        drive.freeze();
+        QTemporaryDir vault;
+        const QString folder = vault.filePath("2026/sentry/2026-07-18_09-15-32");
+        const QString clip = QFileInfo(events[0].clips[0].url).fileName();
+        // A folder where the clip should go can't be removed as a file.
+        QDir().mkpath(folder + "/" + clip + "/inside");
+        const ArchiveReport report = ArchiveEngine::run(ArchiveEngine::plan(events, VaultIndex{}), vault.path());
+        QCOMPARE(report.failedFiles.size(), size_t(1));
+        QCOMPARE(report.failedFiles[0].path, events[0].clips[0].url);
+        QCOMPARE(report.failedFiles[0].reason, reason(ArchiveEngine::Reason::unreadable));
+        // The whole copy waits under its temporary name.
+        const QStringList leftovers = temporaryFiles(folder);
+        QCOMPARE(leftovers.size(), 1);
+        QCOMPARE(QFileInfo(leftovers[0]).size(), qint64(5000));
+        QVERIFY(QFileInfo(folder + "/" + clip + "/inside").isDir());
+        QCOMPARE(report.archivedEvents.at(0).files.size(), size_t(3));
+        QCOMPARE(drive.changes(), QString());
+    }
+
     void friendlyReasonsInOrder()
     {
         using namespace ArchiveEngine;
