@@ -1,6 +1,8 @@
 #include "cli/CliOutput.h"
 #include "cli/ExportCommand.h"
+#include "cli/KeepCommand.h"
 #include "cli/ScanCommand.h"
+#include "cli/VaultCommand.h"
 
 #include <QCoreApplication>
 #include <functional>
@@ -10,8 +12,10 @@ namespace {
 const std::map<QString, std::function<int(const QStringList &)>> &commands()
 {
     static const std::map<QString, std::function<int(const QStringList &)>> table{
-        {QStringLiteral("scan"), ScanCommand::run},
         {QStringLiteral("export"), ExportCommand::run},
+        {QStringLiteral("keep"), KeepCommand::run},
+        {QStringLiteral("scan"), ScanCommand::run},
+        {QStringLiteral("vault"), VaultCommand::run},
     };
     return table;
 }
