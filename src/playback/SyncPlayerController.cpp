@@ -293,12 +293,17 @@ void SyncPlayerController::jumpToMoment()
     const double duration = duration_;
     if (cueTask_)
         cueTask_->request_stop();
-    double target = offset ? std::max(0.0, *offset - cueLead) : 0.0;
-    const double limit = std::max(0.0, duration - endMargin);
-    target = std::min(target, limit);
+    const double target = cueTarget(offset, duration);
     std::stop_source stop;
     cueTask_ = stop;
     cueAndPlay(QPointer<SyncPlayerController>(this), target, stop.get_token());
+}
+
+double SyncPlayerController::cueTarget(std::optional<double> triggerOffset, double duration)
+{
+    const double target = triggerOffset ? std::max(0.0, *triggerOffset - cueLead) : 0.0;
+    const double limit = std::max(0.0, duration - endMargin);
+    return std::min(target, limit);
 }
 
 QCoro::Task<void> SyncPlayerController::cueAndPlay(QPointer<SyncPlayerController> self, double t,

@@ -109,6 +109,8 @@ private:
     static std::vector<TileOutcome> buildTileData(const TeslaEvent &event, std::stop_token stop);
     void applyTileOutcomes(const std::vector<TileOutcome> &outcomes);
     std::vector<Tile> playableTiles() const;
+    // Ten seconds before the moment, never nearer than a second to the end.
+    static double cueTarget(std::optional<double> triggerOffset, double duration);
 
     static QCoro::Task<void> runBuild(QPointer<SyncPlayerController> self, TeslaEvent event, std::stop_token stop);
     static QCoro::Task<void> cueAndPlay(QPointer<SyncPlayerController> self, double t, std::stop_token stop);

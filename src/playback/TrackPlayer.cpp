@@ -171,16 +171,16 @@ private:
     void push(double time, const QVideoFrame &frame, bool picture)
     {
         std::lock_guard lock(s_->mutex);
+        if (!readyPosted_) {
+            readyPosted_ = true;
+            s_->post(&TrackPlayer::markReady);
+        }
         if (generation_ != s_->generation)
             return; // a newer seek is waiting
         s_->queue.push_back(Shared::Entry{generation_, time, frame, picture});
         if (firstOfGeneration_) {
             firstOfGeneration_ = false;
             s_->post(&TrackPlayer::present);
-            if (!readyPosted_) {
-                readyPosted_ = true;
-                s_->post(&TrackPlayer::markReady);
-            }
         }
     }
 
