@@ -8,6 +8,8 @@
 #include <QThreadPool>
 #include <QtConcurrent/QtConcurrentRun>
 
+#include <algorithm>
+#include <cmath>
 #include <mutex>
 #include <unistd.h>
 
@@ -52,8 +54,13 @@ std::optional<QImage> loadNow(const QString &path)
     QImage image = reader.read();
     if (image.isNull())
         return std::nullopt;
-    if (image.width() > maxPixelSize || image.height() > maxPixelSize)
-        image = image.scaled(maxPixelSize, maxPixelSize, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    const int longer = std::max(image.width(), image.height());
+    if (longer > maxPixelSize) {
+        const double scale = double(maxPixelSize) / longer;
+        const QSize size(std::max(1, int(std::lround(image.width() * scale))),
+                         std::max(1, int(std::lround(image.height() * scale))));
+        image = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    }
     auto &c = cache();
     std::lock_guard lock(c.mutex);
     c.images.insert(path, new QImage(image));
