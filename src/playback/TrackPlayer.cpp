@@ -39,6 +39,7 @@ struct TrackPlayer::Shared {
     std::mutex mutex;
     std::condition_variable changed;
     std::atomic<bool> stop{false};
+    std::atomic<quint64> decoded{0};
     bool finished = false;
     TrackPlayer *owner = nullptr; // cleared under mutex when the player goes
 
@@ -240,6 +241,8 @@ private:
                     return;
                 double st = 0;
                 const AVFrame *f = cur_->nextFrame(&st);
+                if (f)
+                    ++s_->decoded;
                 const bool ended = !f || st >= sourceEnd(seg) - epsilon;
                 if (!ended && st < seg.sourceStart.seconds() - epsilon)
                     continue;
@@ -313,6 +316,7 @@ private:
             nextSegment();
             return;
         }
+        ++s_->decoded;
         if (st < seg.sourceStart.seconds() - epsilon)
             return;
         const double time = toTimeline(seg, st);
@@ -525,6 +529,11 @@ void TrackPlayer::present()
     }
     if (!playing_ && presentedGeneration_ == generation_)
         presentTimer_.stop();
+}
+
+quint64 TrackPlayer::decodedFrameCount() const
+{
+    return shared_->decoded.load();
 }
 
 std::optional<double> TrackPlayer::nextFrameTime() const

@@ -59,6 +59,8 @@ public:
     bool hasPicture() const { return presentedTime_.has_value(); }
     QVideoFrame currentFrame() const { return currentFrame_; }
     quint64 presentedFrameCount() const { return presentedCount_; }
+    // Frames decoded so far, shown or not (for measurements).
+    quint64 decodedFrameCount() const;
     // True until the frame of the latest seek is on screen.
     bool isSeeking() const { return presentedGeneration_ != generation_; }
     // Time of the next decoded frame after the one shown, if already queued.
