@@ -187,6 +187,13 @@ private:
 
     void pushGap(double time) { push(time, QVideoFrame(), false); }
 
+    // A drag of the scrubber seeks many times: drop a seek that is already stale.
+    bool newerSeekWaiting()
+    {
+        std::lock_guard lock(s_->mutex);
+        return s_->seekRequested;
+    }
+
     void seekTo(double target)
     {
         atEnd_ = false;
@@ -237,7 +244,7 @@ private:
             double prevTime = 0;
             bool retry = false;
             for (;;) {
-                if (s_->stop)
+                if (s_->stop || newerSeekWaiting())
                     return;
                 double st = 0;
                 const AVFrame *f = cur_->nextFrame(&st);
