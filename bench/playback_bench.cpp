@@ -25,6 +25,8 @@ constexpr double minute = 60.0;
 QString generate(const QString &dir, const QString &name, int w, int h)
 {
     const QString path = dir + "/" + name;
+    if (QFile::exists(path))
+        return path;
     QProcess p;
     p.start("ffmpeg", {"-hide_banner", "-loglevel", "error", "-y", "-f", "lavfi", "-i",
                        QString("testsrc2=size=%1x%2:rate=%3").arg(w).arg(h).arg(fps), "-t", QString::number(minute),
@@ -145,11 +147,14 @@ int main(int argc, char **argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication app(argc, argv);
     QTemporaryDir dir;
+    // An optional folder keeps the generated clips for the next run.
+    const QString clipDir = argc > 1 ? QString::fromLocal8Bit(argv[1]) : dir.path();
+    QDir().mkpath(clipDir);
     std::printf("generating clips (one minute each)...\n");
     std::fflush(stdout);
-    const QString hw4Front = generate(dir.path(), "hw4front.mp4", 2896, 1876);
-    const QString hw4Side = generate(dir.path(), "hw4side.mp4", 1448, 938);
-    const QString hw3 = generate(dir.path(), "hw3.mp4", 1280, 960);
+    const QString hw4Front = generate(clipDir, "hw4front.mp4", 2896, 1876);
+    const QString hw4Side = generate(clipDir, "hw4side.mp4", 1448, 938);
+    const QString hw3 = generate(clipDir, "hw3.mp4", 1280, 960);
     QDir().mkpath(dir.path() + "/hw4");
     QDir().mkpath(dir.path() + "/hw3");
     const TeslaEvent hw4Event = makeEvent(dir.path() + "/hw4", hw4Front, hw4Side);
@@ -176,6 +181,7 @@ int main(int argc, char **argv)
     wait(500); // the common start and the first frames
     double maxSkew = 0;
     quint64 samples = 0;
+    quint64 overOne = 0;
     quint64 presentedBefore = 0;
     for (auto *p : ps)
         presentedBefore += p->presentedFrameCount();
@@ -193,6 +199,7 @@ int main(int argc, char **argv)
         }
         if (hi >= lo) {
             maxSkew = std::max(maxSkew, (hi - lo) * fps);
+            overOne += (hi - lo) * fps > 1.01 ? 1 : 0;
             ++samples;
         }
     }
@@ -200,8 +207,10 @@ int main(int argc, char **argv)
     for (auto *p : ps)
         presentedAfter += p->presentedFrameCount();
     const double presentedRate = double(presentedAfter - presentedBefore) / (ps.size() * 30.0);
-    std::printf("1x for 30 s: max skew %.2f frames over %llu samples, %.1f frames/s presented per camera\n",
-                maxSkew, static_cast<unsigned long long>(samples), presentedRate);
+    std::printf("1x for 30 s: max skew %.2f frames, %.2f%% of %llu samples over 1 frame, %.1f frames/s presented "
+                "per camera\n",
+                maxSkew, samples ? 100.0 * double(overOne) / double(samples) : 0.0,
+                static_cast<unsigned long long>(samples), presentedRate);
     for (auto *p : ps)
         p->pause();
 

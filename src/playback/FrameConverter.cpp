@@ -62,7 +62,13 @@ QVideoFrame FrameConverter::convert(const AVFrame *f, double startSeconds, doubl
     const bool full = fullRange(f) && (direct || f->color_range == AVCOL_RANGE_JPEG)
         && !(pix == AV_PIX_FMT_YUVJ422P || pix == AV_PIX_FMT_YUVJ444P);
     QVideoFrameFormat format(QSize(w, h), QVideoFrameFormat::Format_YUV420P);
-    format.setColorSpace(colorSpace(f));
+    auto space = colorSpace(f);
+    // Qt 6.4's BT.601 full-range matrix is wrong (greens and blues come out
+    // dull); its AdobeRgb entry is the JPEG matrix, which is exactly BT.601
+    // at full range.
+    if (space == QVideoFrameFormat::ColorSpace_BT601 && full)
+        space = QVideoFrameFormat::ColorSpace_AdobeRgb;
+    format.setColorSpace(space);
     format.setColorRange(full ? QVideoFrameFormat::ColorRange_Full : QVideoFrameFormat::ColorRange_Video);
     if (f->color_trc == AVCOL_TRC_BT709 || f->color_trc == AVCOL_TRC_SMPTE170M)
         format.setColorTransfer(QVideoFrameFormat::ColorTransfer_BT709);

@@ -151,6 +151,21 @@ bool MediaSource::seekKeyframe(double seconds)
     return true;
 }
 
+std::optional<double> MediaSource::keyframeAtOrBefore(double seconds) const
+{
+    if (streamIndex_ < 0)
+        return std::nullopt;
+    AVStream *stream = format_->streams[streamIndex_];
+    const int64_t ts = startPts_ + int64_t(std::floor(std::max(0.0, seconds) / timeBase_));
+    const int i = av_index_search_timestamp(stream, ts, AVSEEK_FLAG_BACKWARD);
+    if (i < 0)
+        return std::nullopt;
+    const AVIndexEntry *entry = avformat_index_get_entry(stream, i);
+    if (!entry)
+        return std::nullopt;
+    return double(entry->timestamp - startPts_) * timeBase_;
+}
+
 const AVFrame *MediaSource::nextFrame(double *time)
 {
     if (!codec_)

@@ -3,6 +3,7 @@
 #include <QString>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <stdexcept>
 
 struct AVFormatContext;
@@ -35,6 +36,8 @@ public:
 
     // Positions the demuxer at the keyframe at or before seconds.
     bool seekKeyframe(double seconds);
+    // Time of the keyframe at or before seconds, from the container's index.
+    std::optional<double> keyframeAtOrBefore(double seconds) const;
     // The next decoded frame (owned by the source, valid until the next
     // call) with its time, or nullptr at the end or on an error.
     const AVFrame *nextFrame(double *time);

@@ -20,6 +20,10 @@ namespace {
 constexpr size_t queueLimit = 4;
 constexpr double epsilon = 1e-6;
 constexpr int presentIntervalMs = 4;
+constexpr double lateTolerance = 0.05;     // a frame later than this is not converted
+constexpr double catchUpThreshold = 0.5;   // this far behind, skip ahead to a keyframe
+constexpr double catchUpLead = 0.3;        // aim this far past the clock when skipping
+constexpr double stillPictureLimit = 0.25; // even when late, show a frame this often
 std::atomic<int> decoderThreads{2};
 
 struct AVFrameDeleter {
@@ -179,6 +183,7 @@ private:
         if (generation_ != s_->generation)
             return; // a newer seek is waiting
         s_->queue.push_back(Shared::Entry{generation_, time, frame, picture});
+        lastPushed_ = time;
         if (firstOfGeneration_) {
             firstOfGeneration_ = false;
             s_->post(&TrackPlayer::present);
@@ -333,9 +338,21 @@ private:
                 std::lock_guard lock(s_->mutex);
                 now = s_->mediaNow();
             }
-            // Already a frame late: decoding can't be skipped, converting can.
-            if (time < now - 0.05)
-                return;
+            if (time < now - lateTolerance) {
+                // Behind the clock (a slow machine, a high rate): jump to a
+                // later keyframe when the index has one ahead of us...
+                if (now - time > catchUpThreshold) {
+                    const double aim = seg.sourceStart.seconds() + (now + catchUpLead - seg.timelineStart.seconds());
+                    const auto keyframe = cur_->keyframeAtOrBefore(std::min(aim, sourceEnd(seg)));
+                    if (keyframe && *keyframe > st + catchUpThreshold / 2) {
+                        cur_->seekKeyframe(*keyframe);
+                        return;
+                    }
+                }
+                // ...and skip converting, but keep the picture moving.
+                if (time < lastPushed_ + stillPictureLimit)
+                    return;
+            }
         }
         pushFrame(seg, f, st);
     }
@@ -352,6 +369,7 @@ private:
     bool atEnd_ = true;
     bool firstOfGeneration_ = false;
     bool readyPosted_ = false;
+    double lastPushed_ = -1e300;
 };
 
 void TrackPlayer::setDecoderThreads(int threads)

@@ -56,9 +56,13 @@ ApplicationWindow {
 }
 )";
 
+bool limitedRange = false;
+
 QString makeClip(const QString &pattern, const QString &filter, const QString &dir, const QString &name)
 {
     TestClips::Spec spec;
+    if (limitedRange)
+        spec.pixelFormat = "yuv420p";
     spec.seconds = 3;
     spec.width = 640;
     spec.height = 480;
@@ -77,7 +81,9 @@ int main(int argc, char **argv)
     parser.addHelpOption();
     parser.addOption({"grab", "Save the window to this PNG and quit.", "file"});
     parser.addOption({"after", "Seconds of playing before the grab (default 1.5).", "seconds", "1.5"});
+    parser.addOption({"limited", "Make the clips limited-range (yuv420p) instead of full-range."});
     parser.process(app);
+    limitedRange = parser.isSet("limited");
 
     QTemporaryDir dir;
     const Date origin(800000000.0);
