@@ -25,6 +25,7 @@ constexpr double catchUpThreshold = 0.5;   // this far behind, skip ahead to a k
 constexpr double catchUpLead = 0.3;        // aim this far past the clock when skipping
 constexpr double stillPictureLimit = 0.25; // even when late, show a frame this often
 std::atomic<int> decoderThreads{2};
+std::atomic<bool> catchUpEnabled{true};
 
 struct AVFrameDeleter {
     void operator()(AVFrame *f) const { av_frame_free(&f); }
@@ -341,7 +342,7 @@ private:
             if (time < now - lateTolerance) {
                 // Behind the clock (a slow machine, a high rate): jump to a
                 // later keyframe when the index has one ahead of us...
-                if (now - time > catchUpThreshold) {
+                if (now - time > catchUpThreshold && catchUpEnabled) {
                     const double aim = seg.sourceStart.seconds() + (now + catchUpLead - seg.timelineStart.seconds());
                     const auto keyframe = cur_->keyframeAtOrBefore(std::min(aim, sourceEnd(seg)));
                     if (keyframe && *keyframe > st + catchUpThreshold / 2) {
@@ -375,6 +376,11 @@ private:
 void TrackPlayer::setDecoderThreads(int threads)
 {
     decoderThreads = std::clamp(threads, 1, 8);
+}
+
+void TrackPlayer::setCatchUpEnabled(bool enabled)
+{
+    catchUpEnabled = enabled;
 }
 
 TrackPlayer::TrackPlayer(const Composition &composition, QObject *parent)

@@ -35,6 +35,9 @@ public:
 
     // Decoder threads per player (1–2 suit several cameras on few cores).
     static void setDecoderThreads(int threads);
+    // Skipping ahead to a keyframe when decoding falls behind the clock; off
+    // only to measure raw decoding speed.
+    static void setCatchUpEnabled(bool enabled);
 
     Status status() const { return status_; }
     MediaTime trackDuration() const { return MediaTime::fromSeconds(trackEnd_); }

@@ -383,6 +383,28 @@ private Q_SLOTS:
         QCOMPARE(c.primaryPlayer_.data(), c.tiles()[1].player.get());
     }
 
+    void positionFollowsThePrimaryCameraAlone()
+    {
+        EventBuilder b(tmp.path() + "/primary");
+        b.add(Camera::front, 0);
+        b.add(Camera::front, 1);
+        for (int k = 0; k < 3; ++k)
+            b.add(Camera::back, k);
+        SyncPlayerController c(b.event);
+        QTRY_VERIFY(!c.isLoadingTiles());
+        QTRY_VERIFY(c.isPlaying());
+        c.seek(5.5);
+        QVERIFY(c.isPlaying());
+        QTest::qWait(1300);
+        // The front's media ends at 6 s: the position stops there, the back plays on.
+        QCOMPARE(c.currentTime(), 6.0);
+        QVERIFY(c.tiles()[1].player->currentSeconds() > 6.5);
+        QVERIFY(c.isPlaying());
+        // The next command brings them together again.
+        c.pause();
+        QCOMPARE(c.tiles()[1].player->currentSeconds(), 6.0);
+    }
+
     void switchingEventsMidLoadNeverShowsTheFirst()
     {
         const QString dir = tmp.path() + "/switch";
