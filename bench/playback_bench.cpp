@@ -12,6 +12,8 @@
 #include <QGuiApplication>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <QTimer>
+#include <QEventLoop>
 
 #include <algorithm>
 #include <cstdio>
@@ -39,25 +41,30 @@ QString generate(const QString &dir, const QString &name, int w, int h)
     return path;
 }
 
+// Waits in a real event loop: a busy loop would take a core from the decoders.
 void wait(int ms)
 {
-    QElapsedTimer t;
-    t.start();
-    while (t.elapsed() < ms)
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+    QEventLoop loop;
+    QTimer::singleShot(ms, &loop, &QEventLoop::quit);
+    loop.exec();
 }
 
 template <typename Pred>
 bool waitFor(Pred pred, int ms)
 {
-    QElapsedTimer t;
-    t.start();
-    while (!pred()) {
-        if (t.elapsed() > ms)
-            return false;
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 1);
-    }
-    return true;
+    if (pred())
+        return true;
+    QEventLoop loop;
+    QTimer poll;
+    poll.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&poll, &QTimer::timeout, &loop, [&] {
+        if (pred())
+            loop.quit();
+    });
+    poll.start(1);
+    QTimer::singleShot(ms, &loop, &QEventLoop::quit);
+    loop.exec();
+    return pred();
 }
 
 // Six cameras, two one-minute clips each (the same file serves both minutes).
@@ -154,6 +161,57 @@ Throughput throughput(SyncPlayerController &c, int seconds)
     return {media / wall, media / (cpu / 2.0)};
 }
 
+// Plays at 1x for 30 s across the minute boundary; the largest skew seen.
+double skewAt1x(const std::vector<TrackPlayer *> &ps, const char *label)
+{
+    for (auto *p : ps)
+        p->seek(MediaTime::fromSeconds(45));
+    waitFor([&] { return settled(ps); }, 5000);
+    startAll(ps, 1.0f, 45.0);
+    wait(500); // the common start and the first frames
+    double maxSkew = 0;
+    quint64 samples = 0;
+    quint64 overOne = 0;
+    quint64 presentedBefore = 0;
+    for (auto *p : ps)
+        presentedBefore += p->presentedFrameCount();
+    double lagSum = 0;
+    QTimer sampler;
+    sampler.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&sampler, &QTimer::timeout, [&] {
+        double lo = 1e300, hi = -1e300;
+        for (auto *p : ps) {
+            const auto shown = p->presentedTime();
+            if (!shown)
+                continue;
+            lo = std::min(lo, *shown);
+            hi = std::max(hi, *shown);
+        }
+        if (hi >= lo) {
+            maxSkew = std::max(maxSkew, (hi - lo) * fps);
+            overOne += (hi - lo) * fps > 1.01 ? 1 : 0;
+            lagSum += (ps.front()->currentSeconds() - lo) * fps;
+            ++samples;
+        }
+    });
+    sampler.start(3);
+    wait(30000);
+    sampler.stop();
+    quint64 presentedAfter = 0;
+    for (auto *p : ps)
+        presentedAfter += p->presentedFrameCount();
+    const double presentedRate = double(presentedAfter - presentedBefore) / (ps.size() * 30.0);
+    std::printf("%s 1x for 30 s: max skew %.2f frames, %.2f%% of %llu samples over 1 frame, mean lag of the "
+                "slowest camera %.2f frames, %.1f frames/s presented per camera (load %.1f)\n",
+                label, maxSkew, samples ? 100.0 * double(overOne) / double(samples) : 0.0,
+                static_cast<unsigned long long>(samples), samples ? lagSum / double(samples) : 0.0, presentedRate,
+                loadAverage());
+    for (auto *p : ps)
+        p->pause();
+
+    return maxSkew;
+}
+
 std::unique_ptr<SyncPlayerController> load(const TeslaEvent &e)
 {
     auto c = std::make_unique<SyncPlayerController>(e);
@@ -206,45 +264,11 @@ int main(int argc, char **argv)
 
     // Skew at 1x over 30 s, across the minute boundary.
     auto ps = players(*c);
-    for (auto *p : ps)
-        p->seek(MediaTime::fromSeconds(45));
-    waitFor([&] { return settled(ps); }, 5000);
-    startAll(ps, 1.0f, 45.0);
-    wait(500); // the common start and the first frames
-    double maxSkew = 0;
-    quint64 samples = 0;
-    quint64 overOne = 0;
-    quint64 presentedBefore = 0;
-    for (auto *p : ps)
-        presentedBefore += p->presentedFrameCount();
-    QElapsedTimer t;
-    t.start();
-    while (t.elapsed() < 30000) {
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 2);
-        double lo = 1e300, hi = -1e300;
-        for (auto *p : ps) {
-            const auto shown = p->presentedTime();
-            if (!shown)
-                continue;
-            lo = std::min(lo, *shown);
-            hi = std::max(hi, *shown);
-        }
-        if (hi >= lo) {
-            maxSkew = std::max(maxSkew, (hi - lo) * fps);
-            overOne += (hi - lo) * fps > 1.01 ? 1 : 0;
-            ++samples;
-        }
+    const double maxSkew = skewAt1x(ps, "hw4");
+    {
+        auto c3 = load(hw3Event);
+        skewAt1x(players(*c3), "hw3");
     }
-    quint64 presentedAfter = 0;
-    for (auto *p : ps)
-        presentedAfter += p->presentedFrameCount();
-    const double presentedRate = double(presentedAfter - presentedBefore) / (ps.size() * 30.0);
-    std::printf("1x for 30 s: max skew %.2f frames, %.2f%% of %llu samples over 1 frame, %.1f frames/s presented "
-                "per camera\n",
-                maxSkew, samples ? 100.0 * double(overOne) / double(samples) : 0.0,
-                static_cast<unsigned long long>(samples), presentedRate);
-    for (auto *p : ps)
-        p->pause();
 
     // Exact seeks to random times: until every camera shows its frame.
     std::mt19937 rng(42);

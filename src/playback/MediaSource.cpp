@@ -5,10 +5,12 @@
 extern "C" {
 #include <libavcodec/avcodec.h>
 #include <libavformat/avformat.h>
+#include <libavutil/log.h>
 #include <libavutil/mem.h>
 }
 
 #include <cerrno>
+#include <mutex>
 #include <cmath>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -20,6 +22,10 @@ constexpr int ioBufferSize = 1 << 16;
 MediaSource::MediaSource(const QString &path, std::function<bool()> shouldStop, bool decode, int decoderThreads)
     : path_(path), shouldStop_(std::move(shouldStop))
 {
+    // Damaged clips are expected here and end as placeholders; FFmpeg's own
+    // messages about them would only be noise on the terminal.
+    static std::once_flag quiet;
+    std::call_once(quiet, [] { av_log_set_level(AV_LOG_FATAL); });
     fd_ = ReadOnlyFs::openRead(path);
     if (fd_ < 0)
         throw Error("The clip could not be opened.");
@@ -67,6 +73,10 @@ MediaSource::MediaSource(const QString &path, std::function<bool()> shouldStop, 
         codec_ = avcodec_alloc_context3(codec);
         if (!codec_ || avcodec_parameters_to_context(codec_, stream->codecpar) < 0)
             throw Error("The clip's video format is not supported.");
+        // Auto: a second thread only for the large front camera of newer cars;
+        // with one decoder per camera, single-threaded decoding wastes least.
+        if (decoderThreads <= 0)
+            decoderThreads = stream->codecpar->width * stream->codecpar->height > 2500000 ? 2 : 1;
         codec_->thread_count = decoderThreads;
         codec_->pkt_timebase = stream->time_base;
         if (avcodec_open2(codec_, codec, nullptr) < 0)

@@ -25,7 +25,8 @@ public:
 
     // Opens and reads the container's header. With decode false only the
     // duration and the presence of video are read (nothing is decoded).
-    MediaSource(const QString &path, std::function<bool()> shouldStop, bool decode, int decoderThreads = 1);
+    // decoderThreads 0 picks by picture size.
+    MediaSource(const QString &path, std::function<bool()> shouldStop, bool decode, int decoderThreads = 0);
     ~MediaSource();
     MediaSource(const MediaSource &) = delete;
     MediaSource &operator=(const MediaSource &) = delete;

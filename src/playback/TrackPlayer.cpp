@@ -24,7 +24,7 @@ constexpr double lateTolerance = 0.05;     // a frame later than this is not con
 constexpr double catchUpThreshold = 0.5;   // this far behind, skip ahead to a keyframe
 constexpr double catchUpLead = 0.3;        // aim this far past the clock when skipping
 constexpr double stillPictureLimit = 0.25; // even when late, show a frame this often
-std::atomic<int> decoderThreads{2};
+std::atomic<int> decoderThreads{0}; // 0: by picture size
 std::atomic<bool> catchUpEnabled{true};
 
 struct AVFrameDeleter {
@@ -375,7 +375,7 @@ private:
 
 void TrackPlayer::setDecoderThreads(int threads)
 {
-    decoderThreads = std::clamp(threads, 1, 8);
+    decoderThreads = std::clamp(threads, 0, 8);
 }
 
 void TrackPlayer::setCatchUpEnabled(bool enabled)

@@ -33,7 +33,8 @@ public:
     explicit TrackPlayer(const Composition &composition, QObject *parent = nullptr);
     ~TrackPlayer() override;
 
-    // Decoder threads per player (1–2 suit several cameras on few cores).
+    // Decoder threads per player; 0 (the default) gives the large HW4 front
+    // camera two and every other camera one.
     static void setDecoderThreads(int threads);
     // Skipping ahead to a keyframe when decoding falls behind the clock; off
     // only to measure raw decoding speed.
