@@ -110,6 +110,23 @@ private Q_SLOTS:
         }
     }
 
+    void playsHevcClips()
+    {
+        // Some older cars wrote H.265.
+        TestClips::Spec spec;
+        spec.seconds = 1;
+        spec.codec = QStringLiteral("libx265");
+        spec.pixelFormat = QStringLiteral("yuv420p");
+        Composition c;
+        c.addMutableTrack();
+        c.track(0).insertTimeRange(TestClips::clip(spec), MediaTime::zero(), s(1), MediaTime::zero());
+        TrackPlayer player(c);
+        QTRY_VERIFY(player.hasPicture());
+        QVERIFY(seekAndWait(player, 0.5));
+        QVERIFY(player.hasPicture());
+        QVERIFY(*player.presentedTime() <= 0.5 && *player.presentedTime() > 0.5 - 2.0 / fps);
+    }
+
     void playsAcrossClipBoundariesAndGaps()
     {
         TrackPlayer player(threeClips);
