@@ -27,7 +27,8 @@ QString key(const Spec &s)
                              .arg(s.codec, s.pixelFormat)
                              .arg(s.audio)
                              .arg(s.gop)
-                             .arg(s.pattern);
+                             .arg(s.pattern)
+        + QStringLiteral("|%1|%2").arg(s.filter).arg(s.lossless);
     return QString::fromLatin1(QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Md5).toHex());
 }
 } // namespace
@@ -41,7 +42,8 @@ void generate(const Spec &s, const QString &dest)
 {
     QStringList args{QStringLiteral("-hide_banner"), QStringLiteral("-loglevel"), QStringLiteral("error"),
                      QStringLiteral("-y"), QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"),
-                     QStringLiteral("%1=size=%2x%3:rate=%4").arg(s.pattern).arg(s.width).arg(s.height).arg(s.fps)};
+                     QStringLiteral("%1=size=%2x%3:rate=%4").arg(s.pattern).arg(s.width).arg(s.height).arg(s.fps)
+                         + (s.filter.isEmpty() ? QString() : QLatin1Char(',') + s.filter)};
     if (s.audio)
         args << QStringLiteral("-f") << QStringLiteral("lavfi") << QStringLiteral("-i")
              << QStringLiteral("sine=frequency=440:sample_rate=48000");
@@ -49,6 +51,8 @@ void generate(const Spec &s, const QString &dest)
          << QStringLiteral("-pix_fmt") << s.pixelFormat << QStringLiteral("-g") << QString::number(s.gop);
     if (s.codec == QLatin1String("libx264"))
         args << QStringLiteral("-preset") << QStringLiteral("ultrafast");
+    if (s.lossless && s.codec == QLatin1String("libx264"))
+        args << QStringLiteral("-qp") << QStringLiteral("0");
     if (s.codec == QLatin1String("libx265"))
         args << QStringLiteral("-preset") << QStringLiteral("ultrafast") << QStringLiteral("-x265-params")
              << QStringLiteral("log-level=error") << QStringLiteral("-tag:v") << QStringLiteral("hvc1");

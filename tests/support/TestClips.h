@@ -16,6 +16,8 @@ struct Spec {
     bool audio = false;
     int gop = 36;
     QString pattern = QStringLiteral("testsrc2"); // lavfi source
+    QString filter;        // video filters after the source, e.g. "geq=lum='N'"
+    bool lossless = false; // H.264 at qp 0, so pixel values survive exactly
 };
 
 // Path of a generated clip matching spec (do not modify it; copy it).

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <stdexcept>
+
+struct AVFormatContext;
+struct AVCodecContext;
+struct AVFrame;
+struct AVPacket;
+struct AVIOContext;
+
+// One clip file opened read-only through libavformat, with its video
+// decoder. Every blocking call answers shouldStop, so a watchdog or a closing
+// player can end a read that is still in progress. Times are the file's own
+// media time in seconds, with its first frame at 0.
+class MediaSource {
+public:
+    class Error : public std::runtime_error {
+    public:
+        using std::runtime_error::runtime_error;
+    };
+
+    // Opens and reads the container's header. With decode false only the
+    // duration and the presence of video are read (nothing is decoded).
+    // decoderThreads 0 picks by picture size.
+    MediaSource(const QString &path, std::function<bool()> shouldStop, bool decode, int decoderThreads = 0);
+    ~MediaSource();
+    MediaSource(const MediaSource &) = delete;
+    MediaSource &operator=(const MediaSource &) = delete;
+
+    const QString &path() const { return path_; }
+    bool hasVideo() const { return streamIndex_ >= 0; }
+    double duration() const { return duration_; }
+
+    // Positions the demuxer at the keyframe at or before seconds.
+    bool seekKeyframe(double seconds);
+    // Time of the keyframe at or before seconds, from the container's index.
+    std::optional<double> keyframeAtOrBefore(double seconds) const;
+    // The next decoded frame (owned by the source, valid until the next
+    // call) with its time, or nullptr at the end or on an error.
+    const AVFrame *nextFrame(double *time);
+
+private:
+    static int interrupt(void *opaque);
+    static int readPacket(void *opaque, uint8_t *buf, int size);
+    static int64_t seekFile(void *opaque, int64_t offset, int whence);
+    void close();
+
+    QString path_;
+    std::function<bool()> shouldStop_;
+    int fd_ = -1;
+    AVIOContext *io_ = nullptr;
+    AVFormatContext *format_ = nullptr;
+    AVCodecContext *codec_ = nullptr;
+    AVPacket *packet_ = nullptr;
+    AVFrame *frame_ = nullptr;
+    int streamIndex_ = -1;
+    double timeBase_ = 0;
+    int64_t startPts_ = 0;
+    double duration_ = 0;
+    bool demuxEnded_ = false;
+};

@@ -1,0 +1,485 @@
+#include "playback/SyncPlayerController.h"
+
+#include "drive/IOWatchdog.h"
+#include "drive/ReadOnlyFs.h"
+#include "model/CancellationError.h"
+#include "playback/HostClock.h"
+#include "playback/MediaSource.h"
+
+#include <QThreadPool>
+#include <QtConcurrent/QtConcurrentRun>
+#include <qcoro/qcorofuture.h>
+#include <qcoro/qcorotimer.h>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace std::chrono_literals;
+
+SyncPlayerController::SyncPlayerController(const TeslaEvent &event, QObject *parent) : QObject(parent)
+{
+    loadEvent(event);
+}
+
+SyncPlayerController::~SyncPlayerController()
+{
+    if (buildTask_)
+        buildTask_->request_stop();
+    removeTimeObserver();
+}
+
+void SyncPlayerController::removeTimeObserver()
+{
+    if (timeObserverToken_) {
+        if (primaryPlayer_)
+            primaryPlayer_->removeTimeObserver(*timeObserverToken_);
+        timeObserverToken_.reset();
+    }
+}
+
+void SyncPlayerController::loadEvent(const TeslaEvent &event)
+{
+    if (buildTask_)
+        buildTask_->request_stop();
+    buildTask_.reset();
+    if (cueTask_)
+        cueTask_->request_stop();
+    cueTask_.reset();
+    removeTimeObserver();
+    primaryPlayer_.clear();
+
+    setIsPlaying(false);
+    setCurrentTime(0);
+    setFocusedCamera(std::nullopt);
+    tiles_.clear();
+    tilesForQml_.clear();
+    Q_EMIT tilesChanged();
+    setIsLoadingTiles(true);
+    setDuration(std::max(1.0, event.approximateDuration()));
+
+    std::optional<double> offset;
+    const auto earliest = event.earliestClipDate();
+    if (event.kind != EventKind::recent && !event.missingEventJSON && earliest) {
+        const double raw = event.timestamp.timeIntervalSince(*earliest);
+        if (raw >= 0 && raw <= duration_)
+            offset = raw;
+    }
+    setTriggerOffset(offset);
+
+    std::stop_source stop;
+    buildTask_ = stop;
+    runBuild(QPointer<SyncPlayerController>(this), event, stop.get_token());
+}
+
+QCoro::Task<void> SyncPlayerController::runBuild(QPointer<SyncPlayerController> self, TeslaEvent event,
+                                                 std::stop_token stop)
+{
+    QFuture<std::vector<TileOutcome>> future = QtConcurrent::run(
+        QThreadPool::globalInstance(), [event, stop] { return buildTileData(event, stop); });
+    const std::vector<TileOutcome> outcomes = co_await future;
+    if (!self || stop.stop_requested())
+        co_return;
+    self->applyTileOutcomes(outcomes);
+    if (!self->playableTiles().empty())
+        self->jumpToMoment();
+}
+
+std::vector<SyncPlayerController::TileOutcome> SyncPlayerController::buildTileData(const TeslaEvent &event,
+                                                                                   std::stop_token stop)
+{
+    std::vector<TileOutcome> outcomes;
+    const auto origin = event.earliestClipDate();
+    if (!origin)
+        return outcomes;
+    std::vector<Camera> cameras = event.cameras();
+    std::stable_sort(cameras.begin(), cameras.end(),
+                     [](Camera a, Camera b) { return a.gridOrder() < b.gridOrder(); });
+
+    for (const Camera camera : cameras) {
+        if (stop.stop_requested())
+            return outcomes;
+        std::vector<ClipRef> clips;
+        for (const ClipRef &c : event.clips)
+            if (c.camera == camera)
+                clips.push_back(c);
+        std::stable_sort(clips.begin(), clips.end(),
+                         [](const ClipRef &a, const ClipRef &b) { return a.startDate < b.startDate; });
+        std::vector<ClipRef> playable;
+        for (const ClipRef &c : clips)
+            if (c.health == ClipHealth::unknown || c.health == ClipHealth::ok)
+                playable.push_back(c);
+
+        if (playable.empty()) {
+            const bool allDamaged = !clips.empty()
+                && std::all_of(clips.begin(), clips.end(), [](const ClipRef &c) { return c.health.isDamaged(); });
+            outcomes.push_back(TileOutcome{camera, std::nullopt, allDamaged ? damagedReason : noFootageReason, 0});
+            continue;
+        }
+
+        Composition composition;
+        const auto trackIndex = composition.addMutableTrack();
+        if (!trackIndex) {
+            outcomes.push_back(TileOutcome{camera, std::nullopt, damagedReason, 0});
+            continue;
+        }
+        bool hasContent = false;
+        double contentEnd = 0;
+        for (const ClipRef &clip : playable) {
+            if (stop.stop_requested())
+                return outcomes;
+            double offset = clip.startDate.timeIntervalSince(*origin);
+            if (offset <= 0)
+                offset = 0;
+            double placed = 0;
+            try {
+                const QString path = clip.url;
+                // Reads only the header: duration and tracks. Nothing is decoded.
+                const double seconds = IOWatchdog::run(
+                    clipTimeout,
+                    [path](std::stop_token watch) -> double {
+                        if (!ReadOnlyFs::stat(path).exists)
+                            return 0.0;
+                        MediaSource source(path, [watch] { return watch.stop_requested(); }, false);
+                        if (source.duration() <= 0 || !source.hasVideo())
+                            return 0.0;
+                        return source.duration();
+                    },
+                    stop);
+                if (seconds > 0) {
+                    if (!composition.track(*trackIndex)
+                             .insertTimeRange(path, MediaTime::zero(), MediaTime::fromSeconds(seconds),
+                                              MediaTime::fromSeconds(offset)))
+                        continue;
+                    placed = seconds;
+                }
+            } catch (const CancellationError &) {
+                return outcomes;
+            } catch (...) {
+                continue; // this clip only
+            }
+            if (placed > 0) {
+                hasContent = true;
+                contentEnd = std::max(contentEnd, offset + placed);
+            }
+        }
+        if (hasContent)
+            outcomes.push_back(TileOutcome{camera, std::move(composition), std::nullopt, contentEnd});
+        else
+            outcomes.push_back(TileOutcome{camera, std::nullopt, damagedReason, 0});
+    }
+    return outcomes;
+}
+
+void SyncPlayerController::applyTileOutcomes(const std::vector<TileOutcome> &outcomes)
+{
+    std::vector<Tile> tiles;
+    for (const TileOutcome &o : outcomes) {
+        if (o.composition)
+            tiles.push_back(Tile{o.camera, std::make_shared<TrackPlayer>(*o.composition), std::nullopt});
+        else
+            tiles.push_back(Tile{o.camera, nullptr, o.placeholderReason});
+    }
+    tiles_ = std::move(tiles);
+    tilesForQml_.clear();
+    for (const Tile &t : tiles_) {
+        QVariantMap m;
+        m.insert(QStringLiteral("camera"), t.camera.rawValue());
+        m.insert(QStringLiteral("cameraName"), t.camera.displayName());
+        m.insert(QStringLiteral("player"), QVariant::fromValue<QObject *>(t.player.get()));
+        m.insert(QStringLiteral("placeholderReason"),
+                 t.placeholderReason ? QVariant(*t.placeholderReason) : QVariant());
+        tilesForQml_.append(m);
+    }
+    Q_EMIT tilesChanged();
+    setIsLoadingTiles(false);
+
+    double contentEnd = 0;
+    for (const TileOutcome &o : outcomes)
+        contentEnd = std::max(contentEnd, o.contentEnd);
+    if (contentEnd > 0) {
+        setDuration(contentEnd);
+        if (triggerOffset_ && *triggerOffset_ > duration_)
+            setTriggerOffset(duration_);
+    }
+
+    for (const Tile &t : tiles_) {
+        if (t.player) {
+            primaryPlayer_ = t.player.get();
+            break;
+        }
+    }
+    if (primaryPlayer_) {
+        QPointer<SyncPlayerController> self(this);
+        timeObserverToken_ = primaryPlayer_->addPeriodicTimeObserver(
+            MediaTime::fromTicks(observerIntervalTicks), [self](MediaTime time) {
+                QMetaObject::invokeMethod(
+                    self.data(),
+                    [self, time] {
+                        if (self && self->isPlaying_)
+                            self->setCurrentTime(time.seconds());
+                    },
+                    Qt::QueuedConnection);
+            });
+    }
+}
+
+std::vector<SyncPlayerController::Tile> SyncPlayerController::playableTiles() const
+{
+    std::vector<Tile> result;
+    for (const Tile &t : tiles_)
+        if (t.player)
+            result.push_back(t);
+    return result;
+}
+
+void SyncPlayerController::play()
+{
+    const auto playable = playableTiles();
+    if (playable.empty())
+        return;
+    const double startInstant = HostClock::now() + startLead;
+    const MediaTime position = MediaTime::fromSeconds(currentTime_);
+    for (const Tile &t : playable)
+        t.player->setRate(rate_, position, startInstant);
+    setIsPlaying(true);
+}
+
+void SyncPlayerController::pause()
+{
+    const MediaTime position = MediaTime::fromSeconds(currentTime_);
+    for (const Tile &t : playableTiles()) {
+        t.player->pause();
+        t.player->seek(position);
+    }
+    setIsPlaying(false);
+}
+
+void SyncPlayerController::togglePlayPause()
+{
+    if (isPlaying_)
+        pause();
+    else
+        play();
+}
+
+void SyncPlayerController::seek(double seconds)
+{
+    const double t = std::max(std::min(seconds, duration_), 0.0);
+    setCurrentTime(t);
+    const bool wasPlaying = isPlaying_;
+    const MediaTime position = MediaTime::fromSeconds(t);
+    for (const Tile &t : playableTiles()) {
+        t.player->pause();
+        t.player->seek(position);
+    }
+    setIsPlaying(false);
+    if (wasPlaying)
+        play();
+}
+
+void SyncPlayerController::setRate(float rate)
+{
+    if (rate_ != rate) {
+        rate_ = rate;
+        Q_EMIT rateChanged();
+    }
+    if (isPlaying_)
+        play();
+}
+
+void SyncPlayerController::jumpToMoment()
+{
+    const auto offset = triggerOffset_;
+    const double duration = duration_;
+    if (cueTask_)
+        cueTask_->request_stop();
+    const double target = cueTarget(offset, duration);
+    std::stop_source stop;
+    cueTask_ = stop;
+    cueAndPlay(QPointer<SyncPlayerController>(this), target, stop.get_token());
+}
+
+double SyncPlayerController::cueTarget(std::optional<double> triggerOffset, double duration)
+{
+    const double target = triggerOffset ? std::max(0.0, *triggerOffset - cueLead) : 0.0;
+    const double limit = std::max(0.0, duration - endMargin);
+    return std::min(target, limit);
+}
+
+QCoro::Task<void> SyncPlayerController::cueAndPlay(QPointer<SyncPlayerController> self, double t,
+                                                   std::stop_token stop)
+{
+    const auto deadline = std::chrono::steady_clock::now() + cueWaitLimit;
+    while (std::chrono::steady_clock::now() < deadline && !stop.stop_requested()) {
+        if (!self)
+            co_return;
+        const auto playable = self->playableTiles();
+        const bool allReady = !playable.empty() && std::all_of(playable.begin(), playable.end(), [](const Tile &tile) {
+            return tile.player->status() == TrackPlayer::ReadyToPlay;
+        });
+        if (allReady)
+            break;
+        co_await QCoro::sleepFor(cuePollInterval);
+    }
+    if (!self || stop.stop_requested())
+        co_return;
+    self->setCurrentTime(t);
+    auto remaining = std::make_shared<int>(0);
+    const MediaTime position = MediaTime::fromSeconds(t);
+    for (const Tile &tile : self->playableTiles()) {
+        ++*remaining;
+        tile.player->seek(position, [remaining](bool) { --*remaining; });
+    }
+    // A player whose worker is stuck on a dead drive never lands; don't wait forever.
+    const auto seekDeadline = std::chrono::steady_clock::now() + 5s;
+    while (*remaining > 0 && std::chrono::steady_clock::now() < seekDeadline) {
+        co_await QCoro::sleepFor(5ms);
+        if (!self || stop.stop_requested())
+            co_return;
+    }
+    if (!self || stop.stop_requested())
+        co_return;
+    self->play();
+}
+
+void SyncPlayerController::focusCamera(int index)
+{
+    if (index >= 0 && index < int(tiles_.size()))
+        setFocusedCamera(tiles_[size_t(index)].camera);
+}
+
+void SyncPlayerController::stepFrame(int direction)
+{
+    if (direction == 0 || playableTiles().empty())
+        return;
+    if (isPlaying_)
+        pause();
+    pendingFrameSteps_ += direction > 0 ? 1 : -1;
+    if (!frameStepRunning_)
+        runFrameSteps(QPointer<SyncPlayerController>(this));
+}
+
+QCoro::Task<void> SyncPlayerController::runFrameSteps(QPointer<SyncPlayerController> self)
+{
+    self->frameStepRunning_ = true;
+    while (self && self->pendingFrameSteps_ != 0) {
+        const int direction = self->pendingFrameSteps_ > 0 ? 1 : -1;
+        self->pendingFrameSteps_ -= direction;
+        QPointer<TrackPlayer> primary = self->primaryPlayer_;
+        // Wait for the primary camera to show the frame of the last seek.
+        const auto deadline = std::chrono::steady_clock::now() + 2s;
+        while (primary && primary->isSeeking() && std::chrono::steady_clock::now() < deadline)
+            co_await QCoro::sleepFor(2ms);
+        if (!self)
+            co_return;
+        if (!primary || self->isPlaying_)
+            break;
+        constexpr qint64 nominalFrameTicks = 17; // about one frame at 36 fps
+        const qint64 now = MediaTime::fromSeconds(self->currentTime_).ticks();
+        std::optional<qint64> target;
+        const auto shown = primary->presentedTime();
+        if (direction > 0) {
+            std::optional<double> next = primary->nextFrameTime();
+            while (primary && !next && std::chrono::steady_clock::now() < deadline) {
+                co_await QCoro::sleepFor(2ms);
+                next = primary ? primary->nextFrameTime() : std::nullopt;
+            }
+            if (!self)
+                co_return;
+            if (next) // the first whole tick at or after the next frame
+                target = qint64(std::ceil(*next * MediaTime::timescale - 1e-6));
+            else if (!shown)
+                target = now + nominalFrameTicks;
+        } else {
+            if (shown) // the last whole tick before the frame shown
+                target = qint64(std::ceil(*shown * MediaTime::timescale - 1e-6)) - 1;
+            else
+                target = now - nominalFrameTicks;
+        }
+        if (!target || *target < 0)
+            continue;
+        self->seek(MediaTime::fromTicks(*target).seconds());
+    }
+    if (self)
+        self->frameStepRunning_ = false;
+}
+
+QString SyncPlayerController::timeString(double seconds)
+{
+    double rounded = std::round(seconds);
+    if (!(rounded >= 0))
+        rounded = 0;
+    const qint64 whole = qint64(rounded);
+    return QString::asprintf("%d:%02d", int(whole / 60), int(whole % 60));
+}
+
+void SyncPlayerController::setIsPlaying(bool value)
+{
+    if (isPlaying_ == value)
+        return;
+    isPlaying_ = value;
+    Q_EMIT isPlayingChanged();
+}
+
+void SyncPlayerController::setCurrentTime(double value)
+{
+    if (currentTime_ == value)
+        return;
+    currentTime_ = value;
+    Q_EMIT currentTimeChanged();
+}
+
+void SyncPlayerController::setDuration(double value)
+{
+    if (duration_ == value)
+        return;
+    duration_ = value;
+    Q_EMIT durationChanged();
+}
+
+void SyncPlayerController::setTriggerOffset(std::optional<double> value)
+{
+    if (triggerOffset_ == value)
+        return;
+    triggerOffset_ = value;
+    Q_EMIT triggerOffsetChanged();
+}
+
+void SyncPlayerController::setIsLoadingTiles(bool value)
+{
+    if (isLoadingTiles_ == value)
+        return;
+    isLoadingTiles_ = value;
+    Q_EMIT isLoadingTilesChanged();
+}
+
+void SyncPlayerController::setFocusedCamera(std::optional<Camera> camera)
+{
+    if (focusedCamera_ == camera)
+        return;
+    focusedCamera_ = camera;
+    Q_EMIT focusedCameraChanged();
+}
+
+QString SyncPlayerController::focusedCameraRaw() const
+{
+    return focusedCamera_ ? focusedCamera_->rawValue() : QString();
+}
+
+void SyncPlayerController::setFocusedCameraRaw(const QString &raw)
+{
+    setFocusedCamera(raw.isEmpty() ? std::nullopt : Camera::fromRawValue(raw));
+}
+
+QVariant SyncPlayerController::triggerOffsetForQml() const
+{
+    return triggerOffset_ ? QVariant(*triggerOffset_) : QVariant();
+}
+
+QVariantList SyncPlayerController::allowedRatesForQml()
+{
+    QVariantList list;
+    for (float r : allowedRates)
+        list.append(double(r));
+    return list;
+}

@@ -1,0 +1,147 @@
+#pragma once
+
+#include "model/Camera.h"
+#include "model/TeslaEvent.h"
+#include "playback/Composition.h"
+#include "playback/TrackPlayer.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QVariant>
+#include <qcoro/qcorotask.h>
+
+#include <array>
+#include <chrono>
+#include <memory>
+#include <optional>
+#include <stop_token>
+#include <vector>
+
+
+// Lays every camera of one event on one shared time axis and plays them as
+// one: every player is started with the same media time and the same future
+// instant of the host clock, and every seek is exact. Lives on the main
+// thread; the same object is reloaded when the screen switches events.
+class SyncPlayerController : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(QVariantList tiles READ tilesForQml NOTIFY tilesChanged)
+    Q_PROPERTY(bool isLoadingTiles READ isLoadingTiles NOTIFY isLoadingTilesChanged)
+    Q_PROPERTY(bool isPlaying READ isPlaying NOTIFY isPlayingChanged)
+    Q_PROPERTY(float rate READ rate WRITE setRate NOTIFY rateChanged)
+    Q_PROPERTY(double currentTime READ currentTime NOTIFY currentTimeChanged)
+    Q_PROPERTY(double duration READ duration NOTIFY durationChanged)
+    Q_PROPERTY(QString focusedCamera READ focusedCameraRaw WRITE setFocusedCameraRaw NOTIFY focusedCameraChanged)
+    Q_PROPERTY(QVariant triggerOffset READ triggerOffsetForQml NOTIFY triggerOffsetChanged)
+    Q_PROPERTY(QVariantList allowedRates READ allowedRatesForQml CONSTANT)
+
+public:
+    struct Tile {
+        Camera camera;
+        std::shared_ptr<TrackPlayer> player;      // absent when the camera can't be shown
+        std::optional<QString> placeholderReason; // set exactly when player is absent
+        Camera id() const { return camera; }
+    };
+
+    static constexpr std::array<float, 5> allowedRates{0.5f, 1.0f, 1.5f, 2.0f, 4.0f};
+    static constexpr double startLead = 0.15;
+    static constexpr double stepSeconds = 5.0;
+    static constexpr double cueLead = 10.0;
+    static constexpr double endMargin = 1.0;
+    static constexpr std::chrono::milliseconds cueWaitLimit{3000};
+    static constexpr std::chrono::milliseconds cuePollInterval{50};
+    static constexpr std::chrono::milliseconds clipTimeout{8000};
+    static constexpr qint64 observerIntervalTicks = 150; // 0.25 s at timescale 600
+
+    static inline const QString damagedReason =
+        QStringLiteral("This angle didn't record properly — a known Tesla drive issue.");
+    static inline const QString noFootageReason = QStringLiteral("No footage this minute.");
+
+    explicit SyncPlayerController(const TeslaEvent &event, QObject *parent = nullptr);
+    ~SyncPlayerController() override;
+
+    void loadEvent(const TeslaEvent &event);
+
+    const std::vector<Tile> &tiles() const { return tiles_; }
+    bool isLoadingTiles() const { return isLoadingTiles_; }
+    bool isPlaying() const { return isPlaying_; }
+    float rate() const { return rate_; }
+    void setRate(float rate);
+    double currentTime() const { return currentTime_; }
+    double duration() const { return duration_; }
+    std::optional<Camera> focusedCamera() const { return focusedCamera_; }
+    void setFocusedCamera(std::optional<Camera> camera);
+    std::optional<double> triggerOffset() const { return triggerOffset_; }
+
+    Q_INVOKABLE void play();
+    Q_INVOKABLE void pause();
+    Q_INVOKABLE void togglePlayPause();
+    Q_INVOKABLE void seek(double seconds);
+    Q_INVOKABLE void stepBack() { seek(currentTime_ - stepSeconds); }
+    Q_INVOKABLE void stepForward() { seek(currentTime_ + stepSeconds); }
+    Q_INVOKABLE void jumpToMoment();
+    Q_INVOKABLE void focusCamera(int index);
+    Q_INVOKABLE void clearFocus() { setFocusedCamera(std::nullopt); }
+    // Moves every camera by one frame of the primary camera (+1 or -1),
+    // pausing first if needed.
+    Q_INVOKABLE void stepFrame(int direction);
+    Q_INVOKABLE static QString timeString(double seconds);
+
+Q_SIGNALS:
+    void tilesChanged();
+    void isLoadingTilesChanged();
+    void isPlayingChanged();
+    void rateChanged();
+    void currentTimeChanged();
+    void durationChanged();
+    void focusedCameraChanged();
+    void triggerOffsetChanged();
+
+private:
+    friend class TestSyncPlayerController;
+
+    struct TileOutcome {
+        Camera camera;
+        std::optional<Composition> composition;
+        std::optional<QString> placeholderReason;
+        double contentEnd = 0;
+    };
+
+    static std::vector<TileOutcome> buildTileData(const TeslaEvent &event, std::stop_token stop);
+    void applyTileOutcomes(const std::vector<TileOutcome> &outcomes);
+    std::vector<Tile> playableTiles() const;
+    // Ten seconds before the moment, never nearer than a second to the end.
+    static double cueTarget(std::optional<double> triggerOffset, double duration);
+
+    static QCoro::Task<void> runBuild(QPointer<SyncPlayerController> self, TeslaEvent event, std::stop_token stop);
+    static QCoro::Task<void> cueAndPlay(QPointer<SyncPlayerController> self, double t, std::stop_token stop);
+    static QCoro::Task<void> runFrameSteps(QPointer<SyncPlayerController> self);
+
+    void removeTimeObserver();
+    void setIsPlaying(bool value);
+    void setCurrentTime(double value);
+    void setDuration(double value);
+    void setTriggerOffset(std::optional<double> value);
+    void setIsLoadingTiles(bool value);
+    QVariantList tilesForQml() const { return tilesForQml_; }
+    QString focusedCameraRaw() const;
+    void setFocusedCameraRaw(const QString &raw);
+    QVariant triggerOffsetForQml() const;
+    static QVariantList allowedRatesForQml();
+
+    std::vector<Tile> tiles_;
+    QVariantList tilesForQml_;
+    bool isLoadingTiles_ = true;
+    bool isPlaying_ = false;
+    float rate_ = 1.0f;
+    double currentTime_ = 0;
+    double duration_ = 1.0;
+    std::optional<Camera> focusedCamera_;
+    std::optional<double> triggerOffset_;
+
+    std::optional<int> timeObserverToken_;
+    QPointer<TrackPlayer> primaryPlayer_;
+    std::optional<std::stop_source> buildTask_;
+    std::optional<std::stop_source> cueTask_;
+    int pendingFrameSteps_ = 0;
+    bool frameStepRunning_ = false;
+};

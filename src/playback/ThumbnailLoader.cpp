@@ -1,0 +1,96 @@
+#include "playback/ThumbnailLoader.h"
+
+#include "drive/ReadOnlyFs.h"
+
+#include <QCache>
+#include <QFile>
+#include <QImageReader>
+#include <QThreadPool>
+#include <QtConcurrent/QtConcurrentRun>
+
+#include <algorithm>
+#include <cmath>
+#include <mutex>
+#include <unistd.h>
+
+namespace ThumbnailLoader {
+
+namespace {
+struct Cache {
+    std::mutex mutex;
+    QCache<QString, QImage> images{cacheLimit};
+};
+
+Cache &cache()
+{
+    static Cache c;
+    return c;
+}
+} // namespace
+
+std::optional<QImage> cached(const QString &path)
+{
+    auto &c = cache();
+    std::lock_guard lock(c.mutex);
+    if (const QImage *image = c.images.object(path))
+        return *image;
+    return std::nullopt;
+}
+
+std::optional<QImage> loadNow(const QString &path)
+{
+    if (auto hit = cached(path))
+        return hit;
+    const int fd = ReadOnlyFs::openRead(path);
+    if (fd < 0)
+        return std::nullopt;
+    QFile file;
+    if (!file.open(fd, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
+        ::close(fd);
+        return std::nullopt;
+    }
+    QImageReader reader(&file);
+    reader.setAutoTransform(true);
+    QImage image = reader.read();
+    if (image.isNull())
+        return std::nullopt;
+    const int longer = std::max(image.width(), image.height());
+    if (longer > maxPixelSize) {
+        const double scale = double(maxPixelSize) / longer;
+        const QSize size(std::max(1, int(std::lround(image.width() * scale))),
+                         std::max(1, int(std::lround(image.height() * scale))));
+        image = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    }
+    auto &c = cache();
+    std::lock_guard lock(c.mutex);
+    c.images.insert(path, new QImage(image));
+    return image;
+}
+
+QFuture<std::optional<QImage>> load(const QString &path)
+{
+    if (auto hit = cached(path)) {
+        QPromise<std::optional<QImage>> promise;
+        promise.start();
+        promise.addResult(*hit);
+        promise.finish();
+        return promise.future();
+    }
+    return QtConcurrent::run(QThreadPool::globalInstance(), [path] { return loadNow(path); });
+}
+
+int cachedCount()
+{
+    auto &c = cache();
+    std::lock_guard lock(c.mutex);
+    return int(c.images.count());
+}
+
+void clearCache()
+{
+    auto &c = cache();
+    std::lock_guard lock(c.mutex);
+    c.images.clear();
+}
+
+} // namespace ThumbnailLoader

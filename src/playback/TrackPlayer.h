@@ -1,0 +1,118 @@
+#pragma once
+
+#include "playback/Composition.h"
+#include "playback/MediaTime.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QTimer>
+#include <QVideoFrame>
+#include <QVideoSink>
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+
+// Plays the first video track of one composition. Demuxing and decoding run
+// on a worker thread that keeps a small queue of frames ahead; the GUI
+// thread hands each frame to the video sink when the shared host clock
+// reaches it. Time while playing is anchor + rate × (host now − anchor
+// instant), so players given the same anchor show the same media time.
+// Empty stretches of the track show no picture.
+class TrackPlayer : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(QVideoSink *videoSink READ videoSink WRITE setVideoSink NOTIFY videoSinkChanged)
+    Q_PROPERTY(Status status READ status NOTIFY statusChanged)
+    Q_PROPERTY(bool hasPicture READ hasPicture NOTIFY framePresented)
+
+public:
+    enum Status { Unknown, ReadyToPlay, Failed };
+    Q_ENUM(Status)
+
+    explicit TrackPlayer(const Composition &composition, QObject *parent = nullptr);
+    ~TrackPlayer() override;
+
+    // Decoder threads per player; 0 (the default) gives the large HW4 front
+    // camera two and every other camera one.
+    static void setDecoderThreads(int threads);
+    // Skipping ahead to a keyframe when decoding falls behind the clock; off
+    // only to measure raw decoding speed.
+    static void setCatchUpEnabled(bool enabled);
+
+    Status status() const { return status_; }
+    MediaTime trackDuration() const { return MediaTime::fromSeconds(trackEnd_); }
+
+    // Plays from time at rate, beginning at hostTime of HostClock. A time
+    // other than the present position seeks there first.
+    void setRate(float rate, MediaTime time, double hostTime);
+    float rate() const { return playing_ ? rate_ : 0.0f; }
+    void pause();
+    // Exact: the frame shown is the newest one not after time. completion
+    // gets true once that frame is shown, false when a later seek replaced
+    // this one or the player is not ready.
+    void seek(MediaTime time, std::function<void(bool)> completion = {});
+    MediaTime currentTime() const { return MediaTime::fromSeconds(currentSeconds()); }
+    double currentSeconds() const;
+
+    QVideoSink *videoSink() const { return sink_; }
+    void setVideoSink(QVideoSink *sink);
+
+    // What is on screen: the frame's time on the track, none for no picture.
+    std::optional<double> presentedTime() const { return presentedTime_; }
+    bool hasPicture() const { return presentedTime_.has_value(); }
+    QVideoFrame currentFrame() const { return currentFrame_; }
+    quint64 presentedFrameCount() const { return presentedCount_; }
+    // Frames decoded so far, shown or not (for measurements).
+    quint64 decodedFrameCount() const;
+    // True until the frame of the latest seek is on screen.
+    bool isSeeking() const { return presentedGeneration_ != generation_; }
+    // Time of the next decoded frame after the one shown, if already queued.
+    std::optional<double> nextFrameTime() const;
+
+    // Calls back on the GUI thread every interval while playing.
+    int addPeriodicTimeObserver(MediaTime interval, std::function<void(MediaTime)> callback);
+    void removeTimeObserver(int token);
+
+Q_SIGNALS:
+    void statusChanged();
+    void framePresented();
+    void videoSinkChanged();
+
+private:
+    struct Shared;
+    class Worker;
+    struct Pending {
+        quint64 generation = 0;
+        std::function<void(bool)> completion;
+    };
+
+    void present();
+    void requestSeek(double seconds);
+    void syncClock();
+    void updateTimers();
+    void markReady();
+
+    std::shared_ptr<Shared> shared_;
+    double trackEnd_ = 0;
+    Status status_ = Unknown;
+    bool playing_ = false;
+    float rate_ = 1.0f;
+    double anchorMedia_ = 0;
+    double anchorHost_ = 0;
+    double pausedAt_ = 0;
+    quint64 generation_ = 0;
+    quint64 presentedGeneration_ = 0;
+    std::vector<Pending> pending_;
+    QTimer presentTimer_;
+    QPointer<QVideoSink> sink_;
+    QVideoFrame currentFrame_;
+    std::optional<double> presentedTime_;
+    quint64 presentedCount_ = 0;
+    struct Observer {
+        std::function<void(MediaTime)> callback;
+        QTimer *timer = nullptr;
+    };
+    std::map<int, Observer> observers_;
+    int nextObserverToken_ = 1;
+};

@@ -1,0 +1,513 @@
+#include "PlaybackClips.h"
+
+#include "playback/SyncPlayerController.h"
+#include "support/TreeSnapshot.h"
+
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QVideoSink>
+#include <QtConcurrent/QtConcurrentRun>
+#include <QtTest>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace PlaybackClips;
+
+namespace {
+const Date origin(800000000.0);
+const std::vector<Camera> fourCameras{Camera::front, Camera::back, Camera::leftRepeater, Camera::rightRepeater};
+
+// A Sentry event whose cameras each have clips 0..2 at 0, 3 and 6 s, unless
+// a clip is left out or given another health.
+struct EventBuilder {
+    QString dir;
+    TeslaEvent event;
+
+    EventBuilder(const QString &folder, double momentOffset = 5.0) : dir(folder)
+    {
+        event.kind = EventKind::sentry;
+        event.folderName = QStringLiteral("2026-07-21_02-11-05");
+        event.folderURL = dir;
+        event.timestamp = origin.addingTimeInterval(momentOffset);
+        event.missingEventJSON = false;
+    }
+    ClipRef &add(Camera camera, int clip, ClipHealth health = ClipHealth::ok)
+    {
+        const QString name = QString("%1-%2.mp4").arg(clip).arg(camera.rawValue());
+        const QString path = place(frameClip(int(camera.value()), clip), dir, name);
+        event.clips.push_back(clipRef(path, camera, origin.addingTimeInterval(clipSeconds * clip), health));
+        return event.clips.back();
+    }
+    EventBuilder &full(const std::vector<Camera> &cameras)
+    {
+        for (Camera c : cameras)
+            for (int k = 0; k < 3; ++k)
+                add(c, k);
+        ClipOrder::sort(event.clips);
+        return *this;
+    }
+};
+
+void releaseFifo(const QString &path)
+{
+    const int w = ::open(QFile::encodeName(path).constData(), O_WRONLY | O_NONBLOCK);
+    if (w >= 0)
+        ::close(w);
+}
+
+// Keeps releasing a FIFO for a while, so that every waiting reader gets EOF.
+void drainFifo(const QString &path, int ms)
+{
+    QElapsedTimer t;
+    t.start();
+    while (t.elapsed() < ms) {
+        releaseFifo(path);
+        QTest::qWait(20);
+    }
+}
+} // namespace
+
+class TestSyncPlayerController : public QObject {
+    Q_OBJECT
+
+    using Tile = SyncPlayerController::Tile;
+    using Outcome = SyncPlayerController::TileOutcome;
+
+    QTemporaryDir tmp;
+    std::vector<std::unique_ptr<QVideoSink>> sinks;
+
+    void attachSinks(SyncPlayerController &c)
+    {
+        sinks.clear();
+        for (const Tile &t : c.tiles()) {
+            sinks.push_back(std::make_unique<QVideoSink>());
+            if (t.player)
+                t.player->setVideoSink(sinks.back().get());
+        }
+    }
+
+    static bool waitSettled(SyncPlayerController &c, int ms = 5000)
+    {
+        QElapsedTimer t;
+        t.start();
+        while (t.elapsed() < ms) {
+            const auto playable = c.playableTiles();
+            if (std::none_of(playable.begin(), playable.end(), [](const Tile &x) { return x.player->isSeeking(); }))
+                return true;
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+        }
+        return false;
+    }
+
+    static std::vector<double> starts3() { return {0, 3, 6}; }
+
+    // Every camera shows the frame for t (or no picture in its gaps).
+    void verifyAllAt(SyncPlayerController &c, double t,
+                     const std::map<int, std::pair<std::vector<double>, std::vector<int>>> &layout)
+    {
+        for (size_t i = 0; i < c.tiles().size(); ++i) {
+            const Tile &tile = c.tiles()[i];
+            if (!tile.player)
+                continue;
+            const int cam = int(tile.camera.value());
+            const auto &[starts, ids] = layout.at(cam);
+            const auto expected = expectedAt(t, cam, starts, ids);
+            const auto shown = identify(sinks[i]->videoFrame());
+            QVERIFY2(shown == expected,
+                     qPrintable(QString("camera %1 at %2: shown %3/%4, expected %5/%6")
+                                    .arg(tile.camera.rawValue())
+                                    .arg(t)
+                                    .arg(shown ? shown->clip : -1)
+                                    .arg(shown ? shown->index : -1)
+                                    .arg(expected ? expected->clip : -1)
+                                    .arg(expected ? expected->index : -1)));
+        }
+    }
+
+    std::map<int, std::pair<std::vector<double>, std::vector<int>>> fullLayout(const std::vector<Camera> &cams)
+    {
+        std::map<int, std::pair<std::vector<double>, std::vector<int>>> m;
+        for (Camera c : cams)
+            m[int(c.value())] = {starts3(), {0, 1, 2}};
+        return m;
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        if (!TestClips::ffmpegAvailable())
+            QSKIP("ffmpeg is needed to make test clips");
+    }
+
+    void timeStringAndCueTargets()
+    {
+        QCOMPARE(SyncPlayerController::timeString(59.5), QString("1:00"));
+        QCOMPARE(SyncPlayerController::timeString(-1), QString("0:00"));
+        QCOMPARE(SyncPlayerController::timeString(0.49), QString("0:00"));
+        QCOMPARE(SyncPlayerController::timeString(75 * 60), QString("75:00"));
+        QCOMPARE(SyncPlayerController::timeString(61.2), QString("1:01"));
+
+        QCOMPARE(SyncPlayerController::cueTarget(4.0, 200), 0.0);
+        QCOMPARE(SyncPlayerController::cueTarget(100.0, 200), 90.0);
+        QCOMPARE(SyncPlayerController::cueTarget(std::nullopt, 200), 0.0);
+        QCOMPARE(SyncPlayerController::cueTarget(100.0, 0.5), 0.0);
+        QCOMPARE(SyncPlayerController::cueTarget(100.0, 105), 90.0);
+        QCOMPARE(SyncPlayerController::cueTarget(100.0, 100), 90.0);
+        QCOMPARE(SyncPlayerController::cueTarget(100.0, 90.5), 89.5);
+    }
+
+    void momentOfTheEvent()
+    {
+        EventBuilder b(tmp.path() + "/moment");
+        b.add(Camera::front, 0);
+        b.add(Camera::front, 1);
+        SyncPlayerController c(b.event); // estimate: 3 + 60 s
+        QCOMPARE(c.triggerOffset(), std::optional<double>(5.0));
+        QCOMPARE(c.duration(), 63.0);
+
+        TeslaEvent e = b.event;
+        e.timestamp = origin.addingTimeInterval(-1); // before the first clip
+        c.loadEvent(e);
+        QCOMPARE(c.triggerOffset(), std::nullopt);
+        e.timestamp = origin.addingTimeInterval(64); // past the estimate
+        c.loadEvent(e);
+        QCOMPARE(c.triggerOffset(), std::nullopt);
+        e.timestamp = origin.addingTimeInterval(5);
+        e.missingEventJSON = true;
+        c.loadEvent(e);
+        QCOMPARE(c.triggerOffset(), std::nullopt);
+        e.missingEventJSON = false;
+        e.kind = EventKind::recent;
+        c.loadEvent(e);
+        QCOMPARE(c.triggerOffset(), std::nullopt);
+        QVERIFY(c.isLoadingTiles());
+        QTRY_VERIFY(!c.isLoadingTiles());
+        // The real media decides the length once the tiles stand.
+        QCOMPARE(c.duration(), 6.0);
+        QTRY_VERIFY(c.isPlaying()); // cued to 0 and started by itself
+    }
+
+    void eventWithoutClipsHasNothingToPlay()
+    {
+        TeslaEvent e;
+        e.kind = EventKind::saved;
+        SyncPlayerController c(e);
+        QCOMPARE(c.duration(), 1.0);
+        QTRY_VERIFY(!c.isLoadingTiles());
+        QVERIFY(c.tiles().empty());
+        c.play();
+        QVERIFY(!c.isPlaying());
+        c.seek(10);
+        QCOMPARE(c.currentTime(), 1.0);
+    }
+
+    void loadsSeeksAndPlaysInSync()
+    {
+        const QString dir = tmp.path() + "/sync";
+        EventBuilder b(dir);
+        b.full(fourCameras);
+        const TreeSnapshot before = TreeSnapshot::take(dir);
+        {
+            SyncPlayerController c(b.event);
+            QTRY_VERIFY(!c.isLoadingTiles());
+            QCOMPARE(c.tiles().size(), size_t(4));
+            // Grid order: front, left repeater, right repeater, back.
+            QCOMPARE(c.tiles()[0].camera, Camera(Camera::front));
+            QCOMPARE(c.tiles()[1].camera, Camera(Camera::leftRepeater));
+            QCOMPARE(c.tiles()[2].camera, Camera(Camera::rightRepeater));
+            QCOMPARE(c.tiles()[3].camera, Camera(Camera::back));
+            QCOMPARE(c.duration(), 9.0);
+            QCOMPARE(c.tiles()[0].player.get(), c.primaryPlayer_.data());
+            QCOMPARE(c.tilesForQml().size(), 4);
+            attachSinks(c);
+            QTRY_VERIFY(c.isPlaying());
+            const auto layout = fullLayout(fourCameras);
+
+            // Exact seeks, paused.
+            c.pause();
+            for (double t : {0.0, 1.0, 2.99, 3.0, 4.51, 8.98, 6.0, 0.5}) {
+                c.seek(t);
+                QVERIFY(waitSettled(c));
+                verifyAllAt(c, MediaTime::fromSeconds(t).seconds(), layout);
+            }
+            c.seek(-3);
+            QCOMPARE(c.currentTime(), 0.0);
+            c.seek(c.duration() + 10);
+            QCOMPARE(c.currentTime(), 9.0);
+
+            // Play for a second: the cameras never drift apart.
+            c.seek(1.0);
+            QVERIFY(waitSettled(c));
+            c.play();
+            QVERIFY(c.isPlaying());
+            QElapsedTimer timer;
+            timer.start();
+            double worst = 0;
+            while (timer.elapsed() < 1000) {
+                QCoreApplication::processEvents(QEventLoop::AllEvents, 3);
+                double lo = 1e9, hi = -1e9;
+                for (const auto &s : sinks) {
+                    const auto id = identify(s->videoFrame());
+                    QVERIFY(id);
+                    const double time = starts3()[size_t(id->clip)] + id->index / double(fps);
+                    lo = std::min(lo, time);
+                    hi = std::max(hi, time);
+                }
+                worst = std::max(worst, hi - lo);
+            }
+            QVERIFY2(worst <= 1.0 / fps + 1e-6, qPrintable(QString("skew %1 frames").arg(worst * fps)));
+            QVERIFY(c.currentTime() > 1.4 && c.currentTime() < 2.3);
+            c.pause();
+            QVERIFY(waitSettled(c));
+            verifyAllAt(c, MediaTime::fromSeconds(c.currentTime()).seconds(), layout);
+
+            // Step frame by frame, across a clip boundary too.
+            c.seek(2.98);
+            QVERIFY(waitSettled(c));
+            const auto first = identify(sinks[0]->videoFrame());
+            QCOMPARE(first->index, 107);
+            c.stepFrame(+1);
+            QTRY_VERIFY(identify(sinks[0]->videoFrame())->clip == 1);
+            QVERIFY(waitSettled(c));
+            verifyAllAt(c, c.currentTime(), layout);
+            QCOMPARE(identify(sinks[3]->videoFrame()), (std::optional<FrameId>{FrameId{0, 1, int(Camera::back)}}));
+            c.stepFrame(+1);
+            c.stepFrame(+1);
+            QTRY_COMPARE(identify(sinks[0]->videoFrame())->index, 2);
+            c.stepFrame(-1);
+            QTRY_COMPARE(identify(sinks[0]->videoFrame())->index, 1);
+            QVERIFY(waitSettled(c));
+            verifyAllAt(c, c.currentTime(), layout);
+            QVERIFY(!c.isPlaying());
+
+            // Speed: while paused nothing starts; while playing it re-anchors.
+            QSignalSpy playing(&c, &SyncPlayerController::isPlayingChanged);
+            c.setRate(2.0f);
+            QVERIFY(!c.isPlaying());
+            QCOMPARE(playing.count(), 0);
+            c.seek(1.0);
+            c.play();
+            QTest::qWait(800);
+            const double t2 = c.tiles()[0].player->currentSeconds();
+            QVERIFY2(t2 > 2.1 && t2 < 3.0, qPrintable(QString::number(t2)));
+            c.setRate(0.5f);
+            QCOMPARE(c.tiles()[1].player->rate(), 0.5f);
+            c.pause();
+            c.setRate(1.0f);
+        }
+        QCOMPARE(before.differences(TreeSnapshot::take(dir)), QString());
+    }
+
+    void gapsLateStartsAndPlaceholders()
+    {
+        const QString dir = tmp.path() + "/gaps";
+        EventBuilder b(dir, 7.5);
+        // front: damaged last minute; back: lacks the middle minute;
+        // left repeater: starts a clip late; right repeater: all damaged;
+        // left pillar: encrypted only; right pillar: a file that isn't a movie.
+        b.add(Camera::front, 0);
+        b.add(Camera::front, 1);
+        b.add(Camera::front, 2, ClipHealth::truncated);
+        b.add(Camera::back, 0);
+        b.add(Camera::back, 2, ClipHealth::unknown);
+        b.add(Camera::leftRepeater, 1);
+        b.add(Camera::leftRepeater, 2, ClipHealth::unreadable);
+        b.add(Camera::rightRepeater, 0, ClipHealth::zeroByte);
+        b.add(Camera::leftPillar, 0, ClipHealth::encrypted);
+        ClipRef &junk = b.add(Camera::rightPillar, 0, ClipHealth::unknown);
+        QFile f(junk.url);
+        QVERIFY(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        f.write(QByteArray(4096, 'x'));
+        f.close();
+        // A clip removed since the scan is skipped.
+        ClipRef &gone = b.add(Camera::back, 1);
+        QFile::remove(gone.url);
+
+        SyncPlayerController c(b.event);
+        QCOMPARE(c.triggerOffset(), std::optional<double>(7.5));
+        QTRY_VERIFY(!c.isLoadingTiles());
+        QCOMPARE(c.tiles().size(), size_t(6));
+        std::map<QString, const Tile *> byCam;
+        for (const Tile &t : c.tiles())
+            byCam[t.camera.rawValue()] = &t;
+        QVERIFY(byCam["front"]->player);
+        QVERIFY(byCam["back"]->player);
+        QVERIFY(byCam["left_repeater"]->player);
+        QCOMPARE(byCam["right_repeater"]->placeholderReason, SyncPlayerController::damagedReason);
+        QCOMPARE(byCam["left_pillar"]->placeholderReason, SyncPlayerController::noFootageReason);
+        QCOMPARE(byCam["right_pillar"]->placeholderReason, SyncPlayerController::damagedReason);
+        // Back's last minute is still there; the front's damaged minute isn't.
+        QCOMPARE(c.duration(), 9.0);
+        QCOMPARE(c.triggerOffset(), std::optional<double>(7.5));
+
+        attachSinks(c);
+        QTRY_VERIFY(c.isPlaying());
+        c.pause();
+        std::map<int, std::pair<std::vector<double>, std::vector<int>>> layout{
+            {int(Camera::front), {{0, 3}, {0, 1}}},
+            {int(Camera::back), {{0, 6}, {0, 2}}},
+            {int(Camera::leftRepeater), {{3}, {1}}},
+        };
+        for (double t : {1.0, 4.0, 7.0, 0.0, 3.5}) {
+            c.seek(t);
+            QVERIFY(waitSettled(c));
+            verifyAllAt(c, t, layout);
+        }
+        // The focus may rest on a placeholder; an index out of range is ignored.
+        c.focusCamera(3);
+        QCOMPARE(c.focusedCamera(), std::optional<Camera>(c.tiles()[3].camera));
+        c.focusCamera(6);
+        c.focusCamera(-1);
+        QCOMPARE(c.focusedCamera(), std::optional<Camera>(c.tiles()[3].camera));
+        c.clearFocus();
+        QCOMPARE(c.focusedCamera(), std::nullopt);
+    }
+
+    void damagedLastMinuteShortensTheTimeline()
+    {
+        EventBuilder b(tmp.path() + "/short", 7.5);
+        for (Camera cam : {Camera::front, Camera::back}) {
+            b.add(cam, 0, ClipHealth::truncated); // front can't play: back is primary
+            if (cam == Camera::back) {
+                b.add(cam, 1);
+            }
+            b.add(cam, 2, ClipHealth::timedOut);
+        }
+        SyncPlayerController c(b.event);
+        QTRY_VERIFY(!c.isLoadingTiles());
+        QCOMPARE(c.duration(), 6.0);
+        QCOMPARE(c.triggerOffset(), std::optional<double>(6.0));
+        QVERIFY(!c.tiles()[0].player);
+        QCOMPARE(c.primaryPlayer_.data(), c.tiles()[1].player.get());
+    }
+
+    void positionFollowsThePrimaryCameraAlone()
+    {
+        EventBuilder b(tmp.path() + "/primary");
+        b.add(Camera::front, 0);
+        b.add(Camera::front, 1);
+        for (int k = 0; k < 3; ++k)
+            b.add(Camera::back, k);
+        SyncPlayerController c(b.event);
+        QTRY_VERIFY(!c.isLoadingTiles());
+        QTRY_VERIFY(c.isPlaying());
+        c.seek(5.5);
+        QVERIFY(c.isPlaying());
+        QTest::qWait(1300);
+        // The front's media ends at 6 s: the position stops there, the back plays on.
+        QCOMPARE(c.currentTime(), 6.0);
+        QVERIFY(c.tiles()[1].player->currentSeconds() > 6.5);
+        QVERIFY(c.isPlaying());
+        // The next command brings them together again.
+        c.pause();
+        QCOMPARE(c.tiles()[1].player->currentSeconds(), 6.0);
+    }
+
+    void switchingEventsMidLoadNeverShowsTheFirst()
+    {
+        const QString dir = tmp.path() + "/switch";
+        EventBuilder a(dir + "/a");
+        a.add(Camera::front, 0);
+        QDir().mkpath(dir + "/a");
+        const QString fifo = dir + "/a/1-back.mp4";
+        QCOMPARE(::mkfifo(QFile::encodeName(fifo).constData(), 0600), 0);
+        a.event.clips.push_back(clipRef(fifo, Camera::back, origin.addingTimeInterval(3), ClipHealth::ok));
+
+        EventBuilder b(dir + "/b", 2.0);
+        b.add(Camera::leftPillar, 0);
+
+        SyncPlayerController c(a.event);
+        std::vector<size_t> seen;
+        connect(&c, &SyncPlayerController::tilesChanged, &c, [&] { seen.push_back(c.tiles().size()); });
+        QTest::qWait(200); // the first load now hangs on the FIFO
+        c.loadEvent(b.event);
+        QCOMPARE(c.triggerOffset(), std::optional<double>(2.0));
+        QTRY_VERIFY(!c.isLoadingTiles());
+        QCOMPARE(c.tiles().size(), size_t(1));
+        QCOMPARE(c.tiles()[0].camera, Camera(Camera::leftPillar));
+        drainFifo(fifo, 500); // the cancelled load ends; its result is dropped
+        QTest::qWait(200);
+        QCOMPARE(c.tiles().size(), size_t(1));
+        QCOMPARE(c.tiles()[0].camera, Camera(Camera::leftPillar));
+        for (size_t n : seen)
+            QVERIFY(n <= 1);
+        QCOMPARE(c.triggerOffset(), std::optional<double>(2.0));
+    }
+
+    void hangingClipCostsThatClipOnly()
+    {
+        const QString dir = tmp.path() + "/hang";
+        EventBuilder b(dir);
+        b.add(Camera::back, 0);
+        b.add(Camera::back, 2);
+        const QString fifo = dir + "/1-back.mp4";
+        QCOMPARE(::mkfifo(QFile::encodeName(fifo).constData(), 0600), 0);
+        b.event.clips.push_back(clipRef(fifo, Camera::back, origin.addingTimeInterval(3), ClipHealth::unknown));
+        ClipOrder::sort(b.event.clips);
+
+        QElapsedTimer timer;
+        timer.start();
+        std::stop_source stop;
+        auto future = QtConcurrent::run([&] { return SyncPlayerController::buildTileData(b.event, stop.get_token()); });
+        // The watchdog gives up at 8 s and then waits for the read to end, as
+        // it must; a dead drive answers late, so release the reader then.
+        QTest::qWait(8300);
+        QVERIFY(!future.isFinished());
+        while (!future.isFinished()) {
+            releaseFifo(fifo);
+            QTest::qWait(20);
+        }
+        const auto outcomes = future.result();
+        QVERIFY2(timer.elapsed() < 11000, qPrintable(QString::number(timer.elapsed())));
+        QCOMPARE(outcomes.size(), size_t(1));
+        QVERIFY(outcomes[0].composition);
+        const auto &segments = outcomes[0].composition->track(0).segments;
+        QCOMPARE(segments.size(), size_t(2));
+        QCOMPARE(segments[0].timelineStart, MediaTime::zero());
+        QCOMPARE(segments[1].timelineStart, MediaTime::fromSeconds(6));
+        QCOMPARE(outcomes[0].contentEnd, 9.0);
+    }
+
+    void playerThatNeverGetsReadyDelaysTheFirstPlayByThreeSeconds()
+    {
+        const QString dir = tmp.path() + "/notready";
+        QDir().mkpath(dir);
+        const QString fifo = dir + "/0-back.mp4";
+        QCOMPARE(::mkfifo(QFile::encodeName(fifo).constData(), 0600), 0);
+        Composition good;
+        good.addMutableTrack();
+        good.track(0).insertTimeRange(place(frameClip(0, 0), dir, "0-front.mp4"), MediaTime::zero(),
+                                      MediaTime::fromSeconds(3), MediaTime::zero());
+        Composition stuck;
+        stuck.addMutableTrack();
+        stuck.track(0).insertTimeRange(fifo, MediaTime::zero(), MediaTime::fromSeconds(3), MediaTime::zero());
+        {
+            TeslaEvent empty;
+            SyncPlayerController c(empty);
+            QTRY_VERIFY(!c.isLoadingTiles());
+            c.applyTileOutcomes({Outcome{Camera::front, good, std::nullopt, 3.0},
+                                 Outcome{Camera::back, stuck, std::nullopt, 3.0}});
+            QElapsedTimer timer;
+            timer.start();
+            c.jumpToMoment();
+            QTRY_VERIFY_WITH_TIMEOUT(c.isPlaying(), 6000);
+            const qint64 waited = timer.elapsed();
+            QVERIFY2(waited >= 2900 && waited < 4000, qPrintable(QString::number(waited)));
+            QTRY_VERIFY(c.tiles()[0].player->currentSeconds() > 0.3); // the others play on
+
+            // Two quick cues give one start, of the second cue.
+            c.pause();
+            QSignalSpy playing(&c, &SyncPlayerController::isPlayingChanged);
+            c.jumpToMoment();
+            c.jumpToMoment();
+            QTest::qWait(4000);
+            QCOMPARE(playing.count(), 1);
+        }
+        drainFifo(fifo, 1500);
+    }
+};
+
+QTEST_MAIN(TestSyncPlayerController)
+#include "tst_syncplayercontroller.moc"

@@ -1,0 +1,103 @@
+#include "playback/ThumbTaskKey.h"
+#include "playback/ThumbnailLoader.h"
+
+#include <QFile>
+#include <QImageWriter>
+#include <QTemporaryDir>
+#include <QtTest>
+
+class TestThumbnailLoader : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir dir;
+
+    QString writeImage(const QString &name, QSize size, QImageIOHandler::Transformations transform = {})
+    {
+        QImage image(size, QImage::Format_RGB32);
+        image.fill(Qt::red);
+        // A marker in the top-left corner shows where the transform put it.
+        for (int y = 0; y < size.height() / 4; ++y)
+            for (int x = 0; x < size.width() / 4; ++x)
+                image.setPixel(x, y, qRgb(0, 0, 255));
+        const QString path = dir.filePath(name);
+        QImageWriter writer(path);
+        writer.setTransformation(transform);
+        writer.setQuality(95);
+        if (!writer.write(image))
+            qFatal("could not write %s", qPrintable(path));
+        return path;
+    }
+
+private Q_SLOTS:
+    void init() { ThumbnailLoader::clearCache(); }
+
+    void scalesToTwoHundredPixelsAndKeepsSmallOnes()
+    {
+        const auto big = ThumbnailLoader::load(writeImage("big.png", QSize(1448, 938))).result();
+        QVERIFY(big);
+        QCOMPARE(big->width(), 200);
+        QCOMPARE(big->height(), 130);
+        const auto small = ThumbnailLoader::loadNow(writeImage("small.png", QSize(120, 80)));
+        QVERIFY(small);
+        QCOMPARE(small->size(), QSize(120, 80));
+    }
+
+    void obeysTheImagesOwnOrientation()
+    {
+        if (!QImageWriter(dir.filePath("probe.jpg")).supportsOption(QImageIOHandler::ImageTransformation))
+            QSKIP("this Qt can't write an oriented JPEG");
+        const QString path = writeImage("turned.jpg", QSize(400, 200), QImageIOHandler::TransformationRotate90);
+        const auto image = ThumbnailLoader::loadNow(path);
+        QVERIFY(image);
+        QCOMPARE(image->size(), QSize(100, 200));
+        // Turned a quarter clockwise: the marker is now top right.
+        QVERIFY(qBlue(image->pixel(image->width() - 5, 5)) > 200);
+        QVERIFY(qRed(image->pixel(5, 5)) > 200);
+    }
+
+    void cachesSuccessesOnly()
+    {
+        const QString path = dir.filePath("thumb.png");
+        QFile f(path);
+        QVERIFY(f.open(QIODevice::WriteOnly));
+        f.write("not a picture");
+        f.close();
+        QVERIFY(!ThumbnailLoader::load(path).result());
+        QVERIFY(!ThumbnailLoader::cached(path));
+        QCOMPARE(ThumbnailLoader::cachedCount(), 0);
+        QVERIFY(!ThumbnailLoader::loadNow(dir.filePath("missing.png")));
+
+        // Asked again later (the access epoch changed), the repaired file loads.
+        QFile::remove(path);
+        writeImage("thumb.png", QSize(300, 300));
+        QVERIFY(ThumbnailLoader::load(path).result());
+        QVERIFY(ThumbnailLoader::cached(path));
+        // From the cache without touching the file at all.
+        QFile::remove(path);
+        const auto again = ThumbnailLoader::load(path);
+        QVERIFY(again.isFinished());
+        QCOMPARE(again.result()->size(), QSize(200, 200));
+    }
+
+    void cacheHoldsAtMostAThousand()
+    {
+        const QString path = writeImage("one.png", QSize(10, 10));
+        for (int i = 0; i < 1005; ++i) {
+            const QString link = dir.filePath(QString("l%1.png").arg(i));
+            QFile::link(path, link);
+            QVERIFY(ThumbnailLoader::loadNow(link));
+        }
+        QCOMPARE(ThumbnailLoader::cachedCount(), ThumbnailLoader::cacheLimit);
+    }
+
+    void taskKeyComparesFieldByField()
+    {
+        const ThumbTaskKey a{QString("/x/thumb.png"), 1};
+        QVERIFY(a == (ThumbTaskKey{QString("/x/thumb.png"), 1}));
+        QVERIFY(!(a == (ThumbTaskKey{QString("/x/thumb.png"), 2})));
+        QVERIFY(!(a == (ThumbTaskKey{std::nullopt, 1})));
+    }
+};
+
+QTEST_MAIN(TestThumbnailLoader)
+#include "tst_thumbnailloader.moc"

@@ -1,0 +1,234 @@
+#include "PlaybackClips.h"
+
+#include "playback/HostClock.h"
+#include "playback/TrackPlayer.h"
+
+#include <QTemporaryDir>
+#include <QVideoSink>
+#include <QtTest>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace PlaybackClips;
+
+namespace {
+MediaTime s(double seconds)
+{
+    return MediaTime::fromSeconds(seconds);
+}
+
+// Waits for one seek to land; true when it did.
+bool seekAndWait(TrackPlayer &player, double t)
+{
+    bool done = false;
+    bool finished = false;
+    player.seek(s(t), [&](bool f) {
+        done = true;
+        finished = f;
+    });
+    QElapsedTimer timer;
+    timer.start();
+    while (!done && timer.elapsed() < 5000)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+    return done && finished;
+}
+} // namespace
+
+class TestTrackPlayer : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir dir;
+    // clip 0 at 0 s, clip 1 at 3 s, nothing from 6 to 9 s, clip 2 at 9 s.
+    Composition threeClips;
+    std::vector<double> starts{0, 3, 9};
+    std::vector<int> clipIds{0, 1, 2};
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        if (!TestClips::ffmpegAvailable())
+            QSKIP("ffmpeg is needed to make test clips");
+        threeClips.addMutableTrack();
+        for (size_t k = 0; k < starts.size(); ++k) {
+            const QString path = place(frameClip(0, clipIds[k]), dir.path(), QString("c%1.mp4").arg(k));
+            QVERIFY(threeClips.track(0).insertTimeRange(path, MediaTime::zero(), s(clipSeconds), s(starts[k])));
+        }
+    }
+
+    void seekShowsTheFrameAtOrBeforeTheTarget()
+    {
+        TrackPlayer player(threeClips);
+        QVideoSink sink;
+        player.setVideoSink(&sink);
+        QTRY_COMPARE(player.status(), TrackPlayer::ReadyToPlay);
+        QCOMPARE(player.trackDuration(), s(12));
+
+        std::vector<double> targets{0,    1.0 / 36, 0.5,  2.99, 3.0,  3.0 + 1.0 / 600, 5.99, 6.0, 7.5,
+                                    8.99, 9.0,      10.0, 1.0,  11.99, 20.0, 2.0,      0.01};
+        srand(7);
+        for (int i = 0; i < 12; ++i)
+            targets.push_back(MediaTime::fromTicks(rand() % (12 * 600)).seconds());
+        for (double t : targets) {
+            t = s(t).seconds(); // what a seek really asks for
+            QVERIFY2(seekAndWait(player, t), qPrintable(QString::number(t)));
+            const auto expected = expectedAt(std::min(t, 11.999), 0, starts, clipIds);
+            const auto shown = identify(sink.videoFrame());
+            if (!expected) {
+                QVERIFY2(!shown && !player.hasPicture(), qPrintable(QString("picture in the gap at %1").arg(t)));
+                continue;
+            }
+            QVERIFY2(shown, qPrintable(QString("no picture at %1").arg(t)));
+            QVERIFY2(*shown == *expected, qPrintable(QString("at %1: frame %2 of clip %3, expected %4 of clip %5")
+                                                          .arg(t)
+                                                          .arg(shown->index)
+                                                          .arg(shown->clip)
+                                                          .arg(expected->index)
+                                                          .arg(expected->clip)));
+            QVERIFY(*player.presentedTime() <= t + 1e-6);
+            QCOMPARE(player.currentSeconds(), std::max(0.0, t));
+        }
+    }
+
+    void framesCarryColourSpaceAndRange()
+    {
+        for (const auto &[format, range] : {std::pair{QStringLiteral("yuvj420p"), QVideoFrameFormat::ColorRange_Full},
+                                           std::pair{QStringLiteral("yuv420p"), QVideoFrameFormat::ColorRange_Video}}) {
+            TestClips::Spec spec;
+            spec.seconds = 1;
+            spec.pixelFormat = format;
+            Composition c;
+            c.addMutableTrack();
+            c.track(0).insertTimeRange(TestClips::clip(spec), MediaTime::zero(), s(1), MediaTime::zero());
+            TrackPlayer player(c);
+            QTRY_VERIFY(player.hasPicture());
+            const auto f = player.currentFrame().surfaceFormat();
+            QCOMPARE(f.colorRange(), range);
+            QCOMPARE(f.pixelFormat(), QVideoFrameFormat::Format_YUV420P);
+            QVERIFY(f.colorSpace() != QVideoFrameFormat::ColorSpace_Undefined);
+        }
+    }
+
+    void playsHevcClips()
+    {
+        // Some older cars wrote H.265.
+        TestClips::Spec spec;
+        spec.seconds = 1;
+        spec.codec = QStringLiteral("libx265");
+        spec.pixelFormat = QStringLiteral("yuv420p");
+        Composition c;
+        c.addMutableTrack();
+        c.track(0).insertTimeRange(TestClips::clip(spec), MediaTime::zero(), s(1), MediaTime::zero());
+        TrackPlayer player(c);
+        QTRY_VERIFY(player.hasPicture());
+        QVERIFY(seekAndWait(player, 0.5));
+        QVERIFY(player.hasPicture());
+        QVERIFY(*player.presentedTime() <= 0.5 && *player.presentedTime() > 0.5 - 2.0 / fps);
+    }
+
+    void playsAcrossClipBoundariesAndGaps()
+    {
+        TrackPlayer player(threeClips);
+        QVideoSink sink;
+        player.setVideoSink(&sink);
+        QTRY_COMPARE(player.status(), TrackPlayer::ReadyToPlay);
+        QVERIFY(seekAndWait(player, 2.5));
+        player.setRate(1.0f, s(2.5), HostClock::now() + 0.05);
+        QElapsedTimer timer;
+        timer.start();
+        double lastTime = -1;
+        bool sawClip1 = false;
+        int late = 0;
+        int samples = 0;
+        while (timer.elapsed() < 1200) {
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+            const auto shown = identify(sink.videoFrame());
+            QVERIFY(shown);
+            const double time = starts[size_t(shown->clip)] + shown->index / double(fps);
+            QVERIFY2(time >= lastTime - 1e-9, "frames went backwards");
+            QVERIFY2(time <= player.currentSeconds() + 1e-6, "a frame was shown before its time");
+            ++samples;
+            if (player.currentSeconds() - time > 2.0 / fps)
+                ++late;
+            lastTime = time;
+            sawClip1 = sawClip1 || shown->clip == 1;
+        }
+        QVERIFY(sawClip1);
+        QVERIFY2(late <= samples / 10, qPrintable(QString("%1 of %2 samples late").arg(late).arg(samples)));
+
+        // Into the empty stretch: no picture, then the next clip.
+        QVERIFY(seekAndWait(player, 5.8));
+        player.setRate(2.0f, s(5.8), HostClock::now());
+        QTRY_VERIFY_WITH_TIMEOUT(player.currentSeconds() > 6.3, 2000);
+        QCoreApplication::processEvents();
+        QVERIFY(!player.hasPicture());
+        QVERIFY(!sink.videoFrame().isValid());
+        QTRY_VERIFY_WITH_TIMEOUT(player.hasPicture() && identify(sink.videoFrame())->clip == 2, 3000);
+        // Playing past the end stops on the last frame.
+        player.setRate(4.0f, s(11.5), HostClock::now());
+        QTRY_COMPARE_WITH_TIMEOUT(player.currentSeconds(), 12.0, 2000);
+        QTRY_COMPARE(identify(sink.videoFrame())->index, int(clipSeconds * fps) - 1);
+        player.pause();
+        QCOMPARE(player.rate(), 0.0f);
+    }
+
+    void cameraStartingLateShowsNothingFirst()
+    {
+        Composition c;
+        c.addMutableTrack();
+        c.track(0).insertTimeRange(place(frameClip(1, 0), dir.path(), "late.mp4"), MediaTime::zero(), s(3), s(2));
+        TrackPlayer player(c);
+        QVideoSink sink;
+        player.setVideoSink(&sink);
+        QTRY_COMPARE(player.status(), TrackPlayer::ReadyToPlay);
+        QVERIFY(seekAndWait(player, 1.0));
+        QVERIFY(!player.hasPicture());
+        QVERIFY(seekAndWait(player, 2.0));
+        QCOMPARE(identify(sink.videoFrame()), (std::optional<FrameId>{FrameId{0, 0, 1}}));
+    }
+
+    void missingFileShowsNoPictureAndNeverHangs()
+    {
+        Composition c;
+        c.addMutableTrack();
+        c.track(0).insertTimeRange(dir.path() + "/gone.mp4", MediaTime::zero(), s(3), MediaTime::zero());
+        TrackPlayer player(c);
+        QTRY_COMPARE(player.status(), TrackPlayer::ReadyToPlay);
+        QVERIFY(seekAndWait(player, 1.0));
+        QVERIFY(!player.hasPicture());
+    }
+
+    void playerOnAHangingFileIsNeverReady()
+    {
+        const QString fifo = dir.path() + "/hang.mp4";
+        QCOMPARE(::mkfifo(QFile::encodeName(fifo).constData(), 0600), 0);
+        {
+            Composition c;
+            c.addMutableTrack();
+            c.track(0).insertTimeRange(fifo, MediaTime::zero(), s(3), MediaTime::zero());
+            TrackPlayer player(c);
+            QTest::qWait(300);
+            QCOMPARE(player.status(), TrackPlayer::Unknown);
+            bool answered = false;
+            bool finished = true;
+            player.seek(s(1), [&](bool f) {
+                answered = true;
+                finished = f;
+            });
+            QVERIFY(answered); // a player that is not ready answers at once
+            QVERIFY(!finished);
+            // Release the reader, as a dead drive answers late.
+            QTRY_VERIFY([&] {
+                const int w = ::open(QFile::encodeName(fifo).constData(), O_WRONLY | O_NONBLOCK);
+                if (w >= 0)
+                    ::close(w);
+                return player.status() == TrackPlayer::ReadyToPlay;
+            }());
+            QVERIFY(!player.hasPicture());
+        }
+    }
+};
+
+QTEST_MAIN(TestTrackPlayer)
+#include "tst_trackplayer.moc"
