@@ -1,0 +1,128 @@
+#include "engine/DriveWatcher.h"
+
+#include "drive/ReadOnlyFs.h"
+#include "drive/VolumeInfo.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QSocketNotifier>
+#include <QThread>
+#include <algorithm>
+#include <fcntl.h>
+#include <unistd.h>
+
+DriveWatcher::DriveWatcher(QObject *parent) : QObject(parent)
+{
+    // Events are delivered on the main thread, whoever built the watcher.
+    if (!parent && QCoreApplication::instance() && thread() != QCoreApplication::instance()->thread())
+        moveToThread(QCoreApplication::instance()->thread());
+}
+
+DriveWatcher::~DriveWatcher() { stopWatching(); }
+
+std::shared_ptr<DriveEventStream> DriveWatcher::events()
+{
+    if (stream_)
+        return stream_;
+    stream_ = std::make_shared<DriveEventStream>();
+    if (stream_->thread() != thread())
+        stream_->moveToThread(thread());
+    connect(stream_.get(), &DriveEventStream::finishedStream, this, &DriveWatcher::stopWatching);
+    if (QThread::currentThread() == thread())
+        startWatching();
+    else
+        QMetaObject::invokeMethod(this, &DriveWatcher::startWatching, Qt::QueuedConnection);
+    return stream_;
+}
+
+void DriveWatcher::startWatching()
+{
+    if (notifier_ || !stream_ || stream_->isFinished())
+        return;
+    fd_ = ::open("/proc/self/mountinfo", O_RDONLY | O_CLOEXEC);
+    if (fd_ < 0)
+        return;
+    // Read the table before arming the notifier: a change in between is
+    // flagged on the first poll and so is not lost.
+    known_ = MountTable::removableMounts(MountTable::read());
+    // The kernel reports a change as an exceptional condition on this file.
+    notifier_ = new QSocketNotifier(fd_, QSocketNotifier::Exception, this);
+    connect(notifier_, &QSocketNotifier::activated, this, &DriveWatcher::tableChanged);
+}
+
+void DriveWatcher::stopWatching()
+{
+    if (notifier_) {
+        notifier_->setEnabled(false);
+        delete notifier_;
+        notifier_ = nullptr;
+    }
+    if (fd_ >= 0) {
+        ::close(fd_);
+        fd_ = -1;
+    }
+}
+
+void DriveWatcher::tableChanged()
+{
+    if (!stream_ || stream_->isFinished())
+        return;
+    std::vector<MountTable::Entry> now = MountTable::removableMounts(MountTable::read());
+    const std::vector<MountTable::Change> changes = MountTable::diff(known_, now);
+    known_ = std::move(now);
+    for (const MountTable::Change &change : changes) {
+        switch (change.kind) {
+        case MountTable::Change::unmounted:
+            stream_->send(DriveEvent::makeUnmounted(change.mountPoint));
+            break;
+        case MountTable::Change::mounted:
+            if (const auto candidate = volumeCandidate(change.mountPoint))
+                stream_->send(DriveEvent::makeMounted(*candidate));
+            break;
+        case MountTable::Change::renamed:
+            if (const auto candidate = volumeCandidate(change.mountPoint))
+                stream_->send(DriveEvent::makeRenamed(*candidate));
+            break;
+        }
+    }
+}
+
+std::optional<VolumeCandidate> DriveWatcher::volumeCandidate(const QString &mountPoint)
+{
+    if (!QDir::isAbsolutePath(mountPoint))
+        return std::nullopt;
+    VolumeCandidate candidate;
+    candidate.volumeURL = QDir::cleanPath(mountPoint);
+    // Only trust the figures when they describe this very mount point, not
+    // the volume below it (as after a racing unmount).
+    const std::optional<VolumeInfo::Info> info = VolumeInfo::query(candidate.volumeURL);
+    if (info && QDir::cleanPath(info->mountPoint) == candidate.volumeURL) {
+        candidate.name = info->name.value_or(QString());
+        candidate.capacityBytes = info->capacityBytes;
+        candidate.freeBytes = info->freeBytes;
+    }
+    if (candidate.name.isEmpty())
+        candidate.name = candidate.volumeURL.section(QLatin1Char('/'), -1, -1, QString::SectionSkipEmpty);
+    const ReadOnlyFs::PathInfo teslaCam = ReadOnlyFs::stat(candidate.volumeURL + QStringLiteral("/TeslaCam"));
+    candidate.hasTeslaCamFolder = teslaCam.exists && teslaCam.isDirectory;
+    return candidate;
+}
+
+void DriveWatcher::sortCandidates(std::vector<VolumeCandidate> &candidates)
+{
+    std::stable_sort(candidates.begin(), candidates.end(), [](const VolumeCandidate &a, const VolumeCandidate &b) {
+        if (a.hasTeslaCamFolder != b.hasTeslaCamFolder)
+            return a.hasTeslaCamFolder;
+        return a.name < b.name;
+    });
+}
+
+std::vector<VolumeCandidate> DriveWatcher::mountedTeslaCamVolumes()
+{
+    std::vector<VolumeCandidate> candidates;
+    for (const MountTable::Entry &entry : MountTable::removableMounts(MountTable::read()))
+        if (const auto candidate = volumeCandidate(entry.mountPoint))
+            candidates.push_back(*candidate);
+    sortCandidates(candidates);
+    return candidates;
+}
