@@ -28,48 +28,73 @@ std::shared_ptr<DriveEventStream> DriveWatcher::events()
     if (stream_->thread() != thread())
         stream_->moveToThread(thread());
     connect(stream_.get(), &DriveEventStream::finishedStream, this, &DriveWatcher::stopWatching);
-    if (QThread::currentThread() == thread())
-        startWatching();
-    else
-        QMetaObject::invokeMethod(this, &DriveWatcher::startWatching, Qt::QueuedConnection);
+    startWatching();
     return stream_;
 }
 
 void DriveWatcher::startWatching()
 {
-    if (notifier_ || !stream_ || stream_->isFinished())
-        return;
-    fd_ = ::open("/proc/self/mountinfo", O_RDONLY | O_CLOEXEC);
-    if (fd_ < 0)
-        return;
-    // Read the table before arming the notifier: a change in between is
-    // flagged on the first poll and so is not lost.
-    known_ = MountTable::removableMounts(MountTable::read());
-    // The kernel reports a change as an exceptional condition on this file.
-    notifier_ = new QSocketNotifier(fd_, QSocketNotifier::Exception, this);
-    connect(notifier_, &QSocketNotifier::activated, this, &DriveWatcher::tableChanged);
+    readerThread_ = new QThread;
+    readerThread_->setObjectName(QStringLiteral("DriveWatcher"));
+    readerThread_->start();
+    readerContext_ = new QObject;
+    readerContext_->moveToThread(readerThread_);
+    // The first table is read before events() returns: whatever changes
+    // after the call is reported.
+    QMetaObject::invokeMethod(
+        readerContext_,
+        [this] {
+            fd_ = ::open("/proc/self/mountinfo", O_RDONLY | O_CLOEXEC);
+            if (fd_ < 0)
+                return;
+            // Read the table before arming the notifier: a change in between
+            // is flagged on the first poll and so is not lost.
+            known_ = MountTable::removableMounts(MountTable::read());
+            // The kernel reports a change as an exceptional condition on this file.
+            notifier_ = new QSocketNotifier(fd_, QSocketNotifier::Exception, readerContext_);
+            connect(notifier_, &QSocketNotifier::activated, readerContext_, [this] { tableChanged(); });
+        },
+        Qt::BlockingQueuedConnection);
 }
 
 void DriveWatcher::stopWatching()
 {
-    if (notifier_) {
-        notifier_->setEnabled(false);
-        delete notifier_;
-        notifier_ = nullptr;
-    }
-    if (fd_ >= 0) {
-        ::close(fd_);
-        fd_ = -1;
-    }
+    if (!readerThread_)
+        return;
+    QMetaObject::invokeMethod(
+        readerContext_,
+        [this] {
+            delete notifier_;
+            notifier_ = nullptr;
+            if (fd_ >= 0)
+                ::close(fd_);
+            fd_ = -1;
+            delete readerContext_;
+            readerContext_ = nullptr;
+        },
+        Qt::BlockingQueuedConnection);
+    readerThread_->quit();
+    readerThread_->wait();
+    delete readerThread_;
+    readerThread_ = nullptr;
 }
 
 void DriveWatcher::tableChanged()
 {
+    std::vector<MountTable::Entry> now = MountTable::removableMounts(MountTable::read());
+    std::vector<MountTable::Change> changes = MountTable::diff(known_, now);
+    known_ = std::move(now);
+    if (changes.empty())
+        return;
+    // Queued calls to one receiver keep their order.
+    QMetaObject::invokeMethod(
+        this, [this, changes = std::move(changes)] { deliver(changes); }, Qt::QueuedConnection);
+}
+
+void DriveWatcher::deliver(const std::vector<MountTable::Change> &changes)
+{
     if (!stream_ || stream_->isFinished())
         return;
-    std::vector<MountTable::Entry> now = MountTable::removableMounts(MountTable::read());
-    const std::vector<MountTable::Change> changes = MountTable::diff(known_, now);
-    known_ = std::move(now);
     for (const MountTable::Change &change : changes) {
         switch (change.kind) {
         case MountTable::Change::unmounted:

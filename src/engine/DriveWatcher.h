@@ -11,13 +11,16 @@
 #include <vector>
 
 class QSocketNotifier;
+class QThread;
 
 // Turns changes of the mount table into one stream of drive events, and
 // lists the removable volumes mounted now. Decides nothing about a drive.
 //
-// The kernel flags /proc/self/mountinfo on every change of the table; the
-// watcher then reads the table again and reports the difference. Events are
-// built and sent on the main thread, in order.
+// The kernel flags /proc/self/mountinfo on every change of the table. A
+// thread of the watcher's own reads the table again at once and works out
+// the difference, so a drive that leaves and returns is seen even while the
+// main thread is busy. Candidates are built and events sent on the main
+// thread, in order.
 class DriveWatcher : public QObject {
     Q_OBJECT
 public:
@@ -39,9 +42,13 @@ public:
 private:
     void startWatching();
     void stopWatching();
-    void tableChanged();
+    void tableChanged();                                            // reader thread
+    void deliver(const std::vector<MountTable::Change> &changes); // main thread
 
     std::shared_ptr<DriveEventStream> stream_;
+    QThread *readerThread_ = nullptr;
+    QObject *readerContext_ = nullptr;
+    // Reader thread only.
     std::vector<MountTable::Entry> known_;
     QSocketNotifier *notifier_ = nullptr;
     int fd_ = -1;
