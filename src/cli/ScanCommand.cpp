@@ -45,7 +45,12 @@ int run(const QStringList &arguments)
         CliOutput::out(parser.isSet(pretty) ? JsonCoding::toPrettyJson(json) : JsonCoding::toCompactJson(json) + '\n');
         return 0;
     } catch (const TeslaCamParser::ParserError &e) {
-        CliOutput::err(e.message());
+        CliOutput::err(e.errorCase() == TeslaCamParser::ParserError::rootNotFound
+                           ? QStringLiteral("There is no folder at \u201c%1\u201d. Check that the drive is plugged in "
+                                            "and the path is right.")
+                                 .arg(root)
+                           : QStringLiteral("\u201c%1\u201d is a file, not a folder. Give the TeslaCam folder itself.")
+                                 .arg(root));
     } catch (const TeslaCamParser::ScanError &e) {
         CliOutput::err(e.message());
     }

@@ -3,6 +3,7 @@
 #include <QDateTime>
 #include <QHash>
 #include <QTimeZone>
+#include <climits>
 
 namespace ClipCalendar {
 
@@ -27,12 +28,35 @@ const QTimeZone &frozenZone()
     return zone;
 }
 
+// The zone's offset, remembered for the whole stretch between two
+// transitions: asking the zone database is slow, and a drive's clips mostly
+// fall in one or two such stretches.
 int offsetAt(long long unixSeconds)
 {
+    struct Span {
+        long long from = 1;
+        long long to = 0; // empty
+        int offset = 0;
+    };
+    thread_local Span span;
+    if (unixSeconds >= span.from && unixSeconds < span.to)
+        return span.offset;
     const QTimeZone &zone = frozenZone();
     if (!zone.isValid())
         return 0;
-    return zone.offsetFromUtc(QDateTime::fromSecsSinceEpoch(unixSeconds, Qt::UTC));
+    const QDateTime at = QDateTime::fromSecsSinceEpoch(unixSeconds, Qt::UTC);
+    const int offset = zone.offsetFromUtc(at);
+    span = Span{LLONG_MIN, LLONG_MAX, offset};
+    if (zone.hasTransitions()) {
+        // No transition on a side means the offset holds forever that way.
+        const auto previous = zone.previousTransition(at.addSecs(1));
+        const auto next = zone.nextTransition(at);
+        if (previous.atUtc.isValid())
+            span.from = previous.atUtc.toSecsSinceEpoch();
+        if (next.atUtc.isValid())
+            span.to = next.atUtc.toSecsSinceEpoch();
+    }
+    return offset;
 }
 
 // Wall-clock seconds (as if UTC) to real Unix seconds in the frozen zone.

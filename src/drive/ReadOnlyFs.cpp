@@ -3,6 +3,7 @@
 #include <QFile>
 #include <algorithm>
 #include <cerrno>
+#include <cstring>
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -24,6 +25,15 @@ int openWith(const QByteArray &path, int flags)
         } while (fd < 0 && errno == EINTR);
     }
     return fd;
+}
+// Car drives hold ASCII names; skip the UTF-8 decoder for those.
+QString decodeName(const char *name)
+{
+    const size_t length = std::strlen(name);
+    for (size_t i = 0; i < length; ++i)
+        if (static_cast<unsigned char>(name[i]) >= 0x80)
+            return QFile::decodeName(QByteArray(name, qsizetype(length)));
+    return QString::fromLatin1(name, qsizetype(length));
 }
 } // namespace
 
@@ -58,7 +68,7 @@ Listing list(const QString &folder, int fields)
         if (d->d_name[0] == '.')
             continue; // hidden, and "." / ".."
         Entry entry;
-        entry.name = QFile::decodeName(d->d_name);
+        entry.name = decodeName(d->d_name);
         const bool typeKnown = d->d_type != DT_UNKNOWN && d->d_type != DT_LNK;
         const bool needStat = (fields & fileSize) || ((fields & directoryFlag) && !typeKnown);
         if (needStat) {

@@ -2,13 +2,13 @@
 
 #include "drive/ClipCalendar.h"
 #include "drive/EventJSONPayload.h"
-#include "drive/NumberParsing.h"
 #include "drive/ReadOnlyFs.h"
 #include "drive/ReasonMapper.h"
 #include "drive/VolumeInfo.h"
 
 #include <QChar>
 #include <algorithm>
+#include <climits>
 #include <set>
 
 namespace TeslaCamParser {
@@ -24,7 +24,9 @@ const char *ParserError::what() const noexcept
 
 QString ScanError::message() const
 {
-    return QStringLiteral("Keelhold isn't allowed to read the folder \u201c%1\u201d.").arg(path_);
+    return QStringLiteral("Keelhold isn't allowed to read the folder \u201c%1\u201d. Check the folder's permissions "
+                          "and try again.")
+        .arg(path_);
 }
 
 namespace {
@@ -59,8 +61,14 @@ bool matchChar(QStringView s, qsizetype &pos, char16_t c)
     return true;
 }
 
+struct GroupViews {
+    QStringView date;
+    QStringView time;
+    QStringView suffix;
+};
+
 // (\d{4}-\d{2}-\d{2})_(\d{2}-\d{2}-\d{2}) from the start; pos ends after it.
-bool matchDateTime(QStringView s, qsizetype &pos, NameGroups &groups)
+bool matchDateTime(QStringView s, qsizetype &pos, GroupViews &groups)
 {
     pos = 0;
     if (!(matchDigits(s, pos, 4) && matchChar(s, pos, u'-') && matchDigits(s, pos, 2) && matchChar(s, pos, u'-')
@@ -73,9 +81,101 @@ bool matchDateTime(QStringView s, qsizetype &pos, NameGroups &groups)
     if (!(matchDigits(s, pos, 2) && matchChar(s, pos, u'-') && matchDigits(s, pos, 2) && matchChar(s, pos, u'-')
           && matchDigits(s, pos, 2)))
         return false;
-    groups.date = s.first(dateEnd).toString();
-    groups.time = s.mid(timeStart, pos - timeStart).toString();
+    groups.date = s.first(dateEnd);
+    groups.time = s.mid(timeStart, pos - timeStart);
     return true;
+}
+
+std::optional<GroupViews> matchClipViews(QStringView name)
+{
+    GroupViews groups;
+    qsizetype pos = 0;
+    if (!matchDateTime(name, pos, groups) || !matchChar(name, pos, u'-'))
+        return std::nullopt;
+    static constexpr QStringView extension = u".mp4";
+    if (!name.endsWith(extension))
+        return std::nullopt;
+    const qsizetype suffixEnd = name.size() - extension.size();
+    if (suffixEnd <= pos)
+        return std::nullopt;
+    for (qsizetype i = pos; i < suffixEnd; ++i) {
+        const char16_t c = name[i].unicode();
+        if (!((c >= u'a' && c <= u'z') || c == u'_'))
+            return std::nullopt;
+    }
+    groups.suffix = name.mid(pos, suffixEnd - pos);
+    return groups;
+}
+
+// Swift's Int(String) on one part: ASCII digits with an optional sign, no allocation.
+std::optional<long long> parseIntegerPart(QStringView part)
+{
+    qsizetype i = 0;
+    bool negative = false;
+    if (part.size() > 1 && (part[0] == u'+' || part[0] == u'-')) {
+        negative = part[0] == u'-';
+        i = 1;
+    }
+    if (i >= part.size())
+        return std::nullopt;
+    long long value = 0;
+    for (; i < part.size(); ++i) {
+        const char16_t c = part[i].unicode();
+        if (c < u'0' || c > u'9' || value > (LLONG_MAX - 9) / 10)
+            return std::nullopt;
+        value = value * 10 + (c - u'0');
+    }
+    return negative ? -value : value;
+}
+
+// Splits on "-", drops empty parts, keeps the integers; true when exactly three.
+bool threeNumbers(QStringView text, long long out[3])
+{
+    int count = 0;
+    qsizetype start = 0;
+    for (qsizetype i = 0; i <= text.size(); ++i) {
+        if (i < text.size() && text[i] != u'-')
+            continue;
+        if (i > start) {
+            if (const auto v = parseIntegerPart(text.mid(start, i - start))) {
+                if (count == 3)
+                    return false;
+                out[count++] = *v;
+            }
+        }
+        start = i + 1;
+    }
+    return count == 3;
+}
+
+std::optional<ClipRef> clipFromName(const QString &fileURL, QStringView name, std::vector<ScanIssue> &issues,
+                                    std::optional<qint64> knownSize)
+{
+    const auto groups = matchClipViews(name);
+    if (!groups)
+        return std::nullopt;
+    const auto camera = Camera::fromFileSuffix(groups->suffix);
+    if (!camera) {
+        issues.push_back(ScanIssue{ScanIssue::Kind::unknownCameraSuffix, fileURL});
+        return std::nullopt;
+    }
+    const auto start = parseTimestamp(groups->date, groups->time);
+    if (!start)
+        return std::nullopt;
+    qint64 size = 0;
+    if (knownSize) {
+        size = *knownSize;
+    } else {
+        const auto info = ReadOnlyFs::stat(fileURL);
+        size = info.exists ? info.size : 0;
+    }
+    ClipRef clip;
+    clip.url = fileURL;
+    clip.camera = *camera;
+    clip.startDate = *start;
+    clip.fileSize = size;
+    clip.health = ClipHealth::unknown;
+    return clip;
 }
 
 void report(const ScanProgressCallback &progress, const char16_t *phase, int folders, int events, int clips)
@@ -86,9 +186,13 @@ void report(const ScanProgressCallback &progress, const char16_t *phase, int fol
 
 QString childPath(const QString &folder, const QString &name)
 {
-    if (folder.endsWith(QLatin1Char('/')))
-        return folder + name;
-    return folder + QLatin1Char('/') + name;
+    QString path;
+    path.reserve(folder.size() + 1 + name.size());
+    path.append(folder);
+    if (!folder.endsWith(QLatin1Char('/')))
+        path.append(QLatin1Char('/'));
+    path.append(name);
+    return path;
 }
 
 QString lastComponent(const QString &path)
@@ -114,32 +218,19 @@ bool exists(const QString &path)
 
 std::optional<NameGroups> matchFolderName(QStringView name)
 {
-    NameGroups groups;
+    GroupViews groups;
     qsizetype pos = 0;
     if (!matchDateTime(name, pos, groups) || pos != name.size())
         return std::nullopt;
-    return groups;
+    return NameGroups{groups.date.toString(), groups.time.toString(), QString()};
 }
 
 std::optional<NameGroups> matchClipFilename(QStringView name)
 {
-    NameGroups groups;
-    qsizetype pos = 0;
-    if (!matchDateTime(name, pos, groups) || !matchChar(name, pos, u'-'))
+    const auto groups = matchClipViews(name);
+    if (!groups)
         return std::nullopt;
-    static constexpr QStringView extension = u".mp4";
-    if (!name.endsWith(extension))
-        return std::nullopt;
-    const qsizetype suffixEnd = name.size() - extension.size();
-    if (suffixEnd <= pos)
-        return std::nullopt;
-    for (qsizetype i = pos; i < suffixEnd; ++i) {
-        const char16_t c = name[i].unicode();
-        if (!((c >= u'a' && c <= u'z') || c == u'_'))
-            return std::nullopt;
-    }
-    groups.suffix = name.mid(pos, suffixEnd - pos).toString();
-    return groups;
+    return NameGroups{groups->date.toString(), groups->time.toString(), groups->suffix.toString()};
 }
 
 bool isIgnoredName(QStringView name)
@@ -149,18 +240,9 @@ bool isIgnoredName(QStringView name)
 
 std::optional<Date> parseTimestamp(QStringView dateGroup, QStringView timeGroup)
 {
-    auto numbers = [](QStringView text) {
-        std::vector<long long> values;
-        for (const QStringView part : text.split(u'-', Qt::SkipEmptyParts)) {
-            // Swift's Int(String): ASCII digits with an optional sign.
-            if (const auto v = NumberParsing::parseInteger(part))
-                values.push_back(*v);
-        }
-        return values;
-    };
-    const auto date = numbers(dateGroup);
-    const auto time = numbers(timeGroup);
-    if (date.size() != 3 || time.size() != 3)
+    long long date[3];
+    long long time[3];
+    if (!threeNumbers(dateGroup, date) || !threeNumbers(timeGroup, time))
         return std::nullopt;
     return ClipCalendar::dateFromComponents(date[0], date[1], date[2], time[0], time[1], time[2]);
 }
@@ -168,31 +250,8 @@ std::optional<Date> parseTimestamp(QStringView dateGroup, QStringView timeGroup)
 std::optional<ClipRef> parseClipFilename(const QString &fileURL, std::vector<ScanIssue> &issues,
                                          std::optional<qint64> knownSize)
 {
-    const auto groups = matchClipFilename(lastComponent(fileURL));
-    if (!groups)
-        return std::nullopt;
-    const auto camera = Camera::fromFileSuffix(groups->suffix);
-    if (!camera) {
-        issues.push_back(ScanIssue{ScanIssue::Kind::unknownCameraSuffix, fileURL});
-        return std::nullopt;
-    }
-    const auto start = parseTimestamp(groups->date, groups->time);
-    if (!start)
-        return std::nullopt;
-    qint64 size = 0;
-    if (knownSize) {
-        size = *knownSize;
-    } else {
-        const auto info = ReadOnlyFs::stat(fileURL);
-        size = info.exists ? info.size : 0;
-    }
-    ClipRef clip;
-    clip.url = fileURL;
-    clip.camera = *camera;
-    clip.startDate = *start;
-    clip.fileSize = size;
-    clip.health = ClipHealth::unknown;
-    return clip;
+    const qsizetype slash = fileURL.lastIndexOf(QLatin1Char('/'));
+    return clipFromName(fileURL, QStringView(fileURL).mid(slash + 1), issues, knownSize);
 }
 
 std::optional<TeslaEvent> parseEventFolder(const QString &folderURL, EventKind kind, Date folderTimestamp,
@@ -220,9 +279,9 @@ std::optional<TeslaEvent> parseEventFolder(const QString &folderURL, EventKind k
         } else if (entry.name == QLatin1String("thumb.png")) {
             thumbURL = path;
         } else {
-            if (auto clip = parseClipFilename(path, issues, entry.size.value_or(0))) {
+            if (auto clip = clipFromName(path, entry.name, issues, entry.size.value_or(0))) {
                 clips.push_back(std::move(*clip));
-            } else if (!matchClipFilename(entry.name) && !isIgnoredName(entry.name)) {
+            } else if (!matchClipViews(entry.name) && !isIgnoredName(entry.name)) {
                 issues.push_back(ScanIssue{ScanIssue::Kind::unknownFile, path});
             }
         }
@@ -259,9 +318,9 @@ std::optional<std::vector<ClipRef>> parseFlatClipsDirectory(const QString &folde
     clips.reserve(listing.entries.size());
     for (const auto &entry : listing.entries) {
         const QString path = childPath(folderURL, entry.name);
-        if (auto clip = parseClipFilename(path, issues, entry.size.value_or(0)))
+        if (auto clip = clipFromName(path, entry.name, issues, entry.size.value_or(0)))
             clips.push_back(std::move(*clip));
-        else if (!matchClipFilename(entry.name) && !isIgnoredName(entry.name))
+        else if (!matchClipViews(entry.name) && !isIgnoredName(entry.name))
             issues.push_back(ScanIssue{ScanIssue::Kind::unknownFile, path});
     }
     return clips;

@@ -1,0 +1,28 @@
+#include "drive/ReadableFormats.h"
+
+#include <QStringList>
+
+namespace ReadableFormats {
+
+bool isComputerDisk(const VolumeFormat &format)
+{
+    if (format.kind() == VolumeFormat::apfs)
+        return true;
+    if (format.kind() != VolumeFormat::other)
+        return false;
+    static const QStringList hostTypes{"ext2", "ext3", "ext4", "btrfs", "xfs", "f2fs", "zfs", "bcachefs", "tmpfs",
+                                       "overlay", "overlayfs"};
+    return hostTypes.contains(format.otherName().trimmed().toLower());
+}
+
+bool isReadable(const VolumeFormat &format)
+{
+    return format.kind() == VolumeFormat::exFAT || format.kind() == VolumeFormat::fat32 || isComputerDisk(format);
+}
+
+QString computerDiskName(const VolumeFormat &format)
+{
+    return format.kind() == VolumeFormat::apfs ? QStringLiteral("APFS") : format.otherName();
+}
+
+} // namespace ReadableFormats

@@ -1,0 +1,149 @@
+#include "drive/ClipCalendar.h"
+#include "drive/EventJSONPayload.h"
+#include "drive/ReasonMapper.h"
+
+#include <QtTest>
+
+class EventMetadataTest : public QObject {
+    Q_OBJECT
+
+private:
+    static EventJSONPayload decode(const char *json)
+    {
+        const auto p = EventJSONPayload::decode(QByteArray(json));
+        if (!p)
+            qFatal("expected %s to decode", json);
+        return *p;
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        // A zone with daylight saving makes local-time mistakes visible.
+        qputenv("TZ", "America/Chicago");
+        tzset();
+    }
+
+    void decodesTheCarsStringForm()
+    {
+        const auto p = decode(R"({"timestamp":"2023-06-03T15:54:27","city":"Taylor","est_lat":"30.6075",)"
+                              R"("est_lon":"-97.4812","reason":"user_interaction_honk","camera":"0","street":"Main"})");
+        QCOMPARE(p.timestampRaw, std::optional<QString>("2023-06-03T15:54:27"));
+        QCOMPARE(p.city, std::optional<QString>("Taylor"));
+        QCOMPARE(p.estLat, std::optional<double>(30.6075));
+        QCOMPARE(p.estLon, std::optional<double>(-97.4812));
+        QCOMPARE(p.reason, std::optional<QString>("user_interaction_honk"));
+        QCOMPARE(p.cameraRaw, std::optional<QString>("0"));
+    }
+
+    void flexibleDoubles()
+    {
+        QCOMPARE(decode(R"({"est_lat":"30.5"})").estLat, decode(R"({"est_lat":30.5})").estLat);
+        QCOMPARE(decode(R"({"est_lat":"-1e-3"})").estLat, std::optional<double>(-0.001));
+        for (const char *bad : {R"({"est_lat":"north"})", R"({"est_lat":" 30.5"})", R"({"est_lat":"30.5 "})",
+                                R"({"est_lat":"30,5"})", R"({"est_lat":""})", R"({"est_lat":null})",
+                                R"({"est_lat":true})", R"({"est_lat":[1]})", R"({"est_lat":"1,000"})"})
+            QVERIFY2(!decode(bad).estLat, bad);
+    }
+
+    void cameraAsIntegerOrString()
+    {
+        QCOMPARE(decode(R"({"camera":0})").cameraRaw, std::optional<QString>("0"));
+        QCOMPARE(decode(R"({"camera":"0"})").cameraRaw, std::optional<QString>("0"));
+        QCOMPARE(decode(R"({"camera":12})").cameraRaw, std::optional<QString>("12"));
+        QCOMPARE(decode(R"({"camera":"front"})").cameraRaw, std::optional<QString>("front"));
+        QVERIFY(!decode(R"({"camera":1.5})").cameraRaw);
+        QVERIFY(!decode(R"({"camera":false})").cameraRaw);
+    }
+
+    void wrongTypesCostOnlyTheirField()
+    {
+        const auto p = decode(R"({"timestamp":5,"city":["x"],"reason":{"a":1},"est_lon":"7.25"})");
+        QVERIFY(!p.timestampRaw);
+        QVERIFY(!p.city);
+        QVERIFY(!p.reason);
+        QCOMPARE(p.estLon, std::optional<double>(7.25));
+        QVERIFY(EventJSONPayload::decode("{}"));
+    }
+
+    void decodingFailsOnlyForNonObjects()
+    {
+        QVERIFY(!EventJSONPayload::decode("[1,2]"));
+        QVERIFY(!EventJSONPayload::decode("{not json"));
+        QVERIFY(!EventJSONPayload::decode(""));
+        QVERIFY(!EventJSONPayload::decode("\"text\""));
+    }
+
+    void timestampRules()
+    {
+        auto parsed = [](const char *t) {
+            EventJSONPayload p;
+            p.timestampRaw = QString::fromLatin1(t);
+            return p.parsedTimestamp();
+        };
+        // 2026-07-21T02:11:05Z, an absolute moment.
+        const double utc = 806292665.0;
+        QCOMPARE(parsed("2026-07-21T02:11:05Z"), std::optional<Date>(Date(utc)));
+        QCOMPARE(parsed("2026-07-21T04:11:05+02:00"), std::optional<Date>(Date(utc)));
+        // Local (America/Chicago is UTC-5 in July).
+        const Date local(utc + 5 * 3600);
+        QCOMPARE(parsed("2026-07-21T02:11:05"), std::optional<Date>(local));
+        QCOMPARE(parsed("2026-07-21T02-11-05"), std::optional<Date>(local));
+        QCOMPARE(parsed("2026-07-21_02-11-05"), std::optional<Date>(local));
+        QVERIFY(!parsed("yesterday"));
+        QVERIFY(!parsed("2026/07/21 02:11:05"));
+        QVERIFY(!parsed(""));
+        EventJSONPayload none;
+        QVERIFY(!none.parsedTimestamp());
+    }
+
+    void reasonMapping_data()
+    {
+        QTest::addColumn<QString>("raw");
+        QTest::addColumn<int>("category");
+        QTest::addColumn<bool>("hasAccel");
+        QTest::addColumn<double>("accel");
+        QTest::newRow("honk") << "user_interaction_honk" << int(ReasonCategory::honk) << false << 0.0;
+        QTest::newRow("dashcam icon") << "user_interaction_dashcam_icon_tapped" << int(ReasonCategory::manualSave) << false << 0.0;
+        QTest::newRow("dashcam anything") << "user_interaction_dashcamXYZ" << int(ReasonCategory::manualSave) << false << 0.0;
+        QTest::newRow("approach") << "sentry_aware_object_detection" << int(ReasonCategory::approach) << false << 0.0;
+        QTest::newRow("accel value") << "sentry_aware_accel_0.61" << int(ReasonCategory::impact) << true << 0.61;
+        QTest::newRow("accel bare") << "sentry_aware_accel" << int(ReasonCategory::impact) << false << 0.0;
+        QTest::newRow("accel letters") << "sentry_aware_accel_abc" << int(ReasonCategory::impact) << false << 0.0;
+        QTest::newRow("panic") << "sentry_panic_mode" << int(ReasonCategory::panic) << false << 0.0;
+        QTest::newRow("case matters") << "USER_INTERACTION_HONK" << int(ReasonCategory::unknown) << false << 0.0;
+        QTest::newRow("handle") << "sentry_locked_handle_pulled" << int(ReasonCategory::unknown) << false << 0.0;
+        QTest::newRow("aeb") << "vehicle_auto_emergency_braking" << int(ReasonCategory::unknown) << false << 0.0;
+        QTest::newRow("honk prefix only") << "user_interaction_honk2" << int(ReasonCategory::unknown) << false << 0.0;
+    }
+
+    void reasonMapping()
+    {
+        QFETCH(QString, raw);
+        QFETCH(int, category);
+        QFETCH(bool, hasAccel);
+        QFETCH(double, accel);
+        const PlainReason r = ReasonMapper::map(raw);
+        QCOMPARE(int(r.category.value()), category);
+        QCOMPARE(r.raw, std::optional<QString>(raw));
+        QCOMPARE(r.accelValue.has_value(), hasAccel);
+        if (hasAccel)
+            QCOMPARE(*r.accelValue, accel);
+    }
+
+    void emptyAndAbsentReasons()
+    {
+        const PlainReason empty = ReasonMapper::map(QString(""));
+        QCOMPARE(empty.category, ReasonCategory(ReasonCategory::unknown));
+        QCOMPARE(empty.raw, std::optional<QString>(QString("")));
+        const PlainReason absent = ReasonMapper::map(std::nullopt);
+        QCOMPARE(absent.category, ReasonCategory(ReasonCategory::unknown));
+        QVERIFY(!absent.raw);
+        const PlainReason recent = ReasonMapper::recentDrive();
+        QCOMPARE(recent.category, ReasonCategory(ReasonCategory::recentDrive));
+        QVERIFY(!recent.raw && !recent.accelValue);
+    }
+};
+
+QTEST_GUILESS_MAIN(EventMetadataTest)
+#include "tst_eventmetadata.moc"

@@ -1,0 +1,95 @@
+#include "drive/TeslaCamParser.h"
+#include "support/TeslaCamFixture.h"
+#include "support/TreeSnapshot.h"
+
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QtTest>
+#include <unistd.h>
+
+namespace {
+QString run(const QString &program, const QStringList &args, int *exitCode = nullptr)
+{
+    QProcess p;
+    p.start(program, args);
+    p.waitForFinished(60000);
+    if (exitCode)
+        *exitCode = p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1;
+    return QString::fromUtf8(p.readAllStandardOutput()).trimmed();
+}
+} // namespace
+
+// A real exFAT volume: a loop image formatted with mkfs.exfat and mounted
+// through exfat-fuse, which the kernel reports only as "fuseblk".
+class ExfatVolumeTest : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir tmp_;
+    QString loop_;
+    QString mountPoint_;
+    bool mounted_ = false;
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        if (::geteuid() != 0)
+            QSKIP("needs root to attach a loop device and mount it");
+        for (const char *tool : {"mkfs.exfat", "mount.exfat-fuse", "losetup", "umount"})
+            if (QStandardPaths::findExecutable(QString::fromLatin1(tool)).isEmpty())
+                QSKIP(qPrintable(QStringLiteral("needs %1 (packages exfatprogs, exfat-fuse, util-linux)").arg(tool)));
+        if (!QFile::exists("/dev/fuse"))
+            QSKIP("needs /dev/fuse");
+
+        const QString image = tmp_.path() + "/drive.img";
+        int code = 0;
+        run("truncate", {"-s", "96M", image}, &code);
+        QCOMPARE(code, 0);
+        run("mkfs.exfat", {"-L", "TESLA CAM", image}, &code);
+        QCOMPARE(code, 0);
+        loop_ = run("losetup", {"-f", "--show", image}, &code);
+        if (code != 0 || loop_.isEmpty())
+            QSKIP("no free loop device here");
+        mountPoint_ = tmp_.path() + "/mnt";
+        QDir().mkpath(mountPoint_);
+        run("mount.exfat-fuse", {loop_, mountPoint_}, &code);
+        if (code != 0)
+            QSKIP("exfat-fuse could not mount the image");
+        mounted_ = true;
+    }
+
+    void cleanupTestCase()
+    {
+        if (mounted_)
+            run("umount", {mountPoint_});
+        if (!loop_.isEmpty())
+            run("losetup", {"-d", loop_});
+    }
+
+    void formatLabelAndCapacity()
+    {
+        TeslaCamFixture fx(mountPoint_ + "/TeslaCam");
+        const QString e = fx.addEvent("SentryClips", "2024-06-01_15-05-00",
+                                      TeslaCamFixture::eventJson("2024-06-01T15:04:31", "sentry_panic_mode"));
+        fx.addClip(e, "2024-06-01_15-04-00", "front", 200'000);
+        fx.addRecentClip("2024-06-01_14-00-00", "back", 100'000);
+        const TreeSnapshot before = TreeSnapshot::take(fx.root());
+
+        const DriveScan scan = TeslaCamParser::scan(fx.root());
+        QCOMPARE(scan.format, VolumeFormat(VolumeFormat::exFAT));
+        QCOMPARE(scan.format.displayName(), QStringLiteral("exFAT"));
+        QCOMPARE(scan.volumeName, QStringLiteral("TESLA CAM"));
+        QVERIFY(scan.capacityBytes);
+        // The volume's size, within the file system's own overhead.
+        QVERIFY2(*scan.capacityBytes > 90LL * 1024 * 1024 && *scan.capacityBytes <= 96LL * 1024 * 1024,
+                 qPrintable(QString::number(*scan.capacityBytes)));
+        QVERIFY(scan.freeBytes && *scan.freeBytes < *scan.capacityBytes);
+        QCOMPARE(scan.events.size(), size_t(2));
+        QCOMPARE(scan.events[0].clips.at(0).fileSize, qint64(200'000));
+
+        QCOMPARE(before.differences(TreeSnapshot::take(fx.root())), QString());
+    }
+};
+
+QTEST_GUILESS_MAIN(ExfatVolumeTest)
+#include "tst_exfatvolume.moc"

@@ -1,0 +1,385 @@
+#include "drive/ClipCalendar.h"
+#include "drive/ReadableFormats.h"
+#include "drive/TeslaCamParser.h"
+#include "support/TeslaCamFixture.h"
+#include "support/TreeSnapshot.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+QStringList issueList(const DriveScan &scan)
+{
+    QStringList out;
+    for (const auto &i : scan.issues)
+        out << i.kind.rawValue() + QLatin1Char(' ') + i.path.section(QLatin1Char('/'), -2);
+    return out;
+}
+
+const TeslaEvent *findEvent(const DriveScan &scan, const QString &id)
+{
+    for (const auto &e : scan.events)
+        if (e.id() == id)
+            return &e;
+    return nullptr;
+}
+
+Date local(int y, int mo, int d, int h, int mi, int s)
+{
+    return ClipCalendar::dateFromComponents(y, mo, d, h, mi, s);
+}
+} // namespace
+
+class TeslaCamParserTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        qputenv("TZ", "Europe/Berlin");
+        tzset();
+    }
+
+    void fullDrive()
+    {
+        QTemporaryDir tmp;
+        TeslaCamFixture fx(tmp.path() + "/TeslaCam");
+        const QString e1 = fx.addEvent("SentryClips", "2024-06-01_15-05-00",
+                                       TeslaCamFixture::eventJson("2024-06-01T15:04:31", "sentry_aware_object_detection",
+                                                                  "Taylor", "30.6075", "-97.4812", "3"));
+        fx.addClip(e1, "2024-06-01_15-04-00", "back", 5000);
+        fx.addClip(e1, "2024-06-01_15-04-00", "front", 4000);
+        fx.addClip(e1, "2024-06-01_15-03-00", "rear_view", 3000);
+        fx.addClip(e1, "2024-06-01_15-03-00", "left_b_pillar", 2000);
+        fx.addClip(e1, "2024-06-01_15-03-00", "fisheye", 1000);       // unknown suffix
+        fx.addClip(e1, "2024-06-01_25-03-00", "front", 1000);         // lenient calendar: next day 01:03
+        TeslaCamFixture::writeFile(e1 + "/notes.txt", "hi");           // unknown file
+        TeslaCamFixture::writeFile(e1 + "/desktop.ini", "x");          // ignored
+        TeslaCamFixture::writeFile(e1 + "/Thumbs.db", "x");            // ignored
+        TeslaCamFixture::writeFile(e1 + "/._2024-06-01_15-04-00-front.mp4", "x"); // ignored (hidden too)
+        TeslaCamFixture::writeFile(e1 + "/front.mp4", "x");            // no date: unknown file
+        TeslaCamFixture::writeFile(e1 + "/2024-06-01_15-04-00-front.MP4", "x"); // upper-case extension
+        TeslaCamFixture::makeDir(e1 + "/sub");                          // a folder is an unknown file here
+
+        const QString bad = fx.addEvent("SentryClips", "2024-06-01_15-05-00b", std::nullopt); // foreign name
+        fx.addClip(bad, "2024-06-01_15-04-00", "front");
+        fx.addEvent("SentryClips", "2024-05-01_10-00-00", QByteArray("{broken"), false);
+        fx.addEventFolder("SavedClips", "2024-05-02_11-00-00"); // empty
+        fx.addEvent("SavedClips", "2024-06-01_15-05-00",
+                    TeslaCamFixture::eventJson("2024-06-01T15:04:31", "user_interaction_honk"));
+        TeslaCamFixture::writeFile(fx.path("SentryClips/stray.mp4"), "x");
+        TeslaCamFixture::writeFile(fx.path("SentryClips/.DS_Store"), "x");
+        TeslaCamFixture::writeFile(fx.path("SentryClips/Thumbs.db"), "x");
+        TeslaCamFixture::makeDir(fx.path("TeslaTrackMode"));      // not looked at
+        TeslaCamFixture::writeFile(fx.path("readme.txt"), "x");   // not looked at
+
+        QList<ScanProgress> progress;
+        const DriveScan scan = TeslaCamParser::scan(fx.root(), [&](const ScanProgress &p) { progress << p; });
+
+        QCOMPARE(scan.teslaCamURL, fx.root());
+        QCOMPARE(scan.events.size(), size_t(4));
+        QStringList ids;
+        for (const auto &e : scan.events)
+            ids << e.id();
+        // Same timestamp: Sentry before saved (stable); then older events.
+        QCOMPARE(ids, QStringList({"sentry|2024-06-01_15-05-00", "saved|2024-06-01_15-05-00",
+                                   "saved|2024-05-02_11-00-00", "sentry|2024-05-01_10-00-00"}));
+
+        const TeslaEvent &s = scan.events[0];
+        QCOMPARE(s.kind, EventKind(EventKind::sentry));
+        QCOMPARE(s.folderURL, e1);
+        QCOMPARE(s.timestamp, local(2024, 6, 1, 15, 4, 31)); // from event.json, not the folder
+        QCOMPARE(s.city, std::optional<QString>("Taylor"));
+        QCOMPARE(s.latitude, std::optional<double>(30.6075));
+        QCOMPARE(s.longitude, std::optional<double>(-97.4812));
+        QCOMPARE(s.reasonRaw, std::optional<QString>("sentry_aware_object_detection"));
+        QCOMPARE(s.reason.category, ReasonCategory(ReasonCategory::approach));
+        QCOMPARE(s.triggerCameraRaw, std::optional<QString>("3"));
+        QCOMPARE(s.thumbURL, std::optional<QString>(e1 + "/thumb.png"));
+        QVERIFY(!s.missingEventJSON);
+        QStringList clips;
+        for (const auto &c : s.clips)
+            clips << c.camera.rawValue() + "@" + c.startDate.formatLocal("HH:mm") + "=" + QString::number(c.fileSize);
+        QCOMPARE(clips, QStringList({"left_pillar@15:03=2000", "back@15:03=3000", "front@15:04=4000", "back@15:04=5000",
+                                     "front@01:03=1000"}));
+        for (const auto &c : s.clips) {
+            QCOMPARE(c.health, ClipHealth(ClipHealth::unknown));
+            QVERIFY(!c.duration);
+        }
+
+        const TeslaEvent &broken = *findEvent(scan, "sentry|2024-05-01_10-00-00");
+        QVERIFY(!broken.missingEventJSON);
+        QCOMPARE(broken.timestamp, local(2024, 5, 1, 10, 0, 0));
+        QCOMPARE(broken.reason.category, ReasonCategory(ReasonCategory::unknown));
+        QVERIFY(!broken.thumbURL);
+
+        const TeslaEvent &empty = *findEvent(scan, "saved|2024-05-02_11-00-00");
+        QVERIFY(empty.clips.empty());
+        QVERIFY(empty.missingEventJSON);
+        QCOMPARE(empty.reason.label(), QStringLiteral("Sentry event"));
+
+        QCOMPARE(findEvent(scan, "saved|2024-06-01_15-05-00")->reason.category, ReasonCategory(ReasonCategory::honk));
+
+        QCOMPARE(issueList(scan),
+                 QStringList({"badEventJSON 2024-05-01_10-00-00/event.json",
+                              "unknownCameraSuffix 2024-06-01_15-05-00/2024-06-01_15-03-00-fisheye.mp4",
+                              "unknownFile 2024-06-01_15-05-00/2024-06-01_15-04-00-front.MP4",
+                              "unknownFile 2024-06-01_15-05-00/front.mp4",
+                              "unknownFile 2024-06-01_15-05-00/notes.txt",
+                              "unknownFile 2024-06-01_15-05-00/sub",
+                              "unknownFile SentryClips/stray.mp4"}));
+        QCOMPARE(scan.unknownCameraSuffixCount(), 1);
+
+        // Progress: phases in order, counts growing, clips only at the end.
+        QCOMPARE(progress.first().phase, QString::fromUtf16(u"Reading your Tesla drive\u2026"));
+        QCOMPARE(progress.last().phase, QStringLiteral("Scan complete."));
+        QCOMPARE(progress.last().foldersScanned, 5);
+        QCOMPARE(progress.last().eventsFound, 4);
+        QCOMPARE(progress.last().clipsFound, 5);
+        for (int i = 0; i + 1 < progress.size(); ++i)
+            QCOMPARE(progress[i].clipsFound, 0);
+        QStringList phases;
+        for (const auto &p : progress)
+            if (phases.isEmpty() || phases.last() != p.phase)
+                phases << p.phase;
+        QCOMPARE(phases, QStringList({QString::fromUtf16(u"Reading your Tesla drive\u2026"),
+                                      QString::fromUtf16(u"Reading Sentry events\u2026"),
+                                      QString::fromUtf16(u"Reading Saved clips\u2026"), "Scan complete."}));
+    }
+
+    void ignoreListIsExact()
+    {
+        QVERIFY(TeslaCamParser::isIgnoredName(u".DS_Store"));
+        QVERIFY(TeslaCamParser::isIgnoredName(u"desktop.ini"));
+        QVERIFY(TeslaCamParser::isIgnoredName(u"Thumbs.db"));
+        QVERIFY(TeslaCamParser::isIgnoredName(u"._anything"));
+        QVERIFY(!TeslaCamParser::isIgnoredName(u"thumbs.db"));
+        QVERIFY(!TeslaCamParser::isIgnoredName(u"Desktop.ini"));
+    }
+
+    void recentDrivingIsCutIntoDrives()
+    {
+        QTemporaryDir tmp;
+        TeslaCamFixture fx(tmp.path() + "/TeslaCam");
+        // Drive A: 10:00, 10:01, then a lost minute (gap 150 s = tolerance: same drive).
+        fx.addRecentClip("2024-03-09_10-00-00", "front");
+        fx.addRecentClip("2024-03-09_10-00-00", "back");
+        fx.addRecentClip("2024-03-09_10-01-00", "front");
+        fx.addRecentClip("2024-03-09_10-03-30", "left_repeater");
+        // Drive B: 151 s later.
+        fx.addRecentClip("2024-03-09_10-06-01", "right_repeater");
+        fx.addRecentClip("2024-03-09_10-06-01", "front");
+        TeslaCamFixture::writeFile(fx.path("RecentClips/event.json"), "{}"); // no special meaning here
+        TeslaCamFixture::makeDir(fx.path("RecentClips/old"));
+        TeslaCamFixture::writeFile(fx.path("RecentClips/Thumbs.db"), "x");
+
+        const DriveScan scan = TeslaCamParser::scan(fx.root());
+        QCOMPARE(scan.events.size(), size_t(2));
+        const TeslaEvent &b = scan.events[0];
+        const TeslaEvent &a = scan.events[1];
+        QCOMPARE(a.folderName, QStringLiteral("recent_2024-03-09_10-00-00"));
+        QCOMPARE(a.id(), QStringLiteral("recent|recent_2024-03-09_10-00-00"));
+        QCOMPARE(a.clips.size(), size_t(4));
+        QCOMPARE(a.clips[0].camera, Camera::front);
+        QCOMPARE(a.clips[1].camera, Camera::back);
+        QCOMPARE(a.folderURL, fx.path("RecentClips"));
+        QCOMPARE(a.reason.category, ReasonCategory(ReasonCategory::recentDrive));
+        QVERIFY(a.missingEventJSON && !a.thumbURL && !a.city && !a.reasonRaw);
+        QCOMPARE(b.folderName, QStringLiteral("recent_2024-03-09_10-06-01"));
+        QCOMPARE(b.timestamp, local(2024, 3, 9, 10, 6, 1));
+        QCOMPARE(b.clips.size(), size_t(2));
+        QCOMPARE(b.clips[0].camera, Camera::front);
+        QCOMPARE(scan.issues.size(), size_t(2));
+        QCOMPARE(scan.issues[0].path, fx.path("RecentClips/event.json"));
+        QCOMPARE(scan.issues[1].path, fx.path("RecentClips/old"));
+    }
+
+    void groupingToleranceBoundary()
+    {
+        auto clipAt = [](double t) {
+            ClipRef c;
+            c.url = QStringLiteral("/r/x-front.mp4");
+            c.startDate = Date(t);
+            return c;
+        };
+        QCOMPARE(TeslaCamParser::groupIntoRecentEvents({clipAt(0), clipAt(150)}, "/r", 150.0).size(), size_t(1));
+        QCOMPARE(TeslaCamParser::groupIntoRecentEvents({clipAt(0), clipAt(151)}, "/r", 150.0).size(), size_t(2));
+        QVERIFY(TeslaCamParser::groupIntoRecentEvents({}, "/r", 150.0).empty());
+        // Unordered input, ascending output.
+        const auto events = TeslaCamParser::groupIntoRecentEvents({clipAt(1000), clipAt(0), clipAt(60)}, "/r", 150.0);
+        QCOMPARE(events.size(), size_t(2));
+        QCOMPARE(events[0].timestamp, Date(0));
+        QCOMPARE(events[0].clips.size(), size_t(2));
+        QCOMPARE(events[1].timestamp, Date(1000));
+    }
+
+    void encryptedAndEmptyDrives()
+    {
+        QTemporaryDir tmp;
+        TeslaCamFixture none(tmp.path() + "/A/TeslaCam");
+        const DriveScan empty = TeslaCamParser::scan(none.root());
+        QVERIFY(empty.events.empty());
+        QVERIFY(empty.issues.empty());
+        QVERIFY(!empty.encryptedClipsPresent);
+
+        TeslaCamFixture enc(tmp.path() + "/B/TeslaCam");
+        TeslaCamFixture::makeDir(enc.path("EncryptedClips"));
+        TeslaCamFixture::writeFile(enc.path("EncryptedClips/whatever.bin"), "x");
+        const DriveScan encrypted = TeslaCamParser::scan(enc.root());
+        QVERIFY(encrypted.encryptedClipsPresent);
+        QVERIFY(encrypted.events.empty());
+        QVERIFY(encrypted.issues.empty());
+    }
+
+    void rootErrors()
+    {
+        QTemporaryDir tmp;
+        try {
+            TeslaCamParser::scan(tmp.path() + "/nope");
+            QFAIL("expected rootNotFound");
+        } catch (const TeslaCamParser::ParserError &e) {
+            QCOMPARE(e.errorCase(), TeslaCamParser::ParserError::rootNotFound);
+        }
+        TeslaCamFixture::writeFile(tmp.path() + "/file", "x");
+        try {
+            TeslaCamParser::scan(tmp.path() + "/file");
+            QFAIL("expected rootNotAFolder");
+        } catch (const TeslaCamParser::ParserError &e) {
+            QCOMPARE(e.errorCase(), TeslaCamParser::ParserError::rootNotAFolder);
+        }
+    }
+
+    void eventsFolderThatIsAFileIsUnreadable()
+    {
+        QTemporaryDir tmp;
+        TeslaCamFixture fx(tmp.path() + "/TeslaCam");
+        TeslaCamFixture::writeFile(fx.path("SavedClips"), "not a folder");
+        const DriveScan scan = TeslaCamParser::scan(fx.root());
+        QCOMPARE(scan.issues.size(), size_t(1));
+        QCOMPARE(scan.issues[0].kind, ScanIssue::Kind(ScanIssue::Kind::unreadableFolder));
+        QCOMPARE(scan.issues[0].path, fx.path("SavedClips"));
+    }
+
+    void hangingEntriesDontHangTheScan()
+    {
+        // A FIFO called event.json must not block the read.
+        QTemporaryDir tmp;
+        TeslaCamFixture fx(tmp.path() + "/TeslaCam");
+        const QString e = fx.addEventFolder("SentryClips", "2024-01-01_00-00-00");
+        QCOMPARE(::mkfifo(QFile::encodeName(e + "/event.json").constData(), 0600), 0);
+        const DriveScan scan = TeslaCamParser::scan(fx.root());
+        QCOMPARE(scan.events.size(), size_t(1));
+        QCOMPARE(scan.issues.size(), size_t(1));
+        QCOMPARE(scan.issues[0].kind, ScanIssue::Kind(ScanIssue::Kind::badEventJSON));
+    }
+
+    void parseTimestampRules()
+    {
+        QCOMPARE(TeslaCamParser::parseTimestamp(u"2024-02-30", u"10-00-00"),
+                 std::optional<Date>(local(2024, 3, 1, 10, 0, 0))); // lenient, like a calendar
+        QCOMPARE(TeslaCamParser::parseTimestamp(u"2024-13-01", u"00-00-00"),
+                 std::optional<Date>(local(2025, 1, 1, 0, 0, 0)));
+        QCOMPARE(TeslaCamParser::parseTimestamp(u"2024--06--01", u"10-00-00"),
+                 std::optional<Date>(local(2024, 6, 1, 10, 0, 0))); // empty parts dropped
+        QVERIFY(!TeslaCamParser::parseTimestamp(u"2024-06", u"10-00-00"));
+        QVERIFY(!TeslaCamParser::parseTimestamp(u"2024-06-01-02", u"10-00-00"));
+        QVERIFY(!TeslaCamParser::parseTimestamp(u"2024-06-01", u"10-00-xx"));
+        // Summer time in Berlin: 2024-07-01 12:00 local is 10:00 UTC.
+        QCOMPARE(TeslaCamParser::parseTimestamp(u"2024-07-01", u"12-00-00")->unixSeconds(), 1719828000.0);
+        QCOMPARE(TeslaCamParser::parseTimestamp(u"2024-01-01", u"12-00-00")->unixSeconds(), 1704106800.0);
+    }
+
+    void namePatterns()
+    {
+        QVERIFY(TeslaCamParser::matchFolderName(u"2026-07-21_02-11-05"));
+        QVERIFY(!TeslaCamParser::matchFolderName(u"2026-07-21_02-11-05x"));
+        QVERIFY(!TeslaCamParser::matchFolderName(u"x2026-07-21_02-11-05"));
+        QVERIFY(!TeslaCamParser::matchFolderName(u"2026-7-21_02-11-05"));
+        const auto clip = TeslaCamParser::matchClipFilename(u"2026-07-21_02-11-05-left_b_pillar.mp4");
+        QVERIFY(clip);
+        QCOMPARE(clip->date, QStringLiteral("2026-07-21"));
+        QCOMPARE(clip->time, QStringLiteral("02-11-05"));
+        QCOMPARE(clip->suffix, QStringLiteral("left_b_pillar"));
+        QVERIFY(!TeslaCamParser::matchClipFilename(u"2026-07-21_02-11-05-.mp4"));
+        QVERIFY(!TeslaCamParser::matchClipFilename(u"2026-07-21_02-11-05-Front.mp4"));
+        QVERIFY(!TeslaCamParser::matchClipFilename(u"2026-07-21_02-11-05-front.mp4.part"));
+        QVERIFY(!TeslaCamParser::matchClipFilename(u"2026-07-21_02-11-05-front2.mp4"));
+        // \d is any decimal digit: such a name matches but yields no time.
+        QVERIFY(TeslaCamParser::matchFolderName(u"\u0662\u0660\u0662\u0664-07-21_02-11-05"));
+        QVERIFY(!TeslaCamParser::parseTimestamp(u"\u0662\u0660\u0662\u0664-07-21", u"02-11-05"));
+    }
+
+    void volumeFormatFromDescription()
+    {
+        using TeslaCamParser::volumeFormat;
+        QCOMPARE(volumeFormat(std::nullopt), VolumeFormat(VolumeFormat::unknown));
+        QCOMPARE(volumeFormat(QString("ExFAT")), VolumeFormat(VolumeFormat::exFAT));
+        QCOMPARE(volumeFormat(QString("exfat")), VolumeFormat(VolumeFormat::exFAT));
+        QCOMPARE(volumeFormat(QString("MS-DOS (FAT32)")), VolumeFormat(VolumeFormat::fat32));
+        QCOMPARE(volumeFormat(QString("ms-dos")), VolumeFormat(VolumeFormat::fat32));
+        QCOMPARE(volumeFormat(QString("vfat")), VolumeFormat(VolumeFormat::fat32));
+        QCOMPARE(volumeFormat(QString("APFS")), VolumeFormat(VolumeFormat::apfs));
+        QCOMPARE(volumeFormat(QString("Ext4")), VolumeFormat::makeOther("Ext4"));
+        QCOMPARE(volumeFormat(QString("Ext4")).otherName(), QStringLiteral("Ext4"));
+    }
+
+    void readableFormats()
+    {
+        using namespace ReadableFormats;
+        QVERIFY(isReadable(VolumeFormat::exFAT));
+        QVERIFY(isReadable(VolumeFormat::fat32));
+        QVERIFY(isReadable(VolumeFormat::apfs));
+        QVERIFY(isComputerDisk(VolumeFormat::apfs));
+        QVERIFY(!isComputerDisk(VolumeFormat::exFAT));
+        for (const char *host : {"ext4", "EXT3", "btrfs", "xfs", "tmpfs", "overlay", "f2fs", "zfs", "bcachefs"}) {
+            QVERIFY2(isComputerDisk(VolumeFormat::makeOther(host)), host);
+            QVERIFY2(isReadable(VolumeFormat::makeOther(host)), host);
+        }
+        QCOMPARE(computerDiskName(VolumeFormat::makeOther("ext4")), QStringLiteral("ext4"));
+        QCOMPARE(computerDiskName(VolumeFormat::apfs), QStringLiteral("APFS"));
+        QVERIFY(!isReadable(VolumeFormat::makeOther("ntfs")));
+        QVERIFY(!isReadable(VolumeFormat::makeOther("hfsplus")));
+        QVERIFY(!isReadable(VolumeFormat::unknown));
+        // The host disk a scan reads here is one of the computer's own.
+        QTemporaryDir tmp;
+        TeslaCamFixture fx(tmp.path() + "/TeslaCam");
+        QVERIFY(isComputerDisk(TeslaCamParser::scan(fx.root()).format));
+    }
+
+    void volumeFactsOfTheHost()
+    {
+        QTemporaryDir tmp;
+        TeslaCamFixture fx(tmp.path() + "/TeslaCam");
+        const DriveScan scan = TeslaCamParser::scan(fx.root());
+        QVERIFY(scan.capacityBytes && *scan.capacityBytes > 0);
+        QVERIFY(scan.freeBytes && *scan.freeBytes >= 0);
+        QVERIFY(!scan.volumeName.isEmpty());
+        QVERIFY(scan.format.kind() == VolumeFormat::other); // the host's own file system, by name
+        QVERIFY(!scan.format.otherName().isEmpty());
+        QVERIFY(qAbs(scan.scannedAt.timeIntervalSince(Date::now())) < 60);
+    }
+
+    void driveTreeIsUntouched()
+    {
+        QTemporaryDir tmp;
+        TeslaCamFixture fx(tmp.path() + "/TeslaCam");
+        const QString e = fx.addEvent("SentryClips", "2024-06-01_15-05-00",
+                                      TeslaCamFixture::eventJson("2024-06-01T15:04:31", "sentry_panic_mode"));
+        fx.addClip(e, "2024-06-01_15-04-00", "front", 70000);
+        fx.addRecentClip("2024-06-01_14-00-00", "back", 70000);
+        TeslaCamFixture::makeDir(fx.path("EncryptedClips"));
+        // Make access times older than modification times, so any plain read would move them.
+        QProcess::execute("find", {fx.root(), "-exec", "touch", "-a", "-d", "2001-01-01", "{}", "+"});
+        const TreeSnapshot before = TreeSnapshot::take(fx.root());
+        for (int i = 0; i < 3; ++i)
+            TeslaCamParser::scan(fx.root());
+        const TreeSnapshot after = TreeSnapshot::take(fx.root());
+        // The test owns the files, so O_NOATIME is honoured and access times must not move.
+        QCOMPARE(before.differences(after, /*compareAccessTimes=*/true), QString());
+    }
+};
+
+QTEST_GUILESS_MAIN(TeslaCamParserTest)
+#include "tst_teslacamparser.moc"

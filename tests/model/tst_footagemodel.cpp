@@ -1,0 +1,375 @@
+#include "model/ClipHealth.h"
+#include "model/ClipRef.h"
+#include "model/DriveScan.h"
+#include "model/JsonCoding.h"
+#include "model/TeslaEvent.h"
+#include "model/VolumeFormat.h"
+
+#include <QJsonDocument>
+#include <QRandomGenerator>
+#include <QtTest>
+#include <cstring>
+
+namespace {
+ClipRef clip(const QString &name, Camera camera, double start, qint64 size = 100, ClipHealth health = ClipHealth::unknown)
+{
+    ClipRef c;
+    c.url = QStringLiteral("/drive/TeslaCam/SentryClips/e/") + name;
+    c.camera = camera;
+    c.startDate = Date(start);
+    c.fileSize = size;
+    c.health = health;
+    return c;
+}
+
+template <typename T>
+T roundTrip(const T &value)
+{
+    const QByteArray text = JsonCoding::toCompactJson(value.toJson());
+    return T::fromJson(JsonCoding::parseObject(text));
+}
+
+TeslaEvent sampleEvent()
+{
+    TeslaEvent e;
+    e.kind = EventKind::saved;
+    e.folderURL = QStringLiteral("/media/user/TESLA DRIVE/TeslaCam/SavedClips/2026-07-21_02-11-05");
+    e.folderName = QStringLiteral("2026-07-21_02-11-05");
+    e.timestamp = Date(806292665.123456789);
+    e.city = QStringLiteral("Zürich");
+    e.latitude = 47.3769;
+    e.longitude = 8.5417;
+    e.reasonRaw = QStringLiteral("sentry_aware_accel_0.61");
+    e.reason.category = ReasonCategory::impact;
+    e.reason.raw = e.reasonRaw;
+    e.reason.accelValue = 0.61;
+    e.triggerCameraRaw = QStringLiteral("0");
+    e.clips = {clip(QStringLiteral("a-front.mp4"), Camera::front, 806292600.5, 31000000, ClipHealth::ok)};
+    e.clips[0].duration = 59.97;
+    e.thumbURL = e.folderURL + QStringLiteral("/thumb.png");
+    e.missingEventJSON = false;
+    return e;
+}
+} // namespace
+
+class FootageModelTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cameraTable()
+    {
+        struct Row {
+            Camera cam;
+            const char *raw;
+            const char *display;
+            int grid;
+        };
+        const Row rows[] = {{Camera::front, "front", "Front", 0},
+                            {Camera::back, "back", "Rear", 5},
+                            {Camera::leftRepeater, "left_repeater", "Left Side", 3},
+                            {Camera::rightRepeater, "right_repeater", "Right Side", 4},
+                            {Camera::leftPillar, "left_pillar", "Left Pillar", 1},
+                            {Camera::rightPillar, "right_pillar", "Right Pillar", 2},
+                            {Camera::rearBackup, "rear_backup", "Backup", 6}};
+        QCOMPARE(Camera::allCases().size(), size_t(7));
+        for (size_t i = 0; i < 7; ++i) {
+            QCOMPARE(Camera::allCases()[i].value(), rows[i].cam.value()); // declared order
+            QCOMPARE(rows[i].cam.rawValue(), QLatin1String(rows[i].raw));
+            QCOMPARE(rows[i].cam.displayName(), QLatin1String(rows[i].display));
+            QCOMPARE(rows[i].cam.gridOrder(), rows[i].grid);
+            QCOMPARE(Camera::fromRawValue(QString::fromLatin1(rows[i].raw)), std::optional<Camera>(rows[i].cam));
+            QCOMPARE(Camera::fromFileSuffix(QString::fromLatin1(rows[i].raw)), std::optional<Camera>(rows[i].cam));
+        }
+    }
+
+    void cameraSuffixAliasesAreNotRawValues()
+    {
+        QCOMPARE(Camera::fromFileSuffix(u"rear_view"), std::optional<Camera>(Camera::back));
+        QCOMPARE(Camera::fromFileSuffix(u"left_b_pillar"), std::optional<Camera>(Camera::leftPillar));
+        QCOMPARE(Camera::fromFileSuffix(u"right_b_pillar"), std::optional<Camera>(Camera::rightPillar));
+        QCOMPARE(Camera::fromFileSuffix(u"backup_camera"), std::optional<Camera>(Camera::rearBackup));
+        QVERIFY(!Camera::fromRawValue(u"rear_view"));
+        QVERIFY(!Camera::fromRawValue(u"backup_camera"));
+        QVERIFY(!Camera::fromFileSuffix(u"Front"));
+        QVERIFY(!Camera::fromFileSuffix(u"FRONT"));
+        QVERIFY(!Camera::fromFileSuffix(u"fisheye"));
+        QVERIFY(!Camera::fromFileSuffix(u""));
+    }
+
+    void clipHealthDamageAndRawValues()
+    {
+        const char *raws[] = {"unknown", "ok", "zeroByte", "truncated", "unreadable", "timedOut", "encrypted"};
+        const bool damaged[] = {false, false, true, true, true, true, false};
+        for (size_t i = 0; i < 7; ++i) {
+            const ClipHealth h = ClipHealth::allCases()[i];
+            QCOMPARE(h.rawValue(), QLatin1String(raws[i]));
+            QCOMPARE(h.isDamaged(), damaged[i]);
+            QCOMPARE(ClipHealth::fromJson(h.toJson()), h);
+        }
+    }
+
+    void kindsAndCategories()
+    {
+        QCOMPARE(EventKind(EventKind::sentry).displayName(), QStringLiteral("Sentry"));
+        QCOMPARE(EventKind(EventKind::saved).displayName(), QStringLiteral("Saved"));
+        QCOMPARE(EventKind(EventKind::recent).displayName(), QStringLiteral("Recent Driving"));
+        QStringList raws;
+        for (auto c : ReasonCategory::allCases())
+            raws << c.rawValue();
+        QCOMPARE(raws, QStringList({"approach", "impact", "honk", "manualSave", "panic", "recentDrive", "unknown"}));
+        QStringList issueKinds;
+        for (auto k : ScanIssue::Kind::allCases())
+            issueKinds << k.rawValue();
+        QCOMPARE(issueKinds, QStringList({"unknownFile", "unknownCameraSuffix", "unreadableFolder", "badEventJSON"}));
+    }
+
+    void plainReasonTexts()
+    {
+        PlainReason r;
+        r.category = ReasonCategory::honk;
+        r.raw = QStringLiteral("user_interaction_honk");
+        QCOMPARE(r.label(), QStringLiteral("You honked"));
+        QCOMPARE(r.shortLabel(), QStringLiteral("Honk save"));
+        QCOMPARE(r.symbolName(), QStringLiteral("horn.blast"));
+        QCOMPARE(r.blurb(), QString::fromUtf8("Honking saves the last few minutes of footage \u2014 a quick way to keep a moment."));
+        QVERIFY(!r.isUrgentForProtection());
+        r.category = ReasonCategory::unknown;
+        QCOMPARE(r.label(), QStringLiteral("Sentry event"));
+        QCOMPARE(r.symbolName(), QStringLiteral("shield"));
+        r.category = ReasonCategory::impact;
+        QVERIFY(r.isUrgentForProtection());
+        r.category = ReasonCategory::panic;
+        QVERIFY(r.isUrgentForProtection());
+        QCOMPARE(r.label(), QStringLiteral("Panic alarm"));
+        r.category = ReasonCategory::recentDrive;
+        QCOMPARE(r.shortLabel(), QStringLiteral("Driving"));
+        QVERIFY(!r.isUrgentForProtection());
+    }
+
+    void eventDerivedValuesWithoutClips()
+    {
+        TeslaEvent e;
+        e.kind = EventKind::sentry;
+        e.folderName = QStringLiteral("2026-07-21_02-11-05");
+        QCOMPARE(e.id(), QStringLiteral("sentry|2026-07-21_02-11-05"));
+        QCOMPARE(e.approximateDuration(), 0.0);
+        QCOMPARE(e.totalBytes(), qint64(0));
+        QVERIFY(!e.earliestClipDate());
+        QVERIFY(!e.latestClipDate());
+        QVERIFY(e.cameras().empty());
+        QCOMPARE(e.corruptClipCount(), 0);
+    }
+
+    void eventDerivedValuesWithClips()
+    {
+        TeslaEvent e;
+        e.clips = {clip("1", Camera::back, 1000, 5'000'000'000LL, ClipHealth::encrypted),
+                   clip("2", Camera::front, 1000, 7, ClipHealth::timedOut),
+                   clip("3", Camera::front, 1120, 3, ClipHealth::zeroByte),
+                   clip("4", Camera::front, 1060, 1, ClipHealth::ok)};
+        e.clips[3].duration = 5.0; // never looked at by approximateDuration
+        QCOMPARE(e.totalBytes(), qint64(5'000'000'011LL));
+        QCOMPARE(e.corruptClipCount(), 2); // encrypted is not damage
+        QCOMPARE(*e.earliestClipDate(), Date(1000));
+        QCOMPARE(*e.latestClipDate(), Date(1120));
+        QCOMPARE(e.approximateDuration(), 180.0);
+        const auto cams = e.cameras();
+        QCOMPARE(cams.size(), size_t(2));
+        QCOMPARE(cams[0], Camera::front);
+        QCOMPARE(cams[1], Camera::back);
+
+        TeslaEvent one;
+        one.clips = {clip("x", Camera::leftRepeater, 5, 1)};
+        one.clips[0].duration = 12.0;
+        QCOMPARE(one.approximateDuration(), 60.0);
+    }
+
+    void clipOrderIsDateThenGridAndStable()
+    {
+        std::vector<ClipRef> clips = {clip("back", Camera::back, 60),        clip("frontLate", Camera::front, 120),
+                                      clip("rep", Camera::leftRepeater, 60), clip("front", Camera::front, 60),
+                                      clip("pillar", Camera::leftPillar, 60), clip("backup", Camera::rearBackup, 60),
+                                      clip("front2", Camera::front, 60)};
+        ClipOrder::sort(clips);
+        QStringList names;
+        for (const auto &c : clips)
+            names << c.fileName();
+        QCOMPARE(names, QStringList({"front", "front2", "pillar", "rep", "back", "backup", "frontLate"}));
+    }
+
+    void eventOrderIsNewestFirstAndStable()
+    {
+        std::vector<TeslaEvent> events(4);
+        events[0].folderName = "a";
+        events[0].timestamp = Date(10);
+        events[1].folderName = "b";
+        events[1].timestamp = Date(30);
+        events[2].folderName = "c";
+        events[2].timestamp = Date(10);
+        events[3].folderName = "d";
+        events[3].timestamp = Date(20);
+        EventOrder::sortNewestFirst(events);
+        QStringList names;
+        for (const auto &e : events)
+            names << e.folderName;
+        QCOMPARE(names, QStringList({"b", "d", "a", "c"}));
+    }
+
+    void volumeFormatDisplayAndJsonForms()
+    {
+        QCOMPARE(VolumeFormat(VolumeFormat::exFAT).displayName(), QStringLiteral("exFAT"));
+        QCOMPARE(VolumeFormat(VolumeFormat::fat32).displayName(), QStringLiteral("FAT32 (MS-DOS)"));
+        QCOMPARE(VolumeFormat(VolumeFormat::apfs).displayName(), QStringLiteral("APFS"));
+        QCOMPARE(VolumeFormat(VolumeFormat::unknown).displayName(), QStringLiteral("Unknown"));
+        QCOMPARE(VolumeFormat::makeOther("Ext4 Journaled").displayName(), QStringLiteral("Ext4 Journaled"));
+
+        QCOMPARE(JsonCoding::toCompactJson(VolumeFormat(VolumeFormat::exFAT).toJson()), QByteArray(R"({"exFAT":{}})"));
+        QCOMPARE(JsonCoding::toCompactJson(VolumeFormat(VolumeFormat::fat32).toJson()), QByteArray(R"({"fat32":{}})"));
+        QCOMPARE(JsonCoding::toCompactJson(VolumeFormat(VolumeFormat::apfs).toJson()), QByteArray(R"({"apfs":{}})"));
+        QCOMPARE(JsonCoding::toCompactJson(VolumeFormat(VolumeFormat::unknown).toJson()), QByteArray(R"({"unknown":{}})"));
+        QCOMPARE(JsonCoding::toCompactJson(VolumeFormat::makeOther("ext4").toJson()), QByteArray(R"({"other":{"_0":"ext4"}})"));
+
+        const VolumeFormat odd = VolumeFormat::makeOther(QStringLiteral("  Wéird FS \"x\" "));
+        QCOMPARE(roundTrip(odd), odd);
+        QCOMPARE(roundTrip(odd).otherName(), odd.otherName());
+        QVERIFY(VolumeFormat::makeOther("a") == VolumeFormat::makeOther("a"));
+        QVERIFY(!(VolumeFormat::makeOther("a") == VolumeFormat::makeOther("b")));
+    }
+
+    void volumeFormatRejectsWrongKeyCounts()
+    {
+        for (const char *text : {R"({})", R"({"exFAT":{},"apfs":{}})"}) {
+            try {
+                VolumeFormat::fromJson(JsonCoding::parseObject(text));
+                QFAIL("decoding should fail");
+            } catch (const JsonCoding::DecodingError &e) {
+                QCOMPARE(e.message(), QStringLiteral("Invalid number of keys found, expected one."));
+            }
+        }
+        QVERIFY_THROWS_EXCEPTION(JsonCoding::DecodingError, VolumeFormat::fromJson(JsonCoding::parseObject(R"({"ntfs":{}})")));
+        QVERIFY_THROWS_EXCEPTION(JsonCoding::DecodingError, VolumeFormat::fromJson(JsonCoding::parseObject(R"({"other":{}})")));
+    }
+
+    void eventJsonFormIsExact()
+    {
+        const TeslaEvent e = sampleEvent();
+        const QJsonObject o = e.toJson();
+        QCOMPARE(QStringList(o.keys()),
+                 QStringList({"city", "clips", "folderName", "folderURL", "kind", "latitude", "longitude",
+                              "missingEventJSON", "reason", "reasonRaw", "thumbURL", "timestamp", "triggerCameraRaw"}));
+        QCOMPARE(o.value("kind").toString(), QStringLiteral("saved"));
+        QCOMPARE(o.value("folderURL").toString(),
+                 QStringLiteral("file:///media/user/TESLA%20DRIVE/TeslaCam/SavedClips/2026-07-21_02-11-05"));
+        QCOMPARE(QStringList(o.value("clips").toArray().at(0).toObject().keys()),
+                 QStringList({"camera", "duration", "fileSize", "health", "startDate", "url"}));
+        QCOMPARE(QStringList(o.value("reason").toObject().keys()), QStringList({"accelValue", "category", "raw"}));
+        QVERIFY(!o.contains("id"));
+        QVERIFY(!o.contains("totalBytes"));
+
+        // Absent optionals are omitted, and read back as absent.
+        TeslaEvent bare;
+        bare.folderURL = "/x";
+        bare.folderName = "x";
+        const QJsonObject b = bare.toJson();
+        for (const char *key : {"city", "latitude", "longitude", "reasonRaw", "triggerCameraRaw", "thumbURL"})
+            QVERIFY2(!b.contains(QLatin1String(key)), key);
+        QCOMPARE(QStringList(b.value("reason").toObject().keys()), QStringList({"category"}));
+        QCOMPARE(roundTrip(bare), bare);
+    }
+
+    void everyTypeRoundTrips()
+    {
+        const TeslaEvent e = sampleEvent();
+        QCOMPARE(roundTrip(e), e);
+        QCOMPARE(roundTrip(e.clips[0]), e.clips[0]);
+        QCOMPARE(roundTrip(e.reason), e.reason);
+
+        DriveScan scan;
+        scan.teslaCamURL = "/media/user/TESLA/TeslaCam";
+        scan.volumeName = "TESLA";
+        scan.format = VolumeFormat::makeOther("ext4");
+        scan.capacityBytes = 256'060'514'304LL;
+        scan.freeBytes = 9'007'199'254'740'993LL; // above 2^53: must stay exact
+        TeslaEvent empty;
+        empty.folderURL = "/media/user/TESLA/TeslaCam/SentryClips/2024-01-01_00-00-00";
+        empty.folderName = "2024-01-01_00-00-00";
+        scan.events = {e, empty};
+        scan.encryptedClipsPresent = true;
+        scan.issues = {ScanIssue{ScanIssue::Kind::badEventJSON, "/a/event.json"},
+                       ScanIssue{ScanIssue::Kind::unknownFile, "/a/b c"}};
+        scan.scannedAt = Date(816971552.9364347);
+        const DriveScan back = roundTrip(scan);
+        QCOMPARE(back, scan);
+        QCOMPARE(*back.freeBytes, 9'007'199'254'740'993LL);
+        QCOMPARE(back.unknownFileCount(), 1);
+        QCOMPARE(back.unknownCameraSuffixCount(), 0);
+
+        DriveScan noVolume = scan;
+        noVolume.capacityBytes.reset();
+        noVolume.freeBytes.reset();
+        QVERIFY(!noVolume.toJson().contains("capacityBytes"));
+        QCOMPARE(roundTrip(noVolume), noVolume);
+    }
+
+    void datesRoundTripBitExact()
+    {
+        auto *rng = QRandomGenerator::global();
+        std::vector<double> values = {0.0, -0.0, 1e-300, 806292665.123456789, 816971552.9364347, -978307200.5,
+                                      1.0 / 3.0, 123456789.00000001, 4.9e-324};
+        for (int i = 0; i < 2000; ++i) {
+            values.push_back((rng->generateDouble() - 0.3) * 2e9);
+            quint64 bits = rng->generate64();
+            double d;
+            std::memcpy(&d, &bits, sizeof d);
+            if (std::isfinite(d))
+                values.push_back(d);
+        }
+        for (double v : values) {
+            ClipRef c = clip("a-front.mp4", Camera::front, v);
+            const ClipRef back = roundTrip(c);
+            const double got = back.startDate.timeIntervalSinceReferenceDate();
+            QVERIFY2(std::memcmp(&got, &v, sizeof v) == 0 || (got == 0.0 && v == 0.0),
+                     qPrintable(QString::number(v, 'g', 17)));
+        }
+    }
+
+    void missingRequiredKeysFailTheWholeValue()
+    {
+        const QJsonObject full = sampleEvent().toJson();
+        for (const char *key : {"kind", "folderURL", "folderName", "timestamp", "reason", "clips", "missingEventJSON"}) {
+            QJsonObject o = full;
+            o.remove(QLatin1String(key));
+            QVERIFY_THROWS_EXCEPTION(JsonCoding::DecodingError, TeslaEvent::fromJson(o));
+        }
+        QJsonObject clipObject = full.value("clips").toArray().at(0).toObject();
+        clipObject.insert("camera", "rear_view"); // an alias is not a raw value
+        QVERIFY_THROWS_EXCEPTION(JsonCoding::DecodingError, ClipRef::fromJson(clipObject));
+        clipObject.insert("camera", "back");
+        clipObject.insert("fileSize", 1.5);
+        QVERIFY_THROWS_EXCEPTION(JsonCoding::DecodingError, ClipRef::fromJson(clipObject));
+    }
+
+    void scanIssueIdsDifferByKind()
+    {
+        const ScanIssue a{ScanIssue::Kind::unknownFile, "/d/x"};
+        const ScanIssue b{ScanIssue::Kind::badEventJSON, "/d/x"};
+        QCOMPARE(a.id(), QStringLiteral("unknownFile|/d/x"));
+        QVERIFY(a.id() != b.id());
+        QCOMPARE(roundTrip(b), b);
+    }
+
+    void valuesAreIndependentCopies()
+    {
+        TeslaEvent a = sampleEvent();
+        TeslaEvent b = a;
+        b.clips[0].health = ClipHealth::unreadable;
+        b.clips.push_back(b.clips[0]);
+        QCOMPARE(a.clips.size(), size_t(1));
+        QCOMPARE(a.clips[0].health, ClipHealth(ClipHealth::ok));
+        QVERIFY(!(a == b));
+        QVERIFY(qHash(a) == qHash(sampleEvent()));
+    }
+};
+
+QTEST_GUILESS_MAIN(FootageModelTest)
+#include "tst_footagemodel.moc"
