@@ -1,5 +1,7 @@
 #include "cli/CliOutput.h"
+#include "cli/KeepCommand.h"
 #include "cli/ScanCommand.h"
+#include "cli/VaultCommand.h"
 
 #include <QCoreApplication>
 #include <functional>
@@ -9,7 +11,9 @@ namespace {
 const std::map<QString, std::function<int(const QStringList &)>> &commands()
 {
     static const std::map<QString, std::function<int(const QStringList &)>> table{
+        {QStringLiteral("keep"), KeepCommand::run},
         {QStringLiteral("scan"), ScanCommand::run},
+        {QStringLiteral("vault"), VaultCommand::run},
     };
     return table;
 }

@@ -86,7 +86,10 @@ std::shared_ptr<Race<T>> launch(Op &&operation)
         std::optional<T> value;
         std::exception_ptr error;
         try {
-            value.emplace(op(race->stop.get_token()));
+            // The work and everything it captured are gone before the
+            // caller is released: nothing of it outlives run().
+            auto work = std::move(op);
+            value.emplace(work(race->stop.get_token()));
         } catch (...) {
             error = std::current_exception();
         }
@@ -111,6 +114,11 @@ T run(std::chrono::milliseconds timeout, Op &&operation, std::stop_token caller 
     std::function<bool()> isCancelled;
     if (caller.stop_possible())
         isCancelled = [caller] { return caller.stop_requested(); };
+    // Wakes the wait at once when the caller cancels.
+    std::stop_callback wake(caller, [race] {
+        std::lock_guard lock(race->mutex);
+        race->changed.notify_all();
+    });
     return detail::await<T>(race, deadline, isCancelled);
 }
 

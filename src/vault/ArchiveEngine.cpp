@@ -1,0 +1,322 @@
+#include "vault/ArchiveEngine.h"
+
+#include "drive/IOWatchdog.h"
+#include "drive/ReadOnlyFs.h"
+#include "drive/VolumeInfo.h"
+#include "model/CancellationError.h"
+#include "vault/Sha256.h"
+
+#include <QDir>
+#include <QFile>
+#include <QUuid>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <memory>
+#include <sys/stat.h>
+#include <system_error>
+#include <unistd.h>
+
+namespace ArchiveEngine {
+
+ArchiveEngineError::ArchiveEngineError(Case c, const QString &path) : case_(c), path_(path)
+{
+    text_ = (c == sizeMismatch ? QStringLiteral("Size changed while copying: %1")
+                               : QStringLiteral("Couldn't create the file %1"))
+                .arg(path)
+                .toStdString();
+}
+
+namespace {
+
+QString lastPathComponent(const QString &path)
+{
+    const qsizetype slash = path.lastIndexOf(QLatin1Char('/'));
+    return slash < 0 ? path : path.mid(slash + 1);
+}
+
+QString parentPath(const QString &path)
+{
+    const qsizetype slash = path.lastIndexOf(QLatin1Char('/'));
+    return slash <= 0 ? QStringLiteral("/") : path.left(slash);
+}
+
+[[noreturn]] void raiseErrno(const char *what)
+{
+    throw std::system_error(errno, std::generic_category(), what);
+}
+
+// Closes on every way out; errors from that close are dropped.
+class Fd {
+public:
+    explicit Fd(int fd) : fd_(fd) {}
+    ~Fd()
+    {
+        if (fd_ >= 0)
+            ::close(fd_);
+    }
+    Fd(const Fd &) = delete;
+    Fd &operator=(const Fd &) = delete;
+    int get() const { return fd_; }
+    int release() { return std::exchange(fd_, -1); }
+
+private:
+    int fd_;
+};
+
+void writeAll(int fd, const char *data, size_t size)
+{
+    while (size > 0) {
+        const ssize_t n = ::write(fd, data, size);
+        if (n < 0) {
+            if (errno == EINTR)
+                continue;
+            raiseErrno("write");
+        }
+        data += n;
+        size -= size_t(n);
+    }
+}
+
+// The steps for one file, run under the watchdog. Only the temporary file
+// and the final destination are ever written; the source is only read.
+ArchivedFile copySteps(const QString &from, const QString &to, const std::stop_token &stop)
+{
+    if (stop.stop_requested())
+        throw CancellationError();
+
+    std::optional<qint64> expectedSize;
+    const ReadOnlyFs::PathInfo info = ReadOnlyFs::stat(from);
+    if (info.exists && info.isRegularFile)
+        expectedSize = info.size;
+
+    Fd source(ReadOnlyFs::openRead(from));
+    if (source.get() < 0)
+        raiseErrno("open");
+    ::posix_fadvise(source.get(), 0, 0, POSIX_FADV_SEQUENTIAL);
+
+    const QString name = lastPathComponent(to);
+    const QString tempPath = parentPath(to) + QStringLiteral("/.tmp-")
+        + QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper() + QLatin1Char('-') + name;
+    const QByteArray temp = QFile::encodeName(tempPath);
+    {
+        const int created = ::open(temp.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0644);
+        if (created < 0)
+            throw ArchiveEngineError(ArchiveEngineError::cannotCreateFile, tempPath);
+        ::close(created);
+    }
+    Fd out(::open(temp.constData(), O_WRONLY | O_CLOEXEC));
+    if (out.get() < 0)
+        raiseErrno("open for writing");
+
+    Sha256 hash;
+    qint64 count = 0;
+    // One block, shared by reading, hashing and writing.
+    const std::unique_ptr<char[]> block(new char[size_t(chunkSize)]);
+    for (;;) {
+        if (stop.stop_requested())
+            throw CancellationError();
+        const ssize_t n = ::read(source.get(), block.get(), size_t(chunkSize));
+        if (n < 0) {
+            if (errno == EINTR)
+                continue;
+            raiseErrno("read");
+        }
+        if (n == 0)
+            break;
+        hash.update(block.get(), size_t(n));
+        writeAll(out.get(), block.get(), size_t(n));
+        count += n;
+    }
+    if (::close(out.release()) != 0)
+        raiseErrno("close");
+
+    if (expectedSize && *expectedSize != count) {
+        ::unlink(temp.constData());
+        throw ArchiveEngineError(ArchiveEngineError::sizeMismatch, from);
+    }
+
+    const QByteArray destination = QFile::encodeName(to);
+    struct stat existing {};
+    if (::lstat(destination.constData(), &existing) == 0 && ::unlink(destination.constData()) != 0)
+        raiseErrno("remove the old copy");
+    if (::rename(temp.constData(), destination.constData()) != 0)
+        raiseErrno("move into place");
+
+    return ArchivedFile{name, count, hash.finishHex()};
+}
+
+double clockSeconds()
+{
+    return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
+}
+
+QString volumeName(const QString &folder)
+{
+    const auto info = VolumeInfo::query(folder);
+    if (info && info->name && !info->name->isEmpty())
+        return *info->name;
+    return ArchivedEvent::unknownDrive;
+}
+
+} // namespace
+
+std::vector<QString> sourceFiles(const TeslaEvent &event)
+{
+    std::vector<QString> urls;
+    urls.reserve(event.clips.size() + 2);
+    for (const auto &clip : event.clips)
+        urls.push_back(clip.url);
+    if (!event.missingEventJSON) {
+        const QString eventJson = event.folderURL + QStringLiteral("/event.json");
+        if (ReadOnlyFs::stat(eventJson).exists)
+            urls.push_back(eventJson);
+    }
+    if (event.thumbURL && ReadOnlyFs::stat(*event.thumbURL).exists)
+        urls.push_back(*event.thumbURL);
+    return urls;
+}
+
+QString relativePath(const TeslaEvent &event)
+{
+    const int year = event.timestamp.toLocalDateTime().date().year();
+    return QStringLiteral("%1/%2/%3")
+        .arg(year, 4, 10, QLatin1Char('0'))
+        .arg(event.kind.rawValue(), event.folderName);
+}
+
+ArchivePlan plan(const std::vector<TeslaEvent> &events, const VaultIndex &vault)
+{
+    const QSet<QString> keys = vault.dedupeKeySet();
+    ArchivePlan result;
+    result.items.reserve(events.size());
+    for (const auto &event : events) {
+        ArchivedEvent candidate;
+        candidate.eventID = event.id();
+        candidate.kind = event.kind;
+        candidate.folderName = event.folderName;
+        for (const QString &url : sourceFiles(event)) {
+            // A file that is gone counts as 0 bytes, so the key misses.
+            const ReadOnlyFs::PathInfo info = ReadOnlyFs::stat(url);
+            candidate.files.push_back(ArchivedFile{lastPathComponent(url), info.exists ? info.size : 0, QString()});
+        }
+        result.items.push_back({event, keys.contains(candidate.dedupeKey())});
+    }
+    return result;
+}
+
+ArchivedFile copyFileWithHash(const QString &from, const QString &to, std::chrono::milliseconds timeout,
+                              std::stop_token stop)
+{
+    return IOWatchdog::run(
+        timeout, [from, to](std::stop_token workStop) { return copySteps(from, to, workStop); }, stop);
+}
+
+QString friendlyReason(const std::exception_ptr &error)
+{
+    try {
+        std::rethrow_exception(error);
+    } catch (const IOWatchdog::TimedOut &) {
+        return QString::fromUtf16(Reason::timedOut);
+    } catch (const ArchiveEngineError &e) {
+        return QString::fromUtf16(e.errorCase() == ArchiveEngineError::cannotCreateFile ? Reason::cannotCreateFile
+                                                                                         : Reason::sizeMismatch);
+    } catch (...) {
+        return QString::fromUtf16(Reason::unreadable);
+    }
+}
+
+ArchiveReport run(const ArchivePlan &plan, const QString &vaultURL, const ArchiveProgressCallback &progress,
+                  std::chrono::milliseconds timeoutPerFile, std::stop_token stop)
+{
+    const std::vector<ArchivePlan::Item> items = plan.newItems();
+    const qint64 totalBytes = plan.totalNewBytes();
+    const int totalEvents = int(items.size());
+
+    ArchiveReport report;
+    report.skippedDuplicates = int(plan.items.size() - items.size());
+    double lastEmit = 0.0;
+
+    auto emitProgress = [&](int eventsCompleted, std::optional<QString> fileName) {
+        if (progress)
+            progress(ArchiveProgress{report.bytesCopied, totalBytes, eventsCompleted, totalEvents, std::move(fileName)});
+    };
+    // Per-file emits share one throttle across the run; the run's last file always emits.
+    auto maybeEmit = [&](int i, bool isLastFile, const QString &fileName) {
+        const double now = clockSeconds();
+        if (isLastFile || now - lastEmit >= progressThrottleSeconds) {
+            emitProgress(i, fileName);
+            lastEmit = now;
+        }
+    };
+
+    // A failure shows up below as a failure of each event's folder.
+    QDir().mkpath(vaultURL);
+
+    for (int i = 0; i < totalEvents && !report.cancelled; ++i) {
+        if (stop.stop_requested()) {
+            report.cancelled = true;
+            break;
+        }
+        const TeslaEvent &event = items[size_t(i)].event;
+        const QString relative = relativePath(event);
+        const QString folder = QDir(vaultURL).filePath(relative);
+        if (!QDir().mkpath(folder)) {
+            report.failedFiles.push_back(
+                {folder, friendlyReason(std::make_exception_ptr(std::system_error(EIO, std::generic_category())))});
+            continue;
+        }
+
+        const std::vector<QString> sources = sourceFiles(event);
+        std::vector<ArchivedFile> files;
+        for (size_t j = 0; j < sources.size(); ++j) {
+            if (stop.stop_requested()) {
+                report.cancelled = true;
+                break;
+            }
+            const QString &source = sources[j];
+            const QString name = lastPathComponent(source);
+            const bool isLastFile = i == totalEvents - 1 && j == sources.size() - 1;
+            maybeEmit(i, isLastFile, name);
+            try {
+                const ArchivedFile copied = copyFileWithHash(source, folder + QLatin1Char('/') + name, timeoutPerFile, stop);
+                files.push_back(copied);
+                report.bytesCopied += copied.size;
+                maybeEmit(i, isLastFile, name);
+            } catch (const CancellationError &) {
+                report.cancelled = true;
+                break;
+            } catch (...) {
+                report.failedFiles.push_back({source, friendlyReason(std::current_exception())});
+            }
+        }
+        // A cut-off event keeps its files on disk but gets no record.
+        if (report.cancelled || files.empty())
+            continue;
+
+        ArchivedEvent record;
+        record.eventID = event.id();
+        record.kind = event.kind;
+        record.folderName = event.folderName;
+        record.timestamp = event.timestamp;
+        record.files = std::move(files);
+        record.archivedAt = Date::now();
+        record.sourceVolume = volumeName(event.folderURL);
+        record.relativePath = relative;
+        report.archivedEvents.push_back(std::move(record));
+        emitProgress(i + 1, std::nullopt);
+    }
+
+    // Always merged, also after a cancel or when nothing was copied. An
+    // unreadable manifest counts as empty and is replaced; a failed write
+    // is dropped: the files are on disk and the report says so.
+    VaultIndex merged = VaultIndex::loadOrEmpty(vaultURL);
+    merged.events.insert(merged.events.end(), report.archivedEvents.begin(), report.archivedEvents.end());
+    try {
+        merged.save(vaultURL);
+    } catch (...) {
+    }
+    return report;
+}
+
+} // namespace ArchiveEngine

@@ -1,0 +1,75 @@
+#pragma once
+
+#include "model/ArchiveProgress.h"
+#include "model/ArchiveReport.h"
+#include "model/TeslaEvent.h"
+#include "vault/ArchivePlan.h"
+#include "vault/ArchivedFile.h"
+#include "vault/VaultIndex.h"
+
+#include <QString>
+#include <chrono>
+#include <exception>
+#include <stop_token>
+#include <string>
+#include <vector>
+
+// The one place where footage leaves the car's drive: each file is copied
+// under a temporary name while its SHA-256 is taken from the bytes as read,
+// its size is checked, and only then is it moved into place. A run never
+// fails as a whole; what went wrong is told in its report.
+namespace ArchiveEngine {
+
+class ArchiveEngineError : public std::exception {
+public:
+    enum Case { sizeMismatch, cannotCreateFile };
+    ArchiveEngineError(Case c, const QString &path);
+    Case errorCase() const { return case_; }
+    // The source path (sizeMismatch) or the temporary file's path (cannotCreateFile).
+    const QString &path() const { return path_; }
+    const char *what() const noexcept override { return text_.c_str(); }
+
+private:
+    Case case_;
+    QString path_;
+    std::string text_;
+};
+
+inline constexpr std::chrono::milliseconds defaultTimeoutPerFile{10000};
+inline constexpr qint64 chunkSize = 1048576;
+inline constexpr double progressThrottleSeconds = 0.1;
+
+// Sorts new events from those the Vault already holds with the same files.
+// Reads only file sizes on the drive; never fails.
+ArchivePlan plan(const std::vector<TeslaEvent> &events, const VaultIndex &vault);
+
+// Copies every new item of the plan into the Vault and merges the records
+// into manifest.json at the end, also when stopped. Blocking; requesting
+// stop on the token cancels it between events, files and 1 MiB blocks.
+ArchiveReport run(const ArchivePlan &plan, const QString &vaultURL, const ArchiveProgressCallback &progress = {},
+                  std::chrono::milliseconds timeoutPerFile = defaultTimeoutPerFile, std::stop_token stop = {});
+
+// What a run copies for one event: its clips, then event.json and the
+// thumbnail when they exist now.
+std::vector<QString> sourceFiles(const TeslaEvent &event);
+
+// "<year>/<kind>/<folder name>", the year taken in the local time zone now.
+QString relativePath(const TeslaEvent &event);
+
+// One file, under the watchdog's limit. Raises on any failure; CancellationError
+// when stop was requested.
+ArchivedFile copyFileWithHash(const QString &from, const QString &to, std::chrono::milliseconds timeout,
+                              std::stop_token stop = {});
+
+// The sentence the user reads for a file that failed.
+QString friendlyReason(const std::exception_ptr &error);
+
+namespace Reason {
+inline constexpr const char16_t *timedOut = u"This file took too long to read \u2014 the drive may be failing.";
+inline constexpr const char16_t *cannotCreateFile = u"Couldn't create a file in your Vault folder.";
+inline constexpr const char16_t *sizeMismatch =
+    u"This file changed size while copying \u2014 the drive may have been disconnected.";
+inline constexpr const char16_t *unreadable = u"This file couldn't be read.";
+} // namespace Reason
+
+} // namespace ArchiveEngine

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "model/Date.h"
+#include "model/EventKind.h"
+#include "vault/ArchivedFile.h"
+
+#include <QJsonObject>
+#include <QString>
+#include <vector>
+
+// One kept event as recorded in the Vault's manifest.json.
+struct ArchivedEvent {
+    QString eventID;      // the TeslaEvent id: "<kind>|<folder name>"
+    EventKind kind = EventKind::sentry;
+    QString folderName;
+    Date timestamp;
+    std::vector<ArchivedFile> files; // really copied, in copy order
+    Date archivedAt;
+    QString sourceVolume; // "Unknown Drive" when the name could not be read
+    QString relativePath; // "<year>/<kind>/<folder name>" from the Vault root
+
+    const QString &id() const { return eventID; }
+
+    // kind|folder|file count|total bytes|sorted names joined with ",".
+    // Digests take no part: a returning drive is recognised without hashing.
+    QString dedupeKey() const;
+    qint64 totalBytes() const;
+
+    bool operator==(const ArchivedEvent &) const = default;
+
+    QJsonObject toJson() const;
+    static ArchivedEvent fromJson(const QJsonValue &value);
+
+    static inline const QString unknownDrive = QStringLiteral("Unknown Drive");
+};
+
+size_t qHash(const ArchivedEvent &e, size_t seed = 0) noexcept;

@@ -1,0 +1,84 @@
+#include "vault/VaultBrowser.h"
+
+#include "drive/ReadOnlyFs.h"
+#include "drive/TeslaCamParser.h"
+#include "model/ClipRef.h"
+
+#include <algorithm>
+
+namespace VaultBrowser {
+
+namespace {
+
+// Sub-folders of a folder; a listing that fails is an empty branch, so
+// one damaged folder never hides the rest.
+std::vector<QString> subfolders(const QString &folder)
+{
+    std::vector<QString> names;
+    for (const auto &entry : ReadOnlyFs::list(folder, ReadOnlyFs::directoryFlag).entries)
+        if (entry.isDirectory)
+            names.push_back(entry.name);
+    return names;
+}
+
+std::optional<TeslaEvent> recentEvent(const QString &folder, const QString &name, std::vector<ScanIssue> &issues)
+{
+    auto clips = TeslaCamParser::parseFlatClipsDirectory(folder, issues);
+    if (!clips || clips->empty())
+        return std::nullopt;
+    ClipOrder::sort(*clips);
+    TeslaEvent event;
+    event.kind = EventKind::recent;
+    event.folderURL = folder;
+    event.folderName = name;
+    const auto earliest = std::min_element(clips->begin(), clips->end(), [](const ClipRef &a, const ClipRef &b) {
+        return a.startDate < b.startDate;
+    });
+    event.timestamp = earliest->startDate;
+    event.reason = PlainReason{ReasonCategory::recentDrive, std::nullopt, std::nullopt};
+    event.clips = std::move(*clips);
+    event.missingEventJSON = true;
+    return event;
+}
+
+} // namespace
+
+std::vector<TeslaEvent> scanVault(const QString &url)
+{
+    const ReadOnlyFs::PathInfo root = ReadOnlyFs::stat(url);
+    if (!root.exists || !root.isDirectory)
+        throw VaultBrowserError(VaultBrowserError::vaultNotFound);
+
+    std::vector<TeslaEvent> events;
+    // The Vault has no issue list: parser findings are dropped.
+    std::vector<ScanIssue> issues;
+    for (const QString &year : subfolders(url)) {
+        const QString yearFolder = url + QLatin1Char('/') + year;
+        for (const QString &kindName : subfolders(yearFolder)) {
+            const auto kind = EventKind::fromRawValue(kindName);
+            if (!kind)
+                continue;
+            const QString kindFolder = yearFolder + QLatin1Char('/') + kindName;
+            for (const QString &name : subfolders(kindFolder)) {
+                const QString folder = kindFolder + QLatin1Char('/') + name;
+                if (*kind == EventKind::recent) {
+                    if (auto event = recentEvent(folder, name, issues))
+                        events.push_back(std::move(*event));
+                    continue;
+                }
+                const auto groups = TeslaCamParser::matchFolderName(name);
+                if (!groups)
+                    continue;
+                const auto stamp = TeslaCamParser::parseTimestamp(groups->date, groups->time);
+                if (!stamp)
+                    continue;
+                if (auto event = TeslaCamParser::parseEventFolder(folder, *kind, *stamp, issues))
+                    events.push_back(std::move(*event));
+            }
+        }
+    }
+    EventOrder::sortNewestFirst(events);
+    return events;
+}
+
+} // namespace VaultBrowser

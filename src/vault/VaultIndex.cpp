@@ -1,0 +1,108 @@
+#include "vault/VaultIndex.h"
+
+#include "model/JsonCoding.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <algorithm>
+
+QString VaultIndex::manifestPath(const QString &vaultURL)
+{
+    return QDir(vaultURL).filePath(manifestFileName);
+}
+
+QSet<QString> VaultIndex::dedupeKeySet() const
+{
+    QSet<QString> keys;
+    keys.reserve(qsizetype(events.size()));
+    for (const auto &e : events)
+        keys.insert(e.dedupeKey());
+    return keys;
+}
+
+bool VaultIndex::contains(const ArchivedEvent &dedupeKeyOf) const
+{
+    const QString key = dedupeKeyOf.dedupeKey();
+    return std::any_of(events.begin(), events.end(), [&](const ArchivedEvent &e) { return e.dedupeKey() == key; });
+}
+
+VaultIndex VaultIndex::load(const QString &vaultURL)
+{
+    const QString path = manifestPath(vaultURL);
+    if (!QFileInfo::exists(path))
+        return {};
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        throw FileError(QStringLiteral("Couldn't read %1: %2").arg(path, file.errorString()));
+    const QByteArray data = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        throw FileError(QStringLiteral("Couldn't read %1: %2").arg(path, file.errorString()));
+    return fromJson(JsonCoding::parseObject(data));
+}
+
+VaultIndex VaultIndex::loadOrEmpty(const QString &vaultURL) noexcept
+{
+    try {
+        return load(vaultURL);
+    } catch (...) {
+        return {};
+    }
+}
+
+void VaultIndex::save(const QString &vaultURL) const
+{
+    if (!QDir().mkpath(vaultURL))
+        throw FileError(QStringLiteral("Couldn't create the folder %1.").arg(vaultURL));
+    const QString path = manifestPath(vaultURL);
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        throw FileError(QStringLiteral("Couldn't write %1: %2").arg(path, file.errorString()));
+    const QByteArray data = JsonCoding::toCompactJson(toJson());
+    if (file.write(data) != data.size()) {
+        const QString why = file.errorString();
+        file.cancelWriting();
+        throw FileError(QStringLiteral("Couldn't write %1: %2").arg(path, why));
+    }
+    if (!file.commit())
+        throw FileError(QStringLiteral("Couldn't write %1: %2").arg(path, file.errorString()));
+}
+
+bool VaultIndex::removeEvent(const QString &eventID, const QString &vaultURL)
+{
+    VaultIndex index = load(vaultURL);
+    const auto first = std::find_if(index.events.begin(), index.events.end(),
+                                    [&](const ArchivedEvent &e) { return e.eventID == eventID; });
+    if (first == index.events.end())
+        return false;
+
+    const QString folder = QDir(vaultURL).filePath(first->relativePath);
+    const QFileInfo info(folder);
+    // A folder that is already gone is no error: the record goes all the same.
+    if (info.exists() || info.isSymLink()) {
+        // The freedesktop Trash, so the user can undo it from the desktop.
+        QString trashed = folder;
+        if (!QFile::moveToTrash(trashed))
+            throw FileError(QStringLiteral("Couldn't move %1 to the Trash.").arg(folder));
+    }
+
+    std::erase_if(index.events, [&](const ArchivedEvent &e) { return e.eventID == eventID; });
+    index.save(vaultURL);
+    return true;
+}
+
+QJsonObject VaultIndex::toJson() const
+{
+    QJsonObject o;
+    o.insert(QStringLiteral("events"), JsonCoding::encodeArray(events));
+    return o;
+}
+
+VaultIndex VaultIndex::fromJson(const QJsonValue &value)
+{
+    const QJsonObject o = JsonCoding::requireObject(value, "VaultIndex");
+    VaultIndex index;
+    index.events = JsonCoding::decodeArray<ArchivedEvent>(JsonCoding::requireArray(o, "events"));
+    return index;
+}

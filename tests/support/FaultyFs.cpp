@@ -1,0 +1,244 @@
+#define FUSE_USE_VERSION 35
+#include "support/FaultyFs.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <atomic>
+#include <cerrno>
+#include <cstring>
+#include <fuse.h>
+#include <map>
+#include <mutex>
+#include <set>
+#include <string>
+#include <sys/stat.h>
+#include <thread>
+#include <unistd.h>
+
+struct FaultyFs::State {
+    QString mountPoint;
+    fuse *handle = nullptr;
+    std::thread loop;
+    bool mounted = false;
+
+    std::mutex mutex;
+    struct File {
+        QByteArray content;
+        qint64 failFrom = -1;
+    };
+    std::map<std::string, File> files; // "/TeslaCam/…"
+    std::set<std::string> folders{"/"};
+    std::atomic<qint64> served{0};
+    std::atomic<qint64> vanishAfter{-1};
+    std::atomic<bool> vanished{false};
+};
+
+namespace {
+
+FaultyFs::State &state()
+{
+    return *static_cast<FaultyFs::State *>(fuse_get_context()->private_data);
+}
+
+void *onInit(fuse_conn_info *, fuse_config *config)
+{
+    // No caching anywhere: every read and lookup must reach us, so that a
+    // fault set during a test takes effect at once.
+    config->entry_timeout = 0;
+    config->attr_timeout = 0;
+    config->negative_timeout = 0;
+    config->direct_io = 1;
+    config->kernel_cache = 0;
+    return fuse_get_context()->private_data;
+}
+
+int onGetattr(const char *path, struct stat *st, fuse_file_info *)
+{
+    auto &s = state();
+    std::memset(st, 0, sizeof *st);
+    std::lock_guard lock(s.mutex);
+    if (s.vanished && std::strcmp(path, "/") != 0)
+        return -ENOENT;
+    if (s.folders.count(path)) {
+        st->st_mode = S_IFDIR | 0755;
+        st->st_nlink = 2;
+        return 0;
+    }
+    const auto it = s.files.find(path);
+    if (it == s.files.end())
+        return -ENOENT;
+    st->st_mode = S_IFREG | 0444;
+    st->st_nlink = 1;
+    st->st_size = it->second.content.size();
+    return 0;
+}
+
+int onReaddir(const char *path, void *buffer, fuse_fill_dir_t fill, off_t, fuse_file_info *, fuse_readdir_flags)
+{
+    auto &s = state();
+    std::lock_guard lock(s.mutex);
+    if (s.vanished)
+        return std::strcmp(path, "/") == 0 ? 0 : -ENOENT;
+    if (!s.folders.count(path))
+        return -ENOENT;
+    fill(buffer, ".", nullptr, 0, fuse_fill_dir_flags(0));
+    fill(buffer, "..", nullptr, 0, fuse_fill_dir_flags(0));
+    std::string prefix = path;
+    if (prefix != "/")
+        prefix += '/';
+    std::set<std::string> names;
+    auto collect = [&](const std::string &p) {
+        if (p.size() > prefix.size() && p.compare(0, prefix.size(), prefix) == 0) {
+            const std::string rest = p.substr(prefix.size());
+            if (rest.find('/') == std::string::npos)
+                names.insert(rest);
+        }
+    };
+    for (const auto &f : s.folders)
+        collect(f);
+    for (const auto &[p, file] : s.files)
+        collect(p);
+    for (const auto &n : names)
+        fill(buffer, n.c_str(), nullptr, 0, fuse_fill_dir_flags(0));
+    return 0;
+}
+
+int onOpen(const char *path, fuse_file_info *info)
+{
+    auto &s = state();
+    std::lock_guard lock(s.mutex);
+    if (s.vanished || !s.files.count(path))
+        return -ENOENT;
+    if ((info->flags & O_ACCMODE) != O_RDONLY)
+        return -EROFS;
+    info->direct_io = 1;
+    return 0;
+}
+
+int onRead(const char *path, char *buffer, size_t size, off_t offset, fuse_file_info *)
+{
+    auto &s = state();
+    std::lock_guard lock(s.mutex);
+    if (s.vanished)
+        return -EIO;
+    const auto it = s.files.find(path);
+    if (it == s.files.end())
+        return -EIO;
+    const auto &file = it->second;
+    if (file.failFrom >= 0 && offset + qint64(size) > file.failFrom)
+        return -EIO;
+    const qint64 length = file.content.size();
+    if (offset >= length)
+        return 0;
+    const size_t n = size_t(std::min<qint64>(qint64(size), length - offset));
+    std::memcpy(buffer, file.content.constData() + offset, n);
+    const qint64 total = s.served += qint64(n);
+    const qint64 limit = s.vanishAfter.load();
+    if (limit >= 0 && total >= limit)
+        s.vanished = true;
+    return int(n);
+}
+
+const fuse_operations &operations()
+{
+    static const fuse_operations ops = [] {
+        fuse_operations o{};
+        o.init = onInit;
+        o.getattr = onGetattr;
+        o.readdir = onReaddir;
+        o.open = onOpen;
+        o.read = onRead;
+        return o;
+    }();
+    return ops;
+}
+
+std::string key(const QString &relativePath)
+{
+    return (QLatin1Char('/') + QDir::cleanPath(relativePath)).toStdString();
+}
+
+} // namespace
+
+bool FaultyFs::available()
+{
+    return ::geteuid() == 0 && ::access("/dev/fuse", R_OK | W_OK) == 0;
+}
+
+FaultyFs::FaultyFs(const QString &mountPoint) : state_(std::make_unique<State>())
+{
+    state_->mountPoint = mountPoint;
+    if (!available())
+        return;
+    char name[] = "faultyfs";
+    char *argv[] = {name, nullptr};
+    fuse_args args = FUSE_ARGS_INIT(1, argv);
+    state_->handle = fuse_new(&args, &operations(), sizeof(fuse_operations), state_.get());
+    fuse_opt_free_args(&args);
+    if (!state_->handle)
+        return;
+    if (fuse_mount(state_->handle, QFile::encodeName(mountPoint).constData()) != 0) {
+        fuse_destroy(state_->handle);
+        state_->handle = nullptr;
+        return;
+    }
+    state_->mounted = true;
+    state_->loop = std::thread([h = state_->handle] { fuse_loop(h); });
+}
+
+FaultyFs::~FaultyFs()
+{
+    if (!state_->handle)
+        return;
+    // Unmounting ends the loop: its read of /dev/fuse fails once the
+    // kernel drops the connection.
+    fuse_exit(state_->handle);
+    fuse_unmount(state_->handle);
+    if (state_->loop.joinable())
+        state_->loop.join();
+    fuse_destroy(state_->handle);
+}
+
+bool FaultyFs::isMounted() const
+{
+    return state_->mounted;
+}
+
+const QString &FaultyFs::mountPoint() const
+{
+    return state_->mountPoint;
+}
+
+void FaultyFs::addFile(const QString &relativePath, const QByteArray &content)
+{
+    std::lock_guard lock(state_->mutex);
+    const std::string path = key(relativePath);
+    state_->files[path].content = content;
+    for (size_t slash = path.find('/', 1); slash != std::string::npos; slash = path.find('/', slash + 1))
+        state_->folders.insert(path.substr(0, slash));
+}
+
+void FaultyFs::failReadsFrom(const QString &relativePath, qint64 offset)
+{
+    std::lock_guard lock(state_->mutex);
+    state_->files[key(relativePath)].failFrom = offset;
+}
+
+void FaultyFs::vanishAfterBytes(qint64 bytes)
+{
+    state_->vanishAfter = bytes;
+    if (bytes <= state_->served)
+        state_->vanished = true;
+}
+
+void FaultyFs::vanish()
+{
+    std::lock_guard lock(state_->mutex);
+    state_->vanished = true;
+}
+
+qint64 FaultyFs::bytesServed() const
+{
+    return state_->served;
+}

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <memory>
+
+// A small FUSE file system served from memory on a thread of the test
+// process: a drive that can be made to fail. Reads can fail with EIO from
+// a given offset, and the whole drive can vanish after a number of bytes
+// has been served, as when it is pulled mid-copy. Needs root and /dev/fuse;
+// tests check available() and skip otherwise.
+class FaultyFs {
+public:
+    static bool available();
+
+    // Mounts on mountPoint (an existing empty folder); isMounted() tells
+    // whether that worked.
+    explicit FaultyFs(const QString &mountPoint);
+    ~FaultyFs();
+    FaultyFs(const FaultyFs &) = delete;
+    FaultyFs &operator=(const FaultyFs &) = delete;
+
+    bool isMounted() const;
+    const QString &mountPoint() const;
+
+    // relativePath like "TeslaCam/SentryClips/<event>/<clip>"; folders are implied.
+    void addFile(const QString &relativePath, const QByteArray &content);
+    // Reads that reach offset fail with EIO from then on.
+    void failReadsFrom(const QString &relativePath, qint64 offset);
+    // Once this many bytes have been served in all, every file and folder is
+    // gone: lookups answer ENOENT and reads of open files EIO.
+    void vanishAfterBytes(qint64 bytes);
+    void vanish();
+    qint64 bytesServed() const;
+
+    struct State;
+
+private:
+    std::unique_ptr<State> state_;
+};

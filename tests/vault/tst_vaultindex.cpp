@@ -1,0 +1,312 @@
+#include "model/JsonCoding.h"
+#include "vault/ArchivedEvent.h"
+#include "vault/VaultIndex.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QProcess>
+#include <QScopeGuard>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <cmath>
+#include <cstring>
+#include <unistd.h>
+
+namespace {
+
+ArchivedEvent makeEvent(const QString &folder, std::vector<ArchivedFile> files, EventKind kind = EventKind::saved)
+{
+    ArchivedEvent e;
+    e.eventID = kind.rawValue() + QLatin1Char('|') + folder;
+    e.kind = kind;
+    e.folderName = folder;
+    e.timestamp = Date(806058932.0);
+    e.files = std::move(files);
+    e.archivedAt = Date(806060000.25);
+    e.sourceVolume = QStringLiteral("TESLADRIVE");
+    e.relativePath = QStringLiteral("2026/%1/%2").arg(kind.rawValue(), folder);
+    return e;
+}
+
+QByteArray readAll(const QString &path)
+{
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+void writeAll(const QString &path, const QByteArray &bytes)
+{
+    QFile f(path);
+    QVERIFY(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    f.write(bytes);
+}
+
+} // namespace
+
+class TestVaultIndex : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir home_;
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        // The Trash of these tests lives in a throwaway home.
+        QVERIFY(home_.isValid());
+        qputenv("HOME", home_.path().toUtf8());
+        qputenv("XDG_DATA_HOME", (home_.path() + "/data").toUtf8());
+        QDir().mkpath(home_.path() + "/data");
+    }
+
+    void dedupeKeyHasTheDocumentedShape()
+    {
+        const auto e = makeEvent(QStringLiteral("2026-07-18_09-15-32"),
+                                 {{QStringLiteral("event.json"), 1000, QStringLiteral("aa")},
+                                  {QStringLiteral("2026-07-18_09-14-32-front.mp4"), 8000, QStringLiteral("bb")}});
+        QCOMPARE(e.dedupeKey(),
+                 QStringLiteral("saved|2026-07-18_09-15-32|2|9000|2026-07-18_09-14-32-front.mp4,event.json"));
+
+        const auto empty = makeEvent(QStringLiteral("2026-07-18_09-15-32"), {});
+        QVERIFY(empty.dedupeKey().endsWith(QStringLiteral("|0|0|")));
+
+        // Digests take no part.
+        auto otherDigest = e;
+        otherDigest.files[0].sha256 = QStringLiteral("zz");
+        otherDigest.archivedAt = Date(1);
+        otherDigest.sourceVolume = QStringLiteral("OTHER");
+        QCOMPARE(otherDigest.dedupeKey(), e.dedupeKey());
+    }
+
+    void containsComparesTheWholeKey()
+    {
+        const auto kept = makeEvent(QStringLiteral("2026-07-18_09-15-32"),
+                                    {{QStringLiteral("a-front.mp4"), 10, {}}, {QStringLiteral("event.json"), 5, {}}});
+        VaultIndex index;
+        index.events.push_back(kept);
+        QVERIFY(index.contains(kept));
+        QCOMPARE(index.dedupeKeySet().size(), 1);
+
+        auto moreFiles = kept;
+        moreFiles.files.push_back({QStringLiteral("thumb.png"), 0, {}});
+        QVERIFY(!index.contains(moreFiles));
+
+        auto otherSize = kept;
+        otherSize.files[0].size = 11;
+        QVERIFY(!index.contains(otherSize));
+
+        auto otherName = kept;
+        otherName.files[0].name = QStringLiteral("a-back.mp4");
+        QVERIFY(!index.contains(otherName));
+
+        auto otherKind = kept;
+        otherKind.kind = EventKind::sentry;
+        QVERIFY(!index.contains(otherKind));
+    }
+
+    void emptyVaultLoadsEmptyAndWritesNothing()
+    {
+        QTemporaryDir vault;
+        QCOMPARE(VaultIndex::load(vault.path()).events.size(), size_t(0));
+        QVERIFY(!QFile::exists(vault.filePath("manifest.json")));
+        QCOMPARE(VaultIndex::loadOrEmpty(vault.path() + "/does/not/exist").events.size(), size_t(0));
+    }
+
+    void manifestIsCompactWithExactKeysAndNumericDates()
+    {
+        QTemporaryDir dir;
+        const QString vault = dir.filePath("new/parents/Vault");
+        VaultIndex index;
+        index.events.push_back(makeEvent(QStringLiteral("2026-07-18_09-15-32"),
+                                         {{QStringLiteral("a-front.mp4"), 5000000000LL, QString(64, 'a')}}));
+        index.events.push_back(makeEvent(QStringLiteral("2026-07-19_10-00-00"), {}, EventKind::sentry));
+        index.save(vault);
+
+        const QByteArray bytes = readAll(vault + "/manifest.json");
+        QVERIFY(!bytes.contains('\n'));
+        QVERIFY(!bytes.contains(": "));
+        const QJsonObject top = QJsonDocument::fromJson(bytes).object();
+        QCOMPARE(top.keys(), QStringList{"events"});
+        const QJsonObject first = top["events"].toArray()[0].toObject();
+        QStringList keys = first.keys();
+        keys.sort();
+        QCOMPARE(keys, (QStringList{"archivedAt", "eventID", "files", "folderName", "kind", "relativePath",
+                                    "sourceVolume", "timestamp"}));
+        QVERIFY(first["timestamp"].isDouble());
+        QVERIFY(first["archivedAt"].isDouble());
+        QCOMPARE(first["kind"].toString(), QStringLiteral("saved"));
+        const QJsonObject file = first["files"].toArray()[0].toObject();
+        QCOMPARE(file.keys(), (QStringList{"name", "sha256", "size"}));
+        // Sizes are JSON integers, also past 32 bits.
+        QVERIFY(bytes.contains("\"size\":5000000000"));
+
+        QCOMPARE(VaultIndex::load(vault), index);
+    }
+
+    void datesWithFractionsRoundTripBitForBit()
+    {
+        QTemporaryDir vault;
+        const double values[] = {806058932.123456789, 0.1 + 0.2, std::nextafter(806058932.5, 1e12), -1234.000001,
+                                  1e-300};
+        VaultIndex index;
+        for (double v : values) {
+            auto e = makeEvent(QStringLiteral("2026-07-18_09-15-32"), {});
+            e.timestamp = Date(v);
+            e.archivedAt = Date(std::nextafter(v, 0.0));
+            index.events.push_back(e);
+        }
+        index.save(vault.path());
+        const VaultIndex back = VaultIndex::load(vault.path());
+        QCOMPARE(back.events.size(), index.events.size());
+        for (size_t i = 0; i < back.events.size(); ++i) {
+            QVERIFY(std::memcmp(&back.events[i].timestamp, &index.events[i].timestamp, sizeof(Date)) == 0);
+            QVERIFY(std::memcmp(&back.events[i].archivedAt, &index.events[i].archivedAt, sizeof(Date)) == 0);
+        }
+    }
+
+    void readerIsStrictAboutKeysAndTypes_data()
+    {
+        QTest::addColumn<QByteArray>("json");
+        const QByteArray file = R"({"name":"a.mp4","size":10,"sha256":"ab"})";
+        auto event = [&](const QByteArray &replace, const QByteArray &with) {
+            QByteArray e = R"({"eventID":"saved|x","kind":"saved","folderName":"x","timestamp":1.5,"files":[FILE],)"
+                           R"("archivedAt":2.5,"sourceVolume":"V","relativePath":"2026/saved/x"})";
+            e.replace("FILE", file);
+            e.replace(replace, with);
+            return QByteArray(R"({"events":[)") + e + "]}";
+        };
+        QTest::newRow("not JSON") << QByteArray("{\"events\":[");
+        QTest::newRow("not an object") << QByteArray("[]");
+        QTest::newRow("no events key") << QByteArray("{}");
+        QTest::newRow("missing eventID") << event("\"eventID\":\"saved|x\",", "");
+        QTest::newRow("date as text") << event("\"timestamp\":1.5", "\"timestamp\":\"2026-07-18T09:15:32Z\"");
+        QTest::newRow("unknown kind") << event("\"kind\":\"saved\"", "\"kind\":\"parked\"");
+        QTest::newRow("size as text") << event("\"size\":10", "\"size\":\"10\"");
+        QTest::newRow("size with a fraction") << event("\"size\":10", "\"size\":10.5");
+        QTest::newRow("missing sha256") << event(",\"sha256\":\"ab\"", "");
+        QTest::newRow("files not an array") << event("\"files\":[" + file + "]", "\"files\":{}");
+    }
+
+    void readerIsStrictAboutKeysAndTypes()
+    {
+        QFETCH(QByteArray, json);
+        QTemporaryDir vault;
+        writeAll(vault.filePath("manifest.json"), json);
+        QVERIFY_THROWS_EXCEPTION(JsonCoding::DecodingError, VaultIndex::load(vault.path()));
+        QCOMPARE(VaultIndex::loadOrEmpty(vault.path()).events.size(), size_t(0));
+        // The forgiving reader leaves the file as it was.
+        QCOMPARE(readAll(vault.filePath("manifest.json")), json);
+    }
+
+    void unknownKeysAreIgnoredAndDroppedOnWrite()
+    {
+        QTemporaryDir vault;
+        writeAll(vault.filePath("manifest.json"),
+                 R"({"version":3,"events":[{"eventID":"saved|x","kind":"saved","folderName":"x","timestamp":1.5,)"
+                 R"("files":[{"name":"a.mp4","size":10,"sha256":"ab","extra":true}],"archivedAt":2.5,)"
+                 R"("sourceVolume":"V","relativePath":"2026/saved/x","note":"hi"}]})");
+        const VaultIndex index = VaultIndex::load(vault.path());
+        QCOMPARE(index.events.size(), size_t(1));
+        QCOMPARE(index.events[0].files[0].size, qint64(10));
+        index.save(vault.path());
+        const QByteArray bytes = readAll(vault.filePath("manifest.json"));
+        QVERIFY(!bytes.contains("version"));
+        QVERIFY(!bytes.contains("extra"));
+        QVERIFY(!bytes.contains("note"));
+    }
+
+    void saveReplacesTheWholeFileAndLeavesNoTemporaryBehind()
+    {
+        QTemporaryDir vault;
+        writeAll(vault.filePath("manifest.json"), QByteArray(100000, 'x'));
+        VaultIndex{}.save(vault.path());
+        QCOMPARE(readAll(vault.filePath("manifest.json")), QByteArray(R"({"events":[]})"));
+        QCOMPARE(QDir(vault.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+                 QStringList{"manifest.json"});
+    }
+
+    void saveRaisesWhenTheFolderCannotBeMade()
+    {
+        QTemporaryDir dir;
+        writeAll(dir.filePath("file"), "x");
+        QVERIFY_THROWS_EXCEPTION(VaultIndex::FileError, VaultIndex{}.save(dir.filePath("file/Vault")));
+    }
+
+    void removeEventTrashesTheFolderAndEveryRecordOfTheId()
+    {
+        QTemporaryDir vault;
+        const auto partial = makeEvent(QStringLiteral("2026-07-18_09-15-32"), {{QStringLiteral("a-front.mp4"), 3, {}}});
+        auto whole = partial;
+        whole.files.push_back({QStringLiteral("a-back.mp4"), 4, {}});
+        const auto other = makeEvent(QStringLiteral("2026-07-19_10-00-00"), {{QStringLiteral("b-front.mp4"), 3, {}}});
+        VaultIndex index;
+        index.events = {partial, other, whole};
+        index.save(vault.path());
+        const QString folder = vault.filePath(partial.relativePath);
+        QDir().mkpath(folder);
+        writeAll(folder + "/a-front.mp4", "abc");
+
+        QVERIFY(VaultIndex::removeEvent(partial.eventID, vault.path()));
+        QVERIFY(!QFileInfo::exists(folder));
+        // Undoable: it lies in the freedesktop Trash with its files.
+        QVERIFY(QFileInfo::exists(home_.path() + "/data/Trash/files/2026-07-18_09-15-32/a-front.mp4"));
+        QCOMPARE(VaultIndex::load(vault.path()).events, std::vector<ArchivedEvent>{other});
+        // The year and kind folders stay.
+        QVERIFY(QFileInfo::exists(vault.filePath("2026/saved")));
+
+        QVERIFY(!VaultIndex::removeEvent(partial.eventID, vault.path()));
+        QCOMPARE(VaultIndex::load(vault.path()).events.size(), size_t(1));
+    }
+
+    void removeEventWhoseFolderIsGoneStillDropsTheRecord()
+    {
+        QTemporaryDir vault;
+        VaultIndex index;
+        index.events = {makeEvent(QStringLiteral("2026-07-18_09-15-32"), {})};
+        index.save(vault.path());
+        QVERIFY(VaultIndex::removeEvent(index.events[0].eventID, vault.path()));
+        QCOMPARE(VaultIndex::load(vault.path()).events.size(), size_t(0));
+    }
+
+    void removeEventWithoutManifestOrWithABadOneTouchesNothing()
+    {
+        QTemporaryDir vault;
+        QVERIFY(!VaultIndex::removeEvent(QStringLiteral("saved|x"), vault.path()));
+        QVERIFY(!QFile::exists(vault.filePath("manifest.json")));
+
+        writeAll(vault.filePath("manifest.json"), "not json");
+        QDir().mkpath(vault.filePath("2026/saved/x"));
+        QVERIFY_THROWS_EXCEPTION(JsonCoding::DecodingError, VaultIndex::removeEvent(QStringLiteral("saved|x"), vault.path()));
+        QVERIFY(QFileInfo::exists(vault.filePath("2026/saved/x")));
+        QCOMPARE(readAll(vault.filePath("manifest.json")), QByteArray("not json"));
+    }
+
+    void removeEventRaisesWhenTheTrashFailsAndKeepsTheRecord()
+    {
+        // A Vault on its own volume uses that volume's Trash folder; a plain
+        // file in its place makes the Trash unusable. Needs a tmpfs mount.
+        if (::geteuid() != 0)
+            QSKIP("needs root to mount a tmpfs");
+        QTemporaryDir mountPoint;
+        if (QProcess::execute("mount", {"-t", "tmpfs", "-o", "size=4m", "tmpfs", mountPoint.path()}) != 0)
+            QSKIP("tmpfs mount not available");
+        const auto unmount = qScopeGuard([&] { QProcess::execute("umount", {mountPoint.path()}); });
+        writeAll(mountPoint.filePath(".Trash-0"), "not a folder");
+        writeAll(mountPoint.filePath(".Trash"), "not a folder");
+        const QString vault = mountPoint.filePath("Vault");
+        const auto kept = makeEvent(QStringLiteral("2026-07-18_09-15-32"), {{QStringLiteral("a-front.mp4"), 3, {}}});
+        VaultIndex index;
+        index.events = {kept};
+        index.save(vault);
+        QDir().mkpath(vault + "/" + kept.relativePath);
+
+        QVERIFY_THROWS_EXCEPTION(VaultIndex::FileError, VaultIndex::removeEvent(kept.eventID, vault));
+        QVERIFY(QFileInfo::exists(vault + "/" + kept.relativePath));
+        QCOMPARE(VaultIndex::load(vault).events.size(), size_t(1));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestVaultIndex)
+#include "tst_vaultindex.moc"
