@@ -42,6 +42,11 @@ int openRead(const QString &path)
     return openWith(QFile::encodeName(path), O_RDONLY);
 }
 
+int openReadNonBlocking(const QString &path)
+{
+    return openWith(QFile::encodeName(path), O_RDONLY | O_NONBLOCK);
+}
+
 Listing list(const QString &folder, int fields)
 {
     Listing result;

@@ -28,6 +28,9 @@ Listing list(const QString &folder, int fields);
 
 // Opens a file for reading only; -1 with errno set on failure.
 int openRead(const QString &path);
+// The same without waiting for a partner: a FIFO or device node opens at
+// once instead of blocking. Reads of regular files are unaffected.
+int openReadNonBlocking(const QString &path);
 
 struct PathInfo {
     bool exists = false;

@@ -1,0 +1,360 @@
+#include "drive/ClipProber.h"
+
+#include "drive/IOWatchdog.h"
+#include "drive/ReadOnlyFs.h"
+#include "model/CancellationError.h"
+
+#include <QFile>
+#include <QThreadPool>
+#include <QtGlobal>
+
+#include <algorithm>
+#include <cerrno>
+#include <cmath>
+#include <condition_variable>
+#include <cstring>
+#include <deque>
+#include <memory>
+#include <mutex>
+#include <sys/stat.h>
+#include <unistd.h>
+
+extern "C" {
+#include <libavcodec/avcodec.h>
+#include <libavformat/avformat.h>
+#include <libavformat/avio.h>
+#include <libavutil/mem.h>
+}
+
+namespace ClipProber {
+
+namespace {
+
+constexpr int signatureLength = 12;
+constexpr int ioBufferSize = 64 * 1024;
+
+// What the load under the watchdog learns about one file.
+struct Loaded {
+    bool playable = false;
+    std::optional<double> duration;
+};
+
+class LoadFailed : public std::exception {
+public:
+    const char *what() const noexcept override { return "The file could not be opened as a movie."; }
+};
+
+// libavformat reads through this rather than its own file protocol, so that
+// the file is opened by us: read-only, with O_NOATIME, and only on the
+// watched thread. Every read first asks whether the watchdog gave up.
+struct FileSource {
+    int fd = -1;
+    std::stop_token stop;
+
+    ~FileSource()
+    {
+        if (fd >= 0)
+            ::close(fd);
+    }
+};
+
+int readPacket(void *opaque, uint8_t *buffer, int size)
+{
+    auto *source = static_cast<FileSource *>(opaque);
+    for (;;) {
+        if (source->stop.stop_requested())
+            return AVERROR_EXIT;
+        const ssize_t n = ::read(source->fd, buffer, size_t(size));
+        if (n > 0)
+            return int(n);
+        if (n == 0)
+            return AVERROR_EOF;
+        if (errno != EINTR)
+            return AVERROR(errno);
+    }
+}
+
+int64_t seekFile(void *opaque, int64_t offset, int whence)
+{
+    auto *source = static_cast<FileSource *>(opaque);
+    if (whence & AVSEEK_SIZE) {
+        struct stat st {};
+        if (::fstat(source->fd, &st) != 0)
+            return AVERROR(errno);
+        return S_ISREG(st.st_mode) ? int64_t(st.st_size) : AVERROR(ENOSYS);
+    }
+    const off_t position = ::lseek(source->fd, off_t(offset), whence & ~AVSEEK_FORCE);
+    return position < 0 ? AVERROR(errno) : int64_t(position);
+}
+
+// Consulted by libavformat before reads and inside avformat_find_stream_info.
+int interruptRequested(void *opaque)
+{
+    return static_cast<const std::stop_token *>(opaque)->stop_requested() ? 1 : 0;
+}
+
+struct IoContextDeleter {
+    void operator()(AVIOContext *io) const
+    {
+        av_freep(&io->buffer);
+        avio_context_free(&io);
+    }
+};
+
+struct FormatContextDeleter {
+    void operator()(AVFormatContext *format) const { avformat_close_input(&format); }
+};
+
+struct CodecContextDeleter {
+    void operator()(AVCodecContext *codec) const { avcodec_free_context(&codec); }
+};
+
+// The car writes ISO base media files only. Naming the demuxer keeps
+// libavformat from guessing some other format out of random bytes.
+const AVInputFormat *movieFormat()
+{
+    static const AVInputFormat *format = av_find_input_format("mp4");
+    return format;
+}
+
+// Throws when the file can't be opened as a movie at all; returns
+// not-playable when it opens but holds no video that can be decoded.
+Loaded load(const QString &path, std::stop_token stop)
+{
+    FileSource source;
+    source.stop = stop;
+    // Opened here, under the limit: an open that hangs (a dead drive, a FIFO)
+    // is the watchdog's to bound.
+    source.fd = ReadOnlyFs::openRead(path);
+    if (source.fd < 0 || stop.stop_requested())
+        throw LoadFailed();
+
+    auto *buffer = static_cast<unsigned char *>(av_malloc(ioBufferSize));
+    if (!buffer)
+        throw LoadFailed();
+    std::unique_ptr<AVIOContext, IoContextDeleter> io(
+        avio_alloc_context(buffer, ioBufferSize, 0, &source, readPacket, nullptr, seekFile));
+    if (!io) {
+        av_free(buffer);
+        throw LoadFailed();
+    }
+
+    AVFormatContext *raw = avformat_alloc_context();
+    if (!raw)
+        throw LoadFailed();
+    raw->pb = io.get();
+    raw->flags |= AVFMT_FLAG_CUSTOM_IO;
+    // Before avformat_open_input, so that even the header read can be stopped.
+    raw->interrupt_callback.callback = interruptRequested;
+    raw->interrupt_callback.opaque = &source.stop;
+    const QByteArray name = QFile::encodeName(path);
+    // On failure avformat_open_input frees the context (but not our I/O).
+    if (avformat_open_input(&raw, name.constData(), movieFormat(), nullptr) < 0)
+        throw LoadFailed();
+    std::unique_ptr<AVFormatContext, FormatContextDeleter> format(raw);
+    if (avformat_find_stream_info(format.get(), nullptr) < 0)
+        throw LoadFailed();
+
+    Loaded loaded;
+    const AVCodec *decoder = nullptr;
+    const int streamIndex = av_find_best_stream(format.get(), AVMEDIA_TYPE_VIDEO, -1, -1, &decoder, 0);
+    if (streamIndex < 0 || !decoder)
+        return loaded;
+    std::unique_ptr<AVCodecContext, CodecContextDeleter> codec(avcodec_alloc_context3(decoder));
+    if (!codec || avcodec_parameters_to_context(codec.get(), format->streams[streamIndex]->codecpar) < 0)
+        return loaded;
+    // One thread: we only ask whether the decoder opens, and frame threads cost.
+    codec->thread_count = 1;
+    if (avcodec_open2(codec.get(), decoder, nullptr) < 0)
+        return loaded;
+
+    loaded.playable = true;
+    if (format->duration != AV_NOPTS_VALUE) {
+        const double seconds = double(format->duration) / AV_TIME_BASE;
+        if (std::isfinite(seconds))
+            loaded.duration = seconds;
+    }
+    return loaded;
+}
+
+void applyMassRule(std::vector<std::optional<ProbeResult>> &results)
+{
+    // A handful of bad clips stays damage; when half or more of a drive fails
+    // the same way, it is the car's encrypted footage. Empty files are left
+    // out of the share: they say nothing about how the car writes.
+    int unreadable = 0;
+    int counted = 0;
+    for (const auto &result : results) {
+        if (!result)
+            continue;
+        if (result->health == ClipHealth::unreadable)
+            ++unreadable;
+        if (result->health != ClipHealth::zeroByte)
+            ++counted;
+    }
+    if (counted == 0 || unreadable <= 2 || double(unreadable) / double(counted) < 0.5)
+        return;
+    for (auto &result : results) {
+        if (result && result->health == ClipHealth::unreadable)
+            result->health = ClipHealth::encrypted;
+    }
+}
+
+} // namespace
+
+bool sniffFtyp(const QString &path)
+{
+    // Non-blocking open: a FIFO would otherwise wait here for a writer,
+    // outside any time limit. The car's drives hold only regular files.
+    const int fd = ReadOnlyFs::openReadNonBlocking(path);
+    if (fd < 0)
+        return false;
+    struct stat st {};
+    bool matches = false;
+    if (::fstat(fd, &st) == 0 && S_ISREG(st.st_mode)) {
+        char head[signatureLength];
+        int got = 0;
+        while (got < signatureLength) {
+            const ssize_t n = ::read(fd, head + got, size_t(signatureLength - got));
+            if (n < 0 && errno == EINTR)
+                continue;
+            if (n <= 0)
+                break;
+            got += int(n);
+        }
+        matches = got == signatureLength && std::memcmp(head + 4, "ftyp", 4) == 0;
+    }
+    ::close(fd);
+    return matches;
+}
+
+ProbeResult probeDetailed(const ClipRef &clip, std::chrono::milliseconds timeout, std::stop_token stop)
+{
+    // The scanned size decides the first two cases; such files are not opened.
+    if (clip.fileSize == 0)
+        return {ClipHealth::zeroByte, std::nullopt};
+    if (clip.fileSize < minimumBelievableSize)
+        return {ClipHealth::truncated, std::nullopt};
+
+    const bool beginsLikeMp4 = sniffFtyp(clip.url);
+    // A file that starts like an MP4 and still won't play is taken to be the
+    // car's encryption; one that doesn't even start like one is damage.
+    const ClipHealth refused = beginsLikeMp4 ? ClipHealth::encrypted : ClipHealth::unreadable;
+    try {
+        const Loaded loaded = IOWatchdog::run(
+            timeout, [path = clip.url](std::stop_token token) { return load(path, token); }, stop);
+        if (loaded.playable)
+            return {ClipHealth::ok, loaded.duration};
+        return {refused, std::nullopt};
+    } catch (const IOWatchdog::TimedOut &) {
+        return {ClipHealth::timedOut, std::nullopt};
+    } catch (const CancellationError &) {
+        throw;
+    } catch (...) {
+        return {refused, std::nullopt};
+    }
+}
+
+ClipHealth probe(const ClipRef &clip, std::chrono::milliseconds timeout, std::stop_token stop)
+{
+    return probeDetailed(clip, timeout, stop).health;
+}
+
+std::vector<TeslaEvent> probeAll(const std::vector<TeslaEvent> &events, std::chrono::milliseconds timeout,
+                                 int concurrencyCap, const Progress &progress, std::stop_token stop)
+{
+    if (concurrencyCap < 0)
+        qFatal("ClipProber::probeAll: negative concurrency cap %d", concurrencyCap);
+
+    struct Ref {
+        qsizetype eventIndex;
+        qsizetype clipIndex;
+        ClipRef clip;
+    };
+    std::vector<Ref> refs;
+    for (qsizetype e = 0; e < qsizetype(events.size()); ++e) {
+        const auto &clips = events[size_t(e)].clips;
+        for (qsizetype c = 0; c < qsizetype(clips.size()); ++c)
+            refs.push_back({e, c, clips[size_t(c)]});
+    }
+    if (refs.empty())
+        return events;
+    if (stop.stop_requested())
+        throw CancellationError();
+
+    const int total = int(refs.size());
+    std::vector<std::optional<ProbeResult>> results(refs.size());
+
+    // Children hand their results over through this queue; the results, the
+    // counters and progress belong to this thread alone.
+    struct Finished {
+        size_t index = 0;
+        std::optional<ProbeResult> result; // absent when the probe was cancelled
+    };
+    std::mutex mutex;
+    std::condition_variable arrived;
+    std::deque<Finished> finished;
+    // Declared last so that it is destroyed first, waiting for every child.
+    QThreadPool children;
+    children.setMaxThreadCount(std::max(1, std::min(concurrencyCap, total)));
+
+    size_t next = 0;
+    int inFlight = 0;
+    auto submitNext = [&] {
+        const size_t index = next++;
+        ++inFlight;
+        children.start([&, index] {
+            Finished done{index, std::nullopt};
+            try {
+                done.result = probeDetailed(refs[index].clip, timeout, stop);
+            } catch (const CancellationError &) {
+            }
+            std::lock_guard lock(mutex);
+            finished.push_back(std::move(done));
+            arrived.notify_one();
+        });
+    };
+
+    const size_t initial = std::min(size_t(concurrencyCap), refs.size());
+    while (next < initial)
+        submitNext();
+
+    int completed = 0;
+    bool cancelled = false;
+    while (inFlight > 0) {
+        Finished done;
+        {
+            std::unique_lock lock(mutex);
+            arrived.wait(lock, [&] { return !finished.empty(); });
+            done = std::move(finished.front());
+            finished.pop_front();
+        }
+        --inFlight;
+        cancelled = cancelled || !done.result || stop.stop_requested();
+        if (cancelled)
+            continue; // let the rest drain; the pass is abandoned
+        results[done.index] = done.result;
+        ++completed;
+        if (progress)
+            progress(completed, total);
+        if (next < refs.size())
+            submitNext();
+    }
+    if (cancelled)
+        throw CancellationError();
+
+    applyMassRule(results);
+
+    std::vector<TeslaEvent> updated = events;
+    for (size_t i = 0; i < refs.size(); ++i) {
+        if (!results[i])
+            continue;
+        ClipRef &clip = updated[size_t(refs[i].eventIndex)].clips[size_t(refs[i].clipIndex)];
+        clip.health = results[i]->health;
+        if (results[i]->duration)
+            clip.duration = results[i]->duration;
+    }
+    return updated;
+}
+
+} // namespace ClipProber

@@ -1,0 +1,584 @@
+#include "drive/ClipProber.h"
+#include "drive/TeslaCamParser.h"
+#include "model/CancellationError.h"
+#include "support/TeslaCamFixture.h"
+#include "support/TestClips.h"
+#include "support/TreeSnapshot.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <atomic>
+#include <chrono>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <thread>
+#include <unistd.h>
+
+using namespace std::chrono_literals;
+using Clock = std::chrono::steady_clock;
+
+namespace {
+
+// Lets go of FIFO readers the way a dead drive answers late: every period
+// from the start, whoever waits in open() on one of the FIFOs gets a writer
+// that closes at once. Only waiting readers are reached (a non-blocking
+// write open fails without one), so a reader is released at the first tick
+// after it began to wait.
+class FifoReleaser {
+public:
+    FifoReleaser(const QStringList &fifos, std::chrono::milliseconds period)
+        : thread_([fifos, period](std::stop_token stop) {
+              auto tick = Clock::now() + period;
+              while (!stop.stop_requested()) {
+                  while (Clock::now() < tick && !stop.stop_requested())
+                      std::this_thread::sleep_for(5ms);
+                  releaseWaiting(fifos);
+                  tick += period;
+              }
+          })
+    {
+    }
+
+    static void releaseWaiting(const QStringList &fifos)
+    {
+        for (const QString &fifo : fifos) {
+            const int fd = ::open(QFile::encodeName(fifo).constData(), O_WRONLY | O_NONBLOCK | O_CLOEXEC);
+            if (fd >= 0)
+                ::close(fd);
+        }
+    }
+
+private:
+    std::jthread thread_;
+};
+
+double secondsSince(Clock::time_point start)
+{
+    return std::chrono::duration<double>(Clock::now() - start).count();
+}
+
+QByteArray randomBytes(qsizetype count, quint32 seed)
+{
+    QRandomGenerator random(seed);
+    QByteArray bytes(count, Qt::Uninitialized);
+    for (char &byte : bytes)
+        byte = char(random.generate() & 0xff);
+    return bytes;
+}
+
+ClipRef clipAt(const QString &path, std::optional<qint64> size = std::nullopt)
+{
+    ClipRef clip;
+    clip.url = path;
+    clip.camera = Camera::front;
+    clip.fileSize = size ? *size : QFileInfo(path).size();
+    return clip;
+}
+
+TeslaEvent eventWith(std::vector<ClipRef> clips, const QString &name = QStringLiteral("2026-07-21_02-11-05"))
+{
+    TeslaEvent event;
+    event.kind = EventKind::sentry;
+    event.folderName = name;
+    event.clips = std::move(clips);
+    return event;
+}
+
+std::vector<ClipHealth> healthsOf(const std::vector<TeslaEvent> &events)
+{
+    std::vector<ClipHealth> healths;
+    for (const auto &event : events)
+        for (const auto &clip : event.clips)
+            healths.push_back(clip.health);
+    return healths;
+}
+
+// The offset of the first top-level box of the given type, or -1.
+qint64 topLevelBoxOffset(const QByteArray &file, const char *type)
+{
+    qint64 at = 0;
+    while (at + 8 <= file.size()) {
+        quint64 size = quint32(quint8(file[at]) << 24 | quint8(file[at + 1]) << 16 | quint8(file[at + 2]) << 8
+                               | quint8(file[at + 3]));
+        if (file.mid(at + 4, 4) == type)
+            return at;
+        if (size == 1) {
+            size = 0;
+            for (int i = 0; i < 8; ++i)
+                size = size << 8 | quint8(file[at + 8 + i]);
+        }
+        if (size < 8)
+            return -1;
+        at += qint64(size);
+    }
+    return -1;
+}
+
+} // namespace
+
+class TestClipProber : public QObject {
+    Q_OBJECT
+
+private:
+    QTemporaryDir dir_;
+    QString h264_;
+    QString h265_;
+    int counter_ = 0;
+
+    QString file(const QString &name) const { return dir_.filePath(name); }
+
+    QString write(const QByteArray &bytes)
+    {
+        const QString path = file(QStringLiteral("clip-%1.mp4").arg(++counter_));
+        TeslaCamFixture::writeFile(path, bytes);
+        return path;
+    }
+
+    QString copyOf(const QString &source)
+    {
+        const QString path = file(QStringLiteral("clip-%1.mp4").arg(++counter_));
+        if (!QFile::copy(source, path))
+            qFatal("cannot copy %s", qPrintable(source));
+        return path;
+    }
+
+    QString fifo()
+    {
+        const QString path = file(QStringLiteral("2026-07-21_02-11-05-front-%1.mp4").arg(++counter_));
+        if (::mkfifo(QFile::encodeName(path).constData(), 0644) != 0)
+            qFatal("mkfifo failed");
+        return path;
+    }
+
+    // 65,536 random bytes: no signature, nothing a demuxer can use.
+    QString randomClip() { return write(randomBytes(65536, quint32(counter_ + 1))); }
+
+    QByteArray withSignatureAt(int offset)
+    {
+        QByteArray bytes = randomBytes(65536, 7);
+        bytes.replace(0, 4, QByteArray("\x00\x00\x00\x18", 4));
+        bytes.replace(offset, 4, "ftyp");
+        return bytes;
+    }
+
+    // A clip that lost its index to a power loss: everything before moov.
+    QString clipWithoutMoov()
+    {
+        QFile source(h264_);
+        if (!source.open(QIODevice::ReadOnly))
+            qFatal("cannot read the source clip");
+        const QByteArray bytes = source.readAll();
+        const qint64 moov = topLevelBoxOffset(bytes, "moov");
+        const qint64 mdat = topLevelBoxOffset(bytes, "mdat");
+        if (moov < 0 || mdat < 0 || moov < mdat)
+            qFatal("the generated clip does not end with its moov box");
+        return write(bytes.left(moov));
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        if (!TestClips::ffmpegAvailable())
+            QSKIP("the ffmpeg tool is needed to make real clips");
+        QVERIFY(dir_.isValid());
+        h264_ = TestClips::clip();
+        TestClips::Spec hevc;
+        hevc.codec = QStringLiteral("libx265");
+        h265_ = TestClips::clip(hevc);
+        QVERIFY(QFileInfo(h264_).size() >= ClipProber::minimumBelievableSize);
+        QVERIFY(QFileInfo(h265_).size() >= ClipProber::minimumBelievableSize);
+    }
+
+    void sizeRulesDecideWithoutOpening_data()
+    {
+        QTest::addColumn<qint64>("size");
+        QTest::addColumn<int>("expected");
+        QTest::newRow("0 bytes") << qint64(0) << int(ClipHealth::zeroByte);
+        QTest::newRow("1 byte") << qint64(1) << int(ClipHealth::truncated);
+        QTest::newRow("65,535 bytes") << qint64(65535) << int(ClipHealth::truncated);
+    }
+
+    void sizeRulesDecideWithoutOpening()
+    {
+        QFETCH(qint64, size);
+        QFETCH(int, expected);
+        const QString path = write(randomBytes(size, 3));
+        const ClipProber::ProbeResult result = ClipProber::probeDetailed(clipAt(path));
+        QCOMPARE(int(result.health), expected);
+        QVERIFY(!result.duration);
+
+        // The scanned size alone decides: a FIFO under that size would hang
+        // anything that opened it, yet the answer comes at once.
+        const QString hanging = fifo();
+        const auto start = Clock::now();
+        QCOMPARE(int(ClipProber::probe(clipAt(hanging, size), 5s)), expected);
+        QVERIFY(secondsSince(start) < 1.0);
+    }
+
+    void realClipsAreOkWithTheirLength_data()
+    {
+        QTest::addColumn<bool>("hevc");
+        QTest::newRow("H.264") << false;
+        QTest::newRow("H.265") << true;
+    }
+
+    void realClipsAreOkWithTheirLength()
+    {
+        QFETCH(bool, hevc);
+        const QString path = copyOf(hevc ? h265_ : h264_);
+        QVERIFY(ClipProber::sniffFtyp(path));
+        const ClipProber::ProbeResult result = ClipProber::probeDetailed(clipAt(path));
+        QCOMPARE(result.health, ClipHealth::ok);
+        QVERIFY(result.duration);
+        QVERIFY2(qAbs(*result.duration - 2.0) < 0.1, qPrintable(QString::number(*result.duration)));
+    }
+
+    void refusedFilesByTheirBeginning_data()
+    {
+        QTest::addColumn<QString>("kind");
+        QTest::addColumn<bool>("signature");
+        QTest::addColumn<int>("expected");
+        QTest::newRow("65,536 random bytes") << "random" << false << int(ClipHealth::unreadable);
+        QTest::newRow("ftyp at 4, then garbage") << "ftyp4" << true << int(ClipHealth::encrypted);
+        QTest::newRow("ftyp at 8, then garbage") << "ftyp8" << false << int(ClipHealth::unreadable);
+        // Starts well but lost its index: the one-file rule reads it as encrypted.
+        QTest::newRow("moov cut off") << "nomoov" << true << int(ClipHealth::encrypted);
+    }
+
+    void refusedFilesByTheirBeginning()
+    {
+        QFETCH(QString, kind);
+        QFETCH(bool, signature);
+        QFETCH(int, expected);
+        QString path;
+        if (kind == QLatin1String("random"))
+            path = randomClip();
+        else if (kind == QLatin1String("ftyp4"))
+            path = write(withSignatureAt(4));
+        else if (kind == QLatin1String("ftyp8"))
+            path = write(withSignatureAt(8));
+        else
+            path = clipWithoutMoov();
+        QVERIFY(QFileInfo(path).size() >= ClipProber::minimumBelievableSize);
+        QCOMPARE(ClipProber::sniffFtyp(path), signature);
+        const ClipProber::ProbeResult result = ClipProber::probeDetailed(clipAt(path));
+        QCOMPARE(int(result.health), expected);
+        QVERIFY(!result.duration);
+        // Alone in a pass, the mass rule leaves it as it is.
+        const auto events = ClipProber::probeAll({eventWith({clipAt(path)})}, 5s, 4);
+        QCOMPARE(int(events[0].clips[0].health), expected);
+    }
+
+    void sniffNeedsTwelveBytesAndNeverBlocks()
+    {
+        QVERIFY(!ClipProber::sniffFtyp(write(QByteArray("\x00\x00\x00\x18" "ftypmp4", 11))));
+        QVERIFY(ClipProber::sniffFtyp(write(QByteArray("\x00\x00\x00\x18" "ftypmp42", 12))));
+        QVERIFY(!ClipProber::sniffFtyp(file(QStringLiteral("missing.mp4"))));
+        QVERIFY(!ClipProber::sniffFtyp(dir_.path()));
+        const auto start = Clock::now();
+        QVERIFY(!ClipProber::sniffFtyp(fifo()));
+        QVERIFY(secondsSince(start) < 1.0);
+    }
+
+    void unreadableFileIsUnreadable()
+    {
+        // A scanned clip that has since become unreadable to us.
+        const QString path = copyOf(h264_);
+        QVERIFY(QFile::remove(path));
+        QCOMPARE(ClipProber::probe(clipAt(path, 30'000'000)), ClipHealth::unreadable);
+    }
+
+    void hangingClipTimesOut()
+    {
+        const QString hanging = fifo();
+        // The scan saw a full-sized clip; the drive stopped answering since.
+        const ClipRef clip = clipAt(hanging, 30'000'000);
+        FifoReleaser releaser({hanging}, 650ms);
+        const auto start = Clock::now();
+        const ClipProber::ProbeResult result = ClipProber::probeDetailed(clip, 500ms);
+        const double elapsed = secondsSince(start);
+        QCOMPARE(result.health, ClipHealth::timedOut);
+        QVERIFY(!result.duration);
+        QVERIFY2(elapsed >= 0.5 && elapsed < 1.5, qPrintable(QString::number(elapsed)));
+    }
+
+    void passGoesOnPastAHangingClip()
+    {
+        const QString hanging = fifo();
+        std::vector<ClipRef> clips{clipAt(hanging, 30'000'000), clipAt(copyOf(h264_)), clipAt(randomClip()),
+                                   clipAt(copyOf(h265_))};
+        FifoReleaser releaser({hanging}, 1150ms);
+        const auto start = Clock::now();
+        const auto events = ClipProber::probeAll({eventWith(clips)}, 1s, 2);
+        const double elapsed = secondsSince(start);
+        QCOMPARE(healthsOf(events), (std::vector<ClipHealth>{ClipHealth::timedOut, ClipHealth::ok,
+                                                             ClipHealth::unreadable, ClipHealth::ok}));
+        QVERIFY(!events[0].clips[0].duration);
+        QVERIFY(events[0].clips[1].duration);
+        QVERIFY2(elapsed < 2.5, qPrintable(QString::number(elapsed)));
+    }
+
+    void massRule_data()
+    {
+        QTest::addColumn<int>("ok");
+        QTest::addColumn<int>("unreadable");
+        QTest::addColumn<int>("zeroByte");
+        QTest::addColumn<int>("truncated");
+        QTest::addColumn<bool>("becomeEncrypted");
+        QTest::newRow("5 of 10") << 5 << 5 << 0 << 0 << true;
+        QTest::newRow("4 of 10") << 6 << 4 << 0 << 0 << false;
+        QTest::newRow("2 of 2") << 0 << 2 << 0 << 0 << false;
+        QTest::newRow("3 of 3") << 0 << 3 << 0 << 0 << true;
+        QTest::newRow("4 among 6 zero-byte") << 0 << 4 << 6 << 0 << true;
+        QTest::newRow("3 among 4 truncated") << 0 << 3 << 0 << 4 << false;
+    }
+
+    void massRule()
+    {
+        QFETCH(int, ok);
+        QFETCH(int, unreadable);
+        QFETCH(int, zeroByte);
+        QFETCH(int, truncated);
+        QFETCH(bool, becomeEncrypted);
+        // Spread over two events: the rule looks at the whole drive at once.
+        std::vector<ClipRef> first, second;
+        for (int i = 0; i < ok; ++i)
+            (i % 2 ? second : first).push_back(clipAt(copyOf(h264_)));
+        for (int i = 0; i < unreadable; ++i)
+            (i % 2 ? first : second).push_back(clipAt(randomClip()));
+        for (int i = 0; i < zeroByte; ++i)
+            first.push_back(clipAt(write({})));
+        for (int i = 0; i < truncated; ++i)
+            second.push_back(clipAt(write(randomBytes(1000, 5))));
+        const auto events = ClipProber::probeAll(
+            {eventWith(first), eventWith(second, QStringLiteral("2026-07-21_03-00-00"))}, 5s, 4);
+
+        QMap<int, int> counts;
+        for (ClipHealth health : healthsOf(events))
+            ++counts[int(health)];
+        QCOMPARE(counts.value(ClipHealth::ok), ok);
+        QCOMPARE(counts.value(ClipHealth::zeroByte), zeroByte);
+        QCOMPARE(counts.value(ClipHealth::truncated), truncated);
+        QCOMPARE(counts.value(ClipHealth::encrypted), becomeEncrypted ? unreadable : 0);
+        QCOMPARE(counts.value(ClipHealth::unreadable), becomeEncrypted ? 0 : unreadable);
+    }
+
+    void writeBackKeepsEarlierDurations()
+    {
+        ClipRef refused = clipAt(randomClip());
+        refused.health = ClipHealth::ok; // as an earlier probe found it
+        refused.duration = 59.5;
+        ClipRef playable = clipAt(copyOf(h264_));
+        playable.health = ClipHealth::unreadable;
+        playable.duration = 99.0;
+        ClipRef empty = clipAt(write({}));
+        empty.duration = 12.0;
+        const std::vector<TeslaEvent> input{eventWith({refused, playable, empty})};
+        const std::vector<TeslaEvent> copy = input;
+
+        const auto events = ClipProber::probeAll(input, 5s, 4);
+        QCOMPARE(input, copy);
+        const auto &clips = events[0].clips;
+        QCOMPARE(clips[0].health, ClipHealth::unreadable);
+        QCOMPARE(clips[0].duration, std::optional<double>(59.5));
+        QCOMPARE(clips[1].health, ClipHealth::ok);
+        QVERIFY(clips[1].duration && qAbs(*clips[1].duration - 2.0) < 0.1);
+        QCOMPARE(clips[2].health, ClipHealth::zeroByte);
+        QCOMPARE(clips[2].duration, std::optional<double>(12.0));
+        // Nothing else about the events changes.
+        auto stripped = events;
+        for (size_t i = 0; i < 3; ++i) {
+            stripped[0].clips[i].health = copy[0].clips[i].health;
+            stripped[0].clips[i].duration = copy[0].clips[i].duration;
+        }
+        QCOMPARE(stripped, copy);
+    }
+
+    void progressCountsFromTheCallingThread()
+    {
+        std::vector<ClipRef> clips;
+        for (int i = 0; i < 7; ++i)
+            clips.push_back(clipAt(i % 2 ? randomClip() : copyOf(h264_)));
+        std::vector<std::pair<int, int>> calls;
+        bool sameThread = true;
+        const auto caller = std::this_thread::get_id();
+        ClipProber::probeAll({eventWith(clips)}, 5s, 3, [&](int completed, int total) {
+            sameThread = sameThread && std::this_thread::get_id() == caller;
+            calls.emplace_back(completed, total);
+        });
+        QVERIFY(sameThread);
+        QCOMPARE(int(calls.size()), 7);
+        for (int i = 0; i < 7; ++i)
+            QCOMPARE(calls[size_t(i)], std::make_pair(i + 1, 7));
+    }
+
+    void capLargerThanCountStartsAllAtOnce()
+    {
+        QStringList fifos;
+        std::vector<ClipRef> clips;
+        for (int i = 0; i < 4; ++i) {
+            fifos << fifo();
+            clips.push_back(clipAt(fifos.last(), 30'000'000));
+        }
+        FifoReleaser releaser(fifos, 450ms);
+        const auto start = Clock::now();
+        const auto events = ClipProber::probeAll({eventWith(clips)}, 300ms, 10);
+        const double elapsed = secondsSince(start);
+        QCOMPARE(healthsOf(events), std::vector<ClipHealth>(4, ClipHealth::timedOut));
+        // One round of hanging, not four.
+        QVERIFY2(elapsed < 0.9, qPrintable(QString::number(elapsed)));
+    }
+
+    void capBoundsProbesInFlight()
+    {
+        QStringList fifos;
+        std::vector<ClipRef> clips;
+        for (int i = 0; i < 4; ++i) {
+            fifos << fifo();
+            clips.push_back(clipAt(fifos.last(), 30'000'000));
+        }
+        FifoReleaser releaser(fifos, 450ms);
+        const auto start = Clock::now();
+        const auto events = ClipProber::probeAll({eventWith(clips)}, 300ms, 2);
+        const double elapsed = secondsSince(start);
+        QCOMPARE(healthsOf(events), std::vector<ClipHealth>(4, ClipHealth::timedOut));
+        // Two at a time: the second pair only begins to wait once the first
+        // pair has been let go, so it can't end before the second release.
+        QVERIFY2(elapsed >= 0.9 && elapsed < 1.8, qPrintable(QString::number(elapsed)));
+    }
+
+    void capZeroAndNoClipsChangeNothing()
+    {
+        const std::vector<TeslaEvent> input{eventWith({clipAt(copyOf(h264_)), clipAt(randomClip())})};
+        int calls = 0;
+        const auto count = [&](int, int) { ++calls; };
+        QCOMPARE(ClipProber::probeAll(input, 5s, 0, count), input);
+        const std::vector<TeslaEvent> empty{eventWith({}), eventWith({}, QStringLiteral("2026-07-21_03-00-00"))};
+        QCOMPARE(ClipProber::probeAll(empty, 5s, 4, count), empty);
+        QCOMPARE(ClipProber::probeAll({}, 5s, 4, count), std::vector<TeslaEvent>{});
+        QCOMPARE(calls, 0);
+    }
+
+    void stopRequestEndsThePass()
+    {
+        QStringList fifos;
+        std::vector<ClipRef> clips;
+        for (int i = 0; i < 6; ++i) {
+            fifos << fifo();
+            clips.push_back(clipAt(fifos.last(), 30'000'000));
+        }
+        // The hanging opens are let go late, as a dead drive answers; the
+        // pass must end then, not after each clip's own 10 seconds.
+        FifoReleaser releaser(fifos, 500ms);
+        std::stop_source stop;
+        std::jthread stopper([&] {
+            std::this_thread::sleep_for(200ms);
+            stop.request_stop();
+        });
+        int progressCalls = 0;
+        const auto start = Clock::now();
+        QVERIFY_THROWS_EXCEPTION(CancellationError,
+                                 ClipProber::probeAll(
+                                     {eventWith(clips)}, 10s, 2, [&](int, int) { ++progressCalls; },
+                                     stop.get_token()));
+        const double elapsed = secondsSince(start);
+        QVERIFY2(elapsed < 2.0, qPrintable(QString::number(elapsed)));
+        QCOMPARE(progressCalls, 0);
+
+        // Asked to stop before it starts, it starts nothing.
+        QVERIFY_THROWS_EXCEPTION(CancellationError,
+                                 ClipProber::probeAll({eventWith({clipAt(copyOf(h264_))})}, 5s, 4, {},
+                                                      stop.get_token()));
+    }
+
+    void driveStaysUntouched()
+    {
+        QTemporaryDir drive;
+        TeslaCamFixture fixture(drive.filePath(QStringLiteral("TeslaCam")));
+        const QString event = fixture.addEvent(QStringLiteral("SentryClips"), QStringLiteral("2026-07-21_02-11-05"),
+                                               TeslaCamFixture::eventJson(QStringLiteral("2026-07-21T02:11:05"),
+                                                                          QStringLiteral("sentry_aware_object_detection")));
+        fixture.addClip(event, QStringLiteral("2026-07-21_02-10-05"), QStringLiteral("front"), 0, h264_);
+        fixture.addClip(event, QStringLiteral("2026-07-21_02-10-05"), QStringLiteral("back"), 0, h265_);
+        TeslaCamFixture::writeFile(event + QStringLiteral("/2026-07-21_02-10-05-left_repeater.mp4"),
+                                   withSignatureAt(4));
+        TeslaCamFixture::writeFile(event + QStringLiteral("/2026-07-21_02-10-05-right_repeater.mp4"), {});
+        fixture.addRecentClip(QStringLiteral("2026-07-21_01-00-00"), QStringLiteral("front"), 0, h264_);
+        TeslaCamFixture::writeFile(fixture.path(QStringLiteral("RecentClips/2026-07-21_01-00-00-back.mp4")),
+                                   randomBytes(200000, 11));
+        // Access times too: every open must have asked for O_NOATIME.
+        const TreeSnapshot before = TreeSnapshot::take(drive.path());
+
+        const DriveScan scan = TeslaCamParser::scan(fixture.root());
+        const auto events = ClipProber::probeAll(scan.events, ClipProber::defaultTimeout, 4);
+        QMap<QString, ClipHealth> byName;
+        for (const auto &e : events)
+            for (const auto &clip : e.clips)
+                byName.insert(clip.fileName(), clip.health);
+        QCOMPARE(byName.size(), 6);
+        QCOMPARE(byName.value(QStringLiteral("2026-07-21_02-10-05-front.mp4")), ClipHealth::ok);
+        QCOMPARE(byName.value(QStringLiteral("2026-07-21_02-10-05-back.mp4")), ClipHealth::ok);
+        QCOMPARE(byName.value(QStringLiteral("2026-07-21_02-10-05-left_repeater.mp4")), ClipHealth::encrypted);
+        QCOMPARE(byName.value(QStringLiteral("2026-07-21_02-10-05-right_repeater.mp4")), ClipHealth::zeroByte);
+        QCOMPARE(byName.value(QStringLiteral("2026-07-21_01-00-00-back.mp4")), ClipHealth::unreadable);
+
+        const QString changes = before.differences(TreeSnapshot::take(drive.path()), true);
+        QVERIFY2(changes.isEmpty(), qPrintable(changes));
+    }
+
+    void commandLineProbesAfterTheScan()
+    {
+        QTemporaryDir drive;
+        TeslaCamFixture fixture(drive.filePath(QStringLiteral("TeslaCam")));
+        fixture.addRecentClip(QStringLiteral("2026-07-21_01-00-00"), QStringLiteral("front"), 0, h265_);
+        TeslaCamFixture::writeFile(fixture.path(QStringLiteral("RecentClips/2026-07-21_01-00-00-back.mp4")),
+                                   randomBytes(70000, 13));
+        const auto cli = [&](const QStringList &arguments, QByteArray *out = nullptr) {
+            QProcess process;
+            process.start(QStringLiteral(KEELHOLD_CLI_PATH), arguments);
+            if (!process.waitForFinished(60000))
+                return -1;
+            if (out)
+                *out = process.readAllStandardOutput();
+            return process.exitCode();
+        };
+
+        QByteArray out;
+        QCOMPARE(cli({QStringLiteral("scan"), fixture.root(), QStringLiteral("--probe"), QStringLiteral("--timeout"),
+                      QStringLiteral("5")},
+                     &out),
+                 0);
+        const QJsonObject scan = QJsonDocument::fromJson(out).object();
+        QMap<QString, QJsonObject> byName;
+        for (const auto &event : scan.value(QStringLiteral("events")).toArray())
+            for (const auto &clip : event.toObject().value(QStringLiteral("clips")).toArray())
+                byName.insert(QFileInfo(clip.toObject().value(QStringLiteral("url")).toString()).fileName(),
+                              clip.toObject());
+        const QJsonObject front = byName.value(QStringLiteral("2026-07-21_01-00-00-front.mp4"));
+        QCOMPARE(front.value(QStringLiteral("health")).toString(), QStringLiteral("ok"));
+        QVERIFY(qAbs(front.value(QStringLiteral("duration")).toDouble() - 2.0) < 0.1);
+        QCOMPARE(byName.value(QStringLiteral("2026-07-21_01-00-00-back.mp4")).value(QStringLiteral("health")).toString(),
+                 QStringLiteral("unreadable"));
+
+        // Without --probe the clips keep the scan's unknown health.
+        QCOMPARE(cli({QStringLiteral("scan"), fixture.root()}, &out), 0);
+        QVERIFY(!out.contains("\"ok\""));
+        QVERIFY(out.contains("\"unknown\""));
+
+        QCOMPARE(cli({QStringLiteral("scan"), fixture.root(), QStringLiteral("--probe"), QStringLiteral("--timeout"),
+                      QStringLiteral("soon")}),
+                 64);
+        QCOMPARE(cli({QStringLiteral("scan"), fixture.root(), QStringLiteral("--timeout"), QStringLiteral("5")}), 64);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestClipProber)
+#include "tst_clipprober.moc"
