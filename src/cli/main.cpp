@@ -1,4 +1,5 @@
 #include "cli/CliOutput.h"
+#include "cli/ExportCommand.h"
 #include "cli/KeepCommand.h"
 #include "cli/ScanCommand.h"
 #include "cli/VaultCommand.h"
@@ -11,6 +12,7 @@ namespace {
 const std::map<QString, std::function<int(const QStringList &)>> &commands()
 {
     static const std::map<QString, std::function<int(const QStringList &)>> table{
+        {QStringLiteral("export"), ExportCommand::run},
         {QStringLiteral("keep"), KeepCommand::run},
         {QStringLiteral("scan"), ScanCommand::run},
         {QStringLiteral("vault"), VaultCommand::run},

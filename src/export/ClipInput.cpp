@@ -1,0 +1,109 @@
+#include "export/ClipInput.h"
+
+#include "drive/ReadOnlyFs.h"
+
+extern "C" {
+#include <libavformat/avformat.h>
+#include <libavutil/mem.h>
+}
+
+#include <QFile>
+#include <cerrno>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+// Large enough that a one-minute clip is read in few system calls.
+constexpr int ioBufferSize = 256 * 1024;
+} // namespace
+
+std::unique_ptr<ClipInput> ClipInput::open(const QString &path, std::stop_token stop)
+{
+    // A FIFO or device named like a clip would block the open; a car's drive
+    // holds only regular files anyway.
+    if (!ReadOnlyFs::stat(path).isRegularFile)
+        return nullptr;
+    std::unique_ptr<ClipInput> input(new ClipInput);
+    input->stop_ = stop;
+    input->fd_ = ReadOnlyFs::openRead(path);
+    if (input->fd_ < 0)
+        return nullptr;
+
+    auto *buffer = static_cast<unsigned char *>(av_malloc(ioBufferSize));
+    if (!buffer)
+        return nullptr;
+    input->io_ = avio_alloc_context(buffer, ioBufferSize, 0, input.get(), &ClipInput::readPacket, nullptr,
+                                    &ClipInput::seek);
+    if (!input->io_) {
+        av_free(buffer);
+        return nullptr;
+    }
+    AVFormatContext *format = avformat_alloc_context();
+    if (!format)
+        return nullptr;
+    format->pb = input->io_;
+    format->flags |= AVFMT_FLAG_CUSTOM_IO;
+    format->interrupt_callback = {&ClipInput::interrupted, input.get()};
+    // The path only helps format probing; all bytes come through io_.
+    if (avformat_open_input(&format, QFile::encodeName(path).constData(), nullptr, nullptr) < 0)
+        return nullptr; // avformat_open_input freed format
+    input->format_ = format;
+    return input;
+}
+
+ClipInput::~ClipInput()
+{
+    if (format_)
+        avformat_close_input(&format_);
+    if (io_) {
+        av_freep(&io_->buffer);
+        avio_context_free(&io_);
+    }
+    if (fd_ >= 0)
+        ::close(fd_);
+}
+
+int ClipInput::bestStream(int mediaType) const
+{
+    const int index = av_find_best_stream(format_, AVMediaType(mediaType), -1, -1, nullptr, 0);
+    return index >= 0 ? index : -1;
+}
+
+int64_t ClipInput::startTime() const
+{
+    return format_->start_time == AV_NOPTS_VALUE ? 0 : format_->start_time;
+}
+
+int ClipInput::readPacket(void *opaque, unsigned char *buffer, int size)
+{
+    auto *self = static_cast<ClipInput *>(opaque);
+    if (self->stop_.stop_requested())
+        return AVERROR_EXIT;
+    ssize_t n;
+    do {
+        n = ::read(self->fd_, buffer, size_t(size));
+    } while (n < 0 && errno == EINTR);
+    if (n < 0)
+        return AVERROR(errno);
+    if (n == 0)
+        return AVERROR_EOF;
+    return int(n);
+}
+
+int64_t ClipInput::seek(void *opaque, int64_t offset, int whence)
+{
+    auto *self = static_cast<ClipInput *>(opaque);
+    if (whence & AVSEEK_SIZE) {
+        struct stat st {};
+        if (::fstat(self->fd_, &st) != 0)
+            return AVERROR(errno);
+        return st.st_size;
+    }
+    const off_t position = ::lseek(self->fd_, off_t(offset), whence & ~AVSEEK_FORCE);
+    return position < 0 ? AVERROR(errno) : position;
+}
+
+int ClipInput::interrupted(void *opaque)
+{
+    return static_cast<ClipInput *>(opaque)->stop_.stop_requested() ? 1 : 0;
+}

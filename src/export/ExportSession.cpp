@@ -1,0 +1,245 @@
+#include "export/ExportSession.h"
+
+#include "export/ClipInput.h"
+#include "export/ExportError.h"
+#include "export/Mp4Writer.h"
+#include "export/VideoReencoder.h"
+
+extern "C" {
+#include <libavcodec/avcodec.h>
+#include <libavformat/avformat.h>
+}
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+using Exporter::ExportError;
+
+namespace {
+// Share of the progress bar for writing the samples; the rest is for moving
+// the index to the front, which rewrites the whole file once more.
+constexpr double writingShare = 0.8;
+constexpr auto reportInterval = std::chrono::milliseconds(100);
+
+struct PacketDeleter {
+    void operator()(AVPacket *p) const { av_packet_free(&p); }
+};
+} // namespace
+
+struct ExportSession::OutputStream {
+    int index = -1;
+    AVRational timeBase{1, 1};
+    int64_t end = AV_NOPTS_VALUE; // where the last written packet ends
+};
+
+ExportSession::ExportSession(const ExportComposition &composition, double lower, double upper,
+                             const QString &destination, std::function<void(double)> progress, std::stop_token stop)
+    : composition_(composition), lower_(lower), upper_(upper), destination_(destination),
+      progress_(std::move(progress)), stop_(stop)
+{
+}
+
+ExportSession::~ExportSession() = default;
+
+void ExportSession::run()
+{
+    const AVOutputFormat *mp4 = av_guess_format("mp4", nullptr, nullptr);
+    if (!mp4 || composition_.segments.empty())
+        throw ExportError(ExportError::exportSessionUnavailable);
+    const ExportSegment &first = composition_.segments.front();
+    const bool copy = composition_.videoJoinsByCopy()
+        && avformat_query_codec(mp4, first.video->codec_id, FF_COMPLIANCE_NORMAL) == 1;
+    if (!copy) {
+        const ExportSegment &largest = composition_.largestPicture();
+        reencoder_ = VideoReencoder::create(largest.video->width, largest.video->height, largest.frameRate,
+                                            (mp4->flags & AVFMT_GLOBALHEADER) != 0);
+        if (!reencoder_)
+            throw ExportError(ExportError::exportSessionUnavailable);
+    }
+    // Sound the container can't hold is left out rather than failing the video.
+    const ExportSegment *audioSource = composition_.firstWithAudio();
+    const bool withAudio
+        = audioSource && avformat_query_codec(mp4, audioSource->audio->codec_id, FF_COMPLIANCE_NORMAL) == 1;
+
+    writer_ = std::make_unique<Mp4Writer>(destination_, stop_);
+    video_ = std::make_unique<OutputStream>();
+    if (copy) {
+        video_->index = writer_->addStream(first.video.get(), first.videoTimeBase);
+    } else {
+        AVCodecParameters *parameters = avcodec_parameters_alloc();
+        if (!parameters)
+            throw ExportError(ExportError::compositionFailed);
+        reencoder_->parametersInto(parameters);
+        try {
+            video_->index = writer_->addStream(parameters, reencoder_->timeBase());
+        } catch (...) {
+            avcodec_parameters_free(&parameters);
+            throw;
+        }
+        avcodec_parameters_free(&parameters);
+    }
+    if (withAudio) {
+        audio_ = std::make_unique<OutputStream>();
+        audio_->index = writer_->addStream(audioSource->audio.get(), audioSource->audioTimeBase);
+    }
+    writer_->begin();
+    video_->timeBase = writer_->timeBase(video_->index);
+    if (audio_)
+        audio_->timeBase = writer_->timeBase(audio_->index);
+    report(0.0, true);
+
+    for (const ExportSegment &segment : composition_.segments) {
+        if (segment.end() <= lower_)
+            continue;
+        if (segment.start >= upper_)
+            break;
+        if (stop_.stop_requested())
+            cancel();
+        copyClip(segment);
+    }
+    if (stop_.stop_requested())
+        cancel();
+    if (reencoder_)
+        reencoder_->finish([this](AVPacket *packet) {
+            // Draining the encoder's look-ahead takes a while on large pictures.
+            report(lastFraction_);
+            av_packet_rescale_ts(packet, reencoder_->timeBase(), video_->timeBase);
+            packet->stream_index = video_->index;
+            writer_->write(packet);
+        });
+
+    const int64_t written = std::max<int64_t>(writer_->bytesWritten(), 1);
+    writer_->setByteObserver([this, written](int64_t bytes) {
+        report(writingShare + (1.0 - writingShare) * std::min(1.0, double(bytes - written) / double(written)));
+    });
+    writer_->finish();
+    writer_->setByteObserver({});
+    report(1.0, true);
+}
+
+void ExportSession::copyClip(const ExportSegment &segment)
+{
+    // A clip that can no longer be read only shortens the movie.
+    const auto input = ClipInput::open(segment.path, stop_);
+    if (!input)
+        return;
+    AVFormatContext *format = input->context();
+    const int videoIn = input->bestStream(AVMEDIA_TYPE_VIDEO);
+    if (videoIn < 0)
+        return;
+    const int audioIn = audio_ && composition_.audioMatches(segment) ? input->bestStream(AVMEDIA_TYPE_AUDIO) : -1;
+    const int64_t origin = input->startTime();
+    const double span = upper_ - lower_;
+    const double clipOffset = segment.start - lower_; // output time of the clip's time zero
+    const double localLower = lower_ - segment.start;
+    const double localUpper = upper_ - segment.start;
+    if (localLower > 0.0)
+        av_seek_frame(format, -1, origin + int64_t(localLower * AV_TIME_BASE), AVSEEK_FLAG_BACKWARD);
+
+    const AVStream *videoStream = format->streams[videoIn];
+    const int64_t videoOrigin = av_rescale_q(origin, AV_TIME_BASE_Q, videoStream->time_base);
+    VideoReencoder::Placement place;
+    VideoReencoder::PacketSink sink;
+    bool videoDone = false;
+    if (reencoder_) {
+        place = [&](int64_t timestamp) -> std::optional<int64_t> {
+            const double local = double(timestamp - videoOrigin) * av_q2d(videoStream->time_base);
+            if (local < localLower || local >= localUpper)
+                return std::nullopt;
+            return std::llround((clipOffset + local) / av_q2d(reencoder_->timeBase()));
+        };
+        sink = [this](AVPacket *packet) {
+            av_packet_rescale_ts(packet, reencoder_->timeBase(), video_->timeBase);
+            packet->stream_index = video_->index;
+            writer_->write(packet);
+        };
+        videoDone = !reencoder_->beginClip(videoStream->codecpar, videoStream->time_base);
+    }
+    bool audioDone = audioIn < 0;
+    std::optional<int64_t> videoShift;
+    std::optional<int64_t> audioShift;
+
+    std::unique_ptr<AVPacket, PacketDeleter> packet(av_packet_alloc());
+    if (!packet)
+        throw ExportError::failed(QStringLiteral("There wasn't enough memory to export the footage."));
+    while (!(videoDone && audioDone)) {
+        if (stop_.stop_requested())
+            cancel();
+        // The end of the clip, or a read error that loses the rest of it.
+        if (av_read_frame(format, packet.get()) < 0)
+            break;
+        const bool isVideo = packet->stream_index == videoIn && !videoDone;
+        const bool isAudio = packet->stream_index == audioIn && !audioDone;
+        const int64_t dts = packet->dts != AV_NOPTS_VALUE ? packet->dts : packet->pts;
+        if ((!isVideo && !isAudio) || dts == AV_NOPTS_VALUE) {
+            av_packet_unref(packet.get());
+            continue;
+        }
+        const AVRational inBase = format->streams[packet->stream_index]->time_base;
+        const int64_t originIn = av_rescale_q(origin, AV_TIME_BASE_Q, inBase);
+        const double local = double(dts - originIn) * av_q2d(inBase);
+        if (local >= localUpper) {
+            (isVideo ? videoDone : audioDone) = true;
+            av_packet_unref(packet.get());
+            continue;
+        }
+        report(writingShare * (clipOffset + local) / span);
+
+        if (isVideo && reencoder_) {
+            reencoder_->decode(packet.get(), place, sink);
+            av_packet_unref(packet.get());
+            continue;
+        }
+        // Sound before the stretch is simply left out; pictures before it
+        // back to the last key frame are kept, and the container's edit list
+        // starts the movie at the stretch's first moment.
+        if (isAudio && local + double(packet->duration) * av_q2d(inBase) <= localLower) {
+            av_packet_unref(packet.get());
+            continue;
+        }
+        OutputStream &out = isVideo ? *video_ : *audio_;
+        if (packet->pts != AV_NOPTS_VALUE)
+            packet->pts = av_rescale_q(packet->pts - originIn, inBase, out.timeBase);
+        packet->dts = av_rescale_q(dts - originIn, inBase, out.timeBase);
+        packet->duration = av_rescale_q(packet->duration, inBase, out.timeBase);
+        // The clip goes at the running cursor, but never over the end of
+        // what the clip before it wrote on this stream.
+        std::optional<int64_t> &shift = isVideo ? videoShift : audioShift;
+        if (!shift) {
+            int64_t at = std::llround(clipOffset / av_q2d(out.timeBase));
+            if (out.end != AV_NOPTS_VALUE && packet->dts + at < out.end)
+                at = out.end - packet->dts;
+            shift = at;
+        }
+        packet->dts += *shift;
+        if (packet->pts != AV_NOPTS_VALUE)
+            packet->pts += *shift;
+        packet->stream_index = out.index;
+        out.end = packet->dts + std::max<int64_t>(packet->duration, 1);
+        writer_->write(packet.get());
+    }
+    if (reencoder_)
+        reencoder_->endClip(place, sink);
+}
+
+void ExportSession::report(double fraction, bool force)
+{
+    if (!progress_)
+        return;
+    fraction = std::clamp(fraction, 0.0, 1.0);
+    if (fraction < lastFraction_)
+        fraction = lastFraction_;
+    // Every tenth of a second on long exports, every percent on short ones.
+    const auto now = std::chrono::steady_clock::now();
+    if (!force && now - lastReport_ < reportInterval && fraction - lastFraction_ < 0.01)
+        return;
+    lastReport_ = now;
+    lastFraction_ = fraction;
+    progress_(fraction);
+}
+
+void ExportSession::cancel() const
+{
+    throw ExportError(ExportError::cancelled);
+}

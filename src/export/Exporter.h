@@ -1,0 +1,31 @@
+#pragma once
+
+#include "export/ExportError.h"
+#include "model/Camera.h"
+#include "model/TeslaEvent.h"
+
+#include <QString>
+#include <functional>
+#include <optional>
+#include <stop_token>
+#include <utility>
+
+// Writes the footage of one camera of one event into a single MP4 file,
+// copying the samples as they are wherever the clips allow it. The source
+// files are only ever read.
+namespace Exporter {
+
+// "Tesla Sentry 2024-06-01 3.05 PM — Front.mp4": valid as a file name.
+QString suggestedFileName(const TeslaEvent &event, Camera camera);
+
+// Blocking; call it off the main thread. The camera's clips are joined back
+// to back, whatever their start dates say. range: seconds of the joined
+// footage, clamped to it. destination: a new file in an existing folder.
+// progress: 0 to 1, on the calling thread.
+// Throws CancellationError when stopped before writing began, ExportError
+// otherwise (cancelled when stopped while writing). A partial file is left
+// for the caller.
+void exportFootage(Camera camera, const TeslaEvent &event, std::optional<std::pair<double, double>> range,
+                   const QString &destination, std::function<void(double)> progress, std::stop_token stop = {});
+
+} // namespace Exporter

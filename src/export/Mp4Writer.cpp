@@ -1,0 +1,166 @@
+#include "export/Mp4Writer.h"
+
+#include "export/ExportError.h"
+
+extern "C" {
+#include <libavcodec/avcodec.h>
+#include <libavformat/avformat.h>
+#include <libavutil/dict.h>
+#include <libavutil/error.h>
+#include <libavutil/mem.h>
+}
+
+#include <QDir>
+#include <QFile>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using Exporter::ExportError;
+
+namespace {
+constexpr int ioBufferSize = 256 * 1024;
+
+QString errorText(int averror)
+{
+    char buffer[AV_ERROR_MAX_STRING_SIZE] = {};
+    av_strerror(averror, buffer, sizeof buffer);
+    return QString::fromLocal8Bit(buffer);
+}
+} // namespace
+
+Mp4Writer::Mp4Writer(const QString &path, std::stop_token stop) : path_(path), stop_(stop)
+{
+    const QString shown = QDir::toNativeSeparators(path);
+    do {
+        fd_ = ::open(QFile::encodeName(path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0644);
+    } while (fd_ < 0 && errno == EINTR);
+    if (fd_ < 0) {
+        if (errno == EEXIST)
+            throw ExportError::failed(QStringLiteral("There is already a file at \u201c%1\u201d.").arg(shown));
+        throw ExportError::failed(QStringLiteral("The movie file \u201c%1\u201d couldn't be created: %2.")
+                                      .arg(shown, QString::fromLocal8Bit(std::strerror(errno))));
+    }
+    // The muxer reopens the file by name to move the index to the front.
+    const QByteArray url = "file:" + QFile::encodeName(path);
+    if (avformat_alloc_output_context2(&format_, nullptr, "mp4", url.constData()) < 0 || !format_)
+        throw ExportError(ExportError::compositionFailed);
+    auto *buffer = static_cast<uint8_t *>(av_malloc(ioBufferSize));
+    io_ = buffer ? avio_alloc_context(buffer, ioBufferSize, 1, this, nullptr, &Mp4Writer::writeBytes, &Mp4Writer::seek)
+                 : nullptr;
+    if (!io_) {
+        av_free(buffer);
+        throw ExportError(ExportError::compositionFailed);
+    }
+    format_->pb = io_;
+}
+
+Mp4Writer::~Mp4Writer()
+{
+    if (io_) {
+        avio_flush(io_);
+        av_freep(&io_->buffer);
+        avio_context_free(&io_);
+    }
+    if (format_)
+        avformat_free_context(format_);
+    if (fd_ >= 0)
+        ::close(fd_);
+}
+
+int Mp4Writer::addStream(const AVCodecParameters *parameters, AVRational timeBase)
+{
+    AVStream *stream = avformat_new_stream(format_, nullptr);
+    if (!stream || avcodec_parameters_copy(stream->codecpar, parameters) < 0)
+        throw ExportError(ExportError::compositionFailed);
+    // The source's tag may not be valid in MP4; let the muxer choose.
+    stream->codecpar->codec_tag = 0;
+    stream->time_base = timeBase;
+    lastDts_.push_back(AV_NOPTS_VALUE);
+    return stream->index;
+}
+
+void Mp4Writer::begin()
+{
+    AVDictionary *options = nullptr;
+    av_dict_set(&options, "movflags", "+faststart", 0);
+    const int result = avformat_write_header(format_, &options);
+    av_dict_free(&options);
+    if (result < 0)
+        fail(QStringLiteral("The movie couldn't be started"), result);
+}
+
+AVRational Mp4Writer::timeBase(int stream) const
+{
+    return format_->streams[stream]->time_base;
+}
+
+void Mp4Writer::write(AVPacket *packet)
+{
+    int64_t &last = lastDts_[size_t(packet->stream_index)];
+    if (packet->dts == AV_NOPTS_VALUE)
+        packet->dts = packet->pts;
+    if (last != AV_NOPTS_VALUE && packet->dts != AV_NOPTS_VALUE && packet->dts <= last)
+        packet->dts = last + 1;
+    if (packet->pts != AV_NOPTS_VALUE && packet->dts != AV_NOPTS_VALUE && packet->pts < packet->dts)
+        packet->pts = packet->dts;
+    if (packet->dts != AV_NOPTS_VALUE)
+        last = packet->dts;
+    packet->pos = -1;
+    const int result = av_interleaved_write_frame(format_, packet);
+    if (result < 0)
+        fail(QStringLiteral("The movie couldn't be written"), result);
+}
+
+void Mp4Writer::finish()
+{
+    const int result = av_write_trailer(format_);
+    if (result < 0)
+        fail(QStringLiteral("The movie couldn't be finished"), result);
+    avio_flush(io_);
+    if (io_->error < 0)
+        fail(QStringLiteral("The movie couldn't be finished"), io_->error);
+}
+
+void Mp4Writer::fail(const QString &what, int averror) const
+{
+    if (stop_.stop_requested())
+        throw ExportError(ExportError::cancelled);
+    throw ExportError::failed(QStringLiteral("%1: %2.").arg(what, errorText(averror)));
+}
+
+int Mp4Writer::writeBytes(void *opaque, uint8_t *buffer, int size)
+{
+    auto *self = static_cast<Mp4Writer *>(opaque);
+    if (self->stop_.stop_requested())
+        return AVERROR_EXIT;
+    int done = 0;
+    while (done < size) {
+        const ssize_t n = ::write(self->fd_, buffer + done, size_t(size - done));
+        if (n < 0) {
+            if (errno == EINTR)
+                continue;
+            return AVERROR(errno);
+        }
+        done += int(n);
+    }
+    self->bytesWritten_ += size;
+    if (self->observer_)
+        self->observer_(self->bytesWritten_);
+    return size;
+}
+
+int64_t Mp4Writer::seek(void *opaque, int64_t offset, int whence)
+{
+    auto *self = static_cast<Mp4Writer *>(opaque);
+    if (whence & AVSEEK_SIZE) {
+        struct stat st {};
+        if (::fstat(self->fd_, &st) != 0)
+            return AVERROR(errno);
+        return st.st_size;
+    }
+    const off_t position = ::lseek(self->fd_, off_t(offset), whence & ~AVSEEK_FORCE);
+    return position < 0 ? AVERROR(errno) : position;
+}

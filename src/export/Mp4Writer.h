@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QString>
+#include <cstdint>
+#include <functional>
+#include <stop_token>
+#include <vector>
+
+extern "C" {
+#include <libavutil/rational.h>
+}
+
+struct AVCodecParameters;
+struct AVFormatContext;
+struct AVIOContext;
+struct AVPacket;
+
+// An MP4 file being written, with the index moved to the front at the end.
+// The file is created new: a file already standing there is an error, never
+// overwritten. Decode timestamps are kept strictly increasing per stream.
+// Whatever was written stays on disk if the writer is dropped unfinished.
+class Mp4Writer {
+public:
+    // Throws Exporter::ExportError (exportFailed) when the file can't be made.
+    Mp4Writer(const QString &path, std::stop_token stop);
+    ~Mp4Writer();
+
+    Mp4Writer(const Mp4Writer &) = delete;
+    Mp4Writer &operator=(const Mp4Writer &) = delete;
+
+    // Returns the new stream's index; throws compositionFailed.
+    int addStream(const AVCodecParameters *parameters, AVRational timeBase);
+    // Writes the header; stream time bases may change here.
+    void begin();
+    AVRational timeBase(int stream) const;
+    // Takes the packet's data; timestamps in the stream's time base.
+    void write(AVPacket *packet);
+    // Writes the index and moves it to the front.
+    void finish();
+
+    int64_t bytesWritten() const { return bytesWritten_; }
+    // Called as bytes reach the file, also while the index moves to the front.
+    void setByteObserver(std::function<void(int64_t)> observer) { observer_ = std::move(observer); }
+
+private:
+    static int writeBytes(void *opaque, uint8_t *buffer, int size);
+    static int64_t seek(void *opaque, int64_t offset, int whence);
+    [[noreturn]] void fail(const QString &what, int averror) const;
+
+    QString path_;
+    std::stop_token stop_;
+    int fd_ = -1;
+    AVIOContext *io_ = nullptr;
+    AVFormatContext *format_ = nullptr;
+    std::vector<int64_t> lastDts_;
+    int64_t bytesWritten_ = 0;
+    std::function<void(int64_t)> observer_;
+};

@@ -1,0 +1,214 @@
+#include "export/VideoReencoder.h"
+
+#include "export/ExportError.h"
+
+extern "C" {
+#include <libavcodec/avcodec.h>
+#include <libavutil/dict.h>
+#include <libavutil/error.h>
+#include <libavutil/frame.h>
+#include <libavutil/pixdesc.h>
+#include <libswscale/swscale.h>
+}
+
+using Exporter::ExportError;
+
+namespace {
+
+// Best first: x264 at a visually lossless quality, any other H.264
+// encoder, MPEG-4 Part 2 at its finest quantiser as the last resort.
+const AVCodec *bestEncoder()
+{
+    if (const AVCodec *codec = avcodec_find_encoder_by_name("libx264"))
+        return codec;
+    if (const AVCodec *codec = avcodec_find_encoder(AV_CODEC_ID_H264))
+        return codec;
+    return avcodec_find_encoder(AV_CODEC_ID_MPEG4);
+}
+
+AVPixelFormat choosePixelFormat(const AVCodec *codec)
+{
+    if (!codec->pix_fmts)
+        return AV_PIX_FMT_YUV420P;
+    for (const AVPixelFormat *f = codec->pix_fmts; *f != AV_PIX_FMT_NONE; ++f)
+        if (*f == AV_PIX_FMT_YUV420P)
+            return *f;
+    return codec->pix_fmts[0];
+}
+
+bool isFullRange(const AVFrame *frame)
+{
+    switch (frame->format) {
+    case AV_PIX_FMT_YUVJ420P:
+    case AV_PIX_FMT_YUVJ422P:
+    case AV_PIX_FMT_YUVJ444P:
+        return true;
+    default:
+        return frame->color_range == AVCOL_RANGE_JPEG;
+    }
+}
+
+} // namespace
+
+std::unique_ptr<VideoReencoder> VideoReencoder::create(int width, int height, AVRational frameRate, bool globalHeader)
+{
+    const AVCodec *codec = bestEncoder();
+    if (!codec || width < 2 || height < 2)
+        return nullptr;
+    std::unique_ptr<VideoReencoder> self(new VideoReencoder);
+    self->encoder_ = avcodec_alloc_context3(codec);
+    self->decoded_ = av_frame_alloc();
+    self->encoded_ = av_packet_alloc();
+    if (!self->encoder_ || !self->decoded_ || !self->encoded_)
+        return nullptr;
+    AVCodecContext *enc = self->encoder_;
+    enc->width = width & ~1; // 4:2:0 needs even sizes
+    enc->height = height & ~1;
+    enc->pix_fmt = choosePixelFormat(codec);
+    enc->color_range = AVCOL_RANGE_MPEG;
+    enc->sample_aspect_ratio = AVRational{1, 1};
+    // Car footage has no constant frame rate: a fine clock keeps each
+    // frame's own time.
+    enc->time_base = AVRational{1, 90000};
+    if (frameRate.num > 0 && frameRate.den > 0)
+        enc->framerate = frameRate;
+    enc->thread_count = 0;
+    if (globalHeader)
+        enc->flags |= AV_CODEC_FLAG_GLOBAL_HEADER;
+
+    AVDictionary *options = nullptr;
+    if (std::string_view(codec->name) == "libx264") {
+        av_dict_set(&options, "preset", "medium", 0);
+        av_dict_set(&options, "crf", "18", 0);
+    } else if (codec->id == AV_CODEC_ID_MPEG4) {
+        enc->flags |= AV_CODEC_FLAG_QSCALE;
+        enc->global_quality = FF_QP2LAMBDA * 2;
+    } else {
+        enc->bit_rate = 20'000'000;
+    }
+    const int opened = avcodec_open2(enc, codec, &options);
+    av_dict_free(&options);
+    if (opened < 0)
+        return nullptr;
+    return self;
+}
+
+VideoReencoder::~VideoReencoder()
+{
+    sws_freeContext(scaler_);
+    avcodec_free_context(&decoder_);
+    avcodec_free_context(&encoder_);
+    av_frame_free(&decoded_);
+    av_packet_free(&encoded_);
+}
+
+AVRational VideoReencoder::timeBase() const
+{
+    return encoder_->time_base;
+}
+
+void VideoReencoder::parametersInto(AVCodecParameters *parameters) const
+{
+    avcodec_parameters_from_context(parameters, encoder_);
+}
+
+bool VideoReencoder::beginClip(const AVCodecParameters *parameters, AVRational streamTimeBase)
+{
+    avcodec_free_context(&decoder_);
+    const AVCodec *codec = avcodec_find_decoder(parameters->codec_id);
+    if (!codec)
+        return false;
+    decoder_ = avcodec_alloc_context3(codec);
+    if (!decoder_ || avcodec_parameters_to_context(decoder_, parameters) < 0) {
+        avcodec_free_context(&decoder_);
+        return false;
+    }
+    decoder_->pkt_timebase = streamTimeBase;
+    decoder_->thread_count = 0;
+    if (avcodec_open2(decoder_, codec, nullptr) < 0) {
+        avcodec_free_context(&decoder_);
+        return false;
+    }
+    return true;
+}
+
+void VideoReencoder::decode(const AVPacket *packet, const Placement &place, const PacketSink &sink)
+{
+    if (!decoder_)
+        return;
+    // A damaged packet costs that picture only.
+    if (avcodec_send_packet(decoder_, packet) < 0 && packet)
+        return;
+    receiveFrames(place, sink);
+}
+
+void VideoReencoder::endClip(const Placement &place, const PacketSink &sink)
+{
+    if (!decoder_)
+        return;
+    decode(nullptr, place, sink);
+    avcodec_free_context(&decoder_);
+}
+
+void VideoReencoder::receiveFrames(const Placement &place, const PacketSink &sink)
+{
+    while (avcodec_receive_frame(decoder_, decoded_) >= 0) {
+        const int64_t timestamp = decoded_->best_effort_timestamp != AV_NOPTS_VALUE ? decoded_->best_effort_timestamp
+                                                                                    : decoded_->pts;
+        const std::optional<int64_t> pts = timestamp == AV_NOPTS_VALUE ? std::nullopt : place(timestamp);
+        if (!pts) {
+            av_frame_unref(decoded_);
+            continue;
+        }
+        scaler_ = sws_getCachedContext(scaler_, decoded_->width, decoded_->height, AVPixelFormat(decoded_->format),
+                                       encoder_->width, encoder_->height, encoder_->pix_fmt, SWS_BICUBIC, nullptr,
+                                       nullptr, nullptr);
+        AVFrame *out = av_frame_alloc();
+        if (!scaler_ || !out) {
+            av_frame_free(&out);
+            av_frame_unref(decoded_);
+            throw ExportError::failed(QStringLiteral("The footage couldn't be converted for the movie."));
+        }
+        const int *coefficients = sws_getCoefficients(SWS_CS_DEFAULT);
+        sws_setColorspaceDetails(scaler_, coefficients, isFullRange(decoded_) ? 1 : 0, coefficients, 0, 0, 1 << 16,
+                                 1 << 16);
+        out->format = encoder_->pix_fmt;
+        out->width = encoder_->width;
+        out->height = encoder_->height;
+        out->color_range = AVCOL_RANGE_MPEG;
+        if (av_frame_get_buffer(out, 0) < 0) {
+            av_frame_free(&out);
+            av_frame_unref(decoded_);
+            throw ExportError::failed(QStringLiteral("There wasn't enough memory to convert the footage."));
+        }
+        sws_scale(scaler_, decoded_->data, decoded_->linesize, 0, decoded_->height, out->data, out->linesize);
+        av_frame_unref(decoded_);
+        out->pts = *pts > lastPts_ ? *pts : lastPts_ + 1;
+        lastPts_ = out->pts;
+        encode(out, sink);
+        av_frame_free(&out);
+    }
+}
+
+void VideoReencoder::encode(AVFrame *frame, const PacketSink &sink)
+{
+    int result = avcodec_send_frame(encoder_, frame);
+    if (result < 0 && result != AVERROR_EOF) {
+        char text[AV_ERROR_MAX_STRING_SIZE] = {};
+        av_strerror(result, text, sizeof text);
+        throw ExportError::failed(
+            QStringLiteral("The footage couldn't be encoded: %1.").arg(QString::fromLocal8Bit(text)));
+    }
+    while (avcodec_receive_packet(encoder_, encoded_) >= 0) {
+        // Encoders leave the duration out; the last picture needs one.
+        if (encoded_->duration <= 0 && encoder_->framerate.num > 0)
+            encoded_->duration = av_rescale_q(1, av_inv_q(encoder_->framerate), encoder_->time_base);
+        sink(encoded_);
+        av_packet_unref(encoded_);
+    }
+}
+
+void VideoReencoder::finish(const PacketSink &sink)
+{
+    encode(nullptr, sink);
+}

@@ -1,0 +1,180 @@
+#include "support/MovieFacts.h"
+#include "support/TeslaCamFixture.h"
+#include "support/TestClips.h"
+#include "support/TreeSnapshot.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+const QString eventId = QStringLiteral("sentry|2024-06-01_15-05-00");
+
+struct Run {
+    int exitCode = -1;
+    QString out;
+    QString err;
+};
+
+Run runCli(const QStringList &arguments)
+{
+    QProcess process;
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.insert(QStringLiteral("TZ"), QStringLiteral("UTC"));
+    process.setProcessEnvironment(env);
+    process.start(QStringLiteral(KEELHOLD_CLI_PATH), QStringList{QStringLiteral("export")} + arguments);
+    Run run;
+    if (!process.waitForFinished(120000) || process.exitStatus() != QProcess::NormalExit)
+        return run;
+    run.exitCode = process.exitCode();
+    run.out = QString::fromUtf8(process.readAllStandardOutput());
+    run.err = QString::fromUtf8(process.readAllStandardError());
+    return run;
+}
+} // namespace
+
+class TestExportCommand : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir dir_;
+    QString root_;
+
+    QString out(const QString &name) const { return dir_.path() + QStringLiteral("/out/") + name; }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        if (!TestClips::ffmpegAvailable())
+            QSKIP("the ffmpeg tool is needed to make test clips");
+        TestClips::Spec spec;
+        spec.seconds = 2.0;
+        const QString clip = TestClips::clip(spec);
+        TeslaCamFixture fixture(dir_.path() + QStringLiteral("/TeslaCam"));
+        root_ = fixture.root();
+        const QString event = fixture.addEvent(QStringLiteral("SentryClips"), QStringLiteral("2024-06-01_15-05-00"),
+                                               TeslaCamFixture::eventJson(QStringLiteral("2024-06-01T15:05:00"),
+                                                                          QStringLiteral("sentry_aware_object_detection")));
+        fixture.addClip(event, QStringLiteral("2024-06-01_15-03-00"), QStringLiteral("front"), 0, clip);
+        fixture.addClip(event, QStringLiteral("2024-06-01_15-04-00"), QStringLiteral("front"), 0, clip);
+        fixture.addClip(event, QStringLiteral("2024-06-01_15-04-00"), QStringLiteral("left_repeater"), 4096); // not a movie
+        QDir().mkpath(dir_.path() + QStringLiteral("/out"));
+    }
+
+    void exportsOneCamera()
+    {
+        const TreeSnapshot before = TreeSnapshot::take(root_);
+        const QString file = out(QStringLiteral("front.mp4"));
+        const Run run = runCli({root_, QStringLiteral("--event"), eventId, QStringLiteral("--camera"),
+                                QStringLiteral("front"), QStringLiteral("-o"), file});
+        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(run.out.trimmed(), file);
+        QVERIFY(run.err.contains(QStringLiteral("Exporting\u2026 100%")));
+        const MovieFacts facts = MovieFacts::read(file, false);
+        QVERIFY(facts.opened);
+        QVERIFY(std::abs(facts.duration - 4.0) < 0.05);
+        QVERIFY(facts.indexBeforeData());
+        QCOMPARE(before.differences(TreeSnapshot::take(root_)), QString());
+    }
+
+    void exportsAStretch()
+    {
+        const QString file = out(QStringLiteral("stretch.mp4"));
+        const Run run = runCli({root_, QStringLiteral("--event"), eventId, QStringLiteral("--camera"),
+                                QStringLiteral("front"), QStringLiteral("-o"), file, QStringLiteral("--from"),
+                                QStringLiteral("1"), QStringLiteral("--to"), QStringLiteral("2.5")});
+        QCOMPARE(run.exitCode, 0);
+        QVERIFY(std::abs(MovieFacts::read(file, false).duration - 1.5) < 0.05);
+
+        const QString open = out(QStringLiteral("open-ended.mp4"));
+        QCOMPARE(runCli({root_, QStringLiteral("--event"), eventId, QStringLiteral("--camera"), QStringLiteral("front"),
+                         QStringLiteral("-o"), open, QStringLiteral("--from"), QStringLiteral("3")})
+                     .exitCode,
+                 0);
+        QVERIFY(std::abs(MovieFacts::read(open, false).duration - 1.0) < 0.05);
+    }
+
+    void folderGetsTheSuggestedName()
+    {
+        const QString folder = dir_.path() + QStringLiteral("/named");
+        QDir().mkpath(folder);
+        const Run run = runCli({root_, QStringLiteral("--event"), eventId, QStringLiteral("--camera"),
+                                QStringLiteral("front"), QStringLiteral("-o"), folder});
+        QCOMPARE(run.exitCode, 0);
+        const QString expected = folder + QStringLiteral("/Tesla Sentry 2024-06-01 3.05 PM \u2014 Front.mp4");
+        QCOMPARE(run.out.trimmed(), expected);
+        QVERIFY(QFile::exists(expected));
+    }
+
+    void failuresSayWhyInOneSentence_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QString>("sentence");
+        const QString e = QStringLiteral("--event"), c = QStringLiteral("--camera"), o = QStringLiteral("-o");
+        QTest::newRow("unknown event") << QStringList{QString(), e, QStringLiteral("sentry|2020-01-01_00-00-00"), c,
+                                                      QStringLiteral("front"), o, QStringLiteral("a.mp4")}
+                                       << QStringLiteral("There is no event \u201csentry|2020-01-01_00-00-00\u201d in this TeslaCam folder.");
+        QTest::newRow("unknown camera") << QStringList{QString(), e, eventId, c, QStringLiteral("roof"), o,
+                                                       QStringLiteral("b.mp4")}
+                                        << QStringLiteral("\u201croof\u201d is not a camera; use one of front, back, "
+                                                          "left_repeater, right_repeater, left_pillar, right_pillar, "
+                                                          "rear_backup.");
+        QTest::newRow("camera without clips") << QStringList{QString(), e, eventId, c, QStringLiteral("back"), o,
+                                                             QStringLiteral("c.mp4")}
+                                              << QStringLiteral("The Rear camera has no playable footage in this event.");
+        QTest::newRow("camera with only damaged clips")
+            << QStringList{QString(), e, eventId, c, QStringLiteral("left_repeater"), o, QStringLiteral("d.mp4")}
+            << QStringLiteral("The Left Side camera has no playable footage in this event.");
+        QTest::newRow("bad number") << QStringList{QString(), e, eventId, c, QStringLiteral("front"), o,
+                                                   QStringLiteral("e.mp4"), QStringLiteral("--from"),
+                                                   QStringLiteral("soon")}
+                                    << QStringLiteral("--from and --to take a number of seconds, such as 12.5.");
+        QTest::newRow("stretch outside") << QStringList{QString(), e, eventId, c, QStringLiteral("front"), o,
+                                                        QStringLiteral("f.mp4"), QStringLiteral("--from"),
+                                                        QStringLiteral("30")}
+                                         << QStringLiteral("The chosen stretch lies outside this camera's footage.");
+        QTest::newRow("no such folder") << QStringList{QStringLiteral("/nonexistent/TeslaCam"), e, eventId, c,
+                                                       QStringLiteral("front"), o, QStringLiteral("g.mp4")}
+                                        << QString();
+    }
+    void failuresSayWhyInOneSentence()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QString, sentence);
+        if (arguments[0].isEmpty())
+            arguments[0] = root_;
+        arguments[6] = out(arguments[6]);
+        const Run run = runCli(arguments);
+        QCOMPARE(run.exitCode, 2);
+        const QStringList lines = run.err.trimmed().split(QLatin1Char('\n'));
+        if (!sentence.isEmpty())
+            QCOMPARE(lines.last(), sentence);
+        QVERIFY(lines.last().endsWith(QLatin1Char('.')));
+        QVERIFY(!QFile::exists(arguments[6]));
+    }
+
+    void existingFileIsNeverReplaced()
+    {
+        const QString file = out(QStringLiteral("taken.mp4"));
+        TeslaCamFixture::writeFile(file, "mine");
+        const Run run = runCli({root_, QStringLiteral("--event"), eventId, QStringLiteral("--camera"),
+                                QStringLiteral("front"), QStringLiteral("-o"), file});
+        QCOMPARE(run.exitCode, 2);
+        QCOMPARE(run.err.trimmed().split(QLatin1Char('\n')).last(),
+                 QStringLiteral("There is already a file at \u201c%1\u201d.").arg(file));
+        QFile f(file);
+        QVERIFY(f.open(QIODevice::ReadOnly));
+        QCOMPARE(f.readAll(), QByteArray("mine"));
+    }
+
+    void missingOptionsShowTheUsage()
+    {
+        const Run run = runCli({root_, QStringLiteral("--camera"), QStringLiteral("front")});
+        QCOMPARE(run.exitCode, 64);
+        QVERIFY(run.err.contains(QStringLiteral("Usage: keelhold-cli export")));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestExportCommand)
+#include "tst_exportcommand.moc"

@@ -1,0 +1,487 @@
+#include "export/Exporter.h"
+#include "model/CancellationError.h"
+#include "support/MovieFacts.h"
+#include "support/TestClips.h"
+#include "support/TreeSnapshot.h"
+
+extern "C" {
+#include <libavutil/log.h>
+}
+
+#include <QDateTime>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+#include <ctime>
+
+using Exporter::ExportError;
+
+namespace {
+
+// One event's footage in a folder of its own, as the car names it.
+class Footage {
+public:
+    Footage() : base_(Date::fromQDateTime(QDateTime(QDate(2024, 6, 1), QTime(15, 0), Qt::UTC)))
+    {
+        QDir().mkpath(folder());
+        event.kind = EventKind::sentry;
+        event.folderName = QStringLiteral("2024-06-01_15-05-00");
+        event.folderURL = folder();
+        event.timestamp = base_.addingTimeInterval(300);
+    }
+
+    QString folder() const { return dir_.path() + QStringLiteral("/TeslaCam/SentryClips/2024-06-01_15-05-00"); }
+    QString root() const { return dir_.path() + QStringLiteral("/TeslaCam"); }
+    QString output(const QString &name = QStringLiteral("out.mp4")) const { return dir_.path() + QLatin1Char('/') + name; }
+
+    // A copy of a generated clip that starts `minute` minutes into the event.
+    QString addClip(const QString &source, int minute, Camera camera = Camera::front)
+    {
+        const QString path = pathFor(minute, camera);
+        QFile::remove(path);
+        if (!QFile::copy(source, path))
+            qFatal("could not copy a test clip");
+        add(path, minute, camera);
+        return path;
+    }
+    QString addBytes(const QByteArray &bytes, int minute, Camera camera = Camera::front)
+    {
+        const QString path = pathFor(minute, camera);
+        QFile f(path);
+        if (!f.open(QIODevice::WriteOnly))
+            qFatal("could not write a test file");
+        f.write(bytes);
+        add(path, minute, camera);
+        return path;
+    }
+    void addMissing(int minute, Camera camera = Camera::front) { add(pathFor(minute, camera), minute, camera); }
+
+    TeslaEvent event;
+
+private:
+    QString pathFor(int minute, Camera camera) const
+    {
+        return folder() + QStringLiteral("/2024-06-01_15-%1-00-%2.mp4").arg(minute, 2, 10, QLatin1Char('0')).arg(camera.rawValue());
+    }
+    void add(const QString &path, int minute, Camera camera)
+    {
+        ClipRef clip;
+        clip.url = path;
+        clip.camera = camera;
+        clip.startDate = base_.addingTimeInterval(60.0 * minute);
+        clip.fileSize = QFileInfo(path).size();
+        event.clips.push_back(clip);
+    }
+
+    QTemporaryDir dir_;
+    Date base_;
+};
+
+TestClips::Spec spec(double seconds, int width = 320, int height = 240)
+{
+    TestClips::Spec s;
+    s.seconds = seconds;
+    s.width = width;
+    s.height = height;
+    return s;
+}
+
+QByteArray extradataOf(const QString &path)
+{
+    const MovieFacts facts = MovieFacts::read(path, false);
+    const MovieFacts::Stream *video = facts.firstOf(QStringLiteral("video"));
+    return video ? video->extradata : QByteArray();
+}
+
+struct ProgressLog {
+    std::vector<double> values;
+    std::function<void(double)> callback()
+    {
+        return [this](double v) { values.push_back(v); };
+    }
+    bool monotonic() const { return std::is_sorted(values.begin(), values.end()); }
+};
+
+template <typename F>
+std::optional<ExportError::Case> exportErrorOf(F &&f)
+{
+    try {
+        f();
+    } catch (const ExportError &e) {
+        return e.errorCase();
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+class TestExporter : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        if (!TestClips::ffmpegAvailable())
+            QSKIP("the ffmpeg tool is needed to make test clips");
+        qputenv("TZ", "UTC");
+        tzset();
+        av_log_set_level(AV_LOG_QUIET);
+    }
+
+    void suggestedFileName_data()
+    {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<QDateTime>("when");
+        QTest::addColumn<int>("camera");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("sentry afternoon") << int(EventKind::sentry) << QDateTime(QDate(2024, 6, 1), QTime(15, 5), Qt::UTC)
+                                          << int(Camera::front) << QStringLiteral("Tesla Sentry 2024-06-01 3.05 PM \u2014 Front.mp4");
+        QTest::newRow("recent morning") << int(EventKind::recent) << QDateTime(QDate(2024, 12, 24), QTime(9, 7, 59), Qt::UTC)
+                                        << int(Camera::back) << QStringLiteral("Tesla Recent Driving 2024-12-24 9.07 AM \u2014 Rear.mp4");
+        QTest::newRow("saved past midnight") << int(EventKind::saved) << QDateTime(QDate(2023, 1, 2), QTime(0, 30), Qt::UTC)
+                                             << int(Camera::leftRepeater) << QStringLiteral("Tesla Saved 2023-01-02 12.30 AM \u2014 Left Side.mp4");
+        QTest::newRow("noon") << int(EventKind::saved) << QDateTime(QDate(2023, 1, 2), QTime(12, 0), Qt::UTC)
+                              << int(Camera::rearBackup) << QStringLiteral("Tesla Saved 2023-01-02 12.00 PM \u2014 Backup.mp4");
+    }
+    void suggestedFileName()
+    {
+        QFETCH(int, kind);
+        QFETCH(QDateTime, when);
+        QFETCH(int, camera);
+        QFETCH(QString, expected);
+        TeslaEvent event;
+        event.kind = EventKind(EventKind::Value(kind));
+        event.timestamp = Date::fromQDateTime(when);
+        const QString name = Exporter::suggestedFileName(event, Camera(Camera::Value(camera)));
+        QCOMPARE(name, expected);
+        QCOMPARE(Exporter::suggestedFileName(event, Camera(Camera::Value(camera))), name);
+        QVERIFY(!name.contains(QLatin1Char('/')) && !name.contains(QLatin1Char(':')));
+    }
+
+    void suggestedFileNameUsesTheLocalZone()
+    {
+        TeslaEvent event;
+        event.timestamp = Date::fromQDateTime(QDateTime(QDate(2024, 6, 1), QTime(15, 5), Qt::UTC));
+        qputenv("TZ", "America/Chicago");
+        tzset();
+        const QString name = Exporter::suggestedFileName(event, Camera::front);
+        qputenv("TZ", "UTC");
+        tzset();
+        QCOMPARE(name, QStringLiteral("Tesla Sentry 2024-06-01 10.05 AM \u2014 Front.mp4"));
+    }
+
+    // The damaged middle minute closes up; the rest is copied sample for sample.
+    void joinsClipsBackToBackSkippingDamaged()
+    {
+        Footage footage;
+        const QString source = TestClips::clip(spec(2.0));
+        footage.addClip(source, 2);
+        QFile whole(source);
+        QVERIFY(whole.open(QIODevice::ReadOnly));
+        footage.addBytes(whole.read(6000), 3); // cut off in the middle of its data
+        footage.addClip(source, 4);
+        const TreeSnapshot before = TreeSnapshot::take(footage.root());
+
+        ProgressLog progress;
+        Exporter::exportFootage(Camera::front, footage.event, std::nullopt, footage.output(), progress.callback());
+
+        const MovieFacts facts = MovieFacts::read(footage.output());
+        QVERIFY(facts.opened);
+        QCOMPARE(facts.streams.size(), size_t(1)); // clips without sound give no sound track
+        const MovieFacts::Stream &video = facts.streams[0];
+        QCOMPARE(video.codec, QStringLiteral("h264"));
+        QVERIFY2(std::abs(facts.duration - 4.0) < 0.05, qPrintable(QString::number(facts.duration)));
+        QCOMPARE(video.packets, 144);
+        QCOMPARE(video.decodedFrames, 144);
+        QCOMPARE(video.decodeErrors, 0);
+        QVERIFY(video.dtsStrictlyIncreasing);
+        QVERIFY2(video.largestDtsStep < 1.5 / 36, "a gap where the damaged clip was");
+        QCOMPARE(video.extradata, extradataOf(source)); // copied, not re-encoded
+        QVERIFY(facts.indexBeforeData());
+
+        QVERIFY(!progress.values.empty());
+        QCOMPARE(progress.values.front(), 0.0);
+        QCOMPARE(progress.values.back(), 1.0);
+        QVERIFY(progress.monotonic());
+        QCOMPARE(before.differences(TreeSnapshot::take(footage.root())), QString());
+    }
+
+    // Clip order comes from the start dates, not from the list; the first
+    // clip with sound starts the sound track at its place on the timeline.
+    void soundStartsWithTheFirstClipThatHasIt()
+    {
+        Footage footage;
+        TestClips::Spec withSound = spec(2.0);
+        withSound.audio = true;
+        footage.addClip(TestClips::clip(withSound), 3);
+        footage.addClip(TestClips::clip(withSound), 4);
+        footage.addClip(TestClips::clip(spec(2.0)), 2); // silent, and first by date
+
+        Exporter::exportFootage(Camera::front, footage.event, std::nullopt, footage.output(), {});
+
+        const MovieFacts facts = MovieFacts::read(footage.output());
+        const MovieFacts::Stream *video = facts.firstOf(QStringLiteral("video"));
+        const MovieFacts::Stream *audio = facts.firstOf(QStringLiteral("audio"));
+        QVERIFY(video && audio);
+        QCOMPARE(audio->codec, QStringLiteral("aac"));
+        QVERIFY2(std::abs(audio->firstPts - 2.0) < 0.1, qPrintable(QString::number(audio->firstPts)));
+        QVERIFY(audio->dtsStrictlyIncreasing);
+        QVERIFY(video->dtsStrictlyIncreasing);
+        QCOMPARE(video->decodedFrames, 216);
+        QCOMPARE(video->extradata, extradataOf(TestClips::clip(spec(2.0))));
+        QVERIFY(std::abs(facts.duration - 6.0) < 0.1);
+    }
+
+    void h265JoinsByCopy()
+    {
+        Footage footage;
+        TestClips::Spec hevc = spec(1.5);
+        hevc.codec = QStringLiteral("libx265");
+        const QString source = TestClips::clip(hevc);
+        footage.addClip(source, 2);
+        footage.addClip(source, 3);
+
+        Exporter::exportFootage(Camera::front, footage.event, std::nullopt, footage.output(), {});
+
+        const MovieFacts facts = MovieFacts::read(footage.output());
+        const MovieFacts::Stream *video = facts.firstOf(QStringLiteral("video"));
+        QVERIFY(video);
+        QCOMPARE(video->codec, QStringLiteral("hevc"));
+        QCOMPARE(video->extradata, extradataOf(source));
+        QVERIFY(video->dtsStrictlyIncreasing);
+        QCOMPARE(video->decodedFrames, 108);
+        QCOMPARE(video->decodeErrors, 0);
+        QVERIFY(std::abs(facts.duration - 3.0) < 0.05);
+        QVERIFY(facts.indexBeforeData());
+    }
+
+    void reencodesWhenClipsDiffer_data()
+    {
+        QTest::addColumn<int>("width");
+        QTest::addColumn<int>("height");
+        QTest::addColumn<QString>("pixelFormat");
+        QTest::newRow("different sizes") << 640 << 480 << QStringLiteral("yuvj420p");
+        QTest::newRow("different profile") << 320 << 240 << QStringLiteral("yuvj422p");
+    }
+    void reencodesWhenClipsDiffer()
+    {
+        QFETCH(int, width);
+        QFETCH(int, height);
+        QFETCH(QString, pixelFormat);
+        Footage footage;
+        const QString small = TestClips::clip(spec(1.0));
+        TestClips::Spec otherSpec = spec(1.0, width, height);
+        otherSpec.pixelFormat = pixelFormat;
+        const QString other = TestClips::clip(otherSpec);
+        footage.addClip(small, 2);
+        footage.addClip(other, 3);
+        footage.addClip(small, 4);
+        const TreeSnapshot before = TreeSnapshot::take(footage.root());
+
+        ProgressLog progress;
+        QElapsedTimer timer;
+        timer.start();
+        Exporter::exportFootage(Camera::front, footage.event, std::nullopt, footage.output(), progress.callback());
+        const double elapsed = timer.elapsed() / 1000.0;
+
+        const MovieFacts facts = MovieFacts::read(footage.output());
+        const MovieFacts::Stream *video = facts.firstOf(QStringLiteral("video"));
+        QVERIFY(video);
+        QCOMPARE(video->codec, QStringLiteral("h264"));
+        QCOMPARE(video->width, width); // never scaled down
+        QCOMPARE(video->height, height);
+        QVERIFY(video->extradata != extradataOf(small));
+        QVERIFY(video->extradata != extradataOf(other));
+        QCOMPARE(video->decodedFrames, 108);
+        QCOMPARE(video->decodeErrors, 0);
+        QVERIFY(video->dtsStrictlyIncreasing);
+        QVERIFY2(std::abs(facts.duration - 3.0) < 0.05, qPrintable(QString::number(facts.duration)));
+        QVERIFY(facts.indexBeforeData());
+        QCOMPARE(progress.values.back(), 1.0);
+        QVERIFY(progress.monotonic());
+        // Reported about ten times a second; five is the promise.
+        if (elapsed > 1.0)
+            QVERIFY2(double(progress.values.size()) >= 4.0 * elapsed,
+                     qPrintable(QStringLiteral("%1 reports in %2 s").arg(progress.values.size()).arg(elapsed)));
+        QCOMPARE(before.differences(TreeSnapshot::take(footage.root())), QString());
+    }
+
+    void rangeIsClampedToTheFootage_data()
+    {
+        QTest::addColumn<double>("from");
+        QTest::addColumn<double>("to");
+        QTest::addColumn<double>("expected");
+        QTest::newRow("beyond the end") << 1.0 << 100.0 << 3.0;
+        QTest::newRow("negative start") << -5.0 << 2.5 << 2.5;
+        QTest::newRow("both outside") << -5.0 << 100.0 << 4.0;
+        QTest::newRow("inside, across clips") << 1.5 << 3.25 << 1.75;
+    }
+    void rangeIsClampedToTheFootage()
+    {
+        QFETCH(double, from);
+        QFETCH(double, to);
+        QFETCH(double, expected);
+        Footage footage;
+        const QString source = TestClips::clip(spec(2.0));
+        footage.addClip(source, 2);
+        footage.addClip(source, 3);
+
+        Exporter::exportFootage(Camera::front, footage.event, std::make_pair(from, to), footage.output(), {});
+
+        const MovieFacts facts = MovieFacts::read(footage.output());
+        const MovieFacts::Stream *video = facts.firstOf(QStringLiteral("video"));
+        QVERIFY(video);
+        QVERIFY2(std::abs(facts.duration - expected) < 0.05, qPrintable(QString::number(facts.duration)));
+        QVERIFY(std::abs(video->decodedFrames - expected * 36) <= 1.0);
+        QCOMPARE(video->decodeErrors, 0);
+        QVERIFY(video->dtsStrictlyIncreasing);
+        QCOMPARE(video->extradata, extradataOf(source));
+    }
+
+    void rangeOutsideTheFootageFails()
+    {
+        Footage footage;
+        footage.addClip(TestClips::clip(spec(2.0)), 2);
+        for (const auto &range : {std::make_pair(10.0, 20.0), std::make_pair(1.5, 1.0)}) {
+            const auto error = exportErrorOf([&] {
+                Exporter::exportFootage(Camera::front, footage.event, range, footage.output(), {});
+            });
+            QCOMPARE(error, std::optional(ExportError::exportFailed));
+            QVERIFY(!QFile::exists(footage.output()));
+        }
+    }
+
+    // Proven "before any file is opened" with a stop already requested: had
+    // a clip been looked at, the stop would have won.
+    void cameraWithoutClipsFailsAtOnce()
+    {
+        Footage footage;
+        footage.addClip(TestClips::clip(spec(1.0)), 2, Camera::front);
+        std::stop_source stop;
+        stop.request_stop();
+        const auto error = exportErrorOf([&] {
+            Exporter::exportFootage(Camera::back, footage.event, std::nullopt, footage.output(), {}, stop.get_token());
+        });
+        QCOMPARE(error, std::optional(ExportError::noClipsForCamera));
+        QVERIFY(!QFile::exists(footage.output()));
+    }
+
+    void noUsableClipFails()
+    {
+        Footage footage;
+        const QString source = TestClips::clip(spec(1.0));
+        QFile whole(source);
+        QVERIFY(whole.open(QIODevice::ReadOnly));
+        footage.addBytes(QByteArray(), 2);                         // zero bytes
+        footage.addBytes(QByteArray(200000, '\x5a'), 3);           // not a movie
+        footage.addBytes(whole.read(2000), 4);                     // header cut off
+        footage.addMissing(5);                                     // gone since the scan
+        QDir().mkpath(footage.folder() + QStringLiteral("/2024-06-01_15-06-00-front.mp4"));
+        footage.addMissing(6);                                     // a folder by that name
+        footage.addClip(source, 2, Camera::back);                  // another camera's good clip
+        const TreeSnapshot before = TreeSnapshot::take(footage.root());
+
+        const auto error = exportErrorOf([&] {
+            Exporter::exportFootage(Camera::front, footage.event, std::nullopt, footage.output(), {});
+        });
+        QCOMPARE(error, std::optional(ExportError::noClipsForCamera));
+        QVERIFY(!QFile::exists(footage.output()));
+        QCOMPARE(before.differences(TreeSnapshot::take(footage.root())), QString());
+    }
+
+    void cancelledBeforeWritingIsACancellation()
+    {
+        Footage footage;
+        footage.addClip(TestClips::clip(spec(1.0)), 2);
+        std::stop_source stop;
+        stop.request_stop();
+        ProgressLog progress;
+        QVERIFY_THROWS_EXCEPTION(CancellationError, Exporter::exportFootage(Camera::front, footage.event, std::nullopt,
+                                                                            footage.output(), progress.callback(),
+                                                                            stop.get_token()));
+        QVERIFY(progress.values.empty());
+        QVERIFY(!QFile::exists(footage.output()));
+    }
+
+    // Stopped while samples are written, or while the index moves to the
+    // front: the export's own cancelled case, and what was written stays.
+    void cancelledWhileWritingIsAnExportError_data()
+    {
+        QTest::addColumn<double>("stopAt");
+        QTest::newRow("writing samples") << 0.0;
+        QTest::newRow("moving the index") << 0.8;
+    }
+    void cancelledWhileWritingIsAnExportError()
+    {
+        QFETCH(double, stopAt);
+        Footage footage;
+        const QString source = TestClips::clip(spec(2.0));
+        for (int minute = 2; minute < 6; ++minute)
+            footage.addClip(source, minute);
+        const TreeSnapshot before = TreeSnapshot::take(footage.root());
+        std::stop_source stop;
+        double stoppedAt = -1;
+        const auto error = exportErrorOf([&] {
+            Exporter::exportFootage(
+                Camera::front, footage.event, std::nullopt, footage.output(),
+                [&](double fraction) {
+                    if (fraction >= stopAt && stoppedAt < 0) {
+                        stoppedAt = fraction;
+                        stop.request_stop();
+                    }
+                },
+                stop.get_token());
+        });
+        QCOMPARE(error, std::optional(ExportError::cancelled));
+        QVERIFY(stoppedAt >= stopAt);
+        QVERIFY(QFile::exists(footage.output())); // left for the caller
+        QCOMPARE(before.differences(TreeSnapshot::take(footage.root())), QString());
+    }
+
+    void destinationMustBeNew()
+    {
+        Footage footage;
+        footage.addClip(TestClips::clip(spec(1.0)), 2);
+        {
+            QFile existing(footage.output());
+            QVERIFY(existing.open(QIODevice::WriteOnly));
+            existing.write("keep me");
+        }
+        ExportError::Case which = ExportError::cancelled;
+        QString message;
+        try {
+            Exporter::exportFootage(Camera::front, footage.event, std::nullopt, footage.output(), {});
+        } catch (const ExportError &e) {
+            which = e.errorCase();
+            message = e.message();
+        }
+        QCOMPARE(which, ExportError::exportFailed);
+        QVERIFY(message.startsWith(QStringLiteral("There is already a file at")));
+        QFile existing(footage.output());
+        QVERIFY(existing.open(QIODevice::ReadOnly));
+        QCOMPARE(existing.readAll(), QByteArray("keep me"));
+
+        const auto missingFolder = exportErrorOf([&] {
+            Exporter::exportFootage(Camera::front, footage.event, std::nullopt,
+                                    footage.output(QStringLiteral("no-such-folder/out.mp4")), {});
+        });
+        QCOMPARE(missingFolder, std::optional(ExportError::exportFailed));
+    }
+
+    void everyCaseHasASentence()
+    {
+        for (const auto c : {ExportError::exportFailed, ExportError::noClipsForCamera, ExportError::compositionFailed,
+                             ExportError::exportSessionUnavailable, ExportError::cancelled}) {
+            const QString m = ExportError(c).message();
+            QVERIFY(!m.isEmpty() && m.endsWith(QLatin1Char('.')));
+            QCOMPARE(QString::fromUtf8(ExportError(c).what()), m);
+        }
+        QCOMPARE(ExportError::failed(QStringLiteral("Disk full.")).message(), QStringLiteral("Disk full."));
+        QCOMPARE(ExportError(ExportError::cancelled, QStringLiteral("ignored")).text(), QString());
+    }
+};
+
+QTEST_GUILESS_MAIN(TestExporter)
+#include "tst_exporter.moc"

@@ -1,0 +1,131 @@
+#include "support/MovieFacts.h"
+
+extern "C" {
+#include <libavcodec/avcodec.h>
+#include <libavformat/avformat.h>
+}
+
+#include <QFile>
+#include <QtEndian>
+#include <memory>
+
+namespace {
+QStringList readBoxes(const QString &path)
+{
+    QStringList boxes;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return boxes;
+    qint64 at = 0;
+    const qint64 size = file.size();
+    while (at + 8 <= size && boxes.size() < 64) {
+        file.seek(at);
+        const QByteArray header = file.read(16);
+        if (header.size() < 8)
+            break;
+        quint64 boxSize = qFromBigEndian<quint32>(header.constData());
+        boxes << QString::fromLatin1(header.mid(4, 4));
+        if (boxSize == 1 && header.size() == 16)
+            boxSize = qFromBigEndian<quint64>(header.constData() + 8);
+        else if (boxSize == 0)
+            break;
+        if (boxSize < 8)
+            break;
+        at += qint64(boxSize);
+    }
+    return boxes;
+}
+} // namespace
+
+const MovieFacts::Stream *MovieFacts::firstOf(const QString &type) const
+{
+    for (const Stream &s : streams)
+        if (s.type == type)
+            return &s;
+    return nullptr;
+}
+
+bool MovieFacts::indexBeforeData() const
+{
+    const qsizetype moov = topLevelBoxes.indexOf(QStringLiteral("moov"));
+    const qsizetype mdat = topLevelBoxes.indexOf(QStringLiteral("mdat"));
+    return moov >= 0 && mdat >= 0 && moov < mdat;
+}
+
+MovieFacts MovieFacts::read(const QString &path, bool decode)
+{
+    MovieFacts facts;
+    facts.topLevelBoxes = readBoxes(path);
+    AVFormatContext *format = nullptr;
+    if (avformat_open_input(&format, QFile::encodeName(path).constData(), nullptr, nullptr) < 0)
+        return facts;
+    std::unique_ptr<AVFormatContext *, void (*)(AVFormatContext **)> closer(&format, avformat_close_input);
+    if (avformat_find_stream_info(format, nullptr) < 0)
+        return facts;
+    facts.opened = true;
+    facts.duration = format->duration == AV_NOPTS_VALUE ? 0.0 : double(format->duration) / AV_TIME_BASE;
+
+    std::vector<AVCodecContext *> decoders(format->nb_streams, nullptr);
+    std::vector<int64_t> lastDts(format->nb_streams, AV_NOPTS_VALUE);
+    for (unsigned i = 0; i < format->nb_streams; ++i) {
+        const AVStream *st = format->streams[i];
+        Stream s;
+        s.type = QString::fromLatin1(av_get_media_type_string(st->codecpar->codec_type));
+        s.codec = QString::fromLatin1(avcodec_get_name(st->codecpar->codec_id));
+        s.width = st->codecpar->width;
+        s.height = st->codecpar->height;
+        s.extradata = QByteArray(reinterpret_cast<const char *>(st->codecpar->extradata), st->codecpar->extradata_size);
+        s.duration = st->duration == AV_NOPTS_VALUE ? 0.0 : double(st->duration) * av_q2d(st->time_base);
+        s.firstPts = st->start_time == AV_NOPTS_VALUE ? 0.0 : double(st->start_time) * av_q2d(st->time_base);
+        facts.streams.push_back(s);
+        if (decode && st->codecpar->codec_type == AVMEDIA_TYPE_VIDEO) {
+            const AVCodec *codec = avcodec_find_decoder(st->codecpar->codec_id);
+            AVCodecContext *ctx = codec ? avcodec_alloc_context3(codec) : nullptr;
+            if (ctx && avcodec_parameters_to_context(ctx, st->codecpar) >= 0 && avcodec_open2(ctx, codec, nullptr) >= 0)
+                decoders[i] = ctx;
+            else
+                avcodec_free_context(&ctx);
+        }
+    }
+
+    AVPacket *packet = av_packet_alloc();
+    AVFrame *frame = av_frame_alloc();
+    const auto drain = [&](unsigned index) {
+        while (avcodec_receive_frame(decoders[index], frame) >= 0) {
+            ++facts.streams[index].decodedFrames;
+            if (frame->decode_error_flags || (frame->flags & AV_FRAME_FLAG_CORRUPT))
+                ++facts.streams[index].decodeErrors;
+            av_frame_unref(frame);
+        }
+    };
+    while (av_read_frame(format, packet) >= 0) {
+        const unsigned index = unsigned(packet->stream_index);
+        Stream &s = facts.streams[index];
+        ++s.packets;
+        if (packet->dts != AV_NOPTS_VALUE) {
+            if (lastDts[index] != AV_NOPTS_VALUE) {
+                if (packet->dts <= lastDts[index])
+                    s.dtsStrictlyIncreasing = false;
+                s.largestDtsStep = std::max(s.largestDtsStep, double(packet->dts - lastDts[index])
+                                                                  * av_q2d(format->streams[index]->time_base));
+            }
+            lastDts[index] = packet->dts;
+        }
+        if (decoders[index]) {
+            if (avcodec_send_packet(decoders[index], packet) < 0)
+                ++s.decodeErrors;
+            drain(index);
+        }
+        av_packet_unref(packet);
+    }
+    for (unsigned i = 0; i < decoders.size(); ++i) {
+        if (!decoders[i])
+            continue;
+        avcodec_send_packet(decoders[i], nullptr);
+        drain(i);
+        avcodec_free_context(&decoders[i]);
+    }
+    av_frame_free(&frame);
+    av_packet_free(&packet);
+    return facts;
+}
