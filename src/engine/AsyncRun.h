@@ -87,4 +87,14 @@ QFuture<T> cancellable(QThreadPool &pool, Work &&work, std::stop_token callerSto
     return future;
 }
 
+// Waits for the given time unless stop is requested first. Answers whether
+// the whole time passed.
+inline bool sleepFor(std::chrono::milliseconds duration, std::stop_token stop)
+{
+    std::mutex mutex;
+    std::condition_variable_any wake;
+    std::unique_lock lock(mutex);
+    return !wake.wait_for(lock, stop, duration, [] { return false; }) && !stop.stop_requested();
+}
+
 } // namespace AsyncRun
