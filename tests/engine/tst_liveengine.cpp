@@ -341,13 +341,6 @@ void TestLiveEngine::theDriveIsNeverWritten()
     QVERIFY2(differences.isEmpty(), qPrintable(differences));
 }
 
-int main(int argc, char **argv)
-{
-    IsolatedHome::setUp();
-    QCoreApplication app(argc, argv);
-    TestLiveEngine tc;
-    QTEST_SET_MAIN_SOURCE_PATH
-    return QTest::qExec(&tc, argc, argv);
-}
+KEELHOLD_ISOLATED_TEST_MAIN(TestLiveEngine)
 
 #include "tst_liveengine.moc"

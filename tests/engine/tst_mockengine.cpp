@@ -352,13 +352,6 @@ void TestMockEngine::exportReportsTenStepsAndWritesNothing()
     QVERIFY(fractions.size() < 5);
 }
 
-int main(int argc, char **argv)
-{
-    IsolatedHome::setUp();
-    QCoreApplication app(argc, argv);
-    TestMockEngine tc;
-    QTEST_SET_MAIN_SOURCE_PATH
-    return QTest::qExec(&tc, argc, argv);
-}
+KEELHOLD_ISOLATED_TEST_MAIN(TestMockEngine)
 
 #include "tst_mockengine.moc"
