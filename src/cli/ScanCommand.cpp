@@ -47,7 +47,7 @@ int run(const QStringList &arguments)
     if (parser.isSet(timeoutOption)) {
         bool ok = false;
         const double seconds = parser.value(timeoutOption).toDouble(&ok);
-        if (!ok || !std::isfinite(seconds) || seconds < 0 || seconds > 24 * 3600) {
+        if (!ok || !std::isfinite(seconds) || seconds <= 0 || seconds > 24 * 3600) {
             CliOutput::err(QStringLiteral("The timeout must be a number of seconds, such as 10."));
             return CliOutput::usageExit;
         }
