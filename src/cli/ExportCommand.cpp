@@ -11,9 +11,14 @@ extern "C" {
 
 #include <QCommandLineParser>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
+#include <atomic>
+#include <chrono>
 #include <cmath>
+#include <csignal>
 #include <limits>
+#include <thread>
 
 namespace ExportCommand {
 
@@ -41,6 +46,50 @@ std::optional<double> seconds(const QCommandLineParser &parser, const QCommandLi
     }
     return value;
 }
+
+std::atomic<bool> interrupted{false};
+static_assert(std::atomic<bool>::is_always_lock_free);
+
+extern "C" void onInterrupt(int)
+{
+    interrupted.store(true);
+}
+
+// Ctrl-C or a polite kill stops the export the way the app's Stop does,
+// so the half-written movie is cleaned up instead of left behind.
+class InterruptStopsExport {
+public:
+    InterruptStopsExport()
+    {
+        struct sigaction action {};
+        action.sa_handler = onInterrupt;
+        sigemptyset(&action.sa_mask);
+        sigaction(SIGINT, &action, &previousInt_);
+        sigaction(SIGTERM, &action, &previousTerm_);
+        watcher_ = std::jthread([this](std::stop_token done) {
+            while (!done.stop_requested()) {
+                if (interrupted.load()) {
+                    source_.request_stop();
+                    return;
+                }
+                std::this_thread::sleep_for(std::chrono::milliseconds(50));
+            }
+        });
+    }
+    ~InterruptStopsExport()
+    {
+        watcher_ = std::jthread();
+        sigaction(SIGINT, &previousInt_, nullptr);
+        sigaction(SIGTERM, &previousTerm_, nullptr);
+    }
+    std::stop_token token() const { return source_.get_token(); }
+
+private:
+    std::stop_source source_;
+    struct sigaction previousInt_ {};
+    struct sigaction previousTerm_ {};
+    std::jthread watcher_;
+};
 
 int fail(const QString &sentence)
 {
@@ -115,14 +164,24 @@ int run(const QStringList &arguments)
         if (QFileInfo(output).isDir())
             output = QDir(output).filePath(Exporter::suggestedFileName(*event, *camera));
 
-        int shownPercent = -1;
-        Exporter::exportFootage(*camera, *event, range, output, [&](double fraction) {
-            const int percent = int(fraction * 100.0);
-            if (percent == shownPercent)
-                return;
-            shownPercent = percent;
-            CliOutput::status(QStringLiteral("Exporting\u2026 %1%").arg(percent));
-        });
+        // A half-written movie is of no use here; one that was there before
+        // is never ours to remove.
+        const bool existedBefore = QFileInfo::exists(output);
+        const InterruptStopsExport interrupt;
+        try {
+            int shownPercent = -1;
+            Exporter::exportFootage(*camera, *event, range, output, [&](double fraction) {
+                const int percent = int(fraction * 100.0);
+                if (percent == shownPercent)
+                    return;
+                shownPercent = percent;
+                CliOutput::status(QStringLiteral("Exporting\u2026 %1%").arg(percent));
+            }, interrupt.token());
+        } catch (...) {
+            if (!existedBefore)
+                QFile::remove(output);
+            throw;
+        }
         CliOutput::endStatus();
         CliOutput::out(QDir::toNativeSeparators(output).toUtf8() + '\n');
         return 0;

@@ -69,11 +69,6 @@ int ClipInput::bestStream(int mediaType) const
     return index >= 0 ? index : -1;
 }
 
-int64_t ClipInput::startTime() const
-{
-    return format_->start_time == AV_NOPTS_VALUE ? 0 : format_->start_time;
-}
-
 int ClipInput::readPacket(void *opaque, unsigned char *buffer, int size)
 {
     auto *self = static_cast<ClipInput *>(opaque);

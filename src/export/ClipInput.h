@@ -23,8 +23,6 @@ public:
     AVFormatContext *context() const { return format_; }
     // Index of the best stream of a media type (AVMEDIA_TYPE_*), -1 if none.
     int bestStream(int mediaType) const;
-    // Where the clip's media starts, in AV_TIME_BASE units (0 when unknown).
-    int64_t startTime() const;
 
 private:
     ClipInput() = default;

@@ -1,5 +1,6 @@
 #include "export/ExportComposition.h"
 
+#include "drive/IOWatchdog.h"
 #include "export/ClipInput.h"
 #include "model/CancellationError.h"
 
@@ -10,9 +11,15 @@ extern "C" {
 
 #include <cmath>
 #include <cstring>
+#include <initializer_list>
+#include <limits>
+#include <utility>
 #include <optional>
 
 namespace {
+
+// As long as a probe of one clip may take.
+constexpr std::chrono::seconds clipTimeout{10};
 
 std::shared_ptr<const AVCodecParameters> copyParameters(const AVCodecParameters *source)
 {
@@ -51,6 +58,32 @@ bool incomplete(const AVCodecParameters *params)
     return params->codec_id == AV_CODEC_ID_NONE || params->width <= 0 || params->height <= 0;
 }
 
+// Where the clip's media starts and ends, in seconds. A clip whose edit
+// list begins with empty time (a non-zero start) counts from its first
+// picture, so that joined clips close up.
+std::optional<std::pair<double, double>> mediaExtent(const AVFormatContext *format, std::initializer_list<int> streams)
+{
+    double first = std::numeric_limits<double>::infinity();
+    double last = -std::numeric_limits<double>::infinity();
+    for (const int index : streams) {
+        if (index < 0)
+            continue;
+        const AVStream *stream = format->streams[index];
+        if (stream->start_time == AV_NOPTS_VALUE || stream->duration == AV_NOPTS_VALUE || stream->duration <= 0)
+            continue;
+        const double start = double(stream->start_time) * av_q2d(stream->time_base);
+        first = std::min(first, start);
+        last = std::max(last, start + double(stream->duration) * av_q2d(stream->time_base));
+    }
+    if (std::isfinite(first) && std::isfinite(last))
+        return std::make_pair(first, last);
+    // Streams without their own times: the container's.
+    if (format->duration == AV_NOPTS_VALUE)
+        return std::nullopt;
+    const double start = format->start_time == AV_NOPTS_VALUE ? 0.0 : double(format->start_time) / AV_TIME_BASE;
+    return std::make_pair(start, start + double(format->duration) / AV_TIME_BASE);
+}
+
 std::optional<ExportSegment> judge(const QString &path, std::stop_token stop)
 {
     const auto input = ClipInput::open(path, stop);
@@ -70,22 +103,26 @@ std::optional<ExportSegment> judge(const QString &path, std::stop_token stop)
     const AVStream *videoStream = format->streams[video];
     if (!decoderOpens(videoStream->codecpar))
         return std::nullopt;
-    if (format->duration == AV_NOPTS_VALUE)
+    int audio = input->bestStream(AVMEDIA_TYPE_AUDIO);
+    if (audio >= 0 && format->streams[audio]->codecpar->codec_id == AV_CODEC_ID_NONE)
+        audio = -1;
+    const std::optional<std::pair<double, double>> extent = mediaExtent(format, {video, audio});
+    if (!extent)
         return std::nullopt;
-    const double seconds = double(format->duration) / AV_TIME_BASE;
+    const double seconds = extent->second - extent->first;
     if (!std::isfinite(seconds) || seconds <= 0.0)
         return std::nullopt;
 
     ExportSegment segment;
     segment.path = path;
+    segment.origin = extent->first;
     segment.duration = seconds;
     segment.video = copyParameters(videoStream->codecpar);
     segment.videoTimeBase = videoStream->time_base;
     segment.frameRate = videoStream->avg_frame_rate.num > 0 ? videoStream->avg_frame_rate : videoStream->r_frame_rate;
     if (!segment.video)
         return std::nullopt;
-    const int audio = input->bestStream(AVMEDIA_TYPE_AUDIO);
-    if (audio >= 0 && format->streams[audio]->codecpar->codec_id != AV_CODEC_ID_NONE) {
+    if (audio >= 0) {
         segment.audio = copyParameters(format->streams[audio]->codecpar);
         segment.audioTimeBase = format->streams[audio]->time_base;
     }
@@ -100,7 +137,15 @@ ExportComposition ExportComposition::build(const std::vector<ClipRef> &clips, st
     for (const ClipRef &clip : clips) {
         if (stop.stop_requested())
             throw CancellationError();
-        std::optional<ExportSegment> segment = judge(clip.url, stop);
+        // A clip the drive doesn't answer for is skipped like a damaged one;
+        // the caller's stop still ends the whole preparation.
+        std::optional<ExportSegment> segment;
+        try {
+            segment = IOWatchdog::run(
+                clipTimeout, [path = clip.url](std::stop_token clipStop) { return judge(path, clipStop); }, stop);
+        } catch (const IOWatchdog::TimedOut &) {
+            continue;
+        }
         if (!segment)
             continue;
         segment->start = composition.duration;

@@ -17,6 +17,7 @@ struct AVCodecParameters;
 struct ExportSegment {
     QString path;
     double start = 0.0;    // seconds on the joined timeline
+    double origin = 0.0;   // the clip's own time of its first moment, in seconds
     double duration = 0.0; // the clip's own length in seconds
     std::shared_ptr<const AVCodecParameters> video;
     AVRational videoTimeBase{1, 1};

@@ -40,7 +40,13 @@ ExportSession::ExportSession(const ExportComposition &composition, double lower,
 {
 }
 
-ExportSession::~ExportSession() = default;
+ExportSession::~ExportSession()
+{
+    // The writer flushes on its way out; that must not report into a
+    // session that is going away.
+    if (writer_)
+        writer_->setByteObserver({});
+}
 
 void ExportSession::run()
 {
@@ -129,23 +135,26 @@ void ExportSession::copyClip(const ExportSegment &segment)
     if (videoIn < 0)
         return;
     const int audioIn = audio_ && composition_.audioMatches(segment) ? input->bestStream(AVMEDIA_TYPE_AUDIO) : -1;
-    const int64_t origin = input->startTime();
     const double span = upper_ - lower_;
     const double clipOffset = segment.start - lower_; // output time of the clip's time zero
     const double localLower = lower_ - segment.start;
     const double localUpper = upper_ - segment.start;
     if (localLower > 0.0)
-        av_seek_frame(format, -1, origin + int64_t(localLower * AV_TIME_BASE), AVSEEK_FLAG_BACKWARD);
+        av_seek_frame(format, -1, std::llround((segment.origin + localLower) * AV_TIME_BASE), AVSEEK_FLAG_BACKWARD);
+    // Clip time of a timestamp, in seconds from the clip's first moment.
+    const auto clipTime = [&](int64_t timestamp, AVRational base) {
+        return double(timestamp) * av_q2d(base) - segment.origin;
+    };
 
     const AVStream *videoStream = format->streams[videoIn];
-    const int64_t videoOrigin = av_rescale_q(origin, AV_TIME_BASE_Q, videoStream->time_base);
     VideoReencoder::Placement place;
     VideoReencoder::PacketSink sink;
     bool videoDone = false;
     if (reencoder_) {
         place = [&](int64_t timestamp) -> std::optional<int64_t> {
-            const double local = double(timestamp - videoOrigin) * av_q2d(videoStream->time_base);
-            if (local < localLower || local >= localUpper)
+            // Pictures before the clip's first moment are decoder lead-in.
+            const double local = clipTime(timestamp, videoStream->time_base);
+            if (local < std::max(0.0, localLower) || local >= localUpper)
                 return std::nullopt;
             return std::llround((clipOffset + local) / av_q2d(reencoder_->timeBase()));
         };
@@ -177,8 +186,8 @@ void ExportSession::copyClip(const ExportSegment &segment)
             continue;
         }
         const AVRational inBase = format->streams[packet->stream_index]->time_base;
-        const int64_t originIn = av_rescale_q(origin, AV_TIME_BASE_Q, inBase);
-        const double local = double(dts - originIn) * av_q2d(inBase);
+        const int64_t originIn = std::llround(segment.origin / av_q2d(inBase));
+        const double local = clipTime(dts, inBase);
         if (local >= localUpper) {
             (isVideo ? videoDone : audioDone) = true;
             av_packet_unref(packet.get());

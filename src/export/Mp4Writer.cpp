@@ -75,8 +75,12 @@ int Mp4Writer::addStream(const AVCodecParameters *parameters, AVRational timeBas
     AVStream *stream = avformat_new_stream(format_, nullptr);
     if (!stream || avcodec_parameters_copy(stream->codecpar, parameters) < 0)
         throw ExportError(ExportError::compositionFailed);
-    // The source's tag may not be valid in MP4; let the muxer choose.
-    stream->codecpar->codec_tag = 0;
+    // A source's tag that MP4 doesn't know for this codec would fail the
+    // header; such tags are reset and the muxer chooses. Known ones stay, so
+    // H.265 keeps "hvc1", which more players accept than the default "hev1".
+    const unsigned tag = parameters->codec_tag;
+    if (tag == 0 || av_codec_get_id(format_->oformat->codec_tag, tag) != parameters->codec_id)
+        stream->codecpar->codec_tag = 0;
     stream->time_base = timeBase;
     lastDts_.push_back(AV_NOPTS_VALUE);
     return stream->index;

@@ -48,9 +48,9 @@ private Q_SLOTS:
     {
         if (!TestClips::ffmpegAvailable())
             QSKIP("the ffmpeg tool is needed to make test clips");
-        TestClips::Spec spec;
-        spec.seconds = 2.0;
-        const QString clip = TestClips::clip(spec);
+        TestClips::Spec clipSpec;
+        clipSpec.seconds = 2.0;
+        const QString clip = TestClips::clip(clipSpec);
         TeslaCamFixture fixture(dir_.path() + QStringLiteral("/TeslaCam"));
         root_ = fixture.root();
         const QString event = fixture.addEvent(QStringLiteral("SentryClips"), QStringLiteral("2024-06-01_15-05-00"),
@@ -166,6 +166,43 @@ private Q_SLOTS:
         QFile f(file);
         QVERIFY(f.open(QIODevice::ReadOnly));
         QCOMPARE(f.readAll(), QByteArray("mine"));
+    }
+
+    // Interrupted while writing: stops like the app's Stop and leaves no
+    // half-written movie. Clips of two sizes force the slow re-encoding.
+    void interruptStopsAndCleansUp()
+    {
+        TestClips::Spec small;
+        small.seconds = 4.0;
+        TestClips::Spec large = small;
+        large.width = 640;
+        large.height = 480;
+        TeslaCamFixture fixture(dir_.path() + QStringLiteral("/Slow/TeslaCam"));
+        const QString event = fixture.addEvent(QStringLiteral("SavedClips"), QStringLiteral("2024-06-02_10-00-00"),
+                                               std::nullopt);
+        fixture.addClip(event, QStringLiteral("2024-06-02_09-58-00"), QStringLiteral("front"), 0, TestClips::clip(small));
+        fixture.addClip(event, QStringLiteral("2024-06-02_09-59-00"), QStringLiteral("front"), 0, TestClips::clip(large));
+        const QString file = out(QStringLiteral("interrupted.mp4"));
+
+        QProcess process;
+        process.start(QStringLiteral(KEELHOLD_CLI_PATH),
+                      {QStringLiteral("export"), fixture.root(), QStringLiteral("--event"),
+                       QStringLiteral("saved|2024-06-02_10-00-00"), QStringLiteral("--camera"), QStringLiteral("front"),
+                       QStringLiteral("-o"), file});
+        QVERIFY(process.waitForStarted());
+        QByteArray err;
+        while (!err.contains("Exporting\xe2\x80\xa6 1") && process.state() == QProcess::Running) {
+            process.waitForReadyRead(100);
+            err += process.readAllStandardError();
+        }
+        QVERIFY2(process.state() == QProcess::Running, "the export ended before it could be interrupted");
+        QVERIFY(QFile::exists(file));
+        process.terminate();
+        QVERIFY(process.waitForFinished(60000));
+        err += process.readAllStandardError();
+        QCOMPARE(process.exitCode(), 2);
+        QCOMPARE(QString::fromUtf8(err).trimmed().split(QLatin1Char('\n')).last(), QStringLiteral("The export was stopped."));
+        QVERIFY(!QFile::exists(file));
     }
 
     void missingOptionsShowTheUsage()

@@ -12,8 +12,11 @@ extern "C" {
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QThread>
+#include <thread>
 #include <ctime>
 
 using Exporter::ExportError;
@@ -79,7 +82,7 @@ private:
     Date base_;
 };
 
-TestClips::Spec spec(double seconds, int width = 320, int height = 240)
+TestClips::Spec clipSpec(double seconds, int width = 320, int height = 240)
 {
     TestClips::Spec s;
     s.seconds = seconds;
@@ -176,7 +179,7 @@ private Q_SLOTS:
     void joinsClipsBackToBackSkippingDamaged()
     {
         Footage footage;
-        const QString source = TestClips::clip(spec(2.0));
+        const QString source = TestClips::clip(clipSpec(2.0));
         footage.addClip(source, 2);
         QFile whole(source);
         QVERIFY(whole.open(QIODevice::ReadOnly));
@@ -213,11 +216,11 @@ private Q_SLOTS:
     void soundStartsWithTheFirstClipThatHasIt()
     {
         Footage footage;
-        TestClips::Spec withSound = spec(2.0);
+        TestClips::Spec withSound = clipSpec(2.0);
         withSound.audio = true;
         footage.addClip(TestClips::clip(withSound), 3);
         footage.addClip(TestClips::clip(withSound), 4);
-        footage.addClip(TestClips::clip(spec(2.0)), 2); // silent, and first by date
+        footage.addClip(TestClips::clip(clipSpec(2.0)), 2); // silent, and first by date
 
         Exporter::exportFootage(Camera::front, footage.event, std::nullopt, footage.output(), {});
 
@@ -230,14 +233,39 @@ private Q_SLOTS:
         QVERIFY(audio->dtsStrictlyIncreasing);
         QVERIFY(video->dtsStrictlyIncreasing);
         QCOMPARE(video->decodedFrames, 216);
-        QCOMPARE(video->extradata, extradataOf(TestClips::clip(spec(2.0))));
+        QCOMPARE(video->extradata, extradataOf(TestClips::clip(clipSpec(2.0))));
         QVERIFY(std::abs(facts.duration - 6.0) < 0.1);
+    }
+
+    // A clip whose media starts seconds into its own time (an empty edit
+    // first) still goes straight behind the one before it.
+    void clipStartingLateClosesUp()
+    {
+        Footage footage;
+        const QString source = TestClips::clip(clipSpec(2.0));
+        footage.addClip(source, 2);
+        const QString late = footage.output(QStringLiteral("late.mp4"));
+        QProcess ffmpeg;
+        ffmpeg.start(QStringLiteral("ffmpeg"), {QStringLiteral("-loglevel"), QStringLiteral("error"), QStringLiteral("-i"),
+                                                source, QStringLiteral("-c"), QStringLiteral("copy"),
+                                                QStringLiteral("-output_ts_offset"), QStringLiteral("5"), late});
+        QVERIFY(ffmpeg.waitForFinished(60000) && ffmpeg.exitCode() == 0);
+        footage.addClip(late, 3);
+
+        Exporter::exportFootage(Camera::front, footage.event, std::nullopt, footage.output(), {});
+
+        const MovieFacts facts = MovieFacts::read(footage.output());
+        const MovieFacts::Stream *video = facts.firstOf(QStringLiteral("video"));
+        QVERIFY(video);
+        QVERIFY2(std::abs(facts.duration - 4.0) < 0.05, qPrintable(QString::number(facts.duration)));
+        QVERIFY(video->largestDtsStep < 1.5 / 36);
+        QCOMPARE(video->decodedFrames, 144);
     }
 
     void h265JoinsByCopy()
     {
         Footage footage;
-        TestClips::Spec hevc = spec(1.5);
+        TestClips::Spec hevc = clipSpec(1.5);
         hevc.codec = QStringLiteral("libx265");
         const QString source = TestClips::clip(hevc);
         footage.addClip(source, 2);
@@ -249,6 +277,7 @@ private Q_SLOTS:
         const MovieFacts::Stream *video = facts.firstOf(QStringLiteral("video"));
         QVERIFY(video);
         QCOMPARE(video->codec, QStringLiteral("hevc"));
+        QCOMPARE(video->tag, QStringLiteral("hvc1")); // the tag more players accept
         QCOMPARE(video->extradata, extradataOf(source));
         QVERIFY(video->dtsStrictlyIncreasing);
         QCOMPARE(video->decodedFrames, 108);
@@ -271,8 +300,8 @@ private Q_SLOTS:
         QFETCH(int, height);
         QFETCH(QString, pixelFormat);
         Footage footage;
-        const QString small = TestClips::clip(spec(1.0));
-        TestClips::Spec otherSpec = spec(1.0, width, height);
+        const QString small = TestClips::clip(clipSpec(1.0));
+        TestClips::Spec otherSpec = clipSpec(1.0, width, height);
         otherSpec.pixelFormat = pixelFormat;
         const QString other = TestClips::clip(otherSpec);
         footage.addClip(small, 2);
@@ -324,7 +353,7 @@ private Q_SLOTS:
         QFETCH(double, to);
         QFETCH(double, expected);
         Footage footage;
-        const QString source = TestClips::clip(spec(2.0));
+        const QString source = TestClips::clip(clipSpec(2.0));
         footage.addClip(source, 2);
         footage.addClip(source, 3);
 
@@ -343,7 +372,7 @@ private Q_SLOTS:
     void rangeOutsideTheFootageFails()
     {
         Footage footage;
-        footage.addClip(TestClips::clip(spec(2.0)), 2);
+        footage.addClip(TestClips::clip(clipSpec(2.0)), 2);
         for (const auto &range : {std::make_pair(10.0, 20.0), std::make_pair(1.5, 1.0)}) {
             const auto error = exportErrorOf([&] {
                 Exporter::exportFootage(Camera::front, footage.event, range, footage.output(), {});
@@ -358,7 +387,7 @@ private Q_SLOTS:
     void cameraWithoutClipsFailsAtOnce()
     {
         Footage footage;
-        footage.addClip(TestClips::clip(spec(1.0)), 2, Camera::front);
+        footage.addClip(TestClips::clip(clipSpec(1.0)), 2, Camera::front);
         std::stop_source stop;
         stop.request_stop();
         const auto error = exportErrorOf([&] {
@@ -371,7 +400,7 @@ private Q_SLOTS:
     void noUsableClipFails()
     {
         Footage footage;
-        const QString source = TestClips::clip(spec(1.0));
+        const QString source = TestClips::clip(clipSpec(1.0));
         QFile whole(source);
         QVERIFY(whole.open(QIODevice::ReadOnly));
         footage.addBytes(QByteArray(), 2);                         // zero bytes
@@ -394,7 +423,7 @@ private Q_SLOTS:
     void cancelledBeforeWritingIsACancellation()
     {
         Footage footage;
-        footage.addClip(TestClips::clip(spec(1.0)), 2);
+        footage.addClip(TestClips::clip(clipSpec(1.0)), 2);
         std::stop_source stop;
         stop.request_stop();
         ProgressLog progress;
@@ -402,6 +431,32 @@ private Q_SLOTS:
                                                                             footage.output(), progress.callback(),
                                                                             stop.get_token()));
         QVERIFY(progress.values.empty());
+        QVERIFY(!QFile::exists(footage.output()));
+    }
+
+    // Stopped while clips are still being looked at: the same cancellation,
+    // and the movie file was never made.
+    void cancelledWhilePreparingIsACancellation()
+    {
+        Footage footage;
+        const QString source = TestClips::clip(clipSpec(1.0));
+        for (int minute = 0; minute < 60; ++minute)
+            footage.addClip(source, minute);
+        std::stop_source stop;
+        std::exception_ptr error;
+        std::thread worker([&] {
+            try {
+                Exporter::exportFootage(Camera::front, footage.event, std::nullopt, footage.output(), {},
+                                        stop.get_token());
+            } catch (...) {
+                error = std::current_exception();
+            }
+        });
+        QThread::msleep(20);
+        stop.request_stop();
+        worker.join();
+        QVERIFY(error);
+        QVERIFY_THROWS_EXCEPTION(CancellationError, std::rethrow_exception(error));
         QVERIFY(!QFile::exists(footage.output()));
     }
 
@@ -417,7 +472,7 @@ private Q_SLOTS:
     {
         QFETCH(double, stopAt);
         Footage footage;
-        const QString source = TestClips::clip(spec(2.0));
+        const QString source = TestClips::clip(clipSpec(2.0));
         for (int minute = 2; minute < 6; ++minute)
             footage.addClip(source, minute);
         const TreeSnapshot before = TreeSnapshot::take(footage.root());
@@ -443,7 +498,7 @@ private Q_SLOTS:
     void destinationMustBeNew()
     {
         Footage footage;
-        footage.addClip(TestClips::clip(spec(1.0)), 2);
+        footage.addClip(TestClips::clip(clipSpec(1.0)), 2);
         {
             QFile existing(footage.output());
             QVERIFY(existing.open(QIODevice::WriteOnly));

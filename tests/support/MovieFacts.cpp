@@ -72,6 +72,9 @@ MovieFacts MovieFacts::read(const QString &path, bool decode)
         Stream s;
         s.type = QString::fromLatin1(av_get_media_type_string(st->codecpar->codec_type));
         s.codec = QString::fromLatin1(avcodec_get_name(st->codecpar->codec_id));
+        const unsigned tag = st->codecpar->codec_tag;
+        for (int shift = 0; shift < 32 && tag; shift += 8)
+            s.tag += QLatin1Char(char((tag >> shift) & 0xff));
         s.width = st->codecpar->width;
         s.height = st->codecpar->height;
         s.extradata = QByteArray(reinterpret_cast<const char *>(st->codecpar->extradata), st->codecpar->extradata_size);

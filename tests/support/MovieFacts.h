@@ -10,6 +10,7 @@ struct MovieFacts {
     struct Stream {
         QString type; // "video", "audio", ...
         QString codec;
+        QString tag; // "avc1", "hvc1", ...
         int width = 0;
         int height = 0;
         QByteArray extradata;
