@@ -110,6 +110,13 @@ int run(const QStringList &arguments)
     const QString root = QDir::cleanPath(QDir::current().absoluteFilePath(positional.first()));
     const QString vault = QDir::cleanPath(QDir::current().absoluteFilePath(parser.value(vaultOption)));
 
+    // Nothing on the car's drive is ever written, the Vault included.
+    if (vault == root || vault.startsWith(root + QLatin1Char('/'))) {
+        CliOutput::err(QStringLiteral("The Vault folder can't be inside the TeslaCam folder: Keelhold never writes "
+                                      "to the car's drive."));
+        return CliOutput::failureExit;
+    }
+
     DriveScan scan;
     try {
         scan = TeslaCamParser::scan(root);

@@ -13,8 +13,10 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <memory>
+#include <semaphore>
 #include <sys/stat.h>
 #include <system_error>
+#include <thread>
 #include <unistd.h>
 
 namespace ArchiveEngine {
@@ -64,6 +66,68 @@ private:
     int fd_;
 };
 
+// Hashes a block on a second thread while the caller writes the same block,
+// so that the digest costs no extra pass and little extra time. Still only
+// one block is held: the caller waits for both before reading the next.
+class BlockHasher {
+public:
+    explicit BlockHasher(Sha256 &hash) : hash_(hash) {}
+    ~BlockHasher()
+    {
+        if (!thread_.joinable())
+            return;
+        wait();
+        quit_ = true;
+        start_.release();
+        thread_.join();
+    }
+    BlockHasher(const BlockHasher &) = delete;
+    BlockHasher &operator=(const BlockHasher &) = delete;
+
+    void begin(const char *data, size_t size)
+    {
+        // Small blocks (event.json, thumbnails) aren't worth a thread.
+        if (size < 64 * 1024) {
+            hash_.update(data, size);
+            return;
+        }
+        if (!thread_.joinable())
+            thread_ = std::thread([this] { loop(); });
+        data_ = data;
+        size_ = size;
+        pending_ = true;
+        start_.release();
+    }
+    void wait()
+    {
+        if (pending_) {
+            done_.acquire();
+            pending_ = false;
+        }
+    }
+
+private:
+    void loop()
+    {
+        for (;;) {
+            start_.acquire();
+            if (quit_)
+                return;
+            hash_.update(data_, size_);
+            done_.release();
+        }
+    }
+
+    Sha256 &hash_;
+    std::thread thread_;
+    std::binary_semaphore start_{0};
+    std::binary_semaphore done_{0};
+    const char *data_ = nullptr;
+    size_t size_ = 0;
+    bool pending_ = false;
+    bool quit_ = false;
+};
+
 void writeAll(int fd, const char *data, size_t size)
 {
     while (size > 0) {
@@ -111,22 +175,27 @@ ArchivedFile copySteps(const QString &from, const QString &to, const std::stop_t
 
     Sha256 hash;
     qint64 count = 0;
-    // One block, shared by reading, hashing and writing.
+    // One block, shared by reading, hashing and writing. The hasher is
+    // declared after it, so it is done with the block before the block goes.
     const std::unique_ptr<char[]> block(new char[size_t(chunkSize)]);
-    for (;;) {
-        if (stop.stop_requested())
-            throw CancellationError();
-        const ssize_t n = ::read(source.get(), block.get(), size_t(chunkSize));
-        if (n < 0) {
-            if (errno == EINTR)
-                continue;
-            raiseErrno("read");
+    {
+        BlockHasher hasher(hash);
+        for (;;) {
+            if (stop.stop_requested())
+                throw CancellationError();
+            const ssize_t n = ::read(source.get(), block.get(), size_t(chunkSize));
+            if (n < 0) {
+                if (errno == EINTR)
+                    continue;
+                raiseErrno("read");
+            }
+            if (n == 0)
+                break;
+            hasher.begin(block.get(), size_t(n));
+            writeAll(out.get(), block.get(), size_t(n));
+            hasher.wait();
+            count += n;
         }
-        if (n == 0)
-            break;
-        hash.update(block.get(), size_t(n));
-        writeAll(out.get(), block.get(), size_t(n));
-        count += n;
     }
     if (::close(out.release()) != 0)
         raiseErrno("close");

@@ -57,10 +57,12 @@ void VaultIndex::save(const QString &vaultURL) const
         throw FileError(QStringLiteral("Couldn't create the folder %1.").arg(vaultURL));
     const QString path = manifestPath(vaultURL);
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
+    // Unbuffered: Qt 6.4's QSaveFile commits a short file when the final
+    // flush of its buffer fails (a full disk), so every write is checked here.
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         throw FileError(QStringLiteral("Couldn't write %1: %2").arg(path, file.errorString()));
     const QByteArray data = JsonCoding::toCompactJson(toJson());
-    if (file.write(data) != data.size()) {
+    if (file.write(data) != data.size() || file.error() != QFileDevice::NoError) {
         const QString why = file.errorString();
         file.cancelWriting();
         throw FileError(QStringLiteral("Couldn't write %1: %2").arg(path, why));
@@ -77,7 +79,14 @@ bool VaultIndex::removeEvent(const QString &eventID, const QString &vaultURL)
     if (first == index.events.end())
         return false;
 
-    const QString folder = QDir(vaultURL).filePath(first->relativePath);
+    // Only ever something below the Vault: an edited index must not be able
+    // to send the Vault itself, or anything outside it, to the Trash.
+    const QString root = QDir::cleanPath(QDir(vaultURL).absolutePath());
+    const QString folder = QDir::cleanPath(root + QLatin1Char('/') + first->relativePath);
+    if (first->relativePath.isEmpty() || QDir::isAbsolutePath(first->relativePath)
+        || !folder.startsWith(root + QLatin1Char('/')))
+        throw FileError(QStringLiteral("The Vault's index points outside the Vault folder (%1), so nothing was removed.")
+                            .arg(first->relativePath));
     const QFileInfo info(folder);
     // A folder that is already gone is no error: the record goes all the same.
     if (info.exists() || info.isSymLink()) {

@@ -139,6 +139,21 @@ private Q_SLOTS:
                                                  caller.get_token()));
     }
 
+    void nothingOfTheWorkOutlivesTheCall()
+    {
+        // What the work holds (an open file, say) is released before run returns.
+        for (int i = 0; i < 200; ++i) {
+            std::atomic<bool> released{false};
+            auto guard = std::shared_ptr<int>(new int(1), [&released](int *p) {
+                std::this_thread::sleep_for(std::chrono::microseconds(50));
+                delete p;
+                released = true;
+            });
+            IOWatchdog::run(5s, [guard = std::move(guard)](std::stop_token) { return *guard; });
+            QVERIFY(released);
+        }
+    }
+
     void futureFormCarriesTheSameOutcomes()
     {
         auto ok = IOWatchdog::start(5s, [](std::stop_token) { return 5; });

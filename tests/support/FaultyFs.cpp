@@ -5,6 +5,7 @@
 #include <QFile>
 
 #include <atomic>
+#include <condition_variable>
 #include <cerrno>
 #include <cstring>
 #include <fuse.h>
@@ -26,7 +27,11 @@ struct FaultyFs::State {
     struct File {
         QByteArray content;
         qint64 failFrom = -1;
+        qint64 hangFrom = -1;
     };
+    std::condition_variable released;
+    bool releasing = false;
+    std::atomic<bool> hanging{false};
     std::map<std::string, File> files; // "/TeslaCam/…"
     std::set<std::string> folders{"/"};
     std::atomic<qint64> served{0};
@@ -119,12 +124,20 @@ int onOpen(const char *path, fuse_file_info *info)
 int onRead(const char *path, char *buffer, size_t size, off_t offset, fuse_file_info *)
 {
     auto &s = state();
-    std::lock_guard lock(s.mutex);
+    std::unique_lock lock(s.mutex);
     if (s.vanished)
         return -EIO;
-    const auto it = s.files.find(path);
+    auto it = s.files.find(path);
     if (it == s.files.end())
         return -EIO;
+    if (it->second.hangFrom >= 0 && offset + qint64(size) > it->second.hangFrom && !s.releasing) {
+        s.hanging = true;
+        s.released.wait(lock, [&] { return s.releasing; });
+        s.hanging = false;
+        it = s.files.find(path);
+        if (s.vanished || it == s.files.end())
+            return -EIO;
+    }
     const auto &file = it->second;
     if (file.failFrom >= 0 && offset + qint64(size) > file.failFrom)
         return -EIO;
@@ -191,6 +204,8 @@ FaultyFs::~FaultyFs()
 {
     if (!state_->handle)
         return;
+    // A hung read must answer before the file system can go.
+    release();
     // Unmounting ends the loop: its read of /dev/fuse fails once the
     // kernel drops the connection.
     fuse_exit(state_->handle);
@@ -241,4 +256,25 @@ void FaultyFs::vanish()
 qint64 FaultyFs::bytesServed() const
 {
     return state_->served;
+}
+
+void FaultyFs::hangReadsFrom(const QString &relativePath, qint64 offset)
+{
+    std::lock_guard lock(state_->mutex);
+    state_->files[key(relativePath)].hangFrom = offset;
+    state_->releasing = false;
+}
+
+void FaultyFs::release()
+{
+    {
+        std::lock_guard lock(state_->mutex);
+        state_->releasing = true;
+    }
+    state_->released.notify_all();
+}
+
+bool FaultyFs::isHanging() const
+{
+    return state_->hanging;
 }

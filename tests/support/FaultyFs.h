@@ -30,6 +30,11 @@ public:
     // Once this many bytes have been served in all, every file and folder is
     // gone: lookups answer ENOENT and reads of open files EIO.
     void vanishAfterBytes(qint64 bytes);
+    // Reads that reach offset don't answer until release(): a drive that
+    // stops responding mid-file.
+    void hangReadsFrom(const QString &relativePath, qint64 offset);
+    void release();
+    bool isHanging() const;
     void vanish();
     qint64 bytesServed() const;
 

@@ -234,6 +234,33 @@ private Q_SLOTS:
         QVERIFY_THROWS_EXCEPTION(VaultIndex::FileError, VaultIndex{}.save(dir.filePath("file/Vault")));
     }
 
+    void saveOnAFullDiskRaisesAndKeepsTheOldFile()
+    {
+        if (::geteuid() != 0)
+            QSKIP("needs root to mount a tmpfs");
+        QTemporaryDir mountPoint;
+        if (QProcess::execute("mount", {"-t", "tmpfs", "-o", "size=1m", "tmpfs", mountPoint.path()}) != 0)
+            QSKIP("tmpfs mount not available");
+        const auto unmount = qScopeGuard([&] { QProcess::execute("umount", {mountPoint.path()}); });
+        VaultIndex old;
+        old.events = {makeEvent(QStringLiteral("2026-07-18_09-15-32"), {{QStringLiteral("a-front.mp4"), 3, {}}})};
+        old.save(mountPoint.path());
+        const QByteArray before = readAll(mountPoint.filePath("manifest.json"));
+        {
+            QFile filler(mountPoint.filePath("filler"));
+            QVERIFY(filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+            const QByteArray block(4096, 'f');
+            while (filler.write(block) == block.size()) {
+            }
+        }
+        VaultIndex bigger = old;
+        for (int i = 0; i < 50; ++i)
+            bigger.events.push_back(old.events[0]);
+        QVERIFY_THROWS_EXCEPTION(VaultIndex::FileError, bigger.save(mountPoint.path()));
+        QCOMPARE(readAll(mountPoint.filePath("manifest.json")), before);
+        QCOMPARE(VaultIndex::load(mountPoint.path()), old);
+    }
+
     void removeEventTrashesTheFolderAndEveryRecordOfTheId()
     {
         QTemporaryDir vault;
@@ -258,6 +285,33 @@ private Q_SLOTS:
 
         QVERIFY(!VaultIndex::removeEvent(partial.eventID, vault.path()));
         QCOMPARE(VaultIndex::load(vault.path()).events.size(), size_t(1));
+    }
+
+    void removeEventNeverReachesOutsideTheVault_data()
+    {
+        QTest::addColumn<QString>("relativePath");
+        QTest::newRow("empty") << QString();
+        QTest::newRow("the root itself") << QStringLiteral(".");
+        QTest::newRow("parent") << QStringLiteral("2026/../..");
+        QTest::newRow("sibling") << QStringLiteral("../outside");
+        QTest::newRow("absolute") << QStringLiteral("/tmp");
+    }
+
+    void removeEventNeverReachesOutsideTheVault()
+    {
+        QFETCH(QString, relativePath);
+        QTemporaryDir dir;
+        const QString vault = dir.filePath("Vault");
+        QDir().mkpath(dir.filePath("outside"));
+        auto e = makeEvent(QStringLiteral("2026-07-18_09-15-32"), {});
+        e.relativePath = relativePath;
+        VaultIndex index;
+        index.events = {e};
+        index.save(vault);
+        QVERIFY_THROWS_EXCEPTION(VaultIndex::FileError, VaultIndex::removeEvent(e.eventID, vault));
+        QVERIFY(QFileInfo::exists(vault + "/manifest.json"));
+        QVERIFY(QFileInfo::exists(dir.filePath("outside")));
+        QCOMPARE(VaultIndex::load(vault).events.size(), size_t(1));
     }
 
     void removeEventWhoseFolderIsGoneStillDropsTheRecord()

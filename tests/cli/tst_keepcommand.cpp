@@ -1,0 +1,296 @@
+#include "model/ArchiveReport.h"
+#include "support/DriveBuilder.h"
+#include "support/TreeSnapshot.h"
+#include "vault/VaultIndex.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <csignal>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <thread>
+#include <unistd.h>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+struct Result {
+    int exitCode = -1;
+    QByteArray out;
+    QString err;
+};
+
+Result finish(QProcess &process)
+{
+    if (!process.waitForFinished(60000)) {
+        process.kill();
+        process.waitForFinished();
+    }
+    Result r;
+    r.exitCode = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+    r.out = process.readAllStandardOutput();
+    r.err = QString::fromUtf8(process.readAllStandardError());
+    return r;
+}
+
+Result cli(const QStringList &arguments, const QProcessEnvironment &env = QProcessEnvironment::systemEnvironment())
+{
+    QProcess process;
+    process.setProcessEnvironment(env);
+    process.start(QStringLiteral(KEELHOLD_CLI_PATH), arguments);
+    return finish(process);
+}
+
+ArchiveReport parseReport(const QByteArray &out)
+{
+    return ArchiveReport::fromJson(QJsonDocument::fromJson(out).object());
+}
+
+QStringList temporaryFiles(const QString &folder)
+{
+    QStringList found;
+    QDirIterator it(folder, {QStringLiteral(".tmp-*")}, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (it.hasNext())
+        found << it.next();
+    return found;
+}
+
+} // namespace
+
+class TestKeepCommand : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir driveDir_;
+    DriveBuilder drive_{driveDir_.filePath(QStringLiteral("TeslaCam"))};
+    TreeSnapshot before_;
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        drive_.addEvent("SentryClips", "2026-07-18_09-15-32", 3, 200000);
+        drive_.addEvent("SavedClips", "2026-07-19_10-00-00", 2, 150000);
+        drive_.addEvent("SentryClips", "2026-07-17_08-00-00", 1, 100000);
+        before_ = TreeSnapshot::take(drive_.root());
+    }
+
+    void cleanupTestCase()
+    {
+        // Every command of this suite left the drive exactly as it was.
+        QCOMPARE(before_.differences(TreeSnapshot::take(drive_.root()), true), QString());
+    }
+
+    void keepsEveryEventAndPrintsTheReport()
+    {
+        QTemporaryDir vault;
+        const Result r = cli({"keep", drive_.root(), "--vault", vault.path()});
+        QCOMPARE(r.exitCode, 0);
+        const ArchiveReport report = parseReport(r.out);
+        QCOMPARE(report.archivedEvents.size(), size_t(3));
+        QVERIFY(!report.cancelled);
+        QVERIFY(report.failedFiles.empty());
+        QCOMPARE(VaultIndex::load(vault.path()).events, report.archivedEvents);
+        // Not a terminal: no progress line.
+        QVERIFY2(r.err.isEmpty(), qPrintable(r.err));
+
+        const Result again = cli({"keep", drive_.root(), "--vault", vault.path(), "--pretty"});
+        QCOMPARE(again.exitCode, 0);
+        QVERIFY(again.out.contains("\n    "));
+        const ArchiveReport second = parseReport(again.out);
+        QCOMPARE(second.skippedDuplicates, 3);
+        QVERIFY(second.archivedEvents.empty());
+    }
+
+    void showsALiveProgressLineOnATerminal()
+    {
+        if (QStandardPaths::findExecutable("script").isEmpty())
+            QSKIP("needs util-linux script for a terminal");
+        QTemporaryDir vault;
+        const QString command = QStringLiteral("'%1' keep '%2' --vault '%3' >/dev/null")
+                                    .arg(KEELHOLD_CLI_PATH, drive_.root(), vault.path());
+        QProcess process;
+        process.start("script", {"-qefc", command, "/dev/null"});
+        const Result r = finish(process);
+        QCOMPARE(r.exitCode, 0);
+        // stderr is the terminal: events done, megabytes, speed.
+        QVERIFY2(r.out.contains("3/3 events \xc2\xb7 ") && r.out.contains(" MB/s"), r.out.constData());
+    }
+
+    void keepsOnlyTheChosenEvents()
+    {
+        QTemporaryDir vault;
+        const Result r = cli({"keep", drive_.root(), "--vault", vault.path(), "--event", "saved|2026-07-19_10-00-00",
+                              "--event", "sentry|2026-07-17_08-00-00"});
+        QCOMPARE(r.exitCode, 0);
+        const ArchiveReport report = parseReport(r.out);
+        QCOMPARE(report.archivedEvents.size(), size_t(2));
+        QCOMPARE(report.archivedEvents[0].eventID, QStringLiteral("saved|2026-07-19_10-00-00"));
+        QCOMPARE(report.archivedEvents[1].eventID, QStringLiteral("sentry|2026-07-17_08-00-00"));
+    }
+
+    void badInputGetsOnePlainSentence()
+    {
+        QTemporaryDir vault;
+        Result r = cli({"keep", drive_.root(), "--vault", vault.path(), "--event", "sentry|1999-01-01_00-00-00"});
+        QCOMPARE(r.exitCode, 2);
+        QVERIFY(r.err.contains("no event"));
+        QVERIFY(r.out.isEmpty());
+        QVERIFY(!QFile::exists(vault.filePath("manifest.json")));
+
+        r = cli({"keep", driveDir_.filePath("nothing-here"), "--vault", vault.path()});
+        QCOMPARE(r.exitCode, 2);
+        QCOMPARE(r.err.count('\n'), 1);
+
+        r = cli({"keep", drive_.root(), "--vault", drive_.root() + "/SentryClips/../Vault"});
+        QCOMPARE(r.exitCode, 2);
+        QVERIFY(r.err.contains("never writes"));
+        QVERIFY(!QFileInfo::exists(drive_.root() + "/Vault"));
+
+        r = cli({"keep", drive_.root()});
+        QCOMPARE(r.exitCode, 64);
+        r = cli({"keep", drive_.root(), "--vault", vault.path(), "--timeout", "soon"});
+        QCOMPARE(r.exitCode, 64);
+        r = cli({"vault", "list"});
+        QCOMPARE(r.exitCode, 64);
+        r = cli({"vault", "list", vault.filePath("missing")});
+        QCOMPARE(r.exitCode, 2);
+        QVERIFY(r.err.contains("no Vault folder"));
+    }
+
+    void ctrlCCancelsCleanlyWithAReport()
+    {
+        // An older event whose clip hangs (a FIFO) keeps the run busy until we interrupt it.
+        QTemporaryDir dir;
+        DriveBuilder slow(dir.filePath("TeslaCam"));
+        slow.addEvent("SentryClips", "2026-07-18_09-15-32", 2, 1000);
+        const QString older = slow.addEvent("SentryClips", "2026-07-17_09-15-32", 1, 1000);
+        const QString fifo = older + "/2026-07-17_09-10-00-front.mp4";
+        QCOMPARE(::mkfifo(QFile::encodeName(fifo).constData(), 0644), 0);
+        const QString vault = dir.filePath("Vault");
+
+        QProcess process;
+        process.start(QStringLiteral(KEELHOLD_CLI_PATH), {"keep", slow.root(), "--vault", vault, "--timeout", "60"});
+        QVERIFY(process.waitForStarted());
+        // Wait until the run is stuck opening the FIFO.
+        const QByteArray name = QFile::encodeName(fifo);
+        QTRY_VERIFY_WITH_TIMEOUT(QFileInfo::exists(vault + "/2026/sentry/2026-07-17_09-15-32"), 20000);
+        std::this_thread::sleep_for(300ms);
+        ::kill(pid_t(process.processId()), SIGINT);
+        std::this_thread::sleep_for(300ms);
+        // The dead drive answers late; the run then stops instead of going on.
+        for (int i = 0; i < 500; ++i) {
+            const int fd = ::open(name.constData(), O_WRONLY | O_NONBLOCK | O_CLOEXEC);
+            if (fd >= 0) {
+                ::close(fd);
+                break;
+            }
+            std::this_thread::sleep_for(10ms);
+        }
+        const Result r = finish(process);
+        QCOMPARE(r.exitCode, 130);
+        const ArchiveReport report = parseReport(r.out);
+        QVERIFY(report.cancelled);
+        QVERIFY(report.failedFiles.empty());
+        QCOMPARE(report.archivedEvents.size(), size_t(1));
+        QCOMPARE(VaultIndex::load(vault).events, report.archivedEvents);
+    }
+
+    void fullDiskWithoutRoot()
+    {
+        // A file-size limit makes the Vault's disk "full" for any file past 2 MiB.
+        QTemporaryDir dir;
+        DriveBuilder drive(dir.filePath("TeslaCam"));
+        drive.addEvent("SentryClips", "2026-07-18_09-15-32", 2, 1 << 20);
+        const QString big = drive.addEvent("SentryClips", "2026-07-17_09-15-32", 1, 4 << 20);
+        const QString vault = dir.filePath("Vault");
+        const QString script = QStringLiteral("trap '' XFSZ; ulimit -f 2048; exec \"$0\" \"$@\"");
+        QProcess process;
+        process.start("bash", {"-c", script, KEELHOLD_CLI_PATH, "keep", drive.root(), "--vault", vault});
+        const Result r = finish(process);
+        QCOMPARE(r.exitCode, 1);
+        const ArchiveReport report = parseReport(r.out);
+        QCOMPARE(report.archivedEvents.size(), size_t(2));
+        QCOMPARE(report.archivedEvents[0].eventID, QStringLiteral("sentry|2026-07-18_09-15-32"));
+        QCOMPARE(report.archivedEvents[0].files.size(), size_t(4));
+        // The big clip failed; the event is kept with what did arrive.
+        QCOMPARE(report.archivedEvents[1].files.size(), size_t(2));
+        QCOMPARE(report.failedFiles.size(), size_t(1));
+        QVERIFY(report.failedFiles[0].path.startsWith(big));
+        QCOMPARE(report.failedFiles[0].reason, QStringLiteral("This file couldn't be read."));
+        QCOMPARE(VaultIndex::load(vault).events, report.archivedEvents);
+        const QStringList leftovers = temporaryFiles(vault);
+        QCOMPARE(leftovers.size(), 1);
+        QCOMPARE(QFileInfo(leftovers[0]).size(), qint64(2 << 20));
+    }
+
+    void vaultListVerifyAndRemove()
+    {
+        QTemporaryDir vault;
+        QCOMPARE(cli({"keep", drive_.root(), "--vault", vault.path()}).exitCode, 0);
+
+        Result r = cli({"vault", "list", vault.path()});
+        QCOMPARE(r.exitCode, 0);
+        const QJsonArray listed = QJsonDocument::fromJson(r.out).array();
+        QCOMPARE(listed.size(), 3);
+        QCOMPARE(TeslaEvent::fromJson(listed[0]).id(), QStringLiteral("saved|2026-07-19_10-00-00"));
+
+        r = cli({"vault", "verify", vault.path()});
+        QCOMPARE(r.exitCode, 0);
+        QCOMPARE(r.out.count('\n'), 3);
+        QVERIFY(!r.out.contains("DIFFERS"));
+
+        // One byte changed in one file, another file gone.
+        const QString sentry = vault.filePath("2026/sentry/2026-07-18_09-15-32");
+        const QStringList clips = DriveBuilder::clipNames("2026-07-18_09-15-32", 3);
+        {
+            QFile f(sentry + "/" + clips[0]);
+            QVERIFY(f.open(QIODevice::ReadWrite));
+            f.seek(1000);
+            const char c = f.read(1).at(0);
+            f.seek(1000);
+            f.write(QByteArray(1, char(c ^ 1)));
+        }
+        QVERIFY(QFile::remove(sentry + "/" + clips[2]));
+        r = cli({"vault", "verify", vault.path()});
+        QCOMPARE(r.exitCode, 1);
+        const QList<QByteArray> lines = r.out.trimmed().split('\n');
+        QCOMPARE(lines.size(), 3);
+        const QByteArray bad = *std::find_if(lines.begin(), lines.end(),
+                                             [](const QByteArray &l) { return l.contains("2026-07-18_09-15-32"); });
+        QVERIFY(bad.startsWith("DIFFERS"));
+        QVERIFY2(bad.contains("3 verified, 1 changed, 1 missing"), bad.constData());
+        QVERIFY(bad.contains("changed " + clips[0].toUtf8()));
+        QVERIFY(bad.contains("missing " + clips[2].toUtf8()));
+
+        // Removal goes to the Trash of this (throwaway) home.
+        QTemporaryDir home;
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert("HOME", home.path());
+        env.insert("XDG_DATA_HOME", home.filePath("data"));
+        QDir().mkpath(home.filePath("data"));
+        r = cli({"vault", "remove", vault.path(), "sentry|2026-07-18_09-15-32"}, env);
+        QCOMPARE(r.exitCode, 0);
+        QVERIFY(QFileInfo::exists(home.filePath("data/Trash/files/2026-07-18_09-15-32")));
+        r = cli({"vault", "remove", vault.path(), "sentry|2026-07-18_09-15-32"}, env);
+        QCOMPARE(r.exitCode, 2);
+        QVERIFY(r.err.contains("no event"));
+        QCOMPARE(QJsonDocument::fromJson(cli({"vault", "list", vault.path()}).out).array().size(), 2);
+        QCOMPARE(cli({"vault", "verify", vault.path()}).exitCode, 0);
+
+        TeslaCamFixture::writeFile(vault.filePath("manifest.json"), "{");
+        r = cli({"vault", "verify", vault.path()});
+        QCOMPARE(r.exitCode, 2);
+        QVERIFY(r.err.contains("manifest.json"));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestKeepCommand)
+#include "tst_keepcommand.moc"

@@ -1,0 +1,726 @@
+#include "drive/IOWatchdog.h"
+#include "drive/TeslaCamParser.h"
+#include "model/JsonCoding.h"
+#include "support/DriveBuilder.h"
+#include "support/FaultyFs.h"
+#include "support/TreeSnapshot.h"
+#include "vault/ArchiveEngine.h"
+#include "vault/VaultIndex.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QProcess>
+#include <QScopeGuard>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <atomic>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <thread>
+#include <unistd.h>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+const QString emptySha256 = QStringLiteral("e3b0c44298fc1c149afbf4c8996fb92427ae41e4649b934ca495991b7852b855");
+
+QString reason(const char16_t *text)
+{
+    return QString::fromUtf16(text);
+}
+
+// Hidden temporary files of interrupted copies under a folder.
+QStringList temporaryFiles(const QString &folder)
+{
+    QStringList found;
+    QDirIterator it(folder, {QStringLiteral(".tmp-*")}, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (it.hasNext())
+        found << it.next();
+    return found;
+}
+
+// Reads without touching access times, so that tests can look at the drive.
+QByteArray readAll(const QString &path)
+{
+    return DriveBuilder::readQuietly(path);
+}
+
+// A drive in a temporary folder whose tree must come out of every test as it went in.
+struct Drive {
+    QTemporaryDir dir;
+    DriveBuilder builder{dir.filePath(QStringLiteral("TeslaCam"))};
+    TreeSnapshot before;
+
+    void freeze() { before = TreeSnapshot::take(builder.root()); }
+    // Access times too: the engine opens the drive with O_NOATIME.
+    QString changes() const { return before.differences(TreeSnapshot::take(builder.root()), true); }
+};
+
+// Opens the FIFO's write end once somebody reads it, then closes it: a
+// dead drive that answers late. Gives up after a while so a test never hangs.
+void releaseFifo(const QString &path, std::chrono::milliseconds after)
+{
+    std::this_thread::sleep_for(after);
+    const QByteArray name = QFile::encodeName(path);
+    for (int i = 0; i < 1000; ++i) {
+        const int fd = ::open(name.constData(), O_WRONLY | O_NONBLOCK | O_CLOEXEC);
+        if (fd >= 0) {
+            ::close(fd);
+            return;
+        }
+        std::this_thread::sleep_for(10ms);
+    }
+}
+
+ClipRef clipAt(const QString &path, qint64 size)
+{
+    ClipRef clip;
+    clip.url = path;
+    clip.fileSize = size;
+    return clip;
+}
+
+bool mountTmpfs(const QString &where, const QString &options)
+{
+    return ::geteuid() == 0
+        && QProcess::execute(QStringLiteral("mount"), {"-t", "tmpfs", "-o", options, "tmpfs", where}) == 0;
+}
+
+} // namespace
+
+class TestArchiveEngine : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void sourceFilesAreClipsThenEventJsonThenThumbnail()
+    {
+        Drive drive;
+        const QString folder = drive.builder.addEvent("SentryClips", "2026-07-18_09-15-32", 3, 10);
+        auto event = drive.builder.scan().at(0);
+        const auto files = ArchiveEngine::sourceFiles(event);
+        QCOMPARE(files.size(), size_t(5));
+        for (size_t i = 0; i < 3; ++i)
+            QCOMPARE(files[i], event.clips[i].url);
+        QCOMPARE(files[3], folder + "/event.json");
+        QCOMPARE(files[4], folder + "/thumb.png");
+
+        // Extras that are gone by now are left out, clips are listed regardless.
+        event.missingEventJSON = true;
+        event.thumbURL = folder + "/gone.png";
+        event.clips.push_back(clipAt(folder + "/missing-front.mp4", 5));
+        const auto fewer = ArchiveEngine::sourceFiles(event);
+        QCOMPARE(fewer.size(), size_t(4));
+        QCOMPARE(fewer.back(), folder + "/missing-front.mp4");
+    }
+
+    void planSortsNewFromKept()
+    {
+        Drive drive;
+        drive.builder.addEvent("SentryClips", "2026-07-18_09-15-32", 2, 1000);
+        drive.builder.addEvent("SavedClips", "2026-07-19_10-00-00", 1, 500);
+        const auto events = drive.builder.scan();
+        drive.freeze();
+
+        const ArchivePlan empty = ArchiveEngine::plan({}, VaultIndex{});
+        QVERIFY(empty.items.empty());
+        QCOMPARE(empty.totalNewBytes(), qint64(0));
+
+        ArchivePlan plan = ArchiveEngine::plan(events, VaultIndex{});
+        QCOMPARE(plan.items.size(), size_t(2));
+        QCOMPARE(plan.newItems().size(), size_t(2));
+        QCOMPARE(plan.totalNewBytes(), qint64(2500)); // clips only, as the scan recorded them
+
+        QTemporaryDir vault;
+        const ArchiveReport first = ArchiveEngine::run(plan, vault.path());
+        QCOMPARE(first.archivedEvents.size(), size_t(2));
+
+        // The same drive again: recognised from names and sizes, no hashing.
+        const VaultIndex index = VaultIndex::load(vault.path());
+        plan = ArchiveEngine::plan(events, index);
+        QVERIFY(plan.newItems().empty());
+        QCOMPARE(plan.items.size(), size_t(2));
+        QVERIFY(plan.items[0].isDuplicate && plan.items[1].isDuplicate);
+
+        // The scan's sizes count for the total, the disk's sizes for the key.
+        auto stale = events;
+        stale[0].clips[0].fileSize = 1;
+        QCOMPARE(ArchiveEngine::plan(stale, index).newItems().size(), size_t(0));
+
+        // A file more, or one kept only in part, makes the event new.
+        auto grown = events;
+        grown[0].clips.push_back(clipAt(drive.builder.root() + "/SavedClips/none-front.mp4", 0));
+        QCOMPARE(ArchiveEngine::plan(grown, index).newItems().size(), size_t(1));
+        VaultIndex partial = index;
+        partial.events[0].files.pop_back();
+        partial.events.erase(partial.events.begin() + 1);
+        QCOMPARE(ArchiveEngine::plan(events, partial).newItems().size(), size_t(2));
+
+        // With the drive gone every size reads 0 and nothing matches.
+        auto moved = events;
+        for (auto &e : moved) {
+            for (auto &c : e.clips)
+                c.url.replace(drive.builder.root(), "/nonexistent");
+            e.folderURL.replace(drive.builder.root(), "/nonexistent");
+            e.thumbURL.reset();
+        }
+        QCOMPARE(ArchiveEngine::plan(moved, index).newItems().size(), size_t(2));
+        QCOMPARE(drive.changes(), QString());
+    }
+
+    void runCopiesVerifiesAndRecords()
+    {
+        Drive drive;
+        const QString sentry = drive.builder.addEvent("SentryClips", "2026-07-18_09-15-32", 4, 300000);
+        drive.builder.addEvent("SavedClips", "2026-07-19_10-00-00", 2, 1 << 20); // exact multiples of a block
+        drive.freeze();
+        const auto events = drive.builder.scan();
+        QTemporaryDir dir;
+        const QString vault = dir.filePath("deep/Vault"); // made by the run
+        const Date started = Date::now();
+
+        const ArchiveReport report = ArchiveEngine::run(ArchiveEngine::plan(events, VaultIndex{}), vault);
+        QVERIFY(!report.cancelled);
+        QVERIFY(report.failedFiles.empty());
+        QCOMPARE(report.skippedDuplicates, 0);
+        QCOMPARE(report.archivedEvents.size(), size_t(2));
+        QCOMPARE(report.bytesCopied, qint64(4 * 300000 + 2 * (1 << 20)) + 2 * readAll(sentry + "/event.json").size()
+                                         + 2 * readAll(sentry + "/thumb.png").size());
+
+        // Plan order (the scan's: newest first).
+        const ArchivedEvent &saved = report.archivedEvents[0];
+        QCOMPARE(saved.eventID, QStringLiteral("saved|2026-07-19_10-00-00"));
+        QCOMPARE(saved.relativePath, QStringLiteral("2026/saved/2026-07-19_10-00-00"));
+        QCOMPARE(saved.timestamp, events[0].timestamp);
+        QVERIFY(!saved.sourceVolume.isEmpty());
+        QVERIFY(saved.archivedAt >= started && saved.archivedAt <= Date::now());
+        QVERIFY(report.archivedEvents[1].archivedAt >= saved.archivedAt);
+
+        for (size_t e = 0; e < events.size(); ++e) {
+            const auto sources = ArchiveEngine::sourceFiles(events[e]);
+            const ArchivedEvent &record = report.archivedEvents[e];
+            QCOMPARE(record.files.size(), sources.size());
+            for (size_t i = 0; i < sources.size(); ++i) {
+                const QString kept = vault + "/" + record.relativePath + "/" + record.files[i].name;
+                QCOMPARE(record.files[i].name, QFileInfo(sources[i]).fileName());
+                QCOMPARE(record.files[i].size, QFileInfo(sources[i]).size());
+                QCOMPARE(record.files[i].sha256, DriveBuilder::sha256Hex(sources[i]));
+                QCOMPARE(DriveBuilder::sha256Hex(kept), record.files[i].sha256);
+            }
+        }
+        QCOMPARE(VaultIndex::load(vault).events, report.archivedEvents);
+        QVERIFY(temporaryFiles(vault).isEmpty());
+        QCOMPARE(drive.changes(), QString());
+    }
+
+    void emptyAndReplacedFiles()
+    {
+        Drive drive;
+        const QString folder = drive.builder.addEvent("SentryClips", "2026-07-18_09-15-32", 1, 0);
+        auto event = drive.builder.scan().at(0);
+        QTemporaryDir vault;
+        // A re-import finds an old copy in place: it is replaced, not renamed.
+        const QString kept = vault.filePath("2026/sentry/2026-07-18_09-15-32");
+        QDir().mkpath(kept);
+        TeslaCamFixture::writeFile(kept + "/event.json", "old and much longer than the new one");
+        drive.freeze();
+
+        const ArchiveReport report = ArchiveEngine::run(ArchiveEngine::plan({event}, VaultIndex{}), vault.path());
+        QCOMPARE(report.archivedEvents.size(), size_t(1));
+        const auto &files = report.archivedEvents[0].files;
+        QCOMPARE(files[0].size, qint64(0));
+        QCOMPARE(files[0].sha256, emptySha256);
+        QCOMPARE(readAll(kept + "/event.json"), readAll(folder + "/event.json"));
+        QCOMPARE(QDir(kept).entryList(QDir::Files | QDir::Hidden).size(), 3);
+        QCOMPARE(drive.changes(), QString());
+    }
+
+    void planWithNothingNewStillWritesTheManifest()
+    {
+        QTemporaryDir vault;
+        const ArchiveReport report = ArchiveEngine::run(ArchivePlan{}, vault.path());
+        QVERIFY(report.archivedEvents.empty());
+        QCOMPARE(readAll(vault.filePath("manifest.json")), QByteArray(R"({"events":[]})"));
+
+        Drive drive;
+        drive.builder.addEvent("SentryClips", "2026-07-18_09-15-32", 2, 100);
+        const auto events = drive.builder.scan();
+        ArchiveEngine::run(ArchiveEngine::plan(events, VaultIndex{}), vault.path());
+        const VaultIndex index = VaultIndex::load(vault.path());
+        const ArchiveReport again = ArchiveEngine::run(ArchiveEngine::plan(events, index), vault.path());
+        QCOMPARE(again.skippedDuplicates, 1);
+        QVERIFY(again.archivedEvents.empty());
+        QCOMPARE(again.bytesCopied, qint64(0));
+        QCOMPARE(VaultIndex::load(vault.path()), index);
+    }
+
+    void corruptManifestIsReplacedByThisRunsRecords()
+    {
+        Drive drive;
+        drive.builder.addEvent("SentryClips", "2026-07-18_09-15-32", 1, 100);
+        QTemporaryDir vault;
+        TeslaCamFixture::writeFile(vault.filePath("manifest.json"), R"({"events":[{"eventID":1}]})");
+        QVERIFY_THROWS_EXCEPTION(JsonCoding::DecodingError, VaultIndex::load(vault.path()));
+        QVERIFY(VaultIndex::loadOrEmpty(vault.path()).events.empty());
+
+        const ArchiveReport report =
+            ArchiveEngine::run(ArchiveEngine::plan(drive.builder.scan(), VaultIndex{}), vault.path());
+        QCOMPARE(VaultIndex::load(vault.path()).events, report.archivedEvents);
+    }
+
+    void filesThatFailAreReportedAndTheRunGoesOn()
+    {
+        Drive drive;
+        drive.builder.addEvent("SentryClips", "2026-07-18_09-15-32", 2, 100);
+        drive.builder.addEvent("SentryClips", "2026-07-17_09-15-32", 1, 100);
+        auto events = drive.builder.scan();
+        // Newest event: one clip is gone from the drive.
+        const QString gone = events[0].folderURL + "/2026-07-18_09-10-00-back.mp4";
+        events[0].clips.push_back(clipAt(gone, 100));
+        // An event whose every file is gone: a folder, no record, no end-of-event progress.
+        TeslaEvent ghost = events[1];
+        ghost.folderName = QStringLiteral("2026-07-16_09-15-32");
+        ghost.folderURL = drive.dir.filePath("elsewhere");
+        ghost.clips = {clipAt(drive.dir.filePath("elsewhere/x-front.mp4"), 100)};
+        ghost.thumbURL.reset();
+        // An event with nothing to copy at all.
+        TeslaEvent bare = ghost;
+        bare.folderName = QStringLiteral("2026-07-15_09-15-32");
+        bare.clips.clear();
+        events.insert(events.begin() + 1, ghost);
+        events.push_back(bare);
+        drive.freeze();
+
+        QTemporaryDir vault;
+        std::vector<ArchiveProgress> emitted;
+        const ArchiveReport report = ArchiveEngine::run(ArchiveEngine::plan(events, VaultIndex{}), vault.path(),
+                                                        [&](const ArchiveProgress &p) { emitted.push_back(p); });
+        QCOMPARE(report.failedFiles.size(), size_t(2));
+        QCOMPARE(report.failedFiles[0].path, gone);
+        QCOMPARE(report.failedFiles[0].reason, reason(ArchiveEngine::Reason::unreadable));
+        QCOMPARE(report.failedFiles[1].path, ghost.clips[0].url);
+        QCOMPARE(report.archivedEvents.size(), size_t(2));
+        QCOMPARE(report.archivedEvents[0].files.size(), size_t(4)); // 2 clips, event.json, thumbnail
+        QVERIFY(QFileInfo(vault.filePath("2026/sentry/2026-07-16_09-15-32")).isDir());
+        QVERIFY(QFileInfo(vault.filePath("2026/sentry/2026-07-15_09-15-32")).isDir());
+        QVERIFY(temporaryFiles(vault.path()).isEmpty());
+
+        std::vector<int> ends;
+        for (const auto &p : emitted)
+            if (!p.currentFileName)
+                ends.push_back(p.eventsCompleted);
+        QCOMPARE(ends, (std::vector<int>{1, 3})); // jumps past the ghost; nothing for the bare one
+        QCOMPARE(drive.changes(), QString());
+    }
+
+    void vaultFolderThatCannotBeMadeFailsEachEvent()
+    {
+        Drive drive;
+        drive.builder.addEvent("SentryClips", "2026-07-18_09-15-32", 1, 100);
+        drive.builder.addEvent("SentryClips", "2026-07-17_09-15-32", 1, 100);
+        QTemporaryDir dir;
+        TeslaCamFixture::writeFile(dir.filePath("file"), "x");
+        const QString vault = dir.filePath("file/Vault");
+        const ArchiveReport report = ArchiveEngine::run(ArchiveEngine::plan(drive.builder.scan(), VaultIndex{}), vault);
+        QCOMPARE(report.failedFiles.size(), size_t(2));
+        QCOMPARE(report.failedFiles[0].path, vault + "/2026/sentry/2026-07-18_09-15-32");
+        QCOMPARE(report.failedFiles[0].reason, reason(ArchiveEngine::Reason::unreadable));
+        QVERIFY(report.archivedEvents.empty());
+    }
+
+    void progressIsThrottledButTheLastFileAlwaysEmits()
+    {
+        Drive drive;
+        for (int day = 10; day < 13; ++day)
+            drive.builder.addEvent("SentryClips", QStringLiteral("2026-07-%1_09-15-32").arg(day), 4, 2000);
+        const auto events = drive.builder.scan();
+        const ArchivePlan plan = ArchiveEngine::plan(events, VaultIndex{});
+        QTemporaryDir vault;
+        struct Emit {
+            ArchiveProgress progress;
+            double at;
+        };
+        std::vector<Emit> emitted;
+        const ArchiveReport report = ArchiveEngine::run(plan, vault.path(), [&](const ArchiveProgress &p) {
+            emitted.push_back({p, std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count()});
+        });
+        for (const auto &e : emitted) {
+            QCOMPARE(e.progress.totalBytes, plan.totalNewBytes());
+            QCOMPARE(e.progress.totalEvents, 3);
+        }
+        // The first file of the run emits before its copy, with nothing done yet.
+        QVERIFY(emitted.size() >= 6);
+        QCOMPARE(emitted.front().progress.bytesCopied, qint64(0));
+        QCOMPARE(emitted.front().progress.currentFileName, std::optional<QString>(QFileInfo(events[0].clips[0].url).fileName()));
+        // The last file emits before and after, then the event's end.
+        const QString lastName = QStringLiteral("thumb.png");
+        const auto n = emitted.size();
+        QCOMPARE(emitted[n - 3].progress.currentFileName, std::optional<QString>(lastName));
+        QCOMPARE(emitted[n - 2].progress.currentFileName, std::optional<QString>(lastName));
+        QCOMPARE(emitted[n - 2].progress.bytesCopied, report.bytesCopied);
+        QVERIFY(emitted[n - 3].progress.bytesCopied < report.bytesCopied);
+        QCOMPARE(emitted[n - 1].progress.eventsCompleted, 3);
+        QVERIFY(!emitted[n - 1].progress.currentFileName);
+        // Per-file emits, apart from the last file's, are 0.1 s apart at least.
+        std::optional<double> previous;
+        int perFile = 0;
+        for (size_t i = 0; i + 3 < n; ++i) {
+            if (!emitted[i].progress.currentFileName)
+                continue;
+            ++perFile;
+            if (previous)
+                QVERIFY(emitted[i].at - *previous >= 0.099);
+            previous = emitted[i].at;
+        }
+        QVERIFY(perFile < 3 * 6 * 2);
+        std::vector<int> ends;
+        for (const auto &e : emitted)
+            if (!e.progress.currentFileName)
+                ends.push_back(e.progress.eventsCompleted);
+        QCOMPARE(ends, (std::vector<int>{1, 2, 3}));
+    }
+
+    void cancelAfterThirdOfFiveEvents()
+    {
+        Drive drive;
+        for (int day = 10; day < 15; ++day)
+            drive.builder.addEvent("SentryClips", QStringLiteral("2026-07-%1_09-15-32").arg(day), 2, 5000);
+        drive.freeze();
+        QTemporaryDir vault;
+        std::stop_source stop;
+        const ArchiveReport report = ArchiveEngine::run(
+            ArchiveEngine::plan(drive.builder.scan(), VaultIndex{}), vault.path(),
+            [&](const ArchiveProgress &p) {
+                if (!p.currentFileName && p.eventsCompleted == 3)
+                    stop.request_stop();
+            },
+            ArchiveEngine::defaultTimeoutPerFile, stop.get_token());
+        QVERIFY(report.cancelled);
+        QCOMPARE(report.archivedEvents.size(), size_t(3));
+        QVERIFY(report.failedFiles.empty());
+        QCOMPARE(VaultIndex::load(vault.path()).events, report.archivedEvents);
+        QVERIFY(!QFileInfo::exists(vault.filePath("2026/sentry/2026-07-11_09-15-32")));
+        QCOMPARE(drive.changes(), QString());
+    }
+
+    void hangingClipTimesOutAndTheRunGoesOn()
+    {
+        Drive drive;
+        drive.builder.addEvent("SentryClips", "2026-07-18_09-15-32", 2, 1000);
+        auto event = drive.builder.scan().at(0);
+        // Opening a FIFO blocks until a writer comes: a read that doesn't answer.
+        const QString fifo = event.folderURL + "/2026-07-18_09-13-32-front.mp4";
+        QCOMPARE(::mkfifo(QFile::encodeName(fifo).constData(), 0644), 0);
+        event.clips.insert(event.clips.begin(), clipAt(fifo, 0));
+        drive.freeze();
+
+        QTemporaryDir vault;
+        std::thread release(releaseFifo, fifo, 900ms);
+        QElapsedTimer timer;
+        timer.start();
+        const ArchiveReport report = ArchiveEngine::run(ArchiveEngine::plan({event}, VaultIndex{}), vault.path(), {}, 300ms);
+        release.join();
+        QVERIFY(!report.cancelled);
+        QCOMPARE(report.failedFiles.size(), size_t(1));
+        QCOMPARE(report.failedFiles[0].path, fifo);
+        QCOMPARE(report.failedFiles[0].reason,
+                 QStringLiteral("This file took too long to read \u2014 the drive may be failing."));
+        QCOMPARE(report.archivedEvents.size(), size_t(1));
+        QCOMPARE(report.archivedEvents[0].files.size(), size_t(4)); // the run went on with the rest
+        QVERIFY(timer.elapsed() < 10000);
+        QCOMPARE(drive.changes(), QString());
+    }
+
+    void cancelDuringACopyDropsTheEventButKeepsItsFilesOnDisk()
+    {
+        Drive drive;
+        drive.builder.addEvent("SentryClips", "2026-07-18_09-15-32", 1, 1000);
+        drive.builder.addEvent("SentryClips", "2026-07-17_09-15-32", 1, 2000);
+        auto events = drive.builder.scan();
+        const QString fifo = events[1].folderURL + "/2026-07-17_09-13-32-front.mp4";
+        QCOMPARE(::mkfifo(QFile::encodeName(fifo).constData(), 0644), 0);
+        events[1].clips.push_back(clipAt(fifo, 0));
+        drive.freeze();
+
+        QTemporaryDir vault;
+        std::stop_source stop;
+        std::thread canceller([&] {
+            std::this_thread::sleep_for(400ms);
+            stop.request_stop();
+            releaseFifo(fifo, 200ms);
+        });
+        const ArchiveReport report = ArchiveEngine::run(ArchiveEngine::plan(events, VaultIndex{}), vault.path(), {},
+                                                        10s, stop.get_token());
+        canceller.join();
+        QVERIFY(report.cancelled);
+        QVERIFY(report.failedFiles.empty()); // cancelling is never a failure
+        QCOMPARE(report.archivedEvents.size(), size_t(1));
+        // The second event's first clip arrived and counts, but the event has no record.
+        const QString cutOff = vault.filePath("2026/sentry/2026-07-17_09-15-32/2026-07-17_09-14-32-front.mp4");
+        QCOMPARE(QFileInfo(cutOff).size(), qint64(2000));
+        QCOMPARE(report.bytesCopied, report.archivedEvents[0].totalBytes() + 2000);
+        QCOMPARE(VaultIndex::load(vault.path()).events, report.archivedEvents);
+        QCOMPARE(drive.changes(), QString());
+    }
+
+    void sourceThatGrowsDuringTheCopyFailsWithoutLeftovers()
+    {
+        QTemporaryDir dir;
+        const QString folder = dir.filePath("TeslaCam/SentryClips/2026-07-18_09-15-32");
+        QDir().mkpath(folder);
+        const QString clip = folder + "/2026-07-18_09-14-32-front.mp4";
+        TeslaCamFixture::makeSparseFile(clip, 96 << 20);
+        TeslaEvent event;
+        event.folderURL = folder;
+        event.folderName = QStringLiteral("2026-07-18_09-15-32");
+        event.timestamp = *TeslaCamParser::parseTimestamp(u"2026-07-18", u"09-15-32");
+        event.clips = {clipAt(clip, 96 << 20)};
+
+        // The car is still writing: the file grows all through the copy.
+        std::atomic<bool> done{false};
+        std::thread writer([&] {
+            QFile f(clip);
+            if (!f.open(QIODevice::Append))
+                return;
+            while (!done) {
+                f.write(QByteArray(512, 'x'));
+                f.flush();
+                std::this_thread::sleep_for(1ms);
+            }
+        });
+        QTemporaryDir vault;
+        const ArchiveReport report = ArchiveEngine::run(ArchiveEngine::plan({event}, VaultIndex{}), vault.path());
+        done = true;
+        writer.join();
+        QCOMPARE(report.failedFiles.size(), size_t(1));
+        QCOMPARE(report.failedFiles[0].path, clip);
+        QCOMPARE(report.failedFiles[0].reason,
+                 QStringLiteral("This file changed size while copying \u2014 the drive may have been disconnected."));
+        QVERIFY(report.archivedEvents.empty());
+        QVERIFY(temporaryFiles(vault.path()).isEmpty());
+        QVERIFY(!QFileInfo::exists(vault.filePath("2026/sentry/2026-07-18_09-15-32/2026-07-18_09-14-32-front.mp4")));
+    }
+
+    void fullVaultDiskFailsTheFileAndKeepsEarlierRecords()
+    {
+        Drive drive;
+        drive.builder.addEvent("SentryClips", "2026-07-18_09-15-32", 2, 1 << 20);
+        drive.builder.addEvent("SentryClips", "2026-07-17_09-15-32", 1, 12 << 20);
+        const auto events = drive.builder.scan();
+        drive.freeze();
+        QTemporaryDir mountPoint;
+        if (!mountTmpfs(mountPoint.path(), QStringLiteral("size=8m")))
+            QSKIP("needs root to mount a small tmpfs (the CLI test covers a full disk without root)");
+        const auto unmount = qScopeGuard([&] { QProcess::execute("umount", {mountPoint.path()}); });
+        const QString vault = mountPoint.filePath("Vault");
+
+        const ArchiveReport first = ArchiveEngine::run(ArchiveEngine::plan({events[0]}, VaultIndex{}), vault);
+        QCOMPARE(first.archivedEvents.size(), size_t(1));
+        const ArchiveReport second =
+            ArchiveEngine::run(ArchiveEngine::plan({events[1]}, VaultIndex::load(vault)), vault);
+        QVERIFY(!second.cancelled);
+        QVERIFY(!second.failedFiles.empty());
+        QCOMPARE(second.failedFiles[0].path, events[1].clips[0].url);
+        QCOMPARE(second.failedFiles[0].reason, reason(ArchiveEngine::Reason::unreadable));
+        // The partial copy stays behind under its hidden name.
+        const QStringList leftovers = temporaryFiles(vault + "/2026/sentry/2026-07-17_09-15-32");
+        const QString clipName = QFileInfo(events[1].clips[0].url).fileName();
+        const auto partialCopy = std::find_if(leftovers.begin(), leftovers.end(),
+                                              [&](const QString &p) { return p.endsWith("-" + clipName); });
+        QVERIFY(partialCopy != leftovers.end());
+        const qint64 partial = QFileInfo(*partialCopy).size();
+        QVERIFY2(partial > 0 && partial < (12 << 20), qPrintable(QString::number(partial)));
+        // The earlier event stays recorded and intact.
+        const VaultIndex index = VaultIndex::load(vault);
+        QVERIFY(!index.events.empty());
+        QCOMPARE(index.events[0], first.archivedEvents[0]);
+        QCOMPARE(drive.changes(), QString());
+    }
+
+    void vaultThatCannotTakeAnotherFileSaysSo()
+    {
+        QTemporaryDir mountPoint;
+        // Room for the folders only: no inode is left for the temporary file.
+        if (!mountTmpfs(mountPoint.path(), QStringLiteral("size=4m,nr_inodes=5")))
+            QSKIP("needs root to mount a small tmpfs");
+        const auto unmount = qScopeGuard([&] { QProcess::execute("umount", {mountPoint.path()}); });
+        const QString vault = mountPoint.filePath("Vault");
+        if (!QDir().mkpath(vault + "/2026/sentry/2026-07-18_09-15-32"))
+            QSKIP("this tmpfs counts inodes differently");
+        Drive drive;
+        drive.builder.addEvent("SentryClips", "2026-07-18_09-15-32", 1, 100);
+        const ArchiveReport report = ArchiveEngine::run(ArchiveEngine::plan(drive.builder.scan(), VaultIndex{}), vault);
+        QVERIFY(!report.failedFiles.empty());
+        QCOMPARE(report.failedFiles[0].reason, QStringLiteral("Couldn't create a file in your Vault folder."));
+        QVERIFY(report.archivedEvents.empty());
+    }
+
+    void drivePulledMidCopy()
+    {
+        if (!FaultyFs::available())
+            QSKIP("needs root and /dev/fuse");
+        QTemporaryDir mountPoint;
+        FaultyFs fs(mountPoint.path());
+        if (!fs.isMounted())
+            QSKIP("FUSE mount failed");
+        const qint64 clipSize = 3 << 20;
+        QHash<QString, QByteArray> contents;
+        quint32 seed = 100;
+        for (const QString &name : {QStringLiteral("2026-07-18_09-15-32"), QStringLiteral("2026-07-17_09-15-32"),
+                                   QStringLiteral("2026-07-16_09-15-32")}) {
+            for (const QString &clip : DriveBuilder::clipNames(name, 2)) {
+                const QByteArray bytes = DriveBuilder::randomBytes(clipSize, seed++);
+                contents.insert(clip, bytes);
+                fs.addFile("TeslaCam/SentryClips/" + name + "/" + clip, bytes);
+            }
+        }
+        const QString root = mountPoint.filePath("TeslaCam");
+        const auto events = TeslaCamParser::scan(root).events;
+        QCOMPARE(events.size(), size_t(3));
+        // Pulled halfway through the second event's first clip.
+        fs.vanishAfterBytes(fs.bytesServed() + 2 * clipSize + clipSize / 2);
+
+        QTemporaryDir vault;
+        const ArchiveReport report = ArchiveEngine::run(ArchiveEngine::plan(events, VaultIndex{}), vault.path());
+        QVERIFY(!report.cancelled);
+        QCOMPARE(report.archivedEvents.size(), size_t(1));
+        QCOMPARE(report.failedFiles.size(), size_t(4));
+        for (const auto &failed : report.failedFiles) {
+            QVERIFY(failed.path.startsWith(root));
+            QCOMPARE(failed.reason, reason(ArchiveEngine::Reason::unreadable));
+        }
+        // What was kept before the pull is whole and matches the drive's bytes.
+        const ArchivedEvent &kept = report.archivedEvents[0];
+        for (const auto &file : kept.files) {
+            QCOMPARE(file.sha256, DriveBuilder::sha256Hex(contents.value(file.name)));
+            QCOMPARE(DriveBuilder::sha256Hex(vault.filePath(kept.relativePath + "/" + file.name)), file.sha256);
+        }
+        QCOMPARE(VaultIndex::load(vault.path()).events, report.archivedEvents);
+        // The read error left its partial copy behind.
+        QCOMPARE(temporaryFiles(vault.filePath("2026/sentry/2026-07-17_09-15-32")).size(), 1);
+    }
+
+    void readErrorsOnTheDriveCostOneFile()
+    {
+        if (!FaultyFs::available())
+            QSKIP("needs root and /dev/fuse");
+        QTemporaryDir mountPoint;
+        FaultyFs fs(mountPoint.path());
+        if (!fs.isMounted())
+            QSKIP("FUSE mount failed");
+        const QString name = QStringLiteral("2026-07-18_09-15-32");
+        const QStringList clips = DriveBuilder::clipNames(name, 3);
+        for (int i = 0; i < 3; ++i)
+            fs.addFile("TeslaCam/SavedClips/" + name + "/" + clips[i], DriveBuilder::randomBytes(2 << 20, quint32(i)));
+        fs.failReadsFrom("TeslaCam/SavedClips/" + name + "/" + clips[1], 1 << 20);
+        const auto events = TeslaCamParser::scan(mountPoint.filePath("TeslaCam")).events;
+        QCOMPARE(events.size(), size_t(1));
+
+        QTemporaryDir vault;
+        const ArchiveReport report = ArchiveEngine::run(ArchiveEngine::plan(events, VaultIndex{}), vault.path());
+        QCOMPARE(report.failedFiles.size(), size_t(1));
+        QVERIFY(report.failedFiles[0].path.endsWith(clips[1]));
+        QCOMPARE(report.archivedEvents.size(), size_t(1));
+        QCOMPARE(report.archivedEvents[0].files.size(), size_t(2));
+        QCOMPARE(report.archivedEvents[0].files[1].name, clips[2]);
+    }
+
+    void driveThatStopsAnsweringMidFile_data()
+    {
+        QTest::addColumn<bool>("cancel");
+        QTest::newRow("timeout") << false;
+        QTest::newRow("cancel") << true;
+    }
+
+    void driveThatStopsAnsweringMidFile()
+    {
+        QFETCH(bool, cancel);
+        if (!FaultyFs::available())
+            QSKIP("needs root and /dev/fuse");
+        QTemporaryDir mountPoint;
+        FaultyFs fs(mountPoint.path());
+        if (!fs.isMounted())
+            QSKIP("FUSE mount failed");
+        const QString name = QStringLiteral("2026-07-18_09-15-32");
+        const QStringList clips = DriveBuilder::clipNames(name, 2);
+        for (int i = 0; i < 2; ++i)
+            fs.addFile("TeslaCam/SentryClips/" + name + "/" + clips[i], DriveBuilder::randomBytes(3 << 20, quint32(i)));
+        fs.hangReadsFrom("TeslaCam/SentryClips/" + name + "/" + clips[0], 1 << 20);
+        const auto events = TeslaCamParser::scan(mountPoint.filePath("TeslaCam")).events;
+        QCOMPARE(events.size(), size_t(1));
+
+        QTemporaryDir vault;
+        std::stop_source stop;
+        std::thread answerLate([&] {
+            for (int i = 0; i < 1000 && !fs.isHanging(); ++i)
+                std::this_thread::sleep_for(10ms);
+            if (cancel)
+                stop.request_stop();
+            std::this_thread::sleep_for(700ms);
+            fs.release();
+        });
+        const ArchiveReport report = ArchiveEngine::run(ArchiveEngine::plan(events, VaultIndex{}), vault.path(), {},
+                                                        cancel ? 10000ms : 300ms, stop.get_token());
+        answerLate.join();
+        // Either way what arrived stays behind under the hidden name: the first
+        // block, and the late one, written before the next check stops the copy.
+        const QStringList leftovers = temporaryFiles(vault.filePath("2026/sentry/" + name));
+        QCOMPARE(leftovers.size(), 1);
+        QVERIFY(leftovers[0].endsWith("-" + clips[0]));
+        QCOMPARE(QFileInfo(leftovers[0]).size(), qint64(2 << 20));
+        QVERIFY(!QFileInfo::exists(vault.filePath("2026/sentry/" + name + "/" + clips[0])));
+        if (cancel) {
+            QVERIFY(report.cancelled);
+            QVERIFY(report.failedFiles.empty());
+            QVERIFY(report.archivedEvents.empty());
+        } else {
+            QVERIFY(!report.cancelled);
+            QCOMPARE(report.failedFiles.size(), size_t(1));
+            QCOMPARE(report.failedFiles[0].reason, reason(ArchiveEngine::Reason::timedOut));
+            QCOMPARE(report.archivedEvents.size(), size_t(1));
+            QCOMPARE(report.archivedEvents[0].files.size(), size_t(1));
+            QCOMPARE(report.archivedEvents[0].files[0].name, clips[1]);
+        }
+    }
+
+    void oldCopyThatCannotBeRemovedFailsTheFile()
+    {
+        Drive drive;
+        drive.builder.addEvent("SentryClips", "2026-07-18_09-15-32", 2, 5000);
+        const auto events = drive.builder.scan();
+        drive.freeze();
+        QTemporaryDir vault;
+        const QString folder = vault.filePath("2026/sentry/2026-07-18_09-15-32");
+        const QString clip = QFileInfo(events[0].clips[0].url).fileName();
+        // A folder where the clip should go can't be removed as a file.
+        QDir().mkpath(folder + "/" + clip + "/inside");
+        const ArchiveReport report = ArchiveEngine::run(ArchiveEngine::plan(events, VaultIndex{}), vault.path());
+        QCOMPARE(report.failedFiles.size(), size_t(1));
+        QCOMPARE(report.failedFiles[0].path, events[0].clips[0].url);
+        QCOMPARE(report.failedFiles[0].reason, reason(ArchiveEngine::Reason::unreadable));
+        // The whole copy waits under its temporary name.
+        const QStringList leftovers = temporaryFiles(folder);
+        QCOMPARE(leftovers.size(), 1);
+        QCOMPARE(QFileInfo(leftovers[0]).size(), qint64(5000));
+        QVERIFY(QFileInfo(folder + "/" + clip + "/inside").isDir());
+        QCOMPARE(report.archivedEvents.at(0).files.size(), size_t(3));
+        QCOMPARE(drive.changes(), QString());
+    }
+
+    void friendlyReasonsInOrder()
+    {
+        using namespace ArchiveEngine;
+        QCOMPARE(friendlyReason(std::make_exception_ptr(IOWatchdog::TimedOut())), reason(Reason::timedOut));
+        QCOMPARE(friendlyReason(std::make_exception_ptr(ArchiveEngineError(ArchiveEngineError::cannotCreateFile, "/v"))),
+                 reason(Reason::cannotCreateFile));
+        QCOMPARE(friendlyReason(std::make_exception_ptr(ArchiveEngineError(ArchiveEngineError::sizeMismatch, "/d"))),
+                 reason(Reason::sizeMismatch));
+        QCOMPARE(friendlyReason(std::make_exception_ptr(std::runtime_error("disk full"))), reason(Reason::unreadable));
+        QCOMPARE(friendlyReason(std::make_exception_ptr(42)), QStringLiteral("This file couldn't be read."));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestArchiveEngine)
+#include "tst_archiveengine.moc"
