@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QSocketNotifier>
 #include <QThread>
+#include <QTimer>
 #include <algorithm>
 #include <fcntl.h>
 #include <unistd.h>
@@ -53,6 +54,9 @@ void DriveWatcher::startWatching()
             // The kernel reports a change as an exceptional condition on this file.
             notifier_ = new QSocketNotifier(fd_, QSocketNotifier::Exception, readerContext_);
             connect(notifier_, &QSocketNotifier::activated, readerContext_, [this] { tableChanged(); });
+            holdTimer_ = new QTimer(readerContext_);
+            holdTimer_->setSingleShot(true);
+            connect(holdTimer_, &QTimer::timeout, readerContext_, [this] { releaseHeld(); });
         },
         Qt::BlockingQueuedConnection);
 }
@@ -66,6 +70,7 @@ void DriveWatcher::stopWatching()
         [this] {
             delete notifier_;
             notifier_ = nullptr;
+            holdTimer_ = nullptr; // a child of the context
             if (fd_ >= 0)
                 ::close(fd_);
             fd_ = -1;
@@ -79,11 +84,87 @@ void DriveWatcher::stopWatching()
     readerThread_ = nullptr;
 }
 
+namespace {
+const MountTable::Entry *entryAt(const std::vector<MountTable::Entry> &table, const QString &mountPoint)
+{
+    for (const MountTable::Entry &e : table)
+        if (e.mountPoint == mountPoint)
+            return &e;
+    return nullptr;
+}
+
+// A real block device keeps its number while it is plugged in; the numbers
+// of tmpfs and other virtual file systems are handed out again at once.
+bool isBlockDevice(const MountTable::Entry &e)
+{
+    return !e.device.startsWith(QLatin1String("0:"));
+}
+} // namespace
+
 void DriveWatcher::tableChanged()
 {
     std::vector<MountTable::Entry> now = MountTable::removableMounts(MountTable::read());
     std::vector<MountTable::Change> changes = MountTable::diff(known_, now);
+    std::vector<MountTable::Change> out;
+
+    // Held unmounts come first, in order: as renames when their device
+    // arrived at another mount point, else as the unmounts they were.
+    holdTimer_->stop();
+    std::vector<bool> consumed(changes.size(), false);
+    for (const HeldUnmount &held : held_) {
+        bool renamed = false;
+        for (size_t i = 0; i < changes.size() && !renamed; ++i) {
+            const MountTable::Entry *arrived = entryAt(now, changes[i].mountPoint);
+            if (!consumed[i] && changes[i].kind == MountTable::Change::mounted && arrived
+                && arrived->mountPoint != held.entry.mountPoint && arrived->device == held.entry.device
+                && arrived->root == held.entry.root) {
+                consumed[i] = true;
+                renamed = true;
+                out.push_back({MountTable::Change::renamed, arrived->mountPoint});
+            }
+        }
+        if (!renamed)
+            out.push_back({MountTable::Change::unmounted, held.entry.mountPoint});
+    }
+    held_.clear();
+
+    // Unmounting a drive to give it a new name and mounting it again under
+    // that name are two changes of the table: a drive that leaves is held
+    // back for a moment in case it returns elsewhere. Only when nothing else
+    // of this look would have to wait behind it, so the order holds.
+    std::vector<MountTable::Change> remaining;
+    for (size_t i = 0; i < changes.size(); ++i)
+        if (!consumed[i])
+            remaining.push_back(changes[i]);
+    const bool onlyUnmounts = std::all_of(remaining.begin(), remaining.end(), [](const MountTable::Change &c) {
+        return c.kind == MountTable::Change::unmounted;
+    });
+    const bool anyBlockDevice = std::any_of(remaining.begin(), remaining.end(), [&](const MountTable::Change &c) {
+        const MountTable::Entry *gone = entryAt(known_, c.mountPoint);
+        return gone && isBlockDevice(*gone);
+    });
+    if (!remaining.empty() && onlyUnmounts && anyBlockDevice) {
+        for (const MountTable::Change &c : remaining)
+            held_.push_back({*entryAt(known_, c.mountPoint)});
+        holdTimer_->start(renameWindow);
+    } else {
+        out.insert(out.end(), remaining.begin(), remaining.end());
+    }
     known_ = std::move(now);
+    post(std::move(out));
+}
+
+void DriveWatcher::releaseHeld()
+{
+    std::vector<MountTable::Change> out;
+    for (const HeldUnmount &held : held_)
+        out.push_back({MountTable::Change::unmounted, held.entry.mountPoint});
+    held_.clear();
+    post(std::move(out));
+}
+
+void DriveWatcher::post(std::vector<MountTable::Change> changes)
+{
     if (changes.empty())
         return;
     // Queued calls to one receiver keep their order.

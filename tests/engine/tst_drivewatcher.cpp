@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
 #include <QStandardPaths>
@@ -93,7 +94,7 @@ private Q_SLOTS:
     void realMountUnmountAndReturn();
     void realMoveIsARename();
     void realTeslaCamVolumeIsListedFirst();
-    void realExfatVolumeCarriesItsLabel();
+    void realExfatLabelAndRelabel();
     void finishedStreamStopsWatching();
 
 private:
@@ -360,7 +361,7 @@ void TestDriveWatcher::realTeslaCamVolumeIsListedFirst()
     QCOMPARE(ours, (QStringList{"zzz-car+", "BBB-plain", "aaa-plain", "yyy-file"}));
 }
 
-void TestDriveWatcher::realExfatVolumeCarriesItsLabel()
+void TestDriveWatcher::realExfatLabelAndRelabel()
 {
     if (!canMount_)
         QSKIP("Needs root to mount below /media.");
@@ -396,7 +397,8 @@ void TestDriveWatcher::realExfatVolumeCarriesItsLabel()
     QVERIFY(events[0].candidate().capacityBytes.has_value());
 
     // Relabelled and mounted again under its new name, as a desktop does:
-    // the table shows it leave and come back, and the new name is read.
+    // the same device at a new place is a rename, and the old mount point
+    // is never reported.
     QCOMPARE(::umount2(QFile::encodeName(path).constData(), 0), 0);
     mounted_.removeAll(path);
     QCOMPARE(run(QStringLiteral("exfatlabel"), {loop, QStringLiteral("DASHCAM")}), 0);
@@ -404,12 +406,36 @@ void TestDriveWatcher::realExfatVolumeCarriesItsLabel()
     QDir().mkpath(renamedPath);
     QCOMPARE(run(fuse, {loop, renamedPath}), 0);
     mounted_ << renamedPath;
+    events = collect(*stream, base_, 1);
+    QCOMPARE(events.size(), size_t(1));
+    QCOMPARE(events[0].kind(), DriveEvent::renamed);
+    QCOMPARE(events[0].candidate().name, QStringLiteral("DASHCAM"));
+    QCOMPARE(events[0].candidate().volumeURL, renamedPath);
+
+    // Pulled for good: the unmount comes once the drive had its chance to
+    // return, and nothing follows it.
+    QElapsedTimer clock;
+    clock.start();
+    QCOMPARE(::umount2(QFile::encodeName(renamedPath).constData(), 0), 0);
+    mounted_.removeAll(renamedPath);
+    events = collect(*stream, base_, 1);
+    QCOMPARE(events.size(), size_t(1));
+    QCOMPARE(events[0], DriveEvent::makeUnmounted(renamedPath));
+    QVERIFY(clock.elapsed() >= DriveWatcher::renameWindow.count() - 100);
+
+    // Another drive arriving while one is held back: both, in order.
+    QCOMPARE(run(fuse, {loop, renamedPath}), 0);
+    mounted_ << renamedPath;
+    QCOMPARE(collect(*stream, base_, 1).size(), size_t(1));
+    QCOMPARE(::umount2(QFile::encodeName(renamedPath).constData(), 0), 0);
+    mounted_.removeAll(renamedPath);
+    const QString other = mountTmpfs(QStringLiteral("OTHER"));
+    QVERIFY(!other.isEmpty());
     events = collect(*stream, base_, 2);
     QCOMPARE(events.size(), size_t(2));
-    QCOMPARE(events[0], DriveEvent::makeUnmounted(path));
+    QCOMPARE(events[0], DriveEvent::makeUnmounted(renamedPath));
     QCOMPARE(events[1].kind(), DriveEvent::mounted);
-    QCOMPARE(events[1].candidate().name, QStringLiteral("DASHCAM"));
-    QCOMPARE(events[1].candidate().volumeURL, renamedPath);
+    QCOMPARE(events[1].candidate().volumeURL, other);
 }
 
 void TestDriveWatcher::finishedStreamStopsWatching()
