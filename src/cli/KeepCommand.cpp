@@ -23,7 +23,7 @@ namespace {
 
 std::atomic<bool> interrupted{false};
 
-extern "C" void onInterrupt(int)
+void onInterrupt(int)
 {
     interrupted.store(true);
 }
