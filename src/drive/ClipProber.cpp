@@ -1,6 +1,7 @@
 #include "drive/ClipProber.h"
 
 #include "drive/IOWatchdog.h"
+#include "drive/MediaInput.h"
 #include "drive/ReadOnlyFs.h"
 #include "model/CancellationError.h"
 
@@ -31,7 +32,6 @@ namespace ClipProber {
 namespace {
 
 constexpr int signatureLength = 12;
-constexpr int ioBufferSize = 64 * 1024;
 
 // What the load under the watchdog learns about one file.
 struct Loaded {
@@ -44,120 +44,26 @@ public:
     const char *what() const noexcept override { return "The file could not be opened as a movie."; }
 };
 
-// libavformat reads through this rather than its own file protocol, so that
-// the file is opened by us: read-only, with O_NOATIME, and only on the
-// watched thread. Every read first asks whether the watchdog gave up.
-struct FileSource {
-    int fd = -1;
-    std::stop_token stop;
-
-    ~FileSource()
-    {
-        if (fd >= 0)
-            ::close(fd);
-    }
-};
-
-int readPacket(void *opaque, uint8_t *buffer, int size)
-{
-    auto *source = static_cast<FileSource *>(opaque);
-    for (;;) {
-        if (source->stop.stop_requested())
-            return AVERROR_EXIT;
-        const ssize_t n = ::read(source->fd, buffer, size_t(size));
-        if (n > 0)
-            return int(n);
-        if (n == 0)
-            return AVERROR_EOF;
-        if (errno != EINTR)
-            return AVERROR(errno);
-    }
-}
-
-int64_t seekFile(void *opaque, int64_t offset, int whence)
-{
-    auto *source = static_cast<FileSource *>(opaque);
-    if (whence & AVSEEK_SIZE) {
-        struct stat st {};
-        if (::fstat(source->fd, &st) != 0)
-            return AVERROR(errno);
-        return S_ISREG(st.st_mode) ? int64_t(st.st_size) : AVERROR(ENOSYS);
-    }
-    const off_t position = ::lseek(source->fd, off_t(offset), whence & ~AVSEEK_FORCE);
-    return position < 0 ? AVERROR(errno) : int64_t(position);
-}
-
-// Consulted by libavformat before reads and inside avformat_find_stream_info.
-int interruptRequested(void *opaque)
-{
-    return static_cast<const std::stop_token *>(opaque)->stop_requested() ? 1 : 0;
-}
-
-struct IoContextDeleter {
-    void operator()(AVIOContext *io) const
-    {
-        av_freep(&io->buffer);
-        avio_context_free(&io);
-    }
-};
-
-struct FormatContextDeleter {
-    void operator()(AVFormatContext *format) const { avformat_close_input(&format); }
-};
-
 struct CodecContextDeleter {
     void operator()(AVCodecContext *codec) const { avcodec_free_context(&codec); }
 };
-
-// The car writes ISO base media files only. Naming the demuxer keeps
-// libavformat from guessing some other format out of random bytes.
-const AVInputFormat *movieFormat()
-{
-    static const AVInputFormat *format = av_find_input_format("mp4");
-    return format;
-}
 
 // Throws when the file can't be opened as a movie at all; returns
 // not-playable when it opens but holds no video that can be decoded.
 Loaded load(const QString &path, std::stop_token stop)
 {
-    FileSource source;
-    source.stop = stop;
     // Opened here, under the limit: an open that hangs (a dead drive, a FIFO)
-    // is the watchdog's to bound.
-    source.fd = ReadOnlyFs::openRead(path);
-    if (source.fd < 0 || stop.stop_requested())
+    // is the watchdog's to bound, so non-regular files are not refused early.
+    const auto input = MediaInput::open(path, stop, {.regularFilesOnly = false, .mp4Only = true});
+    if (!input)
         throw LoadFailed();
-
-    auto *buffer = static_cast<unsigned char *>(av_malloc(ioBufferSize));
-    if (!buffer)
-        throw LoadFailed();
-    std::unique_ptr<AVIOContext, IoContextDeleter> io(
-        avio_alloc_context(buffer, ioBufferSize, 0, &source, readPacket, nullptr, seekFile));
-    if (!io) {
-        av_free(buffer);
-        throw LoadFailed();
-    }
-
-    AVFormatContext *raw = avformat_alloc_context();
-    if (!raw)
-        throw LoadFailed();
-    raw->pb = io.get();
-    raw->flags |= AVFMT_FLAG_CUSTOM_IO;
-    // Before avformat_open_input, so that even the header read can be stopped.
-    raw->interrupt_callback.callback = interruptRequested;
-    raw->interrupt_callback.opaque = &source.stop;
-    const QByteArray name = QFile::encodeName(path);
-    // On failure avformat_open_input frees the context (but not our I/O).
-    if (avformat_open_input(&raw, name.constData(), movieFormat(), nullptr) < 0)
-        throw LoadFailed();
-    std::unique_ptr<AVFormatContext, FormatContextDeleter> format(raw);
-    if (avformat_find_stream_info(format.get(), nullptr) < 0)
+    AVFormatContext *format = input->context();
+    if (avformat_find_stream_info(format, nullptr) < 0)
         throw LoadFailed();
 
     Loaded loaded;
     const AVCodec *decoder = nullptr;
-    const int streamIndex = av_find_best_stream(format.get(), AVMEDIA_TYPE_VIDEO, -1, -1, &decoder, 0);
+    const int streamIndex = av_find_best_stream(format, AVMEDIA_TYPE_VIDEO, -1, -1, &decoder, 0);
     if (streamIndex < 0 || !decoder)
         return loaded;
     std::unique_ptr<AVCodecContext, CodecContextDeleter> codec(avcodec_alloc_context3(decoder));

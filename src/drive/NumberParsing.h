@@ -7,6 +7,4 @@
 // spaces and no group separators.
 namespace NumberParsing {
 std::optional<double> parseDouble(QStringView text);
-// Only ASCII digits, optionally signed; the whole text.
-std::optional<long long> parseInteger(QStringView text);
 } // namespace NumberParsing

@@ -1,7 +1,7 @@
 #include "export/ExportComposition.h"
 
 #include "drive/IOWatchdog.h"
-#include "export/ClipInput.h"
+#include "drive/MediaInput.h"
 #include "model/CancellationError.h"
 
 extern "C" {
@@ -86,7 +86,7 @@ std::optional<std::pair<double, double>> mediaExtent(const AVFormatContext *form
 
 std::optional<ExportSegment> judge(const QString &path, std::stop_token stop)
 {
-    const auto input = ClipInput::open(path, stop);
+    const auto input = MediaInput::open(path, stop);
     if (!input)
         return std::nullopt;
     AVFormatContext *format = input->context();

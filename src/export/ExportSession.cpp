@@ -1,6 +1,6 @@
 #include "export/ExportSession.h"
 
-#include "export/ClipInput.h"
+#include "drive/MediaInput.h"
 #include "export/ExportError.h"
 #include "export/Mp4Writer.h"
 #include "export/VideoReencoder.h"
@@ -127,7 +127,7 @@ void ExportSession::run()
 void ExportSession::copyClip(const ExportSegment &segment)
 {
     // A clip that can no longer be read only shortens the movie.
-    const auto input = ClipInput::open(segment.path, stop_);
+    const auto input = MediaInput::open(segment.path, stop_);
     if (!input)
         return;
     AVFormatContext *format = input->context();

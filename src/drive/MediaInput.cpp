@@ -1,4 +1,4 @@
-#include "export/ClipInput.h"
+#include "drive/MediaInput.h"
 
 #include "drive/ReadOnlyFs.h"
 
@@ -17,23 +17,23 @@ namespace {
 constexpr int ioBufferSize = 256 * 1024;
 } // namespace
 
-std::unique_ptr<ClipInput> ClipInput::open(const QString &path, std::stop_token stop)
+std::unique_ptr<MediaInput> MediaInput::open(const QString &path, std::stop_token stop, Options options)
 {
     // A FIFO or device named like a clip would block the open; a car's drive
     // holds only regular files anyway.
-    if (!ReadOnlyFs::stat(path).isRegularFile)
+    if (options.regularFilesOnly && !ReadOnlyFs::stat(path).isRegularFile)
         return nullptr;
-    std::unique_ptr<ClipInput> input(new ClipInput);
+    std::unique_ptr<MediaInput> input(new MediaInput);
     input->stop_ = stop;
     input->fd_ = ReadOnlyFs::openRead(path);
-    if (input->fd_ < 0)
+    if (input->fd_ < 0 || stop.stop_requested())
         return nullptr;
 
     auto *buffer = static_cast<unsigned char *>(av_malloc(ioBufferSize));
     if (!buffer)
         return nullptr;
-    input->io_ = avio_alloc_context(buffer, ioBufferSize, 0, input.get(), &ClipInput::readPacket, nullptr,
-                                    &ClipInput::seek);
+    input->io_ = avio_alloc_context(buffer, ioBufferSize, 0, input.get(), &MediaInput::readPacket, nullptr,
+                                    &MediaInput::seek);
     if (!input->io_) {
         av_free(buffer);
         return nullptr;
@@ -43,15 +43,17 @@ std::unique_ptr<ClipInput> ClipInput::open(const QString &path, std::stop_token 
         return nullptr;
     format->pb = input->io_;
     format->flags |= AVFMT_FLAG_CUSTOM_IO;
-    format->interrupt_callback = {&ClipInput::interrupted, input.get()};
+    // Set before avformat_open_input, so that even the header read can be stopped.
+    format->interrupt_callback = {&MediaInput::interrupted, input.get()};
+    static const AVInputFormat *mp4 = av_find_input_format("mp4");
     // The path only helps format probing; all bytes come through io_.
-    if (avformat_open_input(&format, QFile::encodeName(path).constData(), nullptr, nullptr) < 0)
+    if (avformat_open_input(&format, QFile::encodeName(path).constData(), options.mp4Only ? mp4 : nullptr, nullptr) < 0)
         return nullptr; // avformat_open_input freed format
     input->format_ = format;
     return input;
 }
 
-ClipInput::~ClipInput()
+MediaInput::~MediaInput()
 {
     if (format_)
         avformat_close_input(&format_);
@@ -63,15 +65,15 @@ ClipInput::~ClipInput()
         ::close(fd_);
 }
 
-int ClipInput::bestStream(int mediaType) const
+int MediaInput::bestStream(int mediaType) const
 {
     const int index = av_find_best_stream(format_, AVMediaType(mediaType), -1, -1, nullptr, 0);
     return index >= 0 ? index : -1;
 }
 
-int ClipInput::readPacket(void *opaque, unsigned char *buffer, int size)
+int MediaInput::readPacket(void *opaque, unsigned char *buffer, int size)
 {
-    auto *self = static_cast<ClipInput *>(opaque);
+    auto *self = static_cast<MediaInput *>(opaque);
     if (self->stop_.stop_requested())
         return AVERROR_EXIT;
     ssize_t n;
@@ -85,20 +87,20 @@ int ClipInput::readPacket(void *opaque, unsigned char *buffer, int size)
     return int(n);
 }
 
-int64_t ClipInput::seek(void *opaque, int64_t offset, int whence)
+int64_t MediaInput::seek(void *opaque, int64_t offset, int whence)
 {
-    auto *self = static_cast<ClipInput *>(opaque);
+    auto *self = static_cast<MediaInput *>(opaque);
     if (whence & AVSEEK_SIZE) {
         struct stat st {};
         if (::fstat(self->fd_, &st) != 0)
             return AVERROR(errno);
-        return st.st_size;
+        return S_ISREG(st.st_mode) ? int64_t(st.st_size) : AVERROR(ENOSYS);
     }
     const off_t position = ::lseek(self->fd_, off_t(offset), whence & ~AVSEEK_FORCE);
     return position < 0 ? AVERROR(errno) : position;
 }
 
-int ClipInput::interrupted(void *opaque)
+int MediaInput::interrupted(void *opaque)
 {
-    return static_cast<ClipInput *>(opaque)->stop_.stop_requested() ? 1 : 0;
+    return static_cast<MediaInput *>(opaque)->stop_.stop_requested() ? 1 : 0;
 }
