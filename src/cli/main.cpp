@@ -1,5 +1,6 @@
 #include "cli/CliOutput.h"
 #include "cli/ExportCommand.h"
+#include "cli/HealthCommand.h"
 #include "cli/KeepCommand.h"
 #include "cli/ScanCommand.h"
 #include "cli/VaultCommand.h"
@@ -13,6 +14,7 @@ const std::map<QString, std::function<int(const QStringList &)>> &commands()
 {
     static const std::map<QString, std::function<int(const QStringList &)>> table{
         {QStringLiteral("export"), ExportCommand::run},
+        {QStringLiteral("health"), HealthCommand::run},
         {QStringLiteral("keep"), KeepCommand::run},
         {QStringLiteral("scan"), ScanCommand::run},
         {QStringLiteral("vault"), VaultCommand::run},

@@ -1,0 +1,98 @@
+#include "engine/LiveEngine.h"
+
+#include "drive/ClipProber.h"
+#include "drive/TeslaCamParser.h"
+#include "engine/AsyncRun.h"
+#include "engine/BookmarkStore.h"
+#include "engine/DriveWatcher.h"
+#include "engine/ScanCache.h"
+#include "engine/TriageStore.h"
+#include "export/Exporter.h"
+#include "vault/ArchiveEngine.h"
+#include "vault/VaultBrowser.h"
+
+#include <QThreadPool>
+
+namespace {
+QThreadPool &generalPool() { return *QThreadPool::globalInstance(); }
+} // namespace
+
+// Building the watcher starts no observation; that waits for driveEvents().
+LiveEngine::LiveEngine() : driveWatcher_(std::make_unique<DriveWatcher>()) {}
+
+LiveEngine::~LiveEngine() = default;
+
+QFuture<DriveScan> LiveEngine::scanDrive(const QString &root, ScanProgressCallback progress)
+{
+    return AsyncRun::onPool(generalPool(), [root, progress] { return TeslaCamParser::scan(root, progress); });
+}
+
+QFuture<std::optional<DriveScan>> LiveEngine::cachedScan(const QString &key)
+{
+    return ScanCache::shared().cached(key);
+}
+
+QFuture<void> LiveEngine::storeScanInCache(const DriveScan &scan, const QString &key)
+{
+    return ScanCache::shared().store(scan, key);
+}
+
+QFuture<std::vector<TeslaEvent>> LiveEngine::probeAll(const std::vector<TeslaEvent> &events)
+{
+    return AsyncRun::cancellable(generalPool(), [events](std::stop_token stop) {
+        return ClipProber::probeAll(events, probeTimeoutPerClip, probeConcurrencyCap, {}, stop);
+    });
+}
+
+void LiveEngine::saveBookmark(const QString &url, BookmarkKey key) { BookmarkStore::save(url, key); }
+
+BookmarkResult LiveEngine::resolveBookmark(BookmarkKey key) { return BookmarkStore::resolve(key); }
+
+std::vector<VolumeCandidate> LiveEngine::mountedTeslaCamVolumes() { return DriveWatcher::mountedTeslaCamVolumes(); }
+
+std::shared_ptr<DriveEventStream> LiveEngine::driveEvents() { return driveWatcher_->events(); }
+
+ArchivePlan LiveEngine::planArchive(const std::vector<TeslaEvent> &events, const VaultIndex &vault)
+{
+    return ArchiveEngine::plan(events, vault);
+}
+
+QFuture<ArchiveReport> LiveEngine::runArchive(const ArchivePlan &plan, const QString &vaultURL,
+                                              ArchiveProgressCallback progress, std::stop_token stop)
+{
+    return AsyncRun::cancellable(
+        generalPool(),
+        [plan, vaultURL, progress](std::stop_token token) {
+            return ArchiveEngine::run(plan, vaultURL, progress, ArchiveEngine::defaultTimeoutPerFile, token);
+        },
+        stop);
+}
+
+VaultIndex LiveEngine::loadVaultIndex(const QString &vaultURL) { return VaultIndex::loadOrEmpty(vaultURL); }
+
+bool LiveEngine::removeFromVault(const QString &eventID, const QString &vaultURL)
+{
+    return VaultIndex::removeEvent(eventID, vaultURL);
+}
+
+QFuture<std::vector<TeslaEvent>> LiveEngine::scanVault(const QString &url)
+{
+    return AsyncRun::onPool(generalPool(), [url] { return VaultBrowser::scanVault(url); });
+}
+
+TriageState LiveEngine::triageState(const QString &) { return TriageState::new_; }
+
+void LiveEngine::setTriageState(TriageState state, const QString &eventID)
+{
+    TriageStore::shared().set(state, eventID);
+}
+
+QFuture<EngineFacade::TriageStates> LiveEngine::loadAllTriageStates() { return TriageStore::shared().allStates(); }
+
+QFuture<void> LiveEngine::exportFootage(Camera camera, const TeslaEvent &event, std::optional<SecondsRange> range,
+                                        const QString &to, FractionCallback progress)
+{
+    return AsyncRun::cancellable(generalPool(), [camera, event, range, to, progress](std::stop_token stop) {
+        Exporter::exportFootage(camera, event, range, to, progress, stop);
+    });
+}

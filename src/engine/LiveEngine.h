@@ -1,0 +1,46 @@
+#pragma once
+
+#include "engine/EngineFacade.h"
+
+#include <memory>
+
+class DriveWatcher;
+
+// The engine over real files and volumes: every operation is one step to
+// the scanner, prober, archive engine, Vault browser, stores, drive watcher
+// and exporter. It decides nothing beyond the fixed arguments it supplies.
+class LiveEngine final : public EngineFacade {
+public:
+    static constexpr std::chrono::milliseconds probeTimeoutPerClip{10000};
+    static constexpr int probeConcurrencyCap = 4;
+
+    LiveEngine();
+    ~LiveEngine() override;
+
+    QFuture<DriveScan> scanDrive(const QString &root, ScanProgressCallback progress) override;
+    QFuture<std::optional<DriveScan>> cachedScan(const QString &key) override;
+    QFuture<void> storeScanInCache(const DriveScan &scan, const QString &key) override;
+    QFuture<std::vector<TeslaEvent>> probeAll(const std::vector<TeslaEvent> &events) override;
+    void saveBookmark(const QString &url, BookmarkKey key) override;
+    BookmarkResult resolveBookmark(BookmarkKey key) override;
+    std::vector<VolumeCandidate> mountedTeslaCamVolumes() override;
+    std::shared_ptr<DriveEventStream> driveEvents() override;
+    ArchivePlan planArchive(const std::vector<TeslaEvent> &events, const VaultIndex &vault) override;
+    QFuture<ArchiveReport> runArchive(const ArchivePlan &plan, const QString &vaultURL,
+                                      ArchiveProgressCallback progress, std::stop_token stop = {}) override;
+    VaultIndex loadVaultIndex(const QString &vaultURL) override;
+    bool removeFromVault(const QString &eventID, const QString &vaultURL) override;
+    QFuture<std::vector<TeslaEvent>> scanVault(const QString &url) override;
+    // Always `new`: the true marks come from loadAllTriageStates(), and
+    // callers keep them in memory.
+    TriageState triageState(const QString &eventID) override;
+    // Fire and forget: the mark reaches the store and the disk after the
+    // call returns, and a failure to keep it is never reported.
+    void setTriageState(TriageState state, const QString &eventID) override;
+    QFuture<TriageStates> loadAllTriageStates() override;
+    QFuture<void> exportFootage(Camera camera, const TeslaEvent &event, std::optional<SecondsRange> range,
+                                const QString &to, FractionCallback progress) override;
+
+private:
+    std::unique_ptr<DriveWatcher> driveWatcher_;
+};

@@ -1,0 +1,349 @@
+#include "engine/MockEngine.h"
+
+#include "engine/AsyncRun.h"
+#include "model/CancellationError.h"
+#include "vault/ArchivedEvent.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QThreadPool>
+#include <QTimeZone>
+#include <algorithm>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+QThreadPool &generalPool() { return *QThreadPool::globalInstance(); }
+
+// The demo's texts carry no zone; they are read as UTC. A text that can't
+// be read stands for the present moment.
+// Read straight as UTC wall times, never through the local zone, whose
+// daylight-saving gaps could swallow an hour.
+Date utc(const QString &date, const QString &time, const QString &timeFormat)
+{
+    const QDateTime dt(QDate::fromString(date, QStringLiteral("yyyy-MM-dd")), QTime::fromString(time, timeFormat),
+                       QTimeZone::utc());
+    return dt.isValid() ? Date::fromQDateTime(dt) : Date::now();
+}
+
+// "2026-07-21T02:11:05": the demo's texts carry no zone and are read as UTC.
+// A text that can't be read stands for the present moment.
+Date iso(const QString &text)
+{
+    return utc(text.section(QLatin1Char('T'), 0, 0), text.section(QLatin1Char('T'), 1), QStringLiteral("HH:mm:ss"));
+}
+
+// "2026-07-21_02-10-05", in UTC.
+Date clipStamp(const QString &stamp)
+{
+    return utc(stamp.section(QLatin1Char('_'), 0, 0), stamp.section(QLatin1Char('_'), 1), QStringLiteral("HH-mm-ss"));
+}
+
+struct ClipException {
+    Camera camera;
+    qint64 fileSize;
+    ClipHealth health;
+};
+
+struct DemoRow {
+    EventKind kind;
+    const char *folderName;
+    const char *timestamp;
+    std::optional<QString> city;
+    std::optional<std::pair<double, double>> place;
+    ReasonCategory category;
+    std::optional<QString> reasonRaw;
+    std::optional<double> accel;
+    std::optional<QString> triggerCamera;
+    bool thumb;
+    bool missingEventJSON;
+    std::vector<const char *> stamps;
+    std::vector<Camera> cameras;
+    std::optional<ClipException> exception;
+};
+
+QString suffix(Camera camera)
+{
+    switch (camera.value()) {
+    case Camera::front:
+        return QStringLiteral("front");
+    case Camera::back:
+        return QStringLiteral("back");
+    case Camera::leftRepeater:
+        return QStringLiteral("left_repeater");
+    case Camera::rightRepeater:
+        return QStringLiteral("right_repeater");
+    default:
+        return camera.rawValue();
+    }
+}
+
+TeslaEvent build(const DemoRow &row)
+{
+    const QString base = MockEngine::fixtureURL() + QStringLiteral("/TeslaCam/");
+    TeslaEvent e;
+    e.kind = row.kind;
+    e.folderName = QString::fromLatin1(row.folderName);
+    switch (row.kind.value()) {
+    case EventKind::sentry:
+        e.folderURL = base + QStringLiteral("SentryClips/") + e.folderName;
+        break;
+    case EventKind::saved:
+        e.folderURL = base + QStringLiteral("SavedClips/") + e.folderName;
+        break;
+    case EventKind::recent:
+        e.folderURL = base + QStringLiteral("RecentClips");
+        break;
+    }
+    e.timestamp = iso(QString::fromLatin1(row.timestamp));
+    e.city = row.city;
+    if (row.place) {
+        e.latitude = row.place->first;
+        e.longitude = row.place->second;
+    }
+    e.reasonRaw = row.reasonRaw;
+    e.reason = PlainReason{row.category, row.reasonRaw, row.accel};
+    e.triggerCameraRaw = row.triggerCamera;
+    if (row.thumb)
+        e.thumbURL = e.folderURL + QStringLiteral("/thumb.png");
+    e.missingEventJSON = row.missingEventJSON;
+    for (const char *stamp : row.stamps) {
+        for (const Camera camera : row.cameras) {
+            ClipRef clip;
+            clip.url = e.folderURL + QLatin1Char('/') + QString::fromLatin1(stamp) + QLatin1Char('-') + suffix(camera)
+                + QStringLiteral(".mp4");
+            clip.camera = camera;
+            clip.startDate = clipStamp(QString::fromLatin1(stamp));
+            clip.fileSize = 3325;
+            clip.duration = 60.0;
+            clip.health = ClipHealth::ok;
+            if (row.exception && row.exception->camera == camera) {
+                clip.fileSize = row.exception->fileSize;
+                clip.health = row.exception->health;
+            }
+            e.clips.push_back(clip);
+        }
+    }
+    return e;
+}
+
+} // namespace
+
+MockEngine::MockEngine()
+    : state_(std::make_shared<State>()),
+      executor_(std::make_shared<SerialExecutor>()),
+      driveEventStream_(std::make_shared<DriveEventStream>())
+{
+}
+
+MockEngine::~MockEngine() = default;
+
+QString MockEngine::fixtureURL() { return QDir::homePath() + QStringLiteral("/TeslaCamFixture"); }
+
+const std::vector<TeslaEvent> &MockEngine::demoEvents()
+{
+    static const std::vector<TeslaEvent> events = [] {
+        const std::vector<Camera> four{Camera::front, Camera::back, Camera::leftRepeater, Camera::rightRepeater};
+        const std::vector<Camera> two{Camera::front, Camera::back};
+        const QString austin = QStringLiteral("Austin");
+        const std::vector<DemoRow> rows{
+            {EventKind::sentry, "2026-07-21_02-11-05", "2026-07-21T02:11:05", austin, std::pair(30.2672, -97.7431),
+             ReasonCategory::approach, QStringLiteral("sentry_aware_object_detection"), std::nullopt,
+             QStringLiteral("5"), true, false, {"2026-07-21_02-10-05"}, four,
+             ClipException{Camera::leftRepeater, 0, ClipHealth::zeroByte}},
+            {EventKind::sentry, "2026-07-22_13-30-44", "2026-07-22T13:30:44", austin, std::pair(30.271, -97.74),
+             ReasonCategory::impact, QStringLiteral("sentry_aware_accel_0.4"), 0.4, QStringLiteral("0"), false, false,
+             {"2026-07-22_13-29-44"}, four, ClipException{Camera::back, 900, ClipHealth::truncated}},
+            {EventKind::sentry, "2026-07-24_08-14-27", "2026-07-24T08:14:27", std::nullopt, std::nullopt,
+             ReasonCategory::unknown, std::nullopt, std::nullopt, std::nullopt, false, true, {"2026-07-24_08-13-27"},
+             two, std::nullopt},
+            {EventKind::saved, "2026-07-18_09-15-32", "2026-07-18T09:15:32", austin, std::pair(30.26, -97.74),
+             ReasonCategory::manualSave, QStringLiteral("user_interaction_dashcam_panel_save"), std::nullopt,
+             QStringLiteral("0"), true, false, {"2026-07-18_09-14-32"}, four, std::nullopt},
+            {EventKind::saved, "2026-07-19_17-42-10", "2026-07-19T17:42:10", QStringLiteral("Round Rock"),
+             std::pair(30.51, -97.68), ReasonCategory::honk, QStringLiteral("user_interaction_honk"), std::nullopt,
+             QStringLiteral("0"), false, false, {"2026-07-19_17-41-10"}, two,
+             ClipException{Camera::back, 3325, ClipHealth::unreadable}},
+            {EventKind::recent, "recent_2026-07-20_14-00-00", "2026-07-20T14:04:00", austin,
+             std::pair(30.2672, -97.7431), ReasonCategory::recentDrive, std::nullopt, std::nullopt, std::nullopt,
+             false, false, {"2026-07-20_14-00-00", "2026-07-20_14-01-00"}, two, std::nullopt},
+        };
+        std::vector<TeslaEvent> built;
+        for (const DemoRow &row : rows)
+            built.push_back(build(row));
+        return built;
+    }();
+    return events;
+}
+
+QFuture<DriveScan> MockEngine::scanDrive(const QString &root, ScanProgressCallback progress)
+{
+    return AsyncRun::cancellable(generalPool(), [root, progress](std::stop_token stop) {
+        static const std::array<const char16_t *, 5> phases{u"Reading your drive\u2026", u"Reading Sentry events\u2026",
+                                                             u"Reading saved clips\u2026", u"Reading recent driving\u2026",
+                                                             u"Almost done\u2026"};
+        const std::vector<TeslaEvent> &demo = demoEvents();
+        // Added to, not rebuilt, so the counts climb through 0, 2, 6, 12, 18.
+        std::vector<TeslaEvent> running;
+        for (int i = 0; i < int(phases.size()); ++i) {
+            if (!AsyncRun::sleepFor(220ms, stop))
+                throw CancellationError();
+            if (i > 0) {
+                const size_t take = std::min(size_t(2 * i), demo.size());
+                running.insert(running.end(), demo.begin(), demo.begin() + qsizetype(take));
+            }
+            int clips = 0;
+            for (const TeslaEvent &e : running)
+                clips += int(e.clips.size());
+            if (progress)
+                progress(ScanProgress{QString::fromUtf16(phases[size_t(i)]), 6 * i + 6, int(running.size()), clips});
+        }
+        DriveScan scan;
+        scan.teslaCamURL = root;
+        scan.volumeName = volumeName;
+        scan.format = VolumeFormat::exFAT;
+        scan.capacityBytes = capacityBytes;
+        scan.freeBytes = freeBytes;
+        scan.events = demo;
+        scan.encryptedClipsPresent = true;
+        scan.issues.push_back(ScanIssue{ScanIssue::Kind::unknownCameraSuffix, QStringLiteral("cabin_camera.mp4")});
+        scan.scannedAt = Date::now();
+        return scan;
+    });
+}
+
+QFuture<std::optional<DriveScan>> MockEngine::cachedScan(const QString &key)
+{
+    return executor_->submit([state = state_, key]() -> std::optional<DriveScan> {
+        const auto it = state->scanCacheByKey.constFind(key);
+        if (it == state->scanCacheByKey.constEnd())
+            return std::nullopt;
+        return *it;
+    });
+}
+
+QFuture<void> MockEngine::storeScanInCache(const DriveScan &scan, const QString &key)
+{
+    return executor_->submit([state = state_, scan, key] { state->scanCacheByKey.insert(key, scan); });
+}
+
+QFuture<std::vector<TeslaEvent>> MockEngine::probeAll(const std::vector<TeslaEvent> &events)
+{
+    return AsyncRun::cancellable(generalPool(), [events](std::stop_token stop) {
+        AsyncRun::sleepFor(150ms, stop); // a cut-short wait counts as done
+        return events;
+    });
+}
+
+void MockEngine::saveBookmark(const QString &, BookmarkKey) {}
+
+BookmarkResult MockEngine::resolveBookmark(BookmarkKey) { return BookmarkError::makeNotFound(); }
+
+std::vector<VolumeCandidate> MockEngine::mountedTeslaCamVolumes()
+{
+    return {VolumeCandidate{fixtureURL(), volumeName, true, capacityBytes, freeBytes}};
+}
+
+std::shared_ptr<DriveEventStream> MockEngine::driveEvents() { return driveEventStream_; }
+
+ArchivePlan MockEngine::planArchive(const std::vector<TeslaEvent> &events, const VaultIndex &)
+{
+    ArchivePlan plan;
+    for (const TeslaEvent &e : events)
+        plan.items.push_back(ArchivePlan::Item{e, false});
+    return plan;
+}
+
+QFuture<ArchiveReport> MockEngine::runArchive(const ArchivePlan &plan, const QString &, ArchiveProgressCallback progress,
+                                              std::stop_token)
+{
+    return AsyncRun::onPool(generalPool(), [plan, progress, state = state_, executor = executor_] {
+        // No stop token: a cancelled wait is dropped, so the run always ends.
+        const std::vector<ArchivePlan::Item> items = plan.newItems();
+        const int n = int(items.size());
+        std::vector<ArchivedEvent> records;
+        for (int i = 0; i < n; ++i) {
+            const TeslaEvent &event = items[size_t(i)].event;
+            AsyncRun::sleepFor(180ms, {});
+            if (progress)
+                progress(ArchiveProgress{(i + 1) * bytesPerArchivedEvent, n * bytesPerArchivedEvent, i + 1, n,
+                                         event.folderName});
+            ArchivedEvent record;
+            record.eventID = event.id();
+            record.kind = event.kind;
+            record.folderName = event.folderName;
+            record.timestamp = event.timestamp;
+            record.archivedAt = Date::now();
+            record.sourceVolume = volumeName;
+            record.relativePath = event.kind.rawValue() + QLatin1Char('/') + event.folderName;
+            records.push_back(record);
+            executor->submit([state, id = event.id()] { state->triage.insert(id, TriageState::kept); });
+        }
+        executor
+            ->submit([state, records] {
+                state->demoVaultIndex.events.insert(state->demoVaultIndex.events.end(), records.begin(), records.end());
+            })
+            .waitForFinished();
+        ArchiveReport report;
+        report.archivedEvents = records;
+        report.skippedDuplicates = int(plan.items.size()) - n;
+        report.bytesCopied = n * bytesPerArchivedEvent;
+        report.cancelled = false;
+        return report;
+    });
+}
+
+VaultIndex MockEngine::loadVaultIndex(const QString &)
+{
+    return executor_->submit([state = state_] { return state->demoVaultIndex; }).result();
+}
+
+bool MockEngine::removeFromVault(const QString &, const QString &) { return true; }
+
+QFuture<std::vector<TeslaEvent>> MockEngine::scanVault(const QString &)
+{
+    return AsyncRun::cancellable(generalPool(), [state = state_, executor = executor_](std::stop_token stop) {
+        if (!AsyncRun::sleepFor(150ms, stop))
+            throw CancellationError();
+        const VaultIndex index = executor->submit([state] { return state->demoVaultIndex; }).result();
+        std::vector<TeslaEvent> kept;
+        for (const TeslaEvent &e : demoEvents()) {
+            const bool inVault = std::any_of(index.events.begin(), index.events.end(),
+                                             [&](const ArchivedEvent &a) { return a.eventID == e.id(); });
+            if (inVault)
+                kept.push_back(e);
+        }
+        return kept;
+    });
+}
+
+TriageState MockEngine::triageState(const QString &eventID)
+{
+    return executor_->submit([state = state_, eventID] { return state->triage.value(eventID, TriageState::new_); })
+        .result();
+}
+
+void MockEngine::setTriageState(TriageState triage, const QString &eventID)
+{
+    executor_->submit([state = state_, triage, eventID] { state->triage.insert(eventID, triage); })
+        .waitForFinished();
+}
+
+QFuture<EngineFacade::TriageStates> MockEngine::loadAllTriageStates()
+{
+    return executor_->submit([state = state_] { return state->triage; });
+}
+
+QFuture<void> MockEngine::exportFootage(Camera, const TeslaEvent &, std::optional<SecondsRange>, const QString &,
+                                        FractionCallback progress)
+{
+    return AsyncRun::cancellable(generalPool(), [progress](std::stop_token stop) {
+        for (int step = 1; step <= 10; ++step) {
+            if (!AsyncRun::sleepFor(80ms, stop))
+                throw CancellationError();
+            if (progress)
+                progress(step / 10.0);
+        }
+    });
+}

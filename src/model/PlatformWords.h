@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+// The few words in user-facing texts that name the platform. Kept in one
+// place so that each platform's build says its own words.
+namespace PlatformWords {
+
+// What the user formats a drive with, as in "(in <this>, after backing up)".
+QString diskUtility();
+// The user's own machine, as in "on this <computer>".
+QString computer();
+
+} // namespace PlatformWords

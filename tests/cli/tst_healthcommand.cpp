@@ -1,0 +1,119 @@
+// keelhold-cli health, run as a separate process over real folders.
+
+#include "support/TeslaCamFixture.h"
+#include "support/TestClips.h"
+#include "vault/ArchivedEvent.h"
+#include "vault/VaultIndex.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+struct Result {
+    int exitCode = -1;
+    QJsonObject json;
+    QString err;
+};
+
+Result runCli(const QStringList &args)
+{
+    QProcess p;
+    p.start(QStringLiteral(KEELHOLD_CLI_PATH), args);
+    if (!p.waitForFinished(60000))
+        qFatal("keelhold-cli did not finish");
+    return {p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1,
+            QJsonDocument::fromJson(p.readAllStandardOutput()).object(), QString::fromUtf8(p.readAllStandardError())};
+}
+
+QStringList recommendationIDs(const QJsonObject &report)
+{
+    QStringList ids;
+    for (const auto &r : report.value(QStringLiteral("recommendations")).toArray())
+        ids << r.toObject().value(QStringLiteral("id")).toString();
+    return ids;
+}
+} // namespace
+
+class HealthCommandTest : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir tmp_;
+    QString root_;
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        TeslaCamFixture fx(tmp_.filePath(QStringLiteral("drive/TeslaCam")));
+        const QString sentry = fx.addEvent(QStringLiteral("SentryClips"), QStringLiteral("2024-06-01_15-05-00"),
+                                           TeslaCamFixture::eventJson(QStringLiteral("2024-06-01T15:05:00"),
+                                                                      QStringLiteral("sentry_aware_accel_0.52")));
+        const QString clip = TestClips::ffmpegAvailable() ? TestClips::clip() : QString();
+        fx.addClip(sentry, QStringLiteral("2024-06-01_15-04-00"), QStringLiteral("front"), 0, clip);
+        fx.addClip(sentry, QStringLiteral("2024-06-01_15-04-00"), QStringLiteral("back"), 0);
+        fx.addEvent(QStringLiteral("SavedClips"), QStringLiteral("2024-06-02_09-00-00"),
+                    TeslaCamFixture::eventJson(QStringLiteral("2024-06-02T09:00:00"),
+                                               QStringLiteral("user_interaction_honk")));
+        root_ = fx.root();
+    }
+
+    void reportsTheDriveWithoutAVault()
+    {
+        const Result r = runCli({QStringLiteral("health"), root_});
+        QCOMPARE(r.exitCode, 0);
+        QCOMPARE(r.json.value(QStringLiteral("unarchivedEventCount")).toInt(), 2);
+        // Unprobed clips count neither as probed nor as damaged.
+        QCOMPARE(r.json.value(QStringLiteral("probedClipCount")).toInt(), 0);
+        QCOMPARE(r.json.value(QStringLiteral("corruptClipCount")).toInt(), 0);
+        QVERIFY(r.json.contains(QStringLiteral("fullnessFraction")));
+        QVERIFY(r.json.value(QStringLiteral("formatVerdict")).toString().startsWith(QLatin1String("This drive is formatted")));
+        const QJsonObject first = r.json.value(QStringLiteral("recommendations")).toArray().first().toObject();
+        QCOMPARE(first.value(QStringLiteral("id")).toString(), QStringLiteral("backup-new"));
+        QCOMPARE(first.value(QStringLiteral("title")).toString(), QStringLiteral("Back up 2 new events"));
+        QCOMPARE(first.value(QStringLiteral("severity")).toString(), QStringLiteral("warning"));
+    }
+
+    void probeCountsDamagedClips()
+    {
+        if (!TestClips::ffmpegAvailable())
+            QSKIP("Needs the ffmpeg tool to make a real clip.");
+        const Result r = runCli({QStringLiteral("health"), root_, QStringLiteral("--probe")});
+        QCOMPARE(r.exitCode, 0);
+        QCOMPARE(r.json.value(QStringLiteral("probedClipCount")).toInt(), 2);
+        QCOMPARE(r.json.value(QStringLiteral("corruptClipCount")).toInt(), 1);
+        QVERIFY(recommendationIDs(r.json).contains(QStringLiteral("some-corrupt")));
+    }
+
+    void vaultIndexTakesPart()
+    {
+        const QString vault = tmp_.filePath(QStringLiteral("vault"));
+        VaultIndex index;
+        ArchivedEvent record;
+        record.eventID = QStringLiteral("saved|2024-06-02_09-00-00");
+        record.kind = EventKind::saved;
+        record.folderName = QStringLiteral("2024-06-02_09-00-00");
+        record.relativePath = QStringLiteral("2024/saved/2024-06-02_09-00-00");
+        index.events.push_back(record);
+        index.save(vault);
+        const Result r = runCli({QStringLiteral("health"), root_, QStringLiteral("--vault"), vault});
+        QCOMPARE(r.exitCode, 0);
+        QCOMPARE(r.json.value(QStringLiteral("unarchivedEventCount")).toInt(), 1);
+    }
+
+    void plainSentencesOnFailure()
+    {
+        Result r = runCli({QStringLiteral("health"), tmp_.filePath(QStringLiteral("missing/TeslaCam"))});
+        QCOMPARE(r.exitCode, 2);
+        QVERIFY(r.err.contains(QStringLiteral("There is no folder at")));
+        r = runCli({QStringLiteral("health"), root_, QStringLiteral("--vault"), tmp_.filePath(QStringLiteral("nope"))});
+        QCOMPARE(r.exitCode, 2);
+        QVERIFY(r.err.contains(QStringLiteral("There is no Vault folder at")));
+        QVERIFY(r.json.isEmpty());
+    }
+};
+
+QTEST_GUILESS_MAIN(HealthCommandTest)
+#include "tst_healthcommand.moc"

@@ -1,0 +1,460 @@
+// The drive watcher: the mount-table reader on recorded text, and the event
+// stream against real mounts under the removable-media folder (root only).
+
+#include "engine/DriveWatcher.h"
+#include "engine/MountTable.h"
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QThread>
+
+#include <cerrno>
+#include <sys/mount.h>
+#include <unistd.h>
+
+namespace {
+
+// Recorded from a desktop machine, with a few hand-made oddities.
+const QByteArray recordedTable = R"(22 27 0:21 / /proc rw,relatime - proc proc rw
+27 1 254:0 / / rw,relatime shared:1 - ext4 /dev/vda rw,discard
+30 27 8:1 / /boot rw,relatime shared:7 - vfat /dev/sda1 rw,fmask=0022
+41 27 0:38 / /run/user/1000 rw,nosuid shared:20 - tmpfs tmpfs rw,size=1620000k
+88 27 8:17 / /media/anna/TESLA\040DRIVE rw,nosuid,nodev,relatime shared:40 - fuseblk /dev/sdb1 rw,user_id=0
+90 27 8:33 / /run/media/anna/BACKUP rw,nosuid shared:41 master:2 - ext4 /dev/sdc1 rw
+91 27 0:50 / /mnt/scratch rw,relatime - tmpfs tmpfs rw,size=8192k
+92 27 0:51 / /media rw,relatime - tmpfs tmpfs rw
+93 27 0:52 / /media/.hidden rw,relatime - tmpfs tmpfs rw
+94 27 0:53 / /mediafiles/x rw,relatime - tmpfs tmpfs rw
+95 91 0:54 / /mnt/scratch rw,relatime - tmpfs tmpfs rw,size=4096k
+this line is not a mount
+96 27 0:55 / /srv/data rw - xfs /dev/sdd1 rw
+)";
+
+MountTable::Entry entry(int id, const QString &device, const QString &mountPoint, const QString &root = "/")
+{
+    MountTable::Entry e;
+    e.mountID = id;
+    e.device = device;
+    e.root = root;
+    e.mountPoint = mountPoint;
+    e.fileSystemType = QStringLiteral("tmpfs");
+    e.source = QStringLiteral("tmpfs");
+    return e;
+}
+
+// Runs a tool quietly; its exit code, or -1 if it didn't run.
+int run(const QString &program, const QStringList &arguments)
+{
+    QProcess p;
+    p.start(program, arguments);
+    if (!p.waitForFinished(30000) || p.exitStatus() != QProcess::NormalExit)
+        return -1;
+    return p.exitCode();
+}
+
+VolumeCandidate candidate(const QString &name, bool teslaCam)
+{
+    VolumeCandidate c;
+    c.volumeURL = QStringLiteral("/media/") + name;
+    c.name = name;
+    c.hasTeslaCamFolder = teslaCam;
+    return c;
+}
+
+QStringList names(const std::vector<VolumeCandidate> &candidates)
+{
+    QStringList out;
+    for (const auto &c : candidates)
+        out << c.name;
+    return out;
+}
+
+} // namespace
+
+class TestDriveWatcher : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanup();
+
+    void parsesRecordedMountinfo();
+    void removableMountsOnlyBelowTheMediaFolders();
+    void diffReportsMountsUnmountsAndRenames();
+    void candidatesSortTeslaCamFirstThenByName();
+    void candidateOfAFolderThatIsNoMountPoint();
+
+    void realMountUnmountAndReturn();
+    void realMoveIsARename();
+    void realTeslaCamVolumeIsListedFirst();
+    void realExfatLabelAndRelabel();
+    void finishedStreamStopsWatching();
+
+private:
+    // Mounts a small tmpfs at a fresh folder below /media; empty if not allowed.
+    QString mountTmpfs(const QString &name, const QString &size = QStringLiteral("8m"));
+    bool canMount_ = false;
+    QString base_;
+    QStringList mounted_;
+    QStringList loopDevices_;
+    QTemporaryDir scratch_;
+};
+
+void TestDriveWatcher::initTestCase()
+{
+    base_ = QStringLiteral("/media/keelhold-test-%1").arg(QCoreApplication::applicationPid());
+    if (::geteuid() != 0 || !QDir().mkpath(base_))
+        return;
+    const QString probe = base_ + QStringLiteral("/probe");
+    QDir().mkpath(probe);
+    canMount_ = ::mount("tmpfs", QFile::encodeName(probe).constData(), "tmpfs", 0, "size=1m") == 0;
+    if (canMount_)
+        ::umount2(QFile::encodeName(probe).constData(), MNT_DETACH);
+    QDir(probe).removeRecursively();
+}
+
+void TestDriveWatcher::cleanup()
+{
+    for (auto it = mounted_.crbegin(); it != mounted_.crend(); ++it)
+        ::umount2(QFile::encodeName(*it).constData(), MNT_DETACH);
+    mounted_.clear();
+    for (const QString &loop : std::as_const(loopDevices_))
+        run(QStringLiteral("losetup"), {QStringLiteral("-d"), loop});
+    loopDevices_.clear();
+    if (!base_.isEmpty())
+        QDir(base_).removeRecursively();
+}
+
+QString TestDriveWatcher::mountTmpfs(const QString &name, const QString &size)
+{
+    const QString path = base_ + QLatin1Char('/') + name;
+    QDir().mkpath(path);
+    const QByteArray options = "size=" + size.toLatin1();
+    if (::mount("tmpfs", QFile::encodeName(path).constData(), "tmpfs", 0, options.constData()) != 0)
+        return {};
+    mounted_ << path;
+    return path;
+}
+
+namespace {
+// Collects the stream's events that concern paths below prefix, until count
+// have come or the time is up; then waits a little more to catch extras.
+std::vector<DriveEvent> collect(DriveEventStream &stream, const QString &prefix, size_t count, int ms = 5000)
+{
+    std::vector<DriveEvent> got;
+    const auto take = [&] {
+        while (const auto e = stream.takeNext()) {
+            const QString path = e->kind() == DriveEvent::unmounted ? e->volumePath() : e->candidate().volumeURL;
+            if (path.startsWith(prefix))
+                got.push_back(*e);
+        }
+    };
+    QDeadlineTimer deadline(ms);
+    while (got.size() < count && !deadline.hasExpired()) {
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+        take();
+    }
+    QDeadlineTimer settle(300);
+    while (!settle.hasExpired()) {
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+        take();
+    }
+    return got;
+}
+} // namespace
+
+void TestDriveWatcher::parsesRecordedMountinfo()
+{
+    const std::vector<MountTable::Entry> table = MountTable::parse(recordedTable);
+    QCOMPARE(table.size(), size_t(12));
+    const MountTable::Entry &drive = table[4];
+    QCOMPARE(drive.mountID, 88);
+    QCOMPARE(drive.device, QStringLiteral("8:17"));
+    QCOMPARE(drive.mountPoint, QStringLiteral("/media/anna/TESLA DRIVE"));
+    QCOMPARE(drive.fileSystemType, QStringLiteral("fuseblk"));
+    QCOMPARE(drive.source, QStringLiteral("/dev/sdb1"));
+    // Optional fields (shared:, master:) don't shift the fields after "-".
+    QCOMPARE(table[5].fileSystemType, QStringLiteral("ext4"));
+    QCOMPARE(table[5].source, QStringLiteral("/dev/sdc1"));
+    QCOMPARE(table[1].mountPoint, QStringLiteral("/"));
+
+    QVERIFY(MountTable::parse(QByteArray()).empty());
+    QVERIFY(MountTable::parse("garbage\n1 2 3\n- - -\n").empty());
+}
+
+void TestDriveWatcher::removableMountsOnlyBelowTheMediaFolders()
+{
+    const std::vector<MountTable::Entry> removable = MountTable::removableMounts(MountTable::parse(recordedTable));
+    QStringList points;
+    for (const auto &e : removable)
+        points << e.mountPoint;
+    QCOMPARE(points, (QStringList{QStringLiteral("/media/anna/TESLA DRIVE"), QStringLiteral("/run/media/anna/BACKUP"),
+                                  QStringLiteral("/mnt/scratch")}));
+    // A later mount over the same point is the one that shows.
+    QCOMPARE(removable[2].mountID, 95);
+
+    // With only the system's own mounts there is nothing to offer.
+    const QByteArray systemOnly = "22 27 0:21 / /proc rw - proc proc rw\n27 1 254:0 / / rw - ext4 /dev/vda rw\n";
+    QVERIFY(MountTable::removableMounts(MountTable::parse(systemOnly)).empty());
+}
+
+void TestDriveWatcher::diffReportsMountsUnmountsAndRenames()
+{
+    using C = MountTable::Change;
+    const auto a = entry(1, "0:40", "/media/A");
+    const auto b = entry(2, "0:41", "/media/B");
+    const auto c = entry(3, "0:42", "/media/C");
+
+    QVERIFY(MountTable::diff({a, b}, {a, b}).empty());
+    QCOMPARE(MountTable::diff({a}, {a, b}), (std::vector<C>{{C::mounted, "/media/B"}}));
+    QCOMPARE(MountTable::diff({a, b}, {b}), (std::vector<C>{{C::unmounted, "/media/A"}}));
+    // Unmounts come first, then mounts.
+    QCOMPARE(MountTable::diff({a}, {b, c}),
+             (std::vector<C>{{C::unmounted, "/media/A"}, {C::mounted, "/media/B"}, {C::mounted, "/media/C"}}));
+    // Gone and back between two looks: both are reported, each once.
+    const auto aAgain = entry(7, "0:43", "/media/A");
+    QCOMPARE(MountTable::diff({a}, {aAgain}), (std::vector<C>{{C::unmounted, "/media/A"}, {C::mounted, "/media/A"}}));
+    // The same file system at a new mount point is a rename, and the old
+    // point is never reported.
+    const auto aMoved = entry(1, "0:40", "/media/A2");
+    QCOMPARE(MountTable::diff({a, b}, {b, aMoved}), (std::vector<C>{{C::renamed, "/media/A2"}}));
+    const auto aRelabelled = entry(9, "0:40", "/media/NEWNAME");
+    QCOMPARE(MountTable::diff({a}, {aRelabelled}), (std::vector<C>{{C::renamed, "/media/NEWNAME"}}));
+    // Another part of the same device is not the same volume.
+    const auto otherRoot = entry(10, "0:40", "/media/Z", "/sub");
+    QCOMPARE(MountTable::diff({a}, {otherRoot}),
+             (std::vector<C>{{C::unmounted, "/media/A"}, {C::mounted, "/media/Z"}}));
+}
+
+void TestDriveWatcher::candidatesSortTeslaCamFirstThenByName()
+{
+    std::vector<VolumeCandidate> list{candidate("zeta", false), candidate("Beta", false), candidate("alpha", false),
+                                      candidate("TESLA", true), candidate("CAR", true)};
+    DriveWatcher::sortCandidates(list);
+    // Plain text comparison: upper case sorts before lower case.
+    QCOMPARE(names(list), (QStringList{"CAR", "TESLA", "Beta", "alpha", "zeta"}));
+}
+
+void TestDriveWatcher::candidateOfAFolderThatIsNoMountPoint()
+{
+    // A folder that isn't a mount point of its own: its figures can't be
+    // read, so they stay unknown, and it is still a candidate.
+    const QString folder = scratch_.filePath(QStringLiteral("PLAIN"));
+    QDir().mkpath(folder);
+    QFile file(folder + QStringLiteral("/TeslaCam"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.close();
+    auto c = DriveWatcher::volumeCandidate(folder);
+    QVERIFY(c.has_value());
+    QCOMPARE(c->volumeURL, folder);
+    QCOMPARE(c->id(), folder);
+    QCOMPARE(c->name, QStringLiteral("PLAIN"));
+    QVERIFY(!c->capacityBytes.has_value());
+    QVERIFY(!c->freeBytes.has_value());
+    // A file named TeslaCam is not the folder.
+    QVERIFY(!c->hasTeslaCamFolder);
+
+    QVERIFY(file.remove());
+    QVERIFY(QDir().mkpath(folder + QStringLiteral("/TeslaCam")));
+    QVERIFY(DriveWatcher::volumeCandidate(folder)->hasTeslaCamFolder);
+    QVERIFY(!DriveWatcher::volumeCandidate(QStringLiteral("relative/path")).has_value());
+}
+
+void TestDriveWatcher::realMountUnmountAndReturn()
+{
+    if (!canMount_)
+        QSKIP("Needs root to mount a tmpfs below /media.");
+    DriveWatcher watcher;
+    const auto stream = watcher.events();
+    QCOMPARE(watcher.events(), stream); // one stream per watcher
+    // A reader that waits before anything happens gets the first event.
+    QFuture<std::optional<DriveEvent>> first = stream->next();
+
+    const QString path = mountTmpfs(QStringLiteral("USBSTICK"));
+    QVERIFY(!path.isEmpty());
+    QTRY_VERIFY_WITH_TIMEOUT(first.isFinished(), 5000);
+    const std::optional<DriveEvent> mounted = first.result();
+    QVERIFY(mounted.has_value());
+    QCOMPARE(mounted->kind(), DriveEvent::mounted);
+    QCOMPARE(mounted->candidate().volumeURL, path);
+    QCOMPARE(mounted->candidate().name, QStringLiteral("USBSTICK"));
+    QCOMPARE(mounted->candidate().capacityBytes, std::optional<qint64>(8 * 1024 * 1024));
+    QVERIFY(mounted->candidate().freeBytes.has_value());
+    QVERIFY(*mounted->candidate().freeBytes > 7 * 1024 * 1024);
+    QVERIFY(!mounted->candidate().hasTeslaCamFolder);
+
+    // It is listed among the mounted volumes.
+    QVERIFY(names(DriveWatcher::mountedTeslaCamVolumes()).contains(QStringLiteral("USBSTICK")));
+
+    // Away and back while the main thread is busy: each reported once, in order.
+    QCOMPARE(::umount2(QFile::encodeName(path).constData(), 0), 0);
+    mounted_.removeAll(path);
+    QThread::msleep(300);
+    QVERIFY(!mountTmpfs(QStringLiteral("USBSTICK"), QStringLiteral("4m")).isEmpty());
+    std::vector<DriveEvent> events = collect(*stream, base_, 2);
+    QCOMPARE(events.size(), size_t(2));
+    QCOMPARE(events[0], DriveEvent::makeUnmounted(path));
+    QCOMPARE(events[1].kind(), DriveEvent::mounted);
+    QCOMPARE(events[1].candidate().capacityBytes, std::optional<qint64>(4 * 1024 * 1024));
+
+    // Away with the loop running.
+    QCOMPARE(::umount2(QFile::encodeName(path).constData(), 0), 0);
+    mounted_.removeAll(path);
+    events = collect(*stream, base_, 1);
+    QCOMPARE(events.size(), size_t(1));
+    QCOMPARE(events[0].kind(), DriveEvent::unmounted);
+    QCOMPARE(events[0].volumePath(), path);
+    QVERIFY(!names(DriveWatcher::mountedTeslaCamVolumes()).contains(QStringLiteral("USBSTICK")));
+}
+
+void TestDriveWatcher::realMoveIsARename()
+{
+    if (!canMount_)
+        QSKIP("Needs root to mount a tmpfs below /media.");
+    const QString oldPath = mountTmpfs(QStringLiteral("OLDNAME"));
+    QVERIFY(!oldPath.isEmpty());
+    DriveWatcher watcher;
+    const auto stream = watcher.events();
+    QThread *deliveredOn = nullptr;
+    connect(stream.get(), &DriveEventStream::available, this, [&] { deliveredOn = QThread::currentThread(); });
+
+    const QString newPath = base_ + QStringLiteral("/NEWNAME");
+    QDir().mkpath(newPath);
+    QCOMPARE(::mount(QFile::encodeName(oldPath).constData(), QFile::encodeName(newPath).constData(), nullptr,
+                     MS_MOVE, nullptr),
+             0);
+    mounted_.removeAll(oldPath);
+    mounted_ << newPath;
+    const std::vector<DriveEvent> events = collect(*stream, base_, 1);
+    QCOMPARE(events.size(), size_t(1));
+    QCOMPARE(events[0].kind(), DriveEvent::renamed);
+    QCOMPARE(events[0].candidate().volumeURL, newPath);
+    QCOMPARE(events[0].candidate().name, QStringLiteral("NEWNAME"));
+    QCOMPARE(deliveredOn, QCoreApplication::instance()->thread());
+}
+
+void TestDriveWatcher::realTeslaCamVolumeIsListedFirst()
+{
+    if (!canMount_)
+        QSKIP("Needs root to mount a tmpfs below /media.");
+    QVERIFY(!mountTmpfs(QStringLiteral("aaa-plain")).isEmpty());
+    QVERIFY(!mountTmpfs(QStringLiteral("BBB-plain")).isEmpty());
+    const QString car = mountTmpfs(QStringLiteral("zzz-car"));
+    QVERIFY(!car.isEmpty());
+    QVERIFY(QDir().mkpath(car + QStringLiteral("/TeslaCam")));
+    const QString fileOnly = mountTmpfs(QStringLiteral("yyy-file"));
+    QFile stray(fileOnly + QStringLiteral("/TeslaCam"));
+    QVERIFY(stray.open(QIODevice::WriteOnly));
+    stray.close();
+
+    QStringList ours;
+    for (const VolumeCandidate &c : DriveWatcher::mountedTeslaCamVolumes())
+        if (c.volumeURL.startsWith(base_))
+            ours << c.name + (c.hasTeslaCamFolder ? QStringLiteral("+") : QString());
+    QCOMPARE(ours, (QStringList{"zzz-car+", "BBB-plain", "aaa-plain", "yyy-file"}));
+}
+
+void TestDriveWatcher::realExfatLabelAndRelabel()
+{
+    if (!canMount_)
+        QSKIP("Needs root to mount below /media.");
+    const QString mkfs = QStandardPaths::findExecutable(QStringLiteral("mkfs.exfat"));
+    const QString fuse = QStandardPaths::findExecutable(QStringLiteral("mount.exfat-fuse"));
+    if (mkfs.isEmpty() || fuse.isEmpty() || !QFile::exists(QStringLiteral("/dev/fuse")))
+        QSKIP("Needs exfatprogs, exfat-fuse and /dev/fuse.");
+    const QString image = scratch_.filePath(QStringLiteral("drive.img"));
+    {
+        QFile img(image);
+        QVERIFY(img.open(QIODevice::WriteOnly));
+        QVERIFY(img.resize(16 * 1024 * 1024));
+    }
+    QProcess losetup;
+    losetup.start(QStringLiteral("losetup"), {QStringLiteral("-f"), QStringLiteral("--show"), image});
+    QVERIFY(losetup.waitForFinished(10000));
+    const QString loop = QString::fromUtf8(losetup.readAllStandardOutput()).trimmed();
+    if (losetup.exitCode() != 0 || loop.isEmpty())
+        QSKIP("No loop device available.");
+    loopDevices_ << loop;
+    QCOMPARE(run(mkfs, {QStringLiteral("-L"), QStringLiteral("TESLADRIVE"), loop}), 0);
+
+    DriveWatcher watcher;
+    const auto stream = watcher.events();
+    const QString path = base_ + QStringLiteral("/sdb1");
+    QDir().mkpath(path);
+    QCOMPARE(run(fuse, {loop, path}), 0);
+    mounted_ << path;
+    std::vector<DriveEvent> events = collect(*stream, base_, 1);
+    QCOMPARE(events.size(), size_t(1));
+    QCOMPARE(events[0].kind(), DriveEvent::mounted);
+    QCOMPARE(events[0].candidate().name, QStringLiteral("TESLADRIVE"));
+    QVERIFY(events[0].candidate().capacityBytes.has_value());
+
+    // Relabelled and mounted again under its new name, as a desktop does:
+    // the same device at a new place is a rename, and the old mount point
+    // is never reported.
+    QCOMPARE(::umount2(QFile::encodeName(path).constData(), 0), 0);
+    mounted_.removeAll(path);
+    QCOMPARE(run(QStringLiteral("exfatlabel"), {loop, QStringLiteral("DASHCAM")}), 0);
+    const QString renamedPath = base_ + QStringLiteral("/DASHCAM");
+    QDir().mkpath(renamedPath);
+    QCOMPARE(run(fuse, {loop, renamedPath}), 0);
+    mounted_ << renamedPath;
+    events = collect(*stream, base_, 1);
+    QCOMPARE(events.size(), size_t(1));
+    QCOMPARE(events[0].kind(), DriveEvent::renamed);
+    QCOMPARE(events[0].candidate().name, QStringLiteral("DASHCAM"));
+    QCOMPARE(events[0].candidate().volumeURL, renamedPath);
+
+    // Pulled for good: the unmount comes once the drive had its chance to
+    // return, and nothing follows it.
+    QElapsedTimer clock;
+    clock.start();
+    QCOMPARE(::umount2(QFile::encodeName(renamedPath).constData(), 0), 0);
+    mounted_.removeAll(renamedPath);
+    events = collect(*stream, base_, 1);
+    QCOMPARE(events.size(), size_t(1));
+    QCOMPARE(events[0], DriveEvent::makeUnmounted(renamedPath));
+    QVERIFY(clock.elapsed() >= DriveWatcher::renameWindow.count() - 100);
+
+    // Another drive arriving while one is held back: both, in order.
+    QCOMPARE(run(fuse, {loop, renamedPath}), 0);
+    mounted_ << renamedPath;
+    QCOMPARE(collect(*stream, base_, 1).size(), size_t(1));
+    QCOMPARE(::umount2(QFile::encodeName(renamedPath).constData(), 0), 0);
+    mounted_.removeAll(renamedPath);
+    const QString other = mountTmpfs(QStringLiteral("OTHER"));
+    QVERIFY(!other.isEmpty());
+    events = collect(*stream, base_, 2);
+    QCOMPARE(events.size(), size_t(2));
+    QCOMPARE(events[0], DriveEvent::makeUnmounted(renamedPath));
+    QCOMPARE(events[1].kind(), DriveEvent::mounted);
+    QCOMPARE(events[1].candidate().volumeURL, other);
+}
+
+void TestDriveWatcher::finishedStreamStopsWatching()
+{
+    if (!canMount_)
+        QSKIP("Needs root to mount a tmpfs below /media.");
+    DriveWatcher watcher;
+    const auto stream = watcher.events();
+    QFuture<std::optional<DriveEvent>> waiting = stream->next();
+    stream->finish();
+    QVERIFY(waiting.isFinished());
+    QVERIFY(!waiting.result().has_value());
+    QVERIFY(!mountTmpfs(QStringLiteral("AFTER")).isEmpty());
+    QTest::qWait(300);
+    QCOMPARE(stream->pendingCount(), 0);
+    // The same finished stream keeps being answered.
+    QCOMPARE(watcher.events(), stream);
+    QVERIFY(!stream->next().result().has_value());
+}
+
+QTEST_GUILESS_MAIN(TestDriveWatcher)
+#include "tst_drivewatcher.moc"

@@ -1,0 +1,346 @@
+// The live engine over real drives, real clips, a real Vault and the real
+// stores in a temporary home: each operation reaches the layer below, off
+// the caller's thread where it should, with errors of their own type.
+
+#include "drive/TeslaCamParser.h"
+#include "engine/BookmarkStore.h"
+#include "engine/LiveEngine.h"
+#include "engine/ScanCache.h"
+#include "engine/TriageStore.h"
+#include "export/ExportError.h"
+#include "support/IsolatedHome.h"
+#include "support/TeslaCamFixture.h"
+#include "support/TestClips.h"
+#include "support/TreeSnapshot.h"
+#include "vault/VaultBrowser.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QThread>
+
+#include <atomic>
+#include <mutex>
+
+namespace {
+
+QByteArray readAll(const QString &path)
+{
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+const TeslaEvent *findEvent(const std::vector<TeslaEvent> &events, const QString &id)
+{
+    for (const auto &e : events)
+        if (e.id() == id)
+            return &e;
+    return nullptr;
+}
+
+} // namespace
+
+class TestLiveEngine : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+
+    void scanRunsOffTheCallersThread();
+    void scanErrorsKeepTheirType();
+    void cacheGoesToTheSharedStoreFile();
+    void probeFillsClipHealth();
+    void bookmarksGoToTheSettings();
+    void keepBrowseAndRemove();
+    void archiveStopsWhenItsFutureIsCancelled();
+    void archiveStopTokenStillDeliversTheReport();
+    void vaultIndexIsReadForgivingly();
+    void triageStateIsAlwaysNewButMarksAreKept();
+    void exportWritesOneMovie();
+    void exportErrorsKeepTheirType();
+    void driveEventsIsOneStream();
+    void theDriveIsNeverWritten();
+
+private:
+    QString drivePath() const { return dir_.filePath(QStringLiteral("drive/TeslaCam")); }
+    QTemporaryDir dir_;
+    TreeSnapshot before_;
+    LiveEngine live_;
+    EngineFacade &engine_ = live_;
+};
+
+void TestLiveEngine::initTestCase()
+{
+    if (!TestClips::ffmpegAvailable())
+        QSKIP("Needs the ffmpeg tool to make real clips.");
+    const QString clip = TestClips::clip();
+    TeslaCamFixture drive(drivePath());
+    const QString sentry = drive.addEvent(
+        QStringLiteral("SentryClips"), QStringLiteral("2024-06-01_15-05-30"),
+        TeslaCamFixture::eventJson(QStringLiteral("2024-06-01T15:05:30"), QStringLiteral("sentry_aware_object_detection"),
+                                   QStringLiteral("Taylor"), QStringLiteral("30.6075"), QStringLiteral("-97.4812")));
+    drive.addClip(sentry, QStringLiteral("2024-06-01_15-04-30"), QStringLiteral("front"), 0, clip);
+    drive.addClip(sentry, QStringLiteral("2024-06-01_15-04-30"), QStringLiteral("back"), 0, clip);
+    drive.addClip(sentry, QStringLiteral("2024-06-01_15-04-30"), QStringLiteral("left_repeater"), 0);
+    const QString saved = drive.addEvent(QStringLiteral("SavedClips"), QStringLiteral("2024-06-02_09-00-00"),
+                                         TeslaCamFixture::eventJson(QStringLiteral("2024-06-02T09:00:00"),
+                                                                    QStringLiteral("user_interaction_honk")));
+    drive.addClip(saved, QStringLiteral("2024-06-02_08-59-00"), QStringLiteral("front"), 0, clip);
+    // Enough events that a run can be stopped part of the way.
+    for (int i = 0; i < 8; ++i) {
+        const QString name = QStringLiteral("2024-06-03_10-%1-00").arg(i, 2, 10, QLatin1Char('0'));
+        const QString folder = drive.addEvent(QStringLiteral("SentryClips"), name,
+                                              TeslaCamFixture::eventJson(name, QStringLiteral("sentry_aware_accel_0.5")),
+                                              false);
+        drive.addClip(folder, QStringLiteral("2024-06-03_10-%1-00").arg(i, 2, 10, QLatin1Char('0')),
+                      QStringLiteral("front"), 2 * 1024 * 1024);
+    }
+    before_ = TreeSnapshot::take(drivePath());
+}
+
+void TestLiveEngine::scanRunsOffTheCallersThread()
+{
+    std::atomic<QThread *> reportedOn{nullptr};
+    std::atomic<int> reports{0};
+    // Waiting at once must not pull the work onto this thread.
+    const DriveScan scan = engine_
+                               .scanDrive(drivePath(),
+                                          [&](const ScanProgress &) {
+                                              reportedOn = QThread::currentThread();
+                                              ++reports;
+                                          })
+                               .result();
+    QVERIFY(reports.load() > 0);
+    QVERIFY(reportedOn.load() != QThread::currentThread());
+    QCOMPARE(scan.teslaCamURL, drivePath());
+    QCOMPARE(scan.events.size(), size_t(10));
+    QVERIFY(findEvent(scan.events, QStringLiteral("sentry|2024-06-01_15-05-30")));
+}
+
+void TestLiveEngine::scanErrorsKeepTheirType()
+{
+    QFuture<DriveScan> missing = engine_.scanDrive(dir_.filePath(QStringLiteral("nowhere/TeslaCam")), {});
+    try {
+        missing.waitForFinished();
+        QFAIL("A missing folder must fail the scan.");
+    } catch (const TeslaCamParser::ParserError &e) {
+        QCOMPARE(e.errorCase(), TeslaCamParser::ParserError::rootNotFound);
+    }
+    QFuture<std::vector<TeslaEvent>> vault = engine_.scanVault(dir_.filePath(QStringLiteral("no-vault")));
+    QVERIFY_THROWS_EXCEPTION(VaultBrowser::VaultBrowserError, vault.waitForFinished());
+}
+
+void TestLiveEngine::cacheGoesToTheSharedStoreFile()
+{
+    const DriveScan scan = engine_.scanDrive(drivePath(), {}).result();
+    const QString key = ScanCache::key(QStringLiteral("TESLA"), std::nullopt);
+    QVERIFY(!engine_.cachedScan(key).result().has_value());
+    engine_.storeScanInCache(scan, key).waitForFinished();
+    QVERIFY(engine_.cachedScan(key).result() == scan);
+    const QString file = qEnvironmentVariable("XDG_DATA_HOME") + QStringLiteral("/Keelhold/scan-cache.json");
+    QVERIFY(readAll(file).contains("TESLA|-1"));
+    // What the engine wrote, the next reader of that file finds.
+    QVERIFY(ScanCache(file).cached(key).result() == scan);
+}
+
+void TestLiveEngine::probeFillsClipHealth()
+{
+    const DriveScan scan = engine_.scanDrive(drivePath(), {}).result();
+    const std::vector<TeslaEvent> probed = engine_.probeAll(scan.events).result();
+    const TeslaEvent *sentry = findEvent(probed, QStringLiteral("sentry|2024-06-01_15-05-30"));
+    QVERIFY(sentry);
+    QCOMPARE(sentry->clips.size(), size_t(3));
+    for (const ClipRef &clip : sentry->clips) {
+        if (clip.camera == Camera::leftRepeater) {
+            QCOMPARE(clip.health, ClipHealth::zeroByte);
+        } else {
+            QCOMPARE(clip.health, ClipHealth::ok);
+            QVERIFY(clip.duration.has_value());
+        }
+    }
+}
+
+void TestLiveEngine::bookmarksGoToTheSettings()
+{
+    QCOMPARE(std::get<BookmarkError>(engine_.resolveBookmark(BookmarkKey::vaultFolder)).errorCase(),
+             BookmarkError::notFound);
+    engine_.saveBookmark(drivePath(), BookmarkKey::teslaDrive);
+    QCOMPARE(std::get<QString>(engine_.resolveBookmark(BookmarkKey::teslaDrive)), drivePath());
+    QCOMPARE(std::get<QString>(BookmarkStore::resolve(BookmarkKey::teslaDrive)), drivePath());
+    QVERIFY_THROWS_EXCEPTION(BookmarkStore::StoreError,
+                             engine_.saveBookmark(dir_.filePath(QStringLiteral("gone")), BookmarkKey::vaultFolder));
+}
+
+void TestLiveEngine::keepBrowseAndRemove()
+{
+    const QString vault = dir_.filePath(QStringLiteral("vault-keep"));
+    const DriveScan scan = engine_.scanDrive(drivePath(), {}).result();
+    const TeslaEvent *sentry = findEvent(scan.events, QStringLiteral("sentry|2024-06-01_15-05-30"));
+    const TeslaEvent *saved = findEvent(scan.events, QStringLiteral("saved|2024-06-02_09-00-00"));
+    QVERIFY(sentry && saved);
+
+    const ArchivePlan plan = engine_.planArchive({*sentry, *saved}, engine_.loadVaultIndex(vault));
+    QCOMPARE(plan.newItems().size(), size_t(2));
+    std::atomic<int> reports{0};
+    std::atomic<QThread *> reportedOn{nullptr};
+    const ArchiveReport report = engine_
+                                     .runArchive(plan, vault,
+                                                 [&](const ArchiveProgress &) {
+                                                     ++reports;
+                                                     reportedOn = QThread::currentThread();
+                                                 })
+                                     .result();
+    QVERIFY(!report.cancelled);
+    QCOMPARE(report.archivedEvents.size(), size_t(2));
+    QVERIFY(reports.load() > 0);
+    QVERIFY(reportedOn.load() != QThread::currentThread());
+
+    const VaultIndex index = engine_.loadVaultIndex(vault);
+    QCOMPARE(index.events, report.archivedEvents);
+    // Planned again, both are known.
+    QVERIFY(engine_.planArchive({*sentry, *saved}, index).newItems().empty());
+
+    const std::vector<TeslaEvent> kept = engine_.scanVault(vault).result();
+    QCOMPARE(kept.size(), size_t(2));
+    QVERIFY(engine_.removeFromVault(QStringLiteral("saved|2024-06-02_09-00-00"), vault));
+    QVERIFY(!engine_.removeFromVault(QStringLiteral("saved|never-kept"), vault));
+    QCOMPARE(engine_.scanVault(vault).result().size(), size_t(1));
+    QCOMPARE(engine_.loadVaultIndex(vault).events.size(), size_t(1));
+}
+
+void TestLiveEngine::archiveStopsWhenItsFutureIsCancelled()
+{
+    const QString vault = dir_.filePath(QStringLiteral("vault-cancel"));
+    const DriveScan scan = engine_.scanDrive(drivePath(), {}).result();
+    const ArchivePlan plan = engine_.planArchive(scan.events, VaultIndex());
+    const size_t total = plan.newItems().size();
+    QCOMPARE(total, size_t(10));
+
+    // The run is cancelled from its own first report, so the stop can only
+    // come through the future.
+    std::mutex mutex;
+    std::optional<QFuture<ArchiveReport>> handle;
+    std::atomic<bool> cancelled{false};
+    QFuture<ArchiveReport> future = engine_.runArchive(plan, vault, [&](const ArchiveProgress &) {
+        std::lock_guard lock(mutex);
+        if (handle && !cancelled.exchange(true))
+            handle->cancel();
+    });
+    {
+        std::lock_guard lock(mutex);
+        handle = future;
+    }
+    QTRY_VERIFY_WITH_TIMEOUT(future.isFinished(), 20000);
+    QVERIFY(future.isCanceled());
+    QVERIFY(cancelled.load());
+    // The work really stopped: the run merged what it had done and no more.
+    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(vault + QStringLiteral("/manifest.json")), 5000);
+    QVERIFY(engine_.loadVaultIndex(vault).events.size() < total);
+}
+
+void TestLiveEngine::archiveStopTokenStillDeliversTheReport()
+{
+    const QString vault = dir_.filePath(QStringLiteral("vault-stop"));
+    const DriveScan scan = engine_.scanDrive(drivePath(), {}).result();
+    const ArchivePlan plan = engine_.planArchive(scan.events, VaultIndex());
+    std::stop_source stop;
+    const ArchiveReport report =
+        engine_.runArchive(plan, vault, [&](const ArchiveProgress &) { stop.request_stop(); }, stop.get_token())
+            .result();
+    QVERIFY(report.cancelled);
+    QVERIFY(report.archivedEvents.size() < plan.newItems().size());
+    QCOMPARE(engine_.loadVaultIndex(vault).events, report.archivedEvents);
+}
+
+void TestLiveEngine::vaultIndexIsReadForgivingly()
+{
+    const QString vault = dir_.filePath(QStringLiteral("vault-bad"));
+    QVERIFY(QDir().mkpath(vault));
+    const QString manifest = vault + QStringLiteral("/manifest.json");
+    {
+        QFile f(manifest);
+        QVERIFY(f.open(QIODevice::WriteOnly));
+        f.write("{\"events\": [ this is not json");
+    }
+    const QByteArray before = readAll(manifest);
+    QVERIFY(engine_.loadVaultIndex(vault).events.empty());
+    QCOMPARE(readAll(manifest), before);
+
+    const QString missing = dir_.filePath(QStringLiteral("no-such-vault"));
+    QVERIFY(engine_.loadVaultIndex(missing).events.empty());
+    QVERIFY(!QFileInfo::exists(missing));
+}
+
+void TestLiveEngine::triageStateIsAlwaysNewButMarksAreKept()
+{
+    const QString id = QStringLiteral("sentry|2024-06-01_15-05-30");
+    engine_.setTriageState(TriageState::kept, id);
+    engine_.setTriageState(TriageState::dismissed, QStringLiteral("saved|2024-06-02_09-00-00"));
+    // The true marks come only from loading them all.
+    QTRY_COMPARE(engine_.loadAllTriageStates().result().value(id), TriageState::kept);
+    QCOMPARE(engine_.triageState(id), TriageState::new_);
+    const QString file = qEnvironmentVariable("XDG_DATA_HOME") + QStringLiteral("/Keelhold/triage.json");
+    QTRY_VERIFY(readAll(file).contains("\"saved|2024-06-02_09-00-00\":\"dismissed\""));
+    QCOMPARE(TriageStore(file).state(id).result(), TriageState::kept);
+}
+
+void TestLiveEngine::exportWritesOneMovie()
+{
+    const DriveScan scan = engine_.scanDrive(drivePath(), {}).result();
+    const TeslaEvent *sentry = findEvent(scan.events, QStringLiteral("sentry|2024-06-01_15-05-30"));
+    QVERIFY(sentry);
+    const QString out = dir_.filePath(QStringLiteral("front.mp4"));
+    std::mutex mutex;
+    std::vector<double> fractions;
+    engine_
+        .exportFootage(Camera::front, *sentry, std::nullopt, out,
+                       [&](double f) {
+                           std::lock_guard lock(mutex);
+                           fractions.push_back(f);
+                       })
+        .waitForFinished();
+    QVERIFY(QFileInfo(out).size() > 1000);
+    QVERIFY(!fractions.empty());
+    QCOMPARE(fractions.back(), 1.0);
+}
+
+void TestLiveEngine::exportErrorsKeepTheirType()
+{
+    const DriveScan scan = engine_.scanDrive(drivePath(), {}).result();
+    const TeslaEvent *sentry = findEvent(scan.events, QStringLiteral("sentry|2024-06-01_15-05-30"));
+    QVERIFY(sentry);
+    QFuture<void> future =
+        engine_.exportFootage(Camera::leftPillar, *sentry, std::nullopt, dir_.filePath(QStringLiteral("x.mp4")), {});
+    try {
+        future.waitForFinished();
+        QFAIL("A camera without clips must fail the export.");
+    } catch (const Exporter::ExportError &e) {
+        QCOMPARE(e.errorCase(), Exporter::ExportError::noClipsForCamera);
+    }
+}
+
+void TestLiveEngine::driveEventsIsOneStream()
+{
+    const auto stream = engine_.driveEvents();
+    QVERIFY(stream);
+    QCOMPARE(engine_.driveEvents(), stream);
+    QVERIFY(!stream->isFinished());
+    // Whatever the machine has mounted, the list is sorted with TeslaCam
+    // volumes first.
+    const std::vector<VolumeCandidate> volumes = engine_.mountedTeslaCamVolumes();
+    for (size_t i = 1; i < volumes.size(); ++i)
+        QVERIFY(volumes[i - 1].hasTeslaCamFolder >= volumes[i].hasTeslaCamFolder);
+}
+
+void TestLiveEngine::theDriveIsNeverWritten()
+{
+    const QString differences = before_.differences(TreeSnapshot::take(drivePath()));
+    QVERIFY2(differences.isEmpty(), qPrintable(differences));
+}
+
+KEELHOLD_ISOLATED_TEST_MAIN(TestLiveEngine)
+
+#include "tst_liveengine.moc"

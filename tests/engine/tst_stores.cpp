@@ -1,0 +1,419 @@
+// The persistent stores against real files and real settings, in a
+// temporary home folder: what one instance or process writes, the next reads.
+
+#include "support/IsolatedHome.h"
+#include "support/TeslaCamFixture.h"
+#include "drive/TeslaCamParser.h"
+#include "engine/BookmarkStore.h"
+#include "engine/ScanCache.h"
+#include "engine/TriageStore.h"
+#include "model/JsonCoding.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QSettings>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QtConcurrent/QtConcurrentRun>
+
+namespace {
+
+QByteArray readAll(const QString &path)
+{
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+QJsonObject readObject(const QString &path)
+{
+    return QJsonDocument::fromJson(readAll(path)).object();
+}
+
+void writeAll(const QString &path, const QByteArray &bytes)
+{
+    QFile f(path);
+    QVERIFY(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    f.write(bytes);
+}
+
+// A real scan of a small drive, so the cache carries every kind of value.
+DriveScan sampleScan(const QString &folder)
+{
+    TeslaCamFixture drive(folder + QStringLiteral("/TeslaCam"));
+    const QString ev = drive.addEvent(QStringLiteral("SentryClips"), QStringLiteral("2024-06-01_15-05-30"),
+                                      TeslaCamFixture::eventJson(QStringLiteral("2024-06-01T15:05:30"),
+                                                                 QStringLiteral("sentry_aware_accel_0.61"),
+                                                                 QStringLiteral("Taylor"), QStringLiteral("30.6075"),
+                                                                 QStringLiteral("-97.4812")));
+    drive.addClip(ev, QStringLiteral("2024-06-01_15-04-30"), QStringLiteral("front"), 4096);
+    drive.addClip(ev, QStringLiteral("2024-06-01_15-04-30"), QStringLiteral("back"), 0);
+    drive.addClip(ev, QStringLiteral("2024-06-01_15-04-30"), QStringLiteral("cabin"), 10);
+    drive.addRecentClip(QStringLiteral("2024-06-02_08-00-00"), QStringLiteral("front"), 2048);
+    DriveScan scan = TeslaCamParser::scan(drive.root());
+    scan.scannedAt = Date(739000000.123456789); // a fraction that must survive the file
+    return scan;
+}
+
+} // namespace
+
+class TestStores : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void defaultFilesLiveInTheKeelholdDataFolder();
+
+    void scanCacheKey();
+    void scanCacheRoundTripAcrossInstances();
+    void scanCacheFirstLookupLeavesNoFile();
+    void scanCacheCorruptFileReadsEmptyAndIsReplaced();
+    void scanCacheStoreTwiceKeepsTheLater();
+    void scanCacheInvalidateRewritesEvenForUnknownKey();
+    void scanCacheLoadsOnlyOnce();
+    void scanCacheWriteFailureIsSilent();
+
+    void triageUnknownIdIsNewAndWritesNothing();
+    void triageSurvivesIntoAnotherProcess();
+    void triageUnknownValueEmptiesTheStore();
+    void triageAllStatesIsASnapshot();
+    void triageCallsFromManyThreadsAreSerialised();
+
+    void bookmarkNeverSavedIsNotFound();
+    void bookmarkRoundTripAndClear();
+    void bookmarkKeysAreIndependent();
+    void bookmarkGoneFolderIsStale();
+    void bookmarkGarbageInSettingsIsStale();
+    void bookmarkSaveOfMissingFolderStoresNothing();
+
+private:
+    QTemporaryDir dir_;
+};
+
+void TestStores::defaultFilesLiveInTheKeelholdDataFolder()
+{
+    const QString expectedFolder = qEnvironmentVariable("XDG_DATA_HOME") + QStringLiteral("/Keelhold");
+    QCOMPARE(ScanCache::shared().filePath(), expectedFolder + QStringLiteral("/scan-cache.json"));
+    QCOMPARE(TriageStore::shared().filePath(), expectedFolder + QStringLiteral("/triage.json"));
+    // The folder is made while the path is worked out.
+    QVERIFY(QFileInfo(expectedFolder).isDir());
+}
+
+void TestStores::scanCacheKey()
+{
+    QCOMPARE(ScanCache::key(QStringLiteral("UNTITLED"), qint64(128000000000)), QStringLiteral("UNTITLED|128000000000"));
+    QCOMPARE(ScanCache::key(QStringLiteral("UNTITLED"), std::nullopt), QStringLiteral("UNTITLED|-1"));
+    QCOMPARE(ScanCache::key(QString(), qint64(0)), QStringLiteral("|0"));
+}
+
+void TestStores::scanCacheRoundTripAcrossInstances()
+{
+    const QString file = dir_.filePath(QStringLiteral("roundtrip.json"));
+    const DriveScan scan = sampleScan(dir_.filePath(QStringLiteral("roundtrip-drive")));
+    QVERIFY(!scan.events.empty());
+    QVERIFY(!scan.issues.empty());
+    {
+        ScanCache first(file);
+        first.store(scan, QStringLiteral("UNTITLED|-1")).waitForFinished();
+    }
+    // Compact JSON, keyed by the drive key, dates as plain numbers.
+    const QByteArray bytes = readAll(file);
+    QVERIFY(!bytes.contains('\n'));
+    const QJsonObject root = readObject(file);
+    QCOMPARE(root.keys(), QStringList{QStringLiteral("UNTITLED|-1")});
+    QCOMPARE(root.value(QStringLiteral("UNTITLED|-1")).toObject().value(QStringLiteral("scannedAt")).toDouble(),
+             739000000.123456789);
+
+    ScanCache second(file);
+    const std::optional<DriveScan> back = second.cached(QStringLiteral("UNTITLED|-1")).result();
+    QVERIFY(back.has_value());
+    QVERIFY(*back == scan);
+    QVERIFY(!second.cached(QStringLiteral("OTHER|-1")).result().has_value());
+}
+
+void TestStores::scanCacheFirstLookupLeavesNoFile()
+{
+    const QString file = dir_.filePath(QStringLiteral("never.json"));
+    ScanCache cache(file);
+    QVERIFY(!cache.cached(QStringLiteral("X|1")).result().has_value());
+    QVERIFY(!QFile::exists(file));
+}
+
+void TestStores::scanCacheCorruptFileReadsEmptyAndIsReplaced()
+{
+    const QString file = dir_.filePath(QStringLiteral("corrupt.json"));
+    const DriveScan scan = sampleScan(dir_.filePath(QStringLiteral("corrupt-drive")));
+    // Valid JSON, but one entry isn't a scan: the whole file counts as damaged.
+    writeAll(file, R"({"A|1":{"volumeName":"A"},"B|2":42})");
+    {
+        ScanCache cache(file);
+        QVERIFY(!cache.cached(QStringLiteral("A|1")).result().has_value());
+        cache.store(scan, QStringLiteral("C|3")).waitForFinished();
+    }
+    QCOMPARE(readObject(file).keys(), QStringList{QStringLiteral("C|3")});
+
+    writeAll(file, "\x00\xff not json at all");
+    ScanCache again(file);
+    QVERIFY(!again.cached(QStringLiteral("C|3")).result().has_value());
+    again.store(scan, QStringLiteral("D|4")).waitForFinished();
+    QCOMPARE(readObject(file).keys(), QStringList{QStringLiteral("D|4")});
+}
+
+void TestStores::scanCacheStoreTwiceKeepsTheLater()
+{
+    const QString file = dir_.filePath(QStringLiteral("twice.json"));
+    DriveScan first = sampleScan(dir_.filePath(QStringLiteral("twice-drive")));
+    DriveScan second = first;
+    second.volumeName = QStringLiteral("LATER");
+    second.events.clear();
+    {
+        ScanCache cache(file);
+        cache.store(first, QStringLiteral("K|1"));
+        cache.store(second, QStringLiteral("K|1")).waitForFinished();
+    }
+    QCOMPARE(readObject(file).keys(), QStringList{QStringLiteral("K|1")});
+    ScanCache reader(file);
+    QCOMPARE(reader.cached(QStringLiteral("K|1")).result()->volumeName, QStringLiteral("LATER"));
+}
+
+void TestStores::scanCacheInvalidateRewritesEvenForUnknownKey()
+{
+    const QString file = dir_.filePath(QStringLiteral("invalidate.json"));
+    const DriveScan scan = sampleScan(dir_.filePath(QStringLiteral("invalidate-drive")));
+    ScanCache cache(file);
+    cache.store(scan, QStringLiteral("A|1"));
+    cache.store(scan, QStringLiteral("B|2")).waitForFinished();
+    QVERIFY(QFile::remove(file));
+    cache.invalidate(QStringLiteral("nobody|0")).waitForFinished();
+    QCOMPARE(readObject(file).keys(), (QStringList{QStringLiteral("A|1"), QStringLiteral("B|2")}));
+    cache.invalidate(QStringLiteral("A|1")).waitForFinished();
+    QCOMPARE(readObject(file).keys(), QStringList{QStringLiteral("B|2")});
+    QVERIFY(!cache.cached(QStringLiteral("A|1")).result().has_value());
+}
+
+void TestStores::scanCacheLoadsOnlyOnce()
+{
+    const QString file = dir_.filePath(QStringLiteral("once.json"));
+    const DriveScan scan = sampleScan(dir_.filePath(QStringLiteral("once-drive")));
+    {
+        ScanCache writer(file);
+        writer.store(scan, QStringLiteral("A|1")).waitForFinished();
+    }
+    ScanCache cache(file);
+    QVERIFY(cache.cached(QStringLiteral("A|1")).result().has_value());
+    // Another writer changes the file behind this instance's back: this
+    // process keeps what it loaded.
+    writeAll(file, "{}");
+    QVERIFY(cache.cached(QStringLiteral("A|1")).result().has_value());
+}
+
+void TestStores::scanCacheWriteFailureIsSilent()
+{
+    // A file path whose folder is a plain file can never be written.
+    const QString blocker = dir_.filePath(QStringLiteral("blocker"));
+    writeAll(blocker, "x");
+    const QString file = blocker + QStringLiteral("/scan-cache.json");
+    const DriveScan scan = sampleScan(dir_.filePath(QStringLiteral("silent-drive")));
+    ScanCache cache(file);
+    cache.store(scan, QStringLiteral("A|1")).waitForFinished();
+    cache.invalidate(QStringLiteral("B|1")).waitForFinished();
+    // The change stays in memory for the life of the process.
+    QVERIFY(cache.cached(QStringLiteral("A|1")).result().has_value());
+    QVERIFY(!QFile::exists(file));
+}
+
+void TestStores::triageUnknownIdIsNewAndWritesNothing()
+{
+    const QString file = dir_.filePath(QStringLiteral("triage-none.json"));
+    TriageStore store(file);
+    QCOMPARE(store.state(QStringLiteral("sentry|2026-07-21_02-11-05")).result(), TriageState::new_);
+    QVERIFY(store.allStates().result().isEmpty());
+    QVERIFY(!QFile::exists(file));
+}
+
+void TestStores::triageSurvivesIntoAnotherProcess()
+{
+    // The child process uses the shared store on the default file of this
+    // same isolated home, as the application does.
+    const QString file = TriageStore::shared().filePath();
+    QFile::remove(file);
+    QProcess child;
+    child.start(QCoreApplication::applicationFilePath(),
+                {QStringLiteral("--set-triage"), QStringLiteral("saved|2024-06-01_15-05-30"), QStringLiteral("kept"),
+                 QStringLiteral("sentry|2024-06-02_08-00-00"), QStringLiteral("new")});
+    QVERIFY(child.waitForFinished(30000));
+    QCOMPARE(child.exitCode(), 0);
+
+    const QJsonObject root = readObject(file);
+    QCOMPARE(root.value(QStringLiteral("saved|2024-06-01_15-05-30")).toString(), QStringLiteral("kept"));
+    // `new` is stored like any other state, not dropped.
+    QCOMPARE(root.value(QStringLiteral("sentry|2024-06-02_08-00-00")).toString(), QStringLiteral("new"));
+
+    TriageStore reader(file);
+    const TriageStore::States states = reader.allStates().result();
+    QCOMPARE(states.size(), 2);
+    QCOMPARE(states.value(QStringLiteral("saved|2024-06-01_15-05-30")), TriageState::kept);
+    QCOMPARE(reader.state(QStringLiteral("saved|2024-06-01_15-05-30")).result(), TriageState::kept);
+}
+
+void TestStores::triageUnknownValueEmptiesTheStore()
+{
+    const QString file = dir_.filePath(QStringLiteral("triage-bad.json"));
+    writeAll(file, R"({"sentry|a":"kept","sentry|b":"archived","saved|c":"dismissed"})");
+    {
+        TriageStore store(file);
+        QCOMPARE(store.state(QStringLiteral("sentry|a")).result(), TriageState::new_);
+        QVERIFY(store.allStates().result().isEmpty());
+        store.set(TriageState::reviewed, QStringLiteral("recent|d")).waitForFinished();
+    }
+    // The old marks are gone for good: only what this process set remains.
+    const QJsonObject root = readObject(file);
+    QCOMPARE(root.keys(), QStringList{QStringLiteral("recent|d")});
+    QCOMPARE(root.value(QStringLiteral("recent|d")).toString(), QStringLiteral("reviewed"));
+
+    // A value of the wrong type spoils the file just the same.
+    writeAll(file, R"({"sentry|a":"kept","sentry|b":1})");
+    TriageStore other(file);
+    QVERIFY(other.allStates().result().isEmpty());
+}
+
+void TestStores::triageAllStatesIsASnapshot()
+{
+    TriageStore store(dir_.filePath(QStringLiteral("triage-snap.json")));
+    store.set(TriageState::kept, QStringLiteral("a"));
+    const TriageStore::States before = store.allStates().result();
+    store.set(TriageState::dismissed, QStringLiteral("a"));
+    store.set(TriageState::reviewed, QStringLiteral("b"));
+    QCOMPARE(before.size(), 1);
+    QCOMPARE(before.value(QStringLiteral("a")), TriageState::kept);
+    QCOMPARE(store.allStates().result().value(QStringLiteral("a")), TriageState::dismissed);
+}
+
+void TestStores::triageCallsFromManyThreadsAreSerialised()
+{
+    const QString file = dir_.filePath(QStringLiteral("triage-many.json"));
+    TriageStore store(file);
+    QList<QFuture<void>> writers;
+    for (int t = 0; t < 8; ++t) {
+        writers.append(QtConcurrent::run([&store, t] {
+            for (int i = 0; i < 50; ++i)
+                store.set(TriageState::allCases()[size_t(i % 4)], QStringLiteral("e%1-%2").arg(t).arg(i));
+        }));
+    }
+    for (auto &w : writers)
+        w.waitForFinished();
+    QCOMPARE(store.allStates().result().size(), 400);
+    QCOMPARE(readObject(file).size(), 400);
+    QCOMPARE(TriageStore(file).state(QStringLiteral("e3-6")).result(), TriageState::kept);
+}
+
+void TestStores::bookmarkNeverSavedIsNotFound()
+{
+    BookmarkStore::clear(BookmarkKey::teslaDrive);
+    const BookmarkResult result = BookmarkStore::resolve(BookmarkKey::teslaDrive);
+    QVERIFY(std::holds_alternative<BookmarkError>(result));
+    QCOMPARE(std::get<BookmarkError>(result).errorCase(), BookmarkError::notFound);
+}
+
+void TestStores::bookmarkRoundTripAndClear()
+{
+    const QString folder = dir_.filePath(QStringLiteral("drive/TeslaCam"));
+    QVERIFY(QDir().mkpath(folder));
+    BookmarkStore::save(folder + QStringLiteral("/"), BookmarkKey::teslaDrive);
+    const BookmarkResult result = BookmarkStore::resolve(BookmarkKey::teslaDrive);
+    QVERIFY(std::holds_alternative<QString>(result));
+    QCOMPARE(std::get<QString>(result), folder);
+
+    // Stored as the plain path under the fixed key in the user's settings file.
+    const QString settingsFile =
+        qEnvironmentVariable("XDG_CONFIG_HOME") + QStringLiteral("/Keelhold/Keelhold.conf");
+    QSettings onDisk(settingsFile, QSettings::IniFormat);
+    QCOMPARE(onDisk.value(QStringLiteral("com.quennet.keelhold.bookmark.teslaDrive")).toString(), folder);
+
+    BookmarkStore::clear(BookmarkKey::teslaDrive);
+    QCOMPARE(std::get<BookmarkError>(BookmarkStore::resolve(BookmarkKey::teslaDrive)).errorCase(),
+             BookmarkError::notFound);
+}
+
+void TestStores::bookmarkKeysAreIndependent()
+{
+    const QString drive = dir_.filePath(QStringLiteral("k-drive"));
+    const QString vault = dir_.filePath(QStringLiteral("k-vault"));
+    QVERIFY(QDir().mkpath(drive));
+    QVERIFY(QDir().mkpath(vault));
+    BookmarkStore::save(drive, BookmarkKey::teslaDrive);
+    BookmarkStore::save(vault, BookmarkKey::vaultFolder);
+    QCOMPARE(std::get<QString>(BookmarkStore::resolve(BookmarkKey::teslaDrive)), drive);
+    QCOMPARE(std::get<QString>(BookmarkStore::resolve(BookmarkKey::vaultFolder)), vault);
+    BookmarkStore::clear(BookmarkKey::vaultFolder);
+    QCOMPARE(std::get<QString>(BookmarkStore::resolve(BookmarkKey::teslaDrive)), drive);
+    QCOMPARE(std::get<BookmarkError>(BookmarkStore::resolve(BookmarkKey::vaultFolder)).errorCase(),
+             BookmarkError::notFound);
+}
+
+void TestStores::bookmarkGoneFolderIsStale()
+{
+    const QString folder = dir_.filePath(QStringLiteral("gone"));
+    QVERIFY(QDir().mkpath(folder));
+    BookmarkStore::save(folder, BookmarkKey::vaultFolder);
+    QVERIFY(QDir(folder).removeRecursively());
+    QCOMPARE(std::get<BookmarkError>(BookmarkStore::resolve(BookmarkKey::vaultFolder)).errorCase(),
+             BookmarkError::stale);
+    // A file where the folder was is no better. Stale is not repaired.
+    writeAll(folder, "not a folder");
+    QCOMPARE(std::get<BookmarkError>(BookmarkStore::resolve(BookmarkKey::vaultFolder)).errorCase(),
+             BookmarkError::stale);
+    QSettings settings(QStringLiteral("Keelhold"), QStringLiteral("Keelhold"));
+    QCOMPARE(settings.value(BookmarkStore::settingsKey(BookmarkKey::vaultFolder)).toString(), folder);
+}
+
+void TestStores::bookmarkGarbageInSettingsIsStale()
+{
+    const QString key = BookmarkStore::settingsKey(BookmarkKey::teslaDrive);
+    const QList<QVariant> garbage{QVariant(QByteArray("\x01\x02bookmark-bytes")), QVariant(42),
+                                  QVariant(QStringLiteral("relative/path")), QVariant(QStringList{"/", "/tmp"})};
+    for (const QVariant &value : garbage) {
+        {
+            QSettings settings(QStringLiteral("Keelhold"), QStringLiteral("Keelhold"));
+            settings.setValue(key, value);
+        }
+        const BookmarkResult result = BookmarkStore::resolve(BookmarkKey::teslaDrive);
+        QVERIFY2(std::holds_alternative<BookmarkError>(result), qPrintable(value.toString()));
+        QCOMPARE(std::get<BookmarkError>(result).errorCase(), BookmarkError::stale);
+    }
+}
+
+void TestStores::bookmarkSaveOfMissingFolderStoresNothing()
+{
+    BookmarkStore::clear(BookmarkKey::vaultFolder);
+    QVERIFY_THROWS_EXCEPTION(BookmarkStore::StoreError,
+                             BookmarkStore::save(dir_.filePath(QStringLiteral("nowhere")), BookmarkKey::vaultFolder));
+    QCOMPARE(std::get<BookmarkError>(BookmarkStore::resolve(BookmarkKey::vaultFolder)).errorCase(),
+             BookmarkError::notFound);
+}
+
+int main(int argc, char **argv)
+{
+    // The child of triageSurvivesIntoAnotherProcess: same home as the parent.
+    if (argc >= 2 && qstrcmp(argv[1], "--set-triage") == 0) {
+        QCoreApplication app(argc, argv);
+        for (int i = 2; i + 1 < argc; i += 2) {
+            const auto state = TriageState::fromRawValue(QString::fromUtf8(argv[i + 1]));
+            if (!state)
+                return 3;
+            TriageStore::shared().set(*state, QString::fromUtf8(argv[i])).waitForFinished();
+        }
+        return 0;
+    }
+    IsolatedHome::setUp();
+    QCoreApplication app(argc, argv);
+    TestStores tc;
+    QTEST_SET_MAIN_SOURCE_PATH
+    return QTest::qExec(&tc, argc, argv);
+}
+
+#include "tst_stores.moc"

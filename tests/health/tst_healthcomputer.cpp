@@ -1,0 +1,301 @@
+// The health report: counts, fullness thresholds, texts and their order.
+
+#include "health/HealthComputer.h"
+#include "vault/ArchivedEvent.h"
+
+#include <QJsonArray>
+#include <QTest>
+
+namespace {
+
+ClipRef clip(ClipHealth health, Camera camera = Camera::front)
+{
+    ClipRef c;
+    c.url = QStringLiteral("/drive/TeslaCam/SentryClips/x/clip-%1.mp4").arg(int(camera.value()));
+    c.camera = camera;
+    c.fileSize = 30000000;
+    c.health = health;
+    return c;
+}
+
+TeslaEvent teslaEvent(const QString &folder, std::vector<ClipRef> clips = {}, EventKind kind = EventKind::sentry)
+{
+    TeslaEvent e;
+    e.kind = kind;
+    e.folderName = folder;
+    e.folderURL = QStringLiteral("/drive/TeslaCam/SentryClips/") + folder;
+    e.timestamp = Date(700000000.0);
+    e.clips = std::move(clips);
+    return e;
+}
+
+DriveScan scan(std::vector<TeslaEvent> events = {}, VolumeFormat format = VolumeFormat::exFAT,
+               std::optional<qint64> capacity = std::nullopt, std::optional<qint64> free = std::nullopt)
+{
+    DriveScan s;
+    s.teslaCamURL = QStringLiteral("/drive/TeslaCam");
+    s.volumeName = QStringLiteral("TESLA");
+    s.format = format;
+    s.capacityBytes = capacity;
+    s.freeBytes = free;
+    s.events = std::move(events);
+    return s;
+}
+
+// A drive with the given used fraction, 10,000 bytes large.
+DriveScan filled(qint64 usedOutOfTenThousand)
+{
+    return scan({}, VolumeFormat::exFAT, qint64(10000), qint64(10000 - usedOutOfTenThousand));
+}
+
+QStringList ids(const HealthReport &r)
+{
+    QStringList out;
+    for (const auto &rec : r.recommendations)
+        out << rec.id;
+    return out;
+}
+
+const Recommendation *find(const HealthReport &r, const QString &id)
+{
+    for (const auto &rec : r.recommendations)
+        if (rec.id == id)
+            return &rec;
+    return nullptr;
+}
+
+ArchivedEvent record(const TeslaEvent &e, std::vector<ArchivedFile> files)
+{
+    ArchivedEvent a;
+    a.eventID = e.id();
+    a.kind = e.kind;
+    a.folderName = e.folderName;
+    a.timestamp = e.timestamp;
+    a.files = std::move(files);
+    a.archivedAt = Date(710000000.0);
+    a.sourceVolume = QStringLiteral("ANOTHER NAME");
+    a.relativePath = QStringLiteral("2023/sentry/") + e.folderName;
+    return a;
+}
+
+} // namespace
+
+class TestHealthComputer : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void emptyDriveIsAllGood();
+    void fullnessNeedsBothFiguresAndACapacity();
+    void fullnessThresholdsUseTheUnroundedFraction_data();
+    void fullnessThresholdsUseTheUnroundedFraction();
+    void backupTitleCountsEvents();
+    void damagedClipTitlesAndSeverities_data();
+    void damagedClipTitlesAndSeverities();
+    void probedAndCorruptCounts();
+    void encryptedReplacesAllGood();
+    void warningsComeFirstAndTableOrderHolds();
+    void vaultMatchesOnlyRecordsWithoutFiles();
+    void formatVerdicts();
+    void reportAsJson();
+};
+
+void TestHealthComputer::emptyDriveIsAllGood()
+{
+    const HealthReport r = HealthComputer::compute(scan(), VaultIndex());
+    QVERIFY(!r.fullnessFraction.has_value());
+    QCOMPARE(r.corruptClipCount, 0);
+    QCOMPARE(r.probedClipCount, 0);
+    QCOMPARE(r.unarchivedEventCount, 0);
+    QVERIFY(!r.encryptedClipsPresent);
+    QCOMPARE(ids(r), QStringList{QStringLiteral("all-good")});
+    const Recommendation &good = r.recommendations.front();
+    QCOMPARE(good.severity, Recommendation::Severity::info);
+    QCOMPARE(good.title, QStringLiteral("Everything looks good"));
+    QCOMPARE(good.detail, QStringLiteral("Your drive is healthy and up to date. Nothing needs your attention right now."));
+    QCOMPARE(good.symbolName, QStringLiteral("checkmark.seal"));
+}
+
+void TestHealthComputer::fullnessNeedsBothFiguresAndACapacity()
+{
+    QVERIFY(!HealthComputer::compute(scan({}, VolumeFormat::exFAT, qint64(0), qint64(0)), {}).fullnessFraction);
+    QVERIFY(!HealthComputer::compute(scan({}, VolumeFormat::exFAT, qint64(100), std::nullopt), {}).fullnessFraction);
+    QVERIFY(!HealthComputer::compute(scan({}, VolumeFormat::exFAT, std::nullopt, qint64(5)), {}).fullnessFraction);
+    const HealthReport r = HealthComputer::compute(scan({}, VolumeFormat::exFAT, qint64(400), qint64(100)), {});
+    QCOMPARE(r.fullnessFraction, std::optional<double>(0.75));
+}
+
+void TestHealthComputer::fullnessThresholdsUseTheUnroundedFraction_data()
+{
+    QTest::addColumn<qint64>("used");
+    QTest::addColumn<QString>("id");
+    QTest::addColumn<QString>("title");
+    QTest::newRow("0.8504 is full") << qint64(8504) << "drive-full" << "85% full \u2014 normal for a Tesla drive";
+    QTest::newRow("0.85 is filling") << qint64(8500) << "drive-filling" << "Drive is 85% full";
+    QTest::newRow("0.6001 is filling") << qint64(6001) << "drive-filling" << "Drive is 60% full";
+    QTest::newRow("0.6 says nothing") << qint64(6000) << "all-good" << "Everything looks good";
+    QTest::newRow("0.9950 rounds up") << qint64(9950) << "drive-full" << "100% full \u2014 normal for a Tesla drive";
+    QTest::newRow("0.6250 rounds half up") << qint64(6250) << "drive-filling" << "Drive is 63% full";
+    QTest::newRow("0.8449 rounds down") << qint64(8449) << "drive-filling" << "Drive is 84% full";
+}
+
+void TestHealthComputer::fullnessThresholdsUseTheUnroundedFraction()
+{
+    QFETCH(qint64, used);
+    QFETCH(QString, id);
+    QFETCH(QString, title);
+    const HealthReport r = HealthComputer::compute(filled(used), {});
+    QCOMPARE(ids(r), QStringList{id});
+    QCOMPARE(r.recommendations.front().title, title);
+    if (id == QLatin1String("drive-full")) {
+        QCOMPARE(r.recommendations.front().severity, Recommendation::Severity::info);
+        QCOMPARE(r.recommendations.front().symbolName, QStringLiteral("info.circle"));
+    } else if (id == QLatin1String("drive-filling")) {
+        QCOMPARE(r.recommendations.front().severity, Recommendation::Severity::advice);
+        QCOMPARE(r.recommendations.front().symbolName, QStringLiteral("chart.pie"));
+    }
+}
+
+void TestHealthComputer::backupTitleCountsEvents()
+{
+    HealthReport one = HealthComputer::compute(scan({teslaEvent("2024-01-01_10-00-00")}), {});
+    QCOMPARE(one.unarchivedEventCount, 1);
+    QCOMPARE(ids(one), QStringList{QStringLiteral("backup-new")});
+    QCOMPARE(one.recommendations.front().title, QStringLiteral("Back up 1 new event"));
+    QCOMPARE(one.recommendations.front().severity, Recommendation::Severity::warning);
+    QCOMPARE(one.recommendations.front().symbolName, QStringLiteral("tray.and.arrow.down"));
+    HealthReport two =
+        HealthComputer::compute(scan({teslaEvent("2024-01-01_10-00-00"), teslaEvent("2024-01-02_10-00-00")}), {});
+    QCOMPARE(two.recommendations.front().title, QStringLiteral("Back up 2 new events"));
+}
+
+void TestHealthComputer::damagedClipTitlesAndSeverities_data()
+{
+    QTest::addColumn<int>("damaged");
+    QTest::addColumn<QString>("id");
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<int>("severity");
+    QTest::newRow("1") << 1 << "some-corrupt" << "1 clip didn't record properly" << int(Recommendation::Severity::info);
+    QTest::newRow("4") << 4 << "some-corrupt" << "4 clips didn't record properly" << int(Recommendation::Severity::info);
+    QTest::newRow("5") << 5 << "many-corrupt" << "5 clips didn't record properly"
+                       << int(Recommendation::Severity::warning);
+}
+
+void TestHealthComputer::damagedClipTitlesAndSeverities()
+{
+    QFETCH(int, damaged);
+    QFETCH(QString, id);
+    QFETCH(QString, title);
+    QFETCH(int, severity);
+    std::vector<ClipRef> clips;
+    for (int i = 0; i < damaged; ++i)
+        clips.push_back(clip(ClipHealth::truncated));
+    // Events recorded in the Vault without files, so only the clips speak.
+    const TeslaEvent e = teslaEvent("2024-01-01_10-00-00", clips);
+    VaultIndex vault;
+    vault.events.push_back(record(e, {}));
+    const HealthReport r = HealthComputer::compute(scan({e}), vault);
+    QCOMPARE(r.unarchivedEventCount, 0);
+    QCOMPARE(ids(r), QStringList{id});
+    QCOMPARE(r.recommendations.front().title, title);
+    QCOMPARE(int(r.recommendations.front().severity), severity);
+}
+
+void TestHealthComputer::probedAndCorruptCounts()
+{
+    const TeslaEvent e = teslaEvent("2024-01-01_10-00-00",
+                               {clip(ClipHealth::unknown), clip(ClipHealth::ok), clip(ClipHealth::encrypted),
+                                clip(ClipHealth::timedOut), clip(ClipHealth::zeroByte), clip(ClipHealth::unreadable)});
+    const HealthReport r = HealthComputer::compute(scan({e, teslaEvent("2024-01-02_10-00-00", {clip(ClipHealth::truncated)})}), {});
+    // Encrypted counts as probed but not as damage; timed out counts as both.
+    QCOMPARE(r.probedClipCount, 6);
+    QCOMPARE(r.corruptClipCount, 4);
+    // Unprobed clips are neither.
+    const HealthReport before = HealthComputer::compute(scan({teslaEvent("x", {clip(ClipHealth::unknown)})}), {});
+    QCOMPARE(before.probedClipCount, 0);
+    QCOMPARE(before.corruptClipCount, 0);
+}
+
+void TestHealthComputer::encryptedReplacesAllGood()
+{
+    DriveScan s = scan();
+    s.encryptedClipsPresent = true;
+    const HealthReport r = HealthComputer::compute(s, {});
+    QVERIFY(r.encryptedClipsPresent);
+    QCOMPARE(ids(r), QStringList{QStringLiteral("encrypted")});
+    QCOMPARE(r.recommendations.front().title, QStringLiteral("Some clips are encrypted by your car"));
+    QCOMPARE(r.recommendations.front().symbolName, QStringLiteral("lock.doc"));
+    // And "all-good" does not come when anything else was said.
+    QVERIFY(!find(HealthComputer::compute(filled(7000), {}), QStringLiteral("all-good")));
+}
+
+void TestHealthComputer::warningsComeFirstAndTableOrderHolds()
+{
+    std::vector<ClipRef> clips(6, clip(ClipHealth::unreadable));
+    DriveScan s = scan({teslaEvent("2024-01-01_10-00-00", clips)}, VolumeFormat::exFAT, qint64(1000), qint64(300));
+    s.encryptedClipsPresent = true;
+    const HealthReport typical = HealthComputer::compute(s, {});
+    QCOMPARE(ids(typical), (QStringList{"backup-new", "many-corrupt", "drive-filling", "encrypted"}));
+
+    s.freeBytes = 100; // 90 % full: an info item, after the warnings, before "encrypted"
+    s.events.front().clips = {clip(ClipHealth::zeroByte)};
+    const HealthReport r = HealthComputer::compute(s, {});
+    QCOMPARE(ids(r), (QStringList{"backup-new", "drive-full", "some-corrupt", "encrypted"}));
+}
+
+void TestHealthComputer::vaultMatchesOnlyRecordsWithoutFiles()
+{
+    const TeslaEvent a = teslaEvent("2024-01-01_10-00-00", {clip(ClipHealth::ok)});
+    const TeslaEvent b = teslaEvent("2024-01-02_10-00-00", {clip(ClipHealth::ok)}, EventKind::saved);
+    // Both really kept, with their files: they still count as unarchived.
+    VaultIndex vault;
+    vault.events.push_back(record(a, {ArchivedFile{QStringLiteral("clip-0.mp4"), 30000000, QString(64, '0')}}));
+    vault.events.push_back(record(b, {ArchivedFile{QStringLiteral("clip-0.mp4"), 30000000, QString(64, '0')}}));
+    QCOMPARE(HealthComputer::compute(scan({a, b}), vault).unarchivedEventCount, 2);
+    // A record without files matches, whatever its volume or dates say.
+    vault.events.push_back(record(b, {}));
+    const HealthReport r = HealthComputer::compute(scan({a, b}), vault);
+    QCOMPARE(r.unarchivedEventCount, 1);
+    QCOMPARE(r.recommendations.front().title, QStringLiteral("Back up 1 new event"));
+    // The kind takes part in the match.
+    TeslaEvent sameFolderOtherKind = b;
+    sameFolderOtherKind.kind = EventKind::sentry;
+    QCOMPARE(HealthComputer::compute(scan({sameFolderOtherKind}), vault).unarchivedEventCount, 1);
+}
+
+void TestHealthComputer::formatVerdicts()
+{
+    QCOMPARE(HealthComputer::compute(scan({}, VolumeFormat::exFAT), {}).formatVerdict,
+             QStringLiteral("Your drive is formatted exFAT \u2014 exactly what your Tesla expects. No action needed."));
+    QCOMPARE(HealthComputer::formatVerdict(VolumeFormat::fat32),
+             QStringLiteral("Your drive is formatted FAT32. Older Tesla software prefers exFAT for drives over 32 GB "
+                            "\u2014 if you ever see recording gaps, reformatting to exFAT (in a disk utility such as "
+                            "Disks, after backing up) can help."));
+    QCOMPARE(HealthComputer::formatVerdict(VolumeFormat::apfs),
+             QStringLiteral("This drive is formatted APFS, which your car cannot record to. Reformat it to exFAT "
+                            "before using it as a dashcam drive."));
+    // The computer's own file systems take the APFS sentence with their name.
+    QCOMPARE(HealthComputer::formatVerdict(VolumeFormat::makeOther(QStringLiteral("ext4"))),
+             QStringLiteral("This drive is formatted ext4, which your car cannot record to. Reformat it to exFAT "
+                            "before using it as a dashcam drive."));
+    QCOMPARE(HealthComputer::formatVerdict(VolumeFormat::makeOther(QStringLiteral("tmpfs"))),
+             QStringLiteral("This drive is formatted tmpfs, which your car cannot record to. Reformat it to exFAT "
+                            "before using it as a dashcam drive."));
+    QCOMPARE(HealthComputer::formatVerdict(VolumeFormat::makeOther(QStringLiteral("ntfs"))),
+             QStringLiteral("This drive is formatted ntfs, which your car may not fully support. exFAT is the "
+                            "safest choice."));
+    QCOMPARE(HealthComputer::formatVerdict(VolumeFormat::unknown),
+             QStringLiteral("We couldn't determine how this drive is formatted."));
+}
+
+void TestHealthComputer::reportAsJson()
+{
+    const QJsonObject json = HealthComputer::compute(filled(9000), {}).toJson();
+    QCOMPARE(json.value(QStringLiteral("fullnessFraction")).toDouble(), 0.9);
+    const QJsonObject first = json.value(QStringLiteral("recommendations")).toArray().first().toObject();
+    QCOMPARE(first.value(QStringLiteral("id")).toString(), QStringLiteral("drive-full"));
+    QCOMPARE(first.value(QStringLiteral("severity")).toString(), QStringLiteral("info"));
+    QVERIFY(!HealthComputer::compute(scan(), {}).toJson().contains(QStringLiteral("fullnessFraction")));
+}
+
+QTEST_GUILESS_MAIN(TestHealthComputer)
+#include "tst_healthcomputer.moc"

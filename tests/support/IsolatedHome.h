@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+
+// Points HOME and the XDG data, config and cache folders at a fresh
+// temporary folder, so that settings and per-user files a test writes are
+// its own. Call before QCoreApplication is created (Qt reads them early).
+namespace IsolatedHome {
+
+// Returns the new home folder; it is removed when the process exits.
+QString setUp();
+
+} // namespace IsolatedHome
+
+// A QtTest main that isolates the home folder first.
+#define KEELHOLD_ISOLATED_TEST_MAIN(TestObject)                                                                        \
+    int main(int argc, char **argv)                                                                                    \
+    {                                                                                                                  \
+        IsolatedHome::setUp();                                                                                         \
+        QCoreApplication app(argc, argv);                                                                              \
+        TestObject tc;                                                                                                 \
+        QTEST_SET_MAIN_SOURCE_PATH                                                                                     \
+        return QTest::qExec(&tc, argc, argv);                                                                          \
+    }
