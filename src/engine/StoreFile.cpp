@@ -1,8 +1,9 @@
 #include "engine/StoreFile.h"
 
+#include "model/AtomicFile.h"
+
 #include <QDir>
 #include <QFile>
-#include <QSaveFile>
 #include <QStandardPaths>
 
 namespace StoreFile {
@@ -38,14 +39,7 @@ std::optional<QByteArray> read(const QString &path)
 
 bool writeAtomically(const QString &path, const QByteArray &data)
 {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    if (file.write(data) != data.size()) {
-        file.cancelWriting();
-        return false;
-    }
-    return file.commit();
+    return AtomicFile::write(path, data);
 }
 
 } // namespace StoreFile

@@ -1,11 +1,12 @@
 #include "vault/VaultIndex.h"
 
+#include "model/AtomicFile.h"
+
 #include "model/JsonCoding.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <algorithm>
 
 QString VaultIndex::manifestPath(const QString &vaultURL)
@@ -56,19 +57,9 @@ void VaultIndex::save(const QString &vaultURL) const
     if (!QDir().mkpath(vaultURL))
         throw FileError(QStringLiteral("Couldn't create the folder %1.").arg(vaultURL));
     const QString path = manifestPath(vaultURL);
-    QSaveFile file(path);
-    // Unbuffered: Qt 6.4's QSaveFile commits a short file when the final
-    // flush of its buffer fails (a full disk), so every write is checked here.
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
-        throw FileError(QStringLiteral("Couldn't write %1: %2").arg(path, file.errorString()));
-    const QByteArray data = JsonCoding::toCompactJson(toJson());
-    if (file.write(data) != data.size() || file.error() != QFileDevice::NoError) {
-        const QString why = file.errorString();
-        file.cancelWriting();
+    QString why;
+    if (!AtomicFile::write(path, JsonCoding::toCompactJson(toJson()), &why))
         throw FileError(QStringLiteral("Couldn't write %1: %2").arg(path, why));
-    }
-    if (!file.commit())
-        throw FileError(QStringLiteral("Couldn't write %1: %2").arg(path, file.errorString()));
 }
 
 bool VaultIndex::removeEvent(const QString &eventID, const QString &vaultURL)
