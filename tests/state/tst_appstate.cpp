@@ -50,7 +50,12 @@ class TestAppState : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { setOnboardingDone(false); }
+    void init()
+    {
+        // Every case starts with no saved folders and the wizard up.
+        QSettings(QStringLiteral("Keelhold"), QStringLiteral("Keelhold")).clear();
+        setOnboardingDone(false);
+    }
 
     void initialiserTouchesNothingAndMergesStoredTriage()
     {
@@ -180,7 +185,7 @@ private Q_SLOTS:
         QCOMPARE(state.driveVolumeCandidates().size(), size_t(1));
         const QString root = QStringLiteral("/media/u/UNTITLED 1/TeslaCam");
         state.beginScan(root);
-        QTRY_VERIFY_WITH_TIMEOUT(!state.isScanning(), 10000);
+        QTRY_VERIFY_WITH_TIMEOUT(!state.isScanning() && !state.isRevalidatingScan(), 10000);
         auto stream = engine.driveEvents();
 
         // The text prefix counts "/media/u/UNTITLED" as the root's volume.
@@ -213,18 +218,18 @@ private Q_SLOTS:
 
         TeslaCamFixture empty(tmp.filePath(QStringLiteral("empty/TeslaCam")));
         state.beginScan(empty.root());
-        QTRY_VERIFY_WITH_TIMEOUT(!state.isScanning(), 10000);
+        QTRY_VERIFY_WITH_TIMEOUT(!state.isScanning() && !state.isRevalidatingScan(), 10000);
         QCOMPARE(state.currentFailure(), DriveFailure::emptyDrive());
 
         TeslaCamFixture encrypted(tmp.filePath(QStringLiteral("enc/TeslaCam")));
         TeslaCamFixture::makeDir(encrypted.path(QStringLiteral("EncryptedClips")));
         state.beginScan(encrypted.root());
-        QTRY_VERIFY_WITH_TIMEOUT(!state.isScanning(), 10000);
+        QTRY_VERIFY_WITH_TIMEOUT(!state.isScanning() && !state.isRevalidatingScan(), 10000);
         QCOMPARE(state.currentFailure(), DriveFailure::encryptedClipsOnly());
 
         const QString missing = tmp.filePath(QStringLiteral("nothing/TeslaCam"));
         state.beginScan(missing);
-        QTRY_VERIFY_WITH_TIMEOUT(!state.isScanning(), 10000);
+        QTRY_VERIFY_WITH_TIMEOUT(!state.isScanning() && !state.isRevalidatingScan(), 10000);
         QCOMPARE(state.currentFailure(), DriveFailure::noTeslaCamFolder(QStringLiteral("TeslaCam")));
         // The earlier scan stays under the failure.
         QVERIFY(state.driveScan());
@@ -275,7 +280,7 @@ private Q_SLOTS:
         state.beginScan(other.root());
         QVERIFY(!state.isSampleMode());
         QVERIFY(state.driveScan()); // the sample scan stays until the first result
-        QTRY_VERIFY_WITH_TIMEOUT(!state.isScanning(), 10000);
+        QTRY_VERIFY_WITH_TIMEOUT(!state.isScanning() && !state.isRevalidatingScan(), 10000);
         state.loadSampleFootage();
         QTRY_VERIFY_WITH_TIMEOUT(!state.isScanning(), 20000);
         state.exitSampleMode();
@@ -361,7 +366,7 @@ private Q_SLOTS:
         AppState state(engine);
         std::vector<TeslaEvent> none;
         state.beginScan(drive.root());
-        QTRY_VERIFY_WITH_TIMEOUT(state.driveScan() && !state.isScanning(), 10000);
+        QTRY_VERIFY_WITH_TIMEOUT(state.driveScan() && !state.isScanning() && !state.isRevalidatingScan(), 10000);
         const std::vector<TeslaEvent> events = state.driveScan()->events;
         QCOMPARE(events.size(), size_t(4));
 
