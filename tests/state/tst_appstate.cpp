@@ -367,8 +367,19 @@ private Q_SLOTS:
         std::vector<TeslaEvent> none;
         state.beginScan(drive.root());
         QTRY_VERIFY_WITH_TIMEOUT(state.driveScan() && !state.isScanning() && !state.isRevalidatingScan(), 10000);
-        const std::vector<TeslaEvent> events = state.driveScan()->events;
+        std::vector<TeslaEvent> events = state.driveScan()->events;
         QCOMPARE(events.size(), size_t(4));
+        // One more event whose only clip vanishes before the copy.
+        const QString doomed = drive.addEvent(
+            QStringLiteral("SentryClips"), QStringLiteral("2024-05-01_10-00-00"),
+            TeslaCamFixture::eventJson(QStringLiteral("2024-05-01T10:00:00"), QStringLiteral("sentry_aware_object_detection")));
+        const QString doomedClip =
+            drive.addClip(doomed, QStringLiteral("2024-05-01_09-59-00"), QStringLiteral("front"), 0, clip);
+        state.beginScan(drive.root());
+        QTRY_VERIFY_WITH_TIMEOUT(!state.isScanning() && !state.isRevalidatingScan(), 10000);
+        QCOMPARE(state.driveScan()->events.size(), size_t(5));
+        const TeslaEvent failing = state.driveScan()->events.back();
+        QCOMPARE(failing.folderName, QStringLiteral("2024-05-01_10-00-00"));
 
         // No Vault: the failure asks for one.
         state.keep({events[0]});
@@ -398,6 +409,19 @@ private Q_SLOTS:
         QCOMPARE(state.triageState(events[1]), TriageState::kept);
         QTRY_COMPARE(state.vaultEvents().size(), size_t(2));
         QVERIFY(state.healthReport());
+
+        // A file that fails is listed on the sheet; the event is kept exactly
+        // when the run recorded it (the engine records it with what arrived).
+        QVERIFY(QFile::remove(doomedClip));
+        state.setShowArchiveReport(false);
+        state.keep({failing});
+        QTRY_VERIFY_WITH_TIMEOUT(state.showArchiveReport(), 20000);
+        QCOMPARE(state.lastArchiveReport()->failedFiles.size(), size_t(1));
+        QCOMPARE(state.lastArchiveReport()->failedFiles[0].path, doomedClip);
+        bool recorded = false;
+        for (const ArchivedEvent &a : state.lastArchiveReport()->archivedEvents)
+            recorded = recorded || a.eventID == failing.id();
+        QCOMPARE(state.triageState(failing) == TriageState::kept, recorded);
 
         // Cancelled at once: the sheet still opens, marked cancelled.
         state.setShowArchiveReport(false);
