@@ -1,5 +1,9 @@
 #include "cli/CliOutput.h"
 
+#include "model/JsonCoding.h"
+
+#include <QCommandLineParser>
+
 #include <cstdio>
 #include <unistd.h>
 
@@ -47,6 +51,24 @@ void endStatus()
         std::fputc('\n', stderr);
         statusOpen = false;
     }
+}
+
+std::optional<int> parseArguments(QCommandLineParser &parser, const QStringList &arguments)
+{
+    if (!parser.parse(arguments)) {
+        err(parser.errorText());
+        return usageExit;
+    }
+    if (parser.isSet(QStringLiteral("help"))) {
+        out(parser.helpText().toUtf8());
+        return 0;
+    }
+    return std::nullopt;
+}
+
+void printJson(const QJsonObject &object, bool pretty)
+{
+    out(pretty ? JsonCoding::toPrettyJson(object) : JsonCoding::toCompactJson(object) + '\n');
 }
 
 } // namespace CliOutput

@@ -2,6 +2,11 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
+#include <optional>
+
+class QCommandLineParser;
+class QJsonObject;
 
 // Shared output helpers of the command-line tool.
 namespace CliOutput {
@@ -11,6 +16,11 @@ void err(const QString &line);
 void status(const QString &line);
 void endStatus();
 bool stderrIsTerminal();
+// Parses a subcommand's arguments. Answers the exit code when the command
+// is done already (a usage error, or --help printed), nothing otherwise.
+std::optional<int> parseArguments(QCommandLineParser &parser, const QStringList &arguments);
+// One JSON document on stdout, compact on one line or indented.
+void printJson(const QJsonObject &object, bool pretty);
 // Exit code for failures the user can act on.
 inline constexpr int failureExit = 2;
 inline constexpr int usageExit = 64;

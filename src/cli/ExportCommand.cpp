@@ -121,14 +121,8 @@ int run(const QStringList &arguments)
     const QCommandLineOption toOption(QStringLiteral("to"), QStringLiteral("End, in seconds of the joined footage."),
                                      QStringLiteral("seconds"));
     parser.addOptions({eventOption, cameraOption, outputOption, fromOption, toOption});
-    if (!parser.parse(arguments)) {
-        CliOutput::err(parser.errorText());
-        return CliOutput::usageExit;
-    }
-    if (parser.isSet(QStringLiteral("help"))) {
-        CliOutput::out(parser.helpText().toUtf8());
-        return 0;
-    }
+    if (const auto done = CliOutput::parseArguments(parser, arguments))
+        return *done;
     const QStringList positional = parser.positionalArguments();
     if (positional.size() != 1 || !parser.isSet(eventOption) || !parser.isSet(cameraOption)
         || !parser.isSet(outputOption)) {

@@ -34,14 +34,8 @@ int run(const QStringList &arguments)
     parser.addOption(vault);
     parser.addOption(probe);
     parser.addOption(pretty);
-    if (!parser.parse(arguments)) {
-        CliOutput::err(parser.errorText());
-        return CliOutput::usageExit;
-    }
-    if (parser.isSet(QStringLiteral("help"))) {
-        CliOutput::out(parser.helpText().toUtf8());
-        return 0;
-    }
+    if (const auto done = CliOutput::parseArguments(parser, arguments))
+        return *done;
     const QStringList positional = parser.positionalArguments();
     if (positional.size() != 1) {
         CliOutput::err(QStringLiteral("Usage: keelhold-cli health <TeslaCam folder> [--vault DIR] [--probe] [--pretty]"));
@@ -80,7 +74,7 @@ int run(const QStringList &arguments)
         }
         CliOutput::endStatus();
         const QJsonObject json = HealthComputer::compute(scan, index).toJson();
-        CliOutput::out(parser.isSet(pretty) ? JsonCoding::toPrettyJson(json) : JsonCoding::toCompactJson(json) + '\n');
+        CliOutput::printJson(json, parser.isSet(pretty));
         return 0;
     } catch (const TeslaCamParser::ParserError &e) {
         CliOutput::err(e.errorCase() == TeslaCamParser::ParserError::rootNotFound

@@ -84,14 +84,8 @@ int run(const QStringList &arguments)
                                            QStringLiteral("SECONDS"));
     const QCommandLineOption pretty(QStringLiteral("pretty"), QStringLiteral("Indent the JSON for reading."));
     parser.addOptions({vaultOption, eventOption, timeoutOption, pretty});
-    if (!parser.parse(arguments)) {
-        CliOutput::err(parser.errorText());
-        return CliOutput::usageExit;
-    }
-    if (parser.isSet(QStringLiteral("help"))) {
-        CliOutput::out(parser.helpText().toUtf8());
-        return 0;
-    }
+    if (const auto done = CliOutput::parseArguments(parser, arguments))
+        return *done;
     const QStringList positional = parser.positionalArguments();
     if (positional.size() != 1 || !parser.isSet(vaultOption)) {
         CliOutput::err(QStringLiteral("Usage: keelhold-cli keep <TeslaCam folder> --vault DIR [--event ID]..."));
@@ -200,7 +194,7 @@ int run(const QStringList &arguments)
     CliOutput::endStatus();
 
     const QJsonObject json = report.toJson();
-    CliOutput::out(parser.isSet(pretty) ? JsonCoding::toPrettyJson(json) : JsonCoding::toCompactJson(json) + '\n');
+    CliOutput::printJson(json, parser.isSet(pretty));
     if (report.cancelled)
         return 130;
     return report.failedFiles.empty() ? 0 : 1;

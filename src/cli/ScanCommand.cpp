@@ -30,14 +30,8 @@ int run(const QStringList &arguments)
                                            QStringLiteral("Seconds each clip may take to answer (default 10)."),
                                            QStringLiteral("seconds"));
     parser.addOption(timeoutOption);
-    if (!parser.parse(arguments)) {
-        CliOutput::err(parser.errorText());
-        return CliOutput::usageExit;
-    }
-    if (parser.isSet(QStringLiteral("help"))) {
-        CliOutput::out(parser.helpText().toUtf8());
-        return 0;
-    }
+    if (const auto done = CliOutput::parseArguments(parser, arguments))
+        return *done;
     const QStringList positional = parser.positionalArguments();
     if (positional.size() != 1) {
         CliOutput::err(QStringLiteral("Usage: keelhold-cli scan <TeslaCam folder> [--pretty] [--probe [--timeout SECONDS]]"));
@@ -84,7 +78,7 @@ int run(const QStringList &arguments)
         }
         CliOutput::endStatus();
         const QJsonObject json = result.toJson();
-        CliOutput::out(parser.isSet(pretty) ? JsonCoding::toPrettyJson(json) : JsonCoding::toCompactJson(json) + '\n');
+        CliOutput::printJson(json, parser.isSet(pretty));
         return 0;
     } catch (const TeslaCamParser::ParserError &e) {
         CliOutput::err(e.errorCase() == TeslaCamParser::ParserError::rootNotFound

@@ -107,14 +107,8 @@ int run(const QStringList &arguments)
     parser.addPositionalArgument(QStringLiteral("folder"), QStringLiteral("The Vault folder."));
     const QCommandLineOption pretty(QStringLiteral("pretty"), QStringLiteral("Indent the JSON for reading."));
     parser.addOption(pretty);
-    if (!parser.parse(arguments)) {
-        CliOutput::err(parser.errorText());
-        return CliOutput::usageExit;
-    }
-    if (parser.isSet(QStringLiteral("help"))) {
-        CliOutput::out(parser.helpText().toUtf8());
-        return 0;
-    }
+    if (const auto done = CliOutput::parseArguments(parser, arguments))
+        return *done;
     const QStringList positional = parser.positionalArguments();
     const QString action = positional.value(0);
     if (action == QLatin1String("list") && positional.size() == 2)

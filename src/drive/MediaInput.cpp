@@ -17,16 +17,16 @@ namespace {
 constexpr int ioBufferSize = 256 * 1024;
 } // namespace
 
-std::unique_ptr<MediaInput> MediaInput::open(const QString &path, std::stop_token stop, Options options)
+std::unique_ptr<MediaInput> MediaInput::open(const QString &path, std::function<bool()> shouldStop, Options options)
 {
     // A FIFO or device named like a clip would block the open; a car's drive
     // holds only regular files anyway.
     if (options.regularFilesOnly && !ReadOnlyFs::stat(path).isRegularFile)
         return nullptr;
     std::unique_ptr<MediaInput> input(new MediaInput);
-    input->stop_ = stop;
+    input->shouldStop_ = std::move(shouldStop);
     input->fd_ = ReadOnlyFs::openRead(path);
-    if (input->fd_ < 0 || stop.stop_requested())
+    if (input->fd_ < 0 || input->stopRequested())
         return nullptr;
 
     auto *buffer = static_cast<unsigned char *>(av_malloc(ioBufferSize));
@@ -53,6 +53,11 @@ std::unique_ptr<MediaInput> MediaInput::open(const QString &path, std::stop_toke
     return input;
 }
 
+std::unique_ptr<MediaInput> MediaInput::open(const QString &path, std::stop_token stop)
+{
+    return open(path, stop, Options{});
+}
+
 MediaInput::~MediaInput()
 {
     if (format_)
@@ -74,7 +79,7 @@ int MediaInput::bestStream(int mediaType) const
 int MediaInput::readPacket(void *opaque, unsigned char *buffer, int size)
 {
     auto *self = static_cast<MediaInput *>(opaque);
-    if (self->stop_.stop_requested())
+    if (self->stopRequested())
         return AVERROR_EXIT;
     ssize_t n;
     do {
@@ -102,5 +107,5 @@ int64_t MediaInput::seek(void *opaque, int64_t offset, int whence)
 
 int MediaInput::interrupted(void *opaque)
 {
-    return static_cast<MediaInput *>(opaque)->stop_.stop_requested() ? 1 : 0;
+    return static_cast<MediaInput *>(opaque)->stopRequested() ? 1 : 0;
 }

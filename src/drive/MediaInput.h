@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <stop_token>
 
@@ -24,11 +25,14 @@ public:
     };
 
     // Null when the file can't be opened or isn't a movie FFmpeg can read.
-    static std::unique_ptr<MediaInput> open(const QString &path, std::stop_token stop, Options options);
-    static std::unique_ptr<MediaInput> open(const QString &path, std::stop_token stop)
+    // shouldStop is asked before every read and by libavformat's interrupt callback.
+    static std::unique_ptr<MediaInput> open(const QString &path, std::function<bool()> shouldStop, Options options);
+    static std::unique_ptr<MediaInput> open(const QString &path, std::stop_token stop, Options options)
     {
-        return open(path, stop, Options{});
+        return open(path, [stop] { return stop.stop_requested(); }, options);
     }
+    // A regular file of any movie format.
+    static std::unique_ptr<MediaInput> open(const QString &path, std::stop_token stop);
     ~MediaInput();
 
     MediaInput(const MediaInput &) = delete;
@@ -43,9 +47,10 @@ private:
     static int readPacket(void *opaque, unsigned char *buffer, int size);
     static int64_t seek(void *opaque, int64_t offset, int whence);
     static int interrupted(void *opaque);
+    bool stopRequested() const { return shouldStop_ && shouldStop_(); }
 
     int fd_ = -1;
-    std::stop_token stop_;
+    std::function<bool()> shouldStop_;
     AVIOContext *io_ = nullptr;
     AVFormatContext *format_ = nullptr;
 };

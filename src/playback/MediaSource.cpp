@@ -1,6 +1,6 @@
 #include "playback/MediaSource.h"
 
-#include "drive/ReadOnlyFs.h"
+#include "drive/MediaInput.h"
 
 extern "C" {
 #include <libavcodec/avcodec.h>
@@ -15,40 +15,20 @@ extern "C" {
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace {
-constexpr int ioBufferSize = 1 << 16;
-}
-
 MediaSource::MediaSource(const QString &path, std::function<bool()> shouldStop, bool decode, int decoderThreads)
-    : path_(path), shouldStop_(std::move(shouldStop))
+    : path_(path)
 {
     // Damaged clips are expected here and end as placeholders; FFmpeg's own
     // messages about them would only be noise on the terminal.
     static std::once_flag quiet;
     std::call_once(quiet, [] { av_log_set_level(AV_LOG_FATAL); });
-    fd_ = ReadOnlyFs::openRead(path);
-    if (fd_ < 0)
-        throw Error("The clip could not be opened.");
     try {
-        auto *buffer = static_cast<unsigned char *>(av_malloc(ioBufferSize));
-        io_ = avio_alloc_context(buffer, ioBufferSize, 0, this, &MediaSource::readPacket, nullptr,
-                                 &MediaSource::seekFile);
-        if (!io_) {
-            av_free(buffer);
-            throw Error("Out of memory.");
-        }
-        format_ = avformat_alloc_context();
-        if (!format_)
-            throw Error("Out of memory.");
-        format_->pb = io_;
-        format_->flags |= AVFMT_FLAG_CUSTOM_IO;
-        // Set before opening: the callback is consulted during open and probing.
-        format_->interrupt_callback.callback = &MediaSource::interrupt;
-        format_->interrupt_callback.opaque = this;
-        if (avformat_open_input(&format_, nullptr, nullptr, nullptr) < 0) {
-            format_ = nullptr; // freed by libavformat on failure
+        // Not refused up front when it isn't a regular file: a hanging open is
+        // the caller's watchdog's to bound.
+        input_ = MediaInput::open(path, std::move(shouldStop), {.regularFilesOnly = false, .mp4Only = false});
+        if (!input_)
             throw Error("The clip is not a readable movie.");
-        }
+        format_ = input_->context();
         if (avformat_find_stream_info(format_, nullptr) < 0)
             throw Error("The clip is not a readable movie.");
         const AVCodec *codec = nullptr;
@@ -101,49 +81,8 @@ void MediaSource::close()
     av_frame_free(&frame_);
     av_packet_free(&packet_);
     avcodec_free_context(&codec_);
-    if (format_)
-        avformat_close_input(&format_);
-    if (io_) {
-        av_freep(&io_->buffer);
-        avio_context_free(&io_);
-    }
-    if (fd_ >= 0) {
-        ::close(fd_);
-        fd_ = -1;
-    }
-}
-
-int MediaSource::interrupt(void *opaque)
-{
-    auto *self = static_cast<MediaSource *>(opaque);
-    return self->shouldStop_ && self->shouldStop_() ? 1 : 0;
-}
-
-int MediaSource::readPacket(void *opaque, uint8_t *buf, int size)
-{
-    auto *self = static_cast<MediaSource *>(opaque);
-    if (interrupt(self))
-        return AVERROR_EXIT;
-    for (;;) {
-        const ssize_t n = ::read(self->fd_, buf, size_t(size));
-        if (n > 0)
-            return int(n);
-        if (n == 0)
-            return AVERROR_EOF;
-        if (errno != EINTR)
-            return AVERROR(errno);
-    }
-}
-
-int64_t MediaSource::seekFile(void *opaque, int64_t offset, int whence)
-{
-    auto *self = static_cast<MediaSource *>(opaque);
-    if (whence & AVSEEK_SIZE) {
-        struct stat st;
-        return ::fstat(self->fd_, &st) == 0 ? int64_t(st.st_size) : AVERROR(errno);
-    }
-    const off_t r = ::lseek(self->fd_, offset, whence & ~AVSEEK_FORCE);
-    return r < 0 ? AVERROR(errno) : int64_t(r);
+    format_ = nullptr;
+    input_.reset();
 }
 
 bool MediaSource::seekKeyframe(double seconds)

@@ -10,7 +10,7 @@ struct AVFormatContext;
 struct AVCodecContext;
 struct AVFrame;
 struct AVPacket;
-struct AVIOContext;
+class MediaInput;
 
 // One clip file opened read-only through libavformat, with its video
 // decoder. Every blocking call answers shouldStop, so a watchdog or a closing
@@ -44,16 +44,11 @@ public:
     const AVFrame *nextFrame(double *time);
 
 private:
-    static int interrupt(void *opaque);
-    static int readPacket(void *opaque, uint8_t *buf, int size);
-    static int64_t seekFile(void *opaque, int64_t offset, int whence);
     void close();
 
     QString path_;
-    std::function<bool()> shouldStop_;
-    int fd_ = -1;
-    AVIOContext *io_ = nullptr;
-    AVFormatContext *format_ = nullptr;
+    std::unique_ptr<MediaInput> input_;
+    AVFormatContext *format_ = nullptr; // owned by input_
     AVCodecContext *codec_ = nullptr;
     AVPacket *packet_ = nullptr;
     AVFrame *frame_ = nullptr;

@@ -1,0 +1,421 @@
+#include "engine/LiveEngine.h"
+#include "engine/MockEngine.h"
+#include "state/AppState.h"
+#include "support/IsolatedHome.h"
+#include "support/TeslaCamFixture.h"
+#include "support/TestClips.h"
+
+#include <QDir>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+class FakeWindow final : public FocusWindow {
+public:
+    bool fullScreen = false;
+    int toggles = 0;
+    bool isFullScreen() const override { return fullScreen; }
+    void toggleFullScreen() override
+    {
+        ++toggles;
+        fullScreen = !fullScreen;
+    }
+    // The window's own button: it leaves full screen by itself.
+    void leaveFullScreenByItself()
+    {
+        fullScreen = false;
+        Q_EMIT willExitFullScreen();
+    }
+};
+
+void setOnboardingDone(bool done)
+{
+    QSettings(QStringLiteral("Keelhold"), QStringLiteral("Keelhold")).setValue(AppState::onboardingKey, done);
+}
+
+const TeslaEvent *eventWithReason(const DriveScan &scan, const QString &raw)
+{
+    for (const TeslaEvent &e : scan.events)
+        if (e.reasonRaw == raw)
+            return &e;
+    return nullptr;
+}
+
+} // namespace
+
+class TestAppState : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { setOnboardingDone(false); }
+
+    void initialiserTouchesNothingAndMergesStoredTriage()
+    {
+        MockEngine engine;
+        engine.setTriageState(TriageState::kept, QStringLiteral("sentry|a"));
+        engine.setTriageState(TriageState::reviewed, QStringLiteral("sentry|b"));
+        AppState state(engine);
+        QVERIFY(state.showOnboarding());
+        QVERIFY(!state.hasCompletedOnboarding());
+        QCOMPARE(state.selectedSection(), SidebarSection::drive);
+        QVERIFY(!state.driveRootURL());
+        // Set before the stored map arrives: it must win.
+        state.setTriage(QStringLiteral("dismissed"), QStringLiteral("sentry|a"));
+        QTRY_VERIFY(state.triageStates().contains(QStringLiteral("sentry|b")));
+        QCOMPARE(state.triageStates().value(QStringLiteral("sentry|a")), TriageState::dismissed);
+        QCOMPARE(state.triageStates().value(QStringLiteral("sentry|b")), TriageState::reviewed);
+    }
+
+    void focusMode()
+    {
+        MockEngine engine;
+        AppState state(engine);
+        FakeWindow window;
+        state.setFocusWindow(&window);
+
+        // Not full screen: exit leaves the window alone.
+        state.exitFocusMode(true);
+        QCOMPARE(window.toggles, 0);
+        state.toggleFocusMode();
+        QVERIFY(state.isFocusMode());
+        QCOMPARE(state.columnVisibility(), AppState::ColumnVisibility::detailOnly);
+        QVERIFY(window.fullScreen);
+
+        // Leaving full screen by the window's own means ends focus mode.
+        window.leaveFullScreenByItself();
+        QVERIFY(!state.isFocusMode());
+        QCOMPARE(state.columnVisibility(), AppState::ColumnVisibility::all);
+
+        // Focus on while windowed (toggle blindly sends it full screen) and
+        // exit without touching the window.
+        window.fullScreen = true;
+        state.toggleFocusMode(); // toggles to windowed
+        QVERIFY(state.isFocusMode());
+        QVERIFY(!window.fullScreen);
+        const int before = window.toggles;
+        state.exitFocusMode(true);
+        QCOMPARE(window.toggles, before);
+        QVERIFY(!state.isFocusMode());
+    }
+
+    void cachedScanThenSilentRevalidation()
+    {
+        MockEngine engine;
+        AppState state(engine);
+        const QString root = MockEngine::fixtureURL() + QStringLiteral("/TeslaCam");
+        QSignalSpy epoch(&state, &AppState::resourceAccessEpochChanged);
+        state.beginScan(root);
+        QVERIFY(state.isScanning());
+        QCOMPARE(state.scanProgress()->phase, AppState::gettingStartedPhase);
+        QTRY_VERIFY_WITH_TIMEOUT(state.driveScan() && !state.isScanning(), 10000);
+        QVERIFY(!state.isRevalidatingScan());
+        QVERIFY(state.driveIsConnected());
+        QVERIFY(!state.currentFailure());
+        QTRY_VERIFY_WITH_TIMEOUT(state.healthReport().has_value(), 10000);
+
+        // Second scan of the same root: the cache answers at once and the
+        // fresh scan behind it reports no progress.
+        state.beginScan(root);
+        QCOMPARE(epoch.count(), 2);
+        QTRY_VERIFY_WITH_TIMEOUT(state.isRevalidatingScan(), 5000);
+        QVERIFY(!state.isScanning());
+        QVERIFY(state.driveScan());
+        QSignalSpy progress(&state, &AppState::scanProgressChanged);
+        QTRY_VERIFY_WITH_TIMEOUT(!state.isRevalidatingScan(), 10000);
+        QCOMPARE(progress.count(), 0);
+        QCOMPARE(state.scanProgress()->phase, AppState::gettingStartedPhase);
+    }
+
+    void dismissAndFilters()
+    {
+        MockEngine engine;
+        AppState state(engine);
+        state.setFilterState(TriageState::dismissed);
+        QVERIFY(state.visibleInboxEvents().empty()); // no scan, whatever the filters
+        state.setFilterState(std::nullopt);
+        state.beginScan(MockEngine::fixtureURL() + QStringLiteral("/TeslaCam"));
+        QTRY_VERIFY_WITH_TIMEOUT(state.driveScan() && !state.isScanning(), 10000);
+        const std::vector<TeslaEvent> all = state.visibleInboxEvents();
+        QVERIFY(all.size() >= 2);
+        const TeslaEvent gone = all[1];
+        QSignalSpy visible(&state, &AppState::visibleInboxEventsChanged);
+        state.dismiss({gone});
+        QVERIFY(visible.count() >= 1);
+        QCOMPARE(state.triageState(gone), TriageState::dismissed);
+        auto ids = [&] {
+            QStringList out;
+            for (const TeslaEvent &e : state.visibleInboxEvents())
+                out << e.id();
+            return out;
+        };
+        QVERIFY(!ids().contains(gone.id()));
+        QCOMPARE(ids().size(), qsizetype(all.size() - 1));
+        state.setFilterState(TriageState::dismissed);
+        QCOMPARE(ids(), QStringList{gone.id()});
+        state.setFilterState(TriageState::kept);
+        QVERIFY(ids().isEmpty());
+        state.setFilterState(std::nullopt);
+        state.setFilterKind(all[0].kind);
+        for (const TeslaEvent &e : state.visibleInboxEvents())
+            QCOMPARE(e.kind, all[0].kind);
+
+        // Bulk: a ticked row hidden by a filter is not acted on, and all ticks go.
+        state.setFilterKind(std::nullopt);
+        const TeslaEvent a = all[0];
+        state.toggleBulkSelection(a.id());
+        state.toggleBulkSelection(gone.id()); // dismissed, so hidden
+        state.dismissBulkSelection();
+        QVERIFY(state.selectedEventIDsForBulk().isEmpty());
+        QCOMPARE(state.triageState(a), TriageState::dismissed);
+    }
+
+    void driveEventsFollowTheRoot()
+    {
+        MockEngine engine;
+        AppState state(engine);
+        state.rootViewAppeared();
+        QCOMPARE(state.driveVolumeCandidates().size(), size_t(1));
+        const QString root = QStringLiteral("/media/u/UNTITLED 1/TeslaCam");
+        state.beginScan(root);
+        QTRY_VERIFY_WITH_TIMEOUT(!state.isScanning(), 10000);
+        auto stream = engine.driveEvents();
+
+        // The text prefix counts "/media/u/UNTITLED" as the root's volume.
+        stream->send(DriveEvent::makeUnmounted(QStringLiteral("/media/u/UNTITLED")));
+        QTRY_VERIFY(state.currentFailure() && state.currentFailure()->kind() == DriveFailure::DriveDisconnected);
+        QVERIFY(!state.driveIsConnected());
+        QVERIFY(state.driveScan());
+
+        // Another drive only joins the list.
+        stream->send(DriveEvent::makeMounted(VolumeCandidate{QStringLiteral("/media/u/OTHER"), QStringLiteral("OTHER"), true, {}, {}}));
+        QTRY_COMPARE(state.driveVolumeCandidates().back().volumeURL, QStringLiteral("/media/u/OTHER"));
+        QCOMPARE(state.currentFailure()->kind(), DriveFailure::DriveDisconnected);
+        QVERIFY(!state.driveIsConnected());
+
+        // A rename touches only the list.
+        stream->send(DriveEvent::makeRenamed(VolumeCandidate{QStringLiteral("/media/u/OTHER"), QStringLiteral("NEW"), true, {}, {}}));
+        QTRY_COMPARE(state.driveVolumeCandidates().back().name, QStringLiteral("NEW"));
+        QCOMPARE(state.currentFailure()->kind(), DriveFailure::DriveDisconnected);
+
+        // The same drive back at the root's parent: connected again.
+        stream->send(DriveEvent::makeMounted(VolumeCandidate{QStringLiteral("/media/u/UNTITLED 1"), QStringLiteral("UNTITLED"), true, {}, {}}));
+        QTRY_VERIFY(state.driveIsConnected());
+    }
+
+    void failuresFromRealDrives()
+    {
+        QTemporaryDir tmp;
+        LiveEngine engine;
+        AppState state(engine);
+
+        TeslaCamFixture empty(tmp.filePath(QStringLiteral("empty/TeslaCam")));
+        state.beginScan(empty.root());
+        QTRY_VERIFY_WITH_TIMEOUT(!state.isScanning(), 10000);
+        QCOMPARE(state.currentFailure(), DriveFailure::emptyDrive());
+
+        TeslaCamFixture encrypted(tmp.filePath(QStringLiteral("enc/TeslaCam")));
+        TeslaCamFixture::makeDir(encrypted.path(QStringLiteral("EncryptedClips")));
+        state.beginScan(encrypted.root());
+        QTRY_VERIFY_WITH_TIMEOUT(!state.isScanning(), 10000);
+        QCOMPARE(state.currentFailure(), DriveFailure::encryptedClipsOnly());
+
+        const QString missing = tmp.filePath(QStringLiteral("nothing/TeslaCam"));
+        state.beginScan(missing);
+        QTRY_VERIFY_WITH_TIMEOUT(!state.isScanning(), 10000);
+        QCOMPARE(state.currentFailure(), DriveFailure::noTeslaCamFolder(QStringLiteral("TeslaCam")));
+        // The earlier scan stays under the failure.
+        QVERIFY(state.driveScan());
+    }
+
+    void bothBookmarksStaleShowsTheVaults()
+    {
+        QTemporaryDir tmp;
+        {
+            LiveEngine engine;
+            QDir().mkpath(tmp.filePath(QStringLiteral("d/TeslaCam")));
+            QDir().mkpath(tmp.filePath(QStringLiteral("v")));
+            engine.saveBookmark(tmp.filePath(QStringLiteral("d/TeslaCam")), BookmarkKey::teslaDrive);
+            engine.saveBookmark(tmp.filePath(QStringLiteral("v")), BookmarkKey::vaultFolder);
+        }
+        QDir(tmp.filePath(QStringLiteral("d"))).removeRecursively();
+        QDir(tmp.filePath(QStringLiteral("v"))).removeRecursively();
+        setOnboardingDone(true);
+        LiveEngine engine;
+        AppState state(engine);
+        QVERIFY(!state.showOnboarding());
+        state.rootViewAppeared();
+        QCOMPARE(state.currentFailure(), DriveFailure::staleBookmark(BookmarkKey::vaultFolder));
+
+        // Sample mode in and out with the stale saved drive: back to its failure.
+        state.loadSampleFootage();
+        QVERIFY(state.isSampleMode());
+        QVERIFY(!state.currentFailure());
+        QTRY_VERIFY_WITH_TIMEOUT(!state.isScanning(), 20000);
+        state.exitSampleMode();
+        QVERIFY(!state.isSampleMode());
+        QVERIFY(!state.driveScan());
+        QCOMPARE(state.currentFailure(), DriveFailure::staleBookmark(BookmarkKey::teslaDrive));
+    }
+
+    void sampleModeWithoutSavedDriveEndsInNothingLoaded()
+    {
+        LiveEngine engine;
+        AppState state(engine);
+        QVERIFY(AppState::sampleFootageURL().has_value());
+        state.loadSampleFootage();
+        QVERIFY(!state.showOnboarding());
+        QCOMPARE(state.scanProgress()->phase, AppState::loadingSamplePhase);
+        QTRY_VERIFY_WITH_TIMEOUT(state.driveScan() && !state.isScanning(), 20000);
+        // A real scan during sample mode ends it at once.
+        QTemporaryDir tmp;
+        TeslaCamFixture other(tmp.filePath(QStringLiteral("TeslaCam")));
+        state.beginScan(other.root());
+        QVERIFY(!state.isSampleMode());
+        QVERIFY(state.driveScan()); // the sample scan stays until the first result
+        QTRY_VERIFY_WITH_TIMEOUT(!state.isScanning(), 10000);
+        state.loadSampleFootage();
+        QTRY_VERIFY_WITH_TIMEOUT(!state.isScanning(), 20000);
+        state.exitSampleMode();
+        QVERIFY(!state.driveScan());
+        QVERIFY(!state.driveRootURL());
+        QVERIFY(!state.currentFailure());
+        QVERIFY(!state.isScanning());
+    }
+
+    void sampleFootageYieldsExplainedEventsAndHealth()
+    {
+        LiveEngine engine;
+        AppState state(engine);
+        state.loadSampleFootage();
+        QTRY_VERIFY_WITH_TIMEOUT(state.healthReport() && state.healthReport()->probedClipCount > 0, 60000);
+        const DriveScan &scan = *state.driveScan();
+        int sentry = 0, saved = 0, recent = 0;
+        for (const TeslaEvent &e : scan.events) {
+            sentry += e.kind == EventKind::sentry;
+            saved += e.kind == EventKind::saved;
+            recent += e.kind == EventKind::recent;
+        }
+        QCOMPARE(sentry, 4);
+        QCOMPARE(saved, 2);
+        QVERIFY(recent >= 1);
+        QVERIFY(!state.currentFailure());
+
+        const TeslaEvent *impact = eventWithReason(scan, QStringLiteral("sentry_aware_accel_0.61"));
+        QVERIFY(impact);
+        QCOMPARE(impact->reason.category, ReasonCategory::impact);
+        const TeslaEvent *approach = eventWithReason(scan, QStringLiteral("sentry_aware_object_detection"));
+        QVERIFY(approach && approach->thumbURL && approach->latitude);
+        QCOMPARE(approach->reason.category, ReasonCategory::approach);
+        const TeslaEvent *unknown = eventWithReason(scan, QStringLiteral("sentry_locked_handle_pulled"));
+        QVERIFY(unknown && !unknown->latitude);
+        QCOMPARE(unknown->reason.category, ReasonCategory::unknown);
+        const TeslaEvent *honk = eventWithReason(scan, QStringLiteral("user_interaction_honk"));
+        QVERIFY(honk);
+        QCOMPARE(honk->reason.category, ReasonCategory::honk);
+        const TeslaEvent *manual = eventWithReason(scan, QStringLiteral("user_interaction_dashcam_icon_tapped"));
+        QVERIFY(manual);
+        QCOMPARE(manual->reason.category, ReasonCategory::manualSave);
+        int zero = 0, truncated = 0;
+        for (const ClipRef &c : manual->clips) {
+            zero += c.health == ClipHealth::zeroByte;
+            truncated += c.health == ClipHealth::truncated;
+        }
+        QCOMPARE(zero, 1);
+        QCOMPARE(truncated, 1);
+        QCOMPARE(state.healthReport()->corruptClipCount, 2);
+        for (const TeslaEvent &e : scan.events) {
+            if (&e == manual)
+                continue;
+            for (const ClipRef &c : e.clips)
+                QVERIFY2(c.health == ClipHealth::ok, qPrintable(c.url));
+        }
+        int noJson = 0;
+        for (const TeslaEvent &e : scan.events)
+            noJson += e.kind != EventKind::recent && e.missingEventJSON;
+        QCOMPARE(noJson, 1);
+    }
+
+    void keepDuplicateCancelAndRemove()
+    {
+        if (!TestClips::ffmpegAvailable())
+            QSKIP("Needs the ffmpeg tool to make real clips.");
+        const QString clip = TestClips::clip();
+        QTemporaryDir tmp;
+        TeslaCamFixture drive(tmp.filePath(QStringLiteral("drive/TeslaCam")));
+        QStringList names;
+        for (int i = 0; i < 4; ++i) {
+            const QString name = QStringLiteral("2024-06-0%1_10-00-00").arg(i + 1);
+            const QString folder = drive.addEvent(
+                QStringLiteral("SentryClips"), name,
+                TeslaCamFixture::eventJson(QStringLiteral("2024-06-0%1T10:00:00").arg(i + 1),
+                                           QStringLiteral("sentry_aware_object_detection")));
+            drive.addClip(folder, QStringLiteral("2024-06-0%1_09-59-00").arg(i + 1), QStringLiteral("front"), 0, clip);
+        }
+        const QString vault = tmp.filePath(QStringLiteral("vault"));
+        QDir().mkpath(vault);
+
+        LiveEngine engine;
+        AppState state(engine);
+        std::vector<TeslaEvent> none;
+        state.beginScan(drive.root());
+        QTRY_VERIFY_WITH_TIMEOUT(state.driveScan() && !state.isScanning(), 10000);
+        const std::vector<TeslaEvent> events = state.driveScan()->events;
+        QCOMPARE(events.size(), size_t(4));
+
+        // No Vault: the failure asks for one.
+        state.keep({events[0]});
+        QCOMPARE(state.currentFailure(), DriveFailure::staleBookmark(BookmarkKey::vaultFolder));
+        QVERIFY(!state.isArchiving());
+
+        state.setVaultURL(vault);
+        state.keep({events[0]});
+        QVERIFY(state.isArchiving());
+        QVERIFY(state.hasCurrentArchiveTask());
+        QCOMPARE(state.archiveProgress()->totalEvents, 1);
+        QTRY_VERIFY_WITH_TIMEOUT(state.showArchiveReport(), 20000);
+        QVERIFY(!state.isArchiving());
+        QVERIFY(!state.archiveProgress());
+        QVERIFY(!state.hasCurrentArchiveTask());
+        QCOMPARE(state.triageState(events[0]), TriageState::kept);
+        QCOMPARE(state.vaultIndex().events.size(), size_t(1));
+        QTRY_COMPARE(state.vaultEvents().size(), size_t(1));
+
+        // A duplicate keeps its own state; the new one becomes kept.
+        state.setTriage(TriageState::reviewed, events[0]);
+        state.setShowArchiveReport(false);
+        state.keep({events[0], events[1]});
+        QTRY_VERIFY_WITH_TIMEOUT(state.showArchiveReport(), 20000);
+        QCOMPARE(state.lastArchiveReport()->skippedDuplicates, 1);
+        QCOMPARE(state.triageState(events[0]), TriageState::reviewed);
+        QCOMPARE(state.triageState(events[1]), TriageState::kept);
+        QTRY_COMPARE(state.vaultEvents().size(), size_t(2));
+        QVERIFY(state.healthReport());
+
+        // Cancelled at once: the sheet still opens, marked cancelled.
+        state.setShowArchiveReport(false);
+        state.keep({events[2], events[3]});
+        state.cancelCurrentArchiveTask();
+        QTRY_VERIFY_WITH_TIMEOUT(state.showArchiveReport(), 20000);
+        QVERIFY(state.lastArchiveReport()->cancelled);
+
+        // Removal: a kept one becomes reviewed, a dismissed one stays dismissed.
+        QTRY_VERIFY(state.vaultEvents().size() >= 2);
+        const TeslaEvent keptOne = events[1];
+        state.setSelectedVaultEventID(keptOne.id());
+        state.removeFromVault(keptOne);
+        QVERIFY(!state.selectedVaultEventID());
+        QCOMPARE(state.triageState(keptOne), TriageState::reviewed);
+        for (const TeslaEvent &e : state.vaultEvents())
+            QVERIFY(e.id() != keptOne.id());
+        state.dismiss({events[0]});
+        state.removeFromVault(events[0]);
+        QCOMPARE(state.triageState(events[0]), TriageState::dismissed);
+    }
+};
+
+KEELHOLD_ISOLATED_TEST_MAIN(TestAppState)
+
+#include "tst_appstate.moc"
