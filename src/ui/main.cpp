@@ -33,9 +33,10 @@ int main(int argc, char *argv[])
     qmlRegisterUncreatableMetaObject(DriveFailure::staticMetaObject, "Keelhold", 1, 0, "DriveFailure",
                                      QStringLiteral("an enumeration"));
 
+    // Declared before the engine so it outlives the QML that reads it.
+    UiBridge ui(&appState);
     QQmlApplicationEngine engine;
     engine.rootContext()->setContextProperty(QStringLiteral("appState"), &appState);
-    UiBridge ui(&appState);
     engine.rootContext()->setContextProperty(QStringLiteral("ui"), &ui);
     QObject::connect(&engine, &QQmlApplicationEngine::objectCreationFailed, &app,
                      [] { QCoreApplication::exit(1); }, Qt::QueuedConnection);
@@ -46,6 +47,13 @@ int main(int argc, char *argv[])
     if (!shot.isEmpty()) {
         if (qEnvironmentVariableIsSet("KEELHOLD_SECTION"))
             appState.setProperty("selectedSection", qEnvironmentVariableIntValue("KEELHOLD_SECTION"));
+        if (qEnvironmentVariableIsSet("KEELHOLD_SCAN")) {
+            appState.setShowOnboarding(false);
+            appState.beginScan(qEnvironmentVariable("KEELHOLD_SCAN"));
+        }
+        if (qEnvironmentVariableIsSet("KEELHOLD_HELP") && !engine.rootObjects().isEmpty())
+            QMetaObject::invokeMethod(engine.rootObjects().first(), "showHelp",
+                                      Q_ARG(QVariant, qEnvironmentVariableIntValue("KEELHOLD_HELP")));
         const int ms = qEnvironmentVariableIsSet("KEELHOLD_SCREENSHOT_MS") ? qEnvironmentVariableIntValue("KEELHOLD_SCREENSHOT_MS") : 1500;
         QTimer::singleShot(ms, &app, [&engine, shot] {
             QQuickWindow *target = nullptr;

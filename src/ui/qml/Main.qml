@@ -103,27 +103,29 @@ ApplicationWindow {
             RowLayout {
                 anchors.fill: parent
                 spacing: 0
-                visible: appState.selectedSection === SidebarSection.drive || appState.selectedSection === SidebarSection.vault
+                visible: appState.selectedSection === 0 || appState.selectedSection === 1
                 ColumnLayout {
                     visible: !appState.isFocusMode
                     Layout.preferredWidth: detail.listWidth
+                    Layout.maximumWidth: detail.listWidth
+                    Layout.minimumWidth: detail.listWidth
                     Layout.fillHeight: true
                     spacing: 0
                     SampleModeBanner {
-                        visible: appState.isSampleMode && appState.selectedSection === SidebarSection.drive
+                        visible: appState.isSampleMode && appState.selectedSection === 0
                         Layout.fillWidth: true
                         onEject: appState.exitSampleMode()
                     }
                     FailureView {
                         property var s: { appState.currentFailure; return ui.failureScreen() }
                         screen: s
-                        visible: appState.selectedSection === SidebarSection.drive && s.title !== undefined
+                        visible: appState.selectedSection === 0 && s.title !== undefined
                         Layout.fillWidth: true
                         Layout.fillHeight: true
                     }
                     PlaceholderColumn {
-                        visible: !(appState.selectedSection === SidebarSection.drive && appState.currentFailure)
-                        name: appState.selectedSection === SidebarSection.drive ? "EventListView" : "VaultEventListColumn"
+                        visible: !(appState.selectedSection === 0 && appState.currentFailure)
+                        name: appState.selectedSection === 0 ? "EventListView" : "VaultEventListColumn"
                         Layout.fillWidth: true
                         Layout.fillHeight: true
                     }
@@ -135,19 +137,19 @@ ApplicationWindow {
                     onWidthDragged: (w) => ui.storedListWidth = w
                 }
                 PlaceholderColumn {
-                    name: appState.selectedSection === SidebarSection.drive ? "DriveDetailColumn" : "VaultDetailColumn"
+                    name: appState.selectedSection === 0 ? "DriveDetailColumn" : "VaultDetailColumn"
                     Layout.fillWidth: true
                     Layout.fillHeight: true
                 }
             }
             PlaceholderColumn {
                 anchors.fill: parent
-                visible: appState.selectedSection === SidebarSection.map
+                visible: appState.selectedSection === 2
                 name: "EventMapView"
             }
             HealthView {
                 anchors.fill: parent
-                visible: appState.selectedSection === SidebarSection.health
+                visible: appState.selectedSection === 3
             }
         }
     }
