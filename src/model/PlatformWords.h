@@ -10,5 +10,10 @@ namespace PlatformWords {
 QString diskUtility();
 // The user's own machine, as in "on this <computer>".
 QString computer();
+// The operating system as the subject of a sentence, lower case: "your system".
+QString operatingSystem();
+// Where removable drives are mounted: /run/media/<user>, /media/<user> or
+// /media, the first that exists.
+QString removableMediaFolder();
 
 } // namespace PlatformWords

@@ -1,0 +1,142 @@
+#include "HelpArticle.h"
+
+#include "model/PlatformWords.h"
+#include "model/TeslaViewer.h"
+
+const std::array<HelpArticle, 7> &HelpArticle::allCases()
+{
+    static const std::array<HelpArticle, 7> all{sentryMode,    oneMinuteClips,  corruptionExplained, encryptionExplained,
+                                                howVaultWorks, readOnlyPromise, keyboardShortcuts};
+    return all;
+}
+
+QString HelpArticle::rawValue() const
+{
+    switch (value_) {
+    case sentryMode: return QStringLiteral("sentryMode");
+    case oneMinuteClips: return QStringLiteral("oneMinuteClips");
+    case corruptionExplained: return QStringLiteral("corruptionExplained");
+    case encryptionExplained: return QStringLiteral("encryptionExplained");
+    case howVaultWorks: return QStringLiteral("howVaultWorks");
+    case readOnlyPromise: return QStringLiteral("readOnlyPromise");
+    case keyboardShortcuts: return QStringLiteral("keyboardShortcuts");
+    }
+    return {};
+}
+
+std::optional<HelpArticle> HelpArticle::fromRawValue(QStringView raw)
+{
+    for (HelpArticle a : allCases())
+        if (a.rawValue() == raw)
+            return a;
+    return std::nullopt;
+}
+
+QString HelpArticle::title() const
+{
+    switch (value_) {
+    case sentryMode: return QStringLiteral("What is Sentry Mode?");
+    case oneMinuteClips: return QStringLiteral("Why are clips exactly one minute long?");
+    case corruptionExplained: return QStringLiteral("What does \"didn't record properly\" mean?");
+    case encryptionExplained: return QStringLiteral("Why does it say some clips are encrypted?");
+    case howVaultWorks: return QStringLiteral("How does the Vault keep my footage safe?");
+    case readOnlyPromise: return QStringLiteral("Will this app ever change or delete anything on my drive?");
+    case keyboardShortcuts: return QStringLiteral("Keyboard shortcuts");
+    }
+    return {};
+}
+
+QString HelpArticle::symbolName() const
+{
+    switch (value_) {
+    case sentryMode: return QStringLiteral("shield.checkered");
+    case oneMinuteClips: return QStringLiteral("film");
+    case corruptionExplained: return QStringLiteral("questionmark.video");
+    case encryptionExplained: return QStringLiteral("lock.doc");
+    case howVaultWorks: return QStringLiteral("lock.shield");
+    case readOnlyPromise: return QStringLiteral("hand.raised");
+    case keyboardShortcuts: return QStringLiteral("keyboard");
+    }
+    return {};
+}
+
+QStringList HelpArticle::paragraphs() const
+{
+    switch (value_) {
+    case sentryMode:
+        return {QStringLiteral("Sentry Mode is your Tesla's built-in security system. While your car is parked, its cameras "
+                               "watch for people or objects that come close, or for a bump or impact. When something "
+                               "happens, the car saves a short recording from every camera into a \"Sentry event\" so you "
+                               "can review it later."),
+                QStringLiteral("You can turn Sentry Mode on or off, and adjust its sensitivity, from your car's touchscreen "
+                               "under Safety & Security.")};
+    case oneMinuteClips:
+        return {QStringLiteral("Your Tesla records in one-minute segments, one file per camera per minute, rather than one "
+                               "long continuous video. This is simply how the car's software is built — it makes the "
+                               "recordings easier for the car to manage and less likely to be lost all at once if "
+                               "something goes wrong."),
+                QStringLiteral("Keelhold stitches these one-minute files back together into a single, continuous timeline "
+                               "for you, so you never have to think about the individual files — you just scrub through "
+                               "one smooth timeline per event.")};
+    case corruptionExplained:
+        return {QStringLiteral("Occasionally, a clip won't play — it might be zero bytes, cut off partway through, or simply "
+                               "unreadable. This is a well-known issue with Tesla USB drives, especially with lower-quality "
+                               "or aging drives, and it is not something you did."),
+                QStringLiteral("When this happens, Keelhold shows that camera angle as a labeled placeholder instead of "
+                               "crashing or freezing, and counts it in Drive Health so you can see how often it's "
+                               "happening. If it happens a lot, a newer USB 3.0 drive from a reputable brand usually "
+                               "helps.")};
+    case encryptionExplained:
+        return {QStringLiteral("Newer Tesla software can encrypt dashcam and Sentry clips so that only you can view them — "
+                               "this is a privacy feature, not damage or an error. Encrypted files still look like normal "
+                               "video files, but ordinary apps (including this one) can't decode their contents "
+                               "directly."),
+                QStringLiteral("Keelhold can still safely back up encrypted clips exactly as they are — the backup and "
+                               "verification steps work the same either way. To actually watch an encrypted clip, sign in "
+                               "with your Tesla account at ")
+                    + TeslaViewer::host()
+                    + QStringLiteral(": your browser fetches the decryption key and decodes the video locally, so the "
+                                     "footage never leaves your device."),
+                QStringLiteral("Want future footage to play right here instead? In your car: Controls → Safety → switch "
+                               "off \"Encrypt Dashcam Recordings\" (about 30 seconds — the app can walk you through it "
+                               "wherever you see the encryption notice). Everything already recorded is unaffected either "
+                               "way.")};
+    case howVaultWorks:
+        return {QStringLiteral("When you choose \"Keep\" on an event, Keelhold copies every file for that event to a folder "
+                               "you chose (your \"Vault\") while checking the data as it copies. It then re-checks the "
+                               "copy's checksum (SHA-256) against the original to make sure the copy is a faithful, "
+                               "byte-for-byte match — you'll see it marked \"Verified copy\" afterward."),
+                QStringLiteral("Your Vault works completely independently of your car's drive: once something is kept, you "
+                               "can browse and watch it any time, even with the Tesla drive unplugged or gone entirely. "
+                               "Re-importing the same drive later automatically recognizes anything already kept, so you "
+                               "never end up with duplicates.")};
+    case readOnlyPromise:
+        return {QStringLiteral("No. Keelhold only ever reads from your Tesla's drive — no code path in this app writes to "
+                               "it, renames anything on it, or deletes anything from it. The only place this app writes "
+                               "to is the Vault folder you choose on your ")
+                    + PlatformWords::computer() + QStringLiteral(" (or another drive you pick)."),
+                QStringLiteral("This matters most right after something happens to your car: the drive from your "
+                               "glovebox is exactly as safe to hand to police or an insurer after using this app as it "
+                               "was before.")};
+    case keyboardShortcuts:
+        return {QStringLiteral("You can review everything without touching the mouse:"),
+                QStringLiteral("A quick reminder of these appears under the playback controls until you hide it — and you "
+                               "can always come back here.")};
+    }
+    return {};
+}
+
+QStringList HelpArticle::listLines() const
+{
+    if (value_ != keyboardShortcuts)
+        return {};
+    return {QStringLiteral("Space — play or pause all cameras together"),
+            QStringLiteral("← and → — skip back or forward 5 seconds"),
+            QStringLiteral("1 to 7 — jump straight to a camera (in the order shown in the grid)"),
+            QStringLiteral("0 — back to all cameras"),
+            QStringLiteral("M — replay the moment it happened (just before the honk, bump, or detection)"),
+            QStringLiteral("F — fill the window with just the cameras (Esc goes back)"),
+            QStringLiteral("↑ and ↓ — move through the event list, auto-playing each one"),
+            QStringLiteral("K — keep a safe copy of the selected event in your Vault"),
+            QStringLiteral("D — dismiss the selected event (never deletes any footage)")};
+}

@@ -1,0 +1,84 @@
+#include "SymbolIcons.h"
+
+#include <QFileInfo>
+#include <QHash>
+#include <QUrl>
+
+namespace SymbolIcons {
+namespace {
+
+const QHash<QString, QString> &table()
+{
+    static const QHash<QString, QString> t{
+        // Sidebar and shell
+        {QStringLiteral("externaldrive.connected.to.line.below"), QStringLiteral("devices/drive-harddisk-usb")},
+        {QStringLiteral("lock.shield"), QStringLiteral("status/security-high")},
+        {QStringLiteral("map"), QStringLiteral("actions/mark-location")},
+        {QStringLiteral("waveform.path.ecg"), QStringLiteral("status/power-profile-balanced")},
+        {QStringLiteral("questionmark.circle"), QStringLiteral("status/dialog-question")},
+        {QStringLiteral("sparkles"), QStringLiteral("actions/star-new")},
+        // Onboarding
+        {QStringLiteral("car.side"), QStringLiteral("categories/emoji-travel")},
+        {QStringLiteral("car"), QStringLiteral("categories/emoji-travel")},
+        {QStringLiteral("externaldrive.fill"), QStringLiteral("devices/drive-removable-media")},
+        {QStringLiteral("externaldrive.badge.questionmark"), QStringLiteral("devices/media-removable")},
+        {QStringLiteral("chevron.right"), QStringLiteral("ui/pan-end")},
+        // Failures
+        {QStringLiteral("folder.badge.questionmark"), QStringLiteral("places/folder-saved-search")},
+        {QStringLiteral("exclamationmark.arrow.triangle.2.circlepath"), QStringLiteral("status/software-update-urgent")},
+        {QStringLiteral("lock.doc"), QStringLiteral("status/channel-secure")},
+        {QStringLiteral("eject.circle"), QStringLiteral("actions/media-eject")},
+        {QStringLiteral("questionmark.folder"), QStringLiteral("status/folder-visiting")},
+        {QStringLiteral("tray"), QStringLiteral("places/folder")},
+        // Encryption guide
+        {QStringLiteral("lock.open"), QStringLiteral("status/changes-allow")},
+        {QStringLiteral("shield"), QStringLiteral("status/security-medium")},
+        {QStringLiteral("switch.2"), QStringLiteral("categories/preferences-system")},
+        {QStringLiteral("checkmark.seal"), QStringLiteral("emblems/emblem-ok")},
+        {QStringLiteral("globe"), QStringLiteral("legacy/web-browser")},
+        {QStringLiteral("hand.thumbsup"), QStringLiteral("emotes/face-smile")},
+        // Help
+        {QStringLiteral("shield.checkered"), QStringLiteral("status/security-medium")},
+        {QStringLiteral("film"), QStringLiteral("mimetypes/video-x-generic")},
+        {QStringLiteral("questionmark.video"), QStringLiteral("status/camera-disabled")},
+        {QStringLiteral("hand.raised"), QStringLiteral("status/changes-prevent")},
+        {QStringLiteral("keyboard"), QStringLiteral("devices/input-keyboard")},
+        // Health
+        {QStringLiteral("checkmark.circle"), QStringLiteral("emblems/emblem-default")},
+        {QStringLiteral("exclamationmark.triangle"), QStringLiteral("status/dialog-warning")},
+        {QStringLiteral("tray.and.arrow.down"), QStringLiteral("actions/document-save")},
+        {QStringLiteral("info.circle"), QStringLiteral("status/dialog-information")},
+        {QStringLiteral("chart.pie"), QStringLiteral("status/content-loading")},
+        // Shared by later screens
+        {QStringLiteral("play.fill"), QStringLiteral("actions/media-playback-start")},
+        {QStringLiteral("pause.fill"), QStringLiteral("actions/media-playback-pause")},
+        {QStringLiteral("trash"), QStringLiteral("places/user-trash")},
+        {QStringLiteral("square.and.arrow.up"), QStringLiteral("actions/document-send")},
+        {QStringLiteral("xmark.circle"), QStringLiteral("actions/process-stop")},
+        {QStringLiteral("folder"), QStringLiteral("places/folder")},
+        {QStringLiteral("video"), QStringLiteral("devices/camera-video")},
+        {QStringLiteral("mappin"), QStringLiteral("actions/mark-location")},
+    };
+    return t;
+}
+
+} // namespace
+
+QString themeRoot() { return QStringLiteral("/usr/share/icons/Adwaita/scalable"); }
+
+QString neutralIconUrl() { return QStringLiteral("qrc:/Keelhold/icons/neutral.svg"); }
+
+QString themeIconName(const QString &symbolName) { return table().value(symbolName); }
+
+QString iconUrl(const QString &symbolName)
+{
+    const QString name = themeIconName(symbolName);
+    if (name.isEmpty())
+        return neutralIconUrl();
+    const QString path = themeRoot() + QLatin1Char('/') + name + QStringLiteral("-symbolic.svg");
+    if (!QFileInfo::exists(path))
+        return neutralIconUrl();
+    return QUrl::fromLocalFile(path).toString();
+}
+
+} // namespace SymbolIcons
