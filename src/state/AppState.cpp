@@ -274,6 +274,8 @@ void AppState::resolveDriveBookmark()
     }
 }
 
+void AppState::refreshVolumeCandidates() { setDriveVolumeCandidates(engine_.mountedTeslaCamVolumes()); }
+
 void AppState::startWatchingDriveEvents()
 {
     if (driveWatchTaskStarted_)
@@ -656,8 +658,11 @@ QCoro::Task<void> AppState::vaultEventsTask(QPointer<AppState> self, QString vau
         self->setVaultEvents(std::move(events));
 }
 
-void AppState::removeFromVault(const TeslaEvent &event)
+void AppState::removeFromVault(const TeslaEvent &given)
 {
+    // A copy: the caller's event is often an element of vaultEvents_, which
+    // this replaces below.
+    const TeslaEvent event = given;
     if (!vaultURL_)
         return;
     if (auto *player = activePlayerController())

@@ -105,6 +105,8 @@ public:
 
     // Drive lifecycle.
     Q_INVOKABLE void startWatchingDriveEvents();
+    // The wizard's appearance: the mounted candidates, listed anew.
+    Q_INVOKABLE void refreshVolumeCandidates();
     Q_INVOKABLE void resolveDriveBookmark();
     Q_INVOKABLE void beginScan(const QString &root);
     Q_INVOKABLE void recomputeHealth();

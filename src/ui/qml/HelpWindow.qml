@@ -2,14 +2,15 @@ import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
 
-// The help window: articles on the left, the selected one on the right.
+// The help window: articles on the left, the selected one on the right. Its
+// title, size and life are the controller's; the selection outlives it.
 ApplicationWindow {
     id: win
     objectName: "helpWindow"
-    title: "Keelhold Help"
     width: 700; height: 480
     minimumWidth: 640; minimumHeight: 440
-    property int selected: 0
+    property QtObject selection: null
+    readonly property int selected: selection ? selection.selected : 0
     readonly property var article: ui.helpArticles[selected]
 
     RowLayout {
@@ -25,7 +26,7 @@ ApplicationWindow {
             delegate: ItemDelegate {
                 width: ListView.view.width
                 highlighted: index === win.selected
-                onClicked: win.selected = index
+                onClicked: if (win.selection) win.selection.selected = index
                 contentItem: RowLayout {
                     spacing: 8
                     SymbolIcon { symbol: ""; source: modelData.icon }
