@@ -9,7 +9,9 @@
 #include "state/AppState.h"
 #include "state/SidebarSection.h"
 
+#include <QGuiApplication>
 #include <QMetaEnum>
+#include <QPalette>
 #include <QSettings>
 #include <QUrl>
 
@@ -80,6 +82,25 @@ QVariantMap UiBridge::columns() const
     const QMetaEnum e = QMetaEnum::fromType<AppState::ColumnVisibility>();
     for (int i = 0; i < e.keyCount(); ++i)
         out.insert(QString::fromLatin1(e.key(i)), e.value(i));
+    return out;
+}
+
+QVariantMap UiBridge::colors() const
+{
+    const QPalette p = QGuiApplication::palette();
+    static const std::pair<const char *, QPalette::ColorRole> roles[] = {
+        {"window", QPalette::Window},         {"windowText", QPalette::WindowText},
+        {"base", QPalette::Base},             {"alternateBase", QPalette::AlternateBase},
+        {"text", QPalette::Text},             {"button", QPalette::Button},
+        {"buttonText", QPalette::ButtonText}, {"mid", QPalette::Mid},
+        {"midlight", QPalette::Midlight},     {"dark", QPalette::Dark},
+        {"light", QPalette::Light},           {"highlight", QPalette::Highlight},
+        {"highlightedText", QPalette::HighlightedText}, {"toolTipBase", QPalette::ToolTipBase},
+        {"toolTipText", QPalette::ToolTipText},         {"placeholderText", QPalette::PlaceholderText},
+    };
+    QVariantMap out;
+    for (const auto &[name, role] : roles)
+        out.insert(QString::fromLatin1(name), p.color(QPalette::Active, role));
     return out;
 }
 

@@ -20,6 +20,9 @@ class UiBridge : public QObject {
     // lower-case enum keys): sections.drive …, columns.all / detailOnly.
     Q_PROPERTY(QVariantMap sections READ sections CONSTANT)
     Q_PROPERTY(QVariantMap columns READ columns CONSTANT)
+    // The application palette by role name (window, windowText, base, …),
+    // set on the windows so every control follows the chosen scheme.
+    Q_PROPERTY(QVariantMap colors READ colors CONSTANT)
     Q_PROPERTY(double storedListWidth READ storedListWidth WRITE setStoredListWidth NOTIFY storedListWidthChanged)
 public:
     explicit UiBridge(AppState *state, QObject *parent = nullptr);
@@ -31,6 +34,7 @@ public:
     QVariantList guideNotes() const;
     QVariantMap sections() const;
     QVariantMap columns() const;
+    QVariantMap colors() const;
     double storedListWidth() const;
     void setStoredListWidth(double w);
 

@@ -141,7 +141,7 @@ public:
     void unmount()
     {
         if (mounted_)
-            run(QStringLiteral("umount"), {mountPoint_});
+            run(QStringLiteral("umount"), {QStringLiteral("-l"), mountPoint_}); // as a drive pulled out: open files or not
         mounted_ = false;
         if (!loop_.isEmpty())
             run(QStringLiteral("losetup"), {QStringLiteral("-d"), loop_});

@@ -9,6 +9,22 @@ ApplicationWindow {
     objectName: "helpWindow"
     width: 700; height: 480
     minimumWidth: 640; minimumHeight: 440
+    palette.window: ui.colors.window
+    palette.windowText: ui.colors.windowText
+    palette.base: ui.colors.base
+    palette.alternateBase: ui.colors.alternateBase
+    palette.text: ui.colors.text
+    palette.button: ui.colors.button
+    palette.buttonText: ui.colors.buttonText
+    palette.mid: ui.colors.mid
+    palette.midlight: ui.colors.midlight
+    palette.dark: ui.colors.dark
+    palette.light: ui.colors.light
+    palette.highlight: ui.colors.highlight
+    palette.highlightedText: ui.colors.highlightedText
+    palette.toolTipBase: ui.colors.toolTipBase
+    palette.toolTipText: ui.colors.toolTipText
+    palette.placeholderText: ui.colors.placeholderText
     property QtObject selection: null
     readonly property int selected: selection ? selection.selected : 0
     readonly property var article: ui.helpArticles[selected]

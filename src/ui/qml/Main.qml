@@ -13,6 +13,22 @@ ApplicationWindow {
     minimumHeight: 600
     visible: true
     title: "Keelhold"
+    palette.window: ui.colors.window
+    palette.windowText: ui.colors.windowText
+    palette.base: ui.colors.base
+    palette.alternateBase: ui.colors.alternateBase
+    palette.text: ui.colors.text
+    palette.button: ui.colors.button
+    palette.buttonText: ui.colors.buttonText
+    palette.mid: ui.colors.mid
+    palette.midlight: ui.colors.midlight
+    palette.dark: ui.colors.dark
+    palette.light: ui.colors.light
+    palette.highlight: ui.colors.highlight
+    palette.highlightedText: ui.colors.highlightedText
+    palette.toolTipBase: ui.colors.toolTipBase
+    palette.toolTipText: ui.colors.toolTipText
+    palette.placeholderText: ui.colors.placeholderText
 
     // Help: one window at most; the controller switches or reopens it.
     function showHelp(articleIndex) { help.show(articleIndex === undefined ? -1 : articleIndex) }
@@ -53,6 +69,7 @@ ApplicationWindow {
                     ToolButton {
                         objectName: "helpButton"
                         icon.source: ui.icon("questionmark.circle")
+                        icon.color: palette.windowText
                         ToolTip.visible: hovered; ToolTip.text: ui.texts.helpTip
                         onClicked: window.showHelp(-1)
                     }
@@ -64,8 +81,13 @@ ApplicationWindow {
                         Layout.fillWidth: true
                         highlighted: appState.selectedSection === modelData.value
                         icon.source: modelData.icon
+                        icon.color: highlighted ? palette.highlightedText : palette.windowText
                         text: modelData.label
                         onClicked: appState.selectedSection = modelData.value
+                        background: Rectangle {
+                            radius: 6
+                            color: parent.highlighted ? palette.highlight : parent.hovered ? palette.midlight : "transparent"
+                        }
                     }
                 }
                 Item { Layout.fillHeight: true }

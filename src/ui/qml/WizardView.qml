@@ -20,7 +20,9 @@ Item {
     Connections {
         target: drivePicker
         function onOpenPanelRequested(start) { panel.currentFolder = "file://" + start; panel.open() }
-        function onPicked(root) { appState.beginScan(root); wiz.step = "scanning" }
+        // The step first: a cached scan can end the scanning before
+        // beginScan returns, and the step must be there to see it end.
+        function onPicked(root) { wiz.step = "scanning"; appState.beginScan(root) }
         function onLicenceWindowRequested() { licenceWindow.open() }
     }
     FolderDialog {
@@ -71,8 +73,8 @@ Item {
                     SymbolIcon { symbol: "externaldrive.fill"; size: 22 }
                     ColumnLayout {
                         Layout.fillWidth: true; spacing: 0
-                        Label { text: ui.candidateHeading(modelData); font.weight: Font.DemiBold }
-                        Label { text: ui.candidateCapacity(modelData); opacity: 0.6; visible: text.length > 0 }
+                        Label { text: ui.candidateHeading(modelData); font.weight: Font.DemiBold; Layout.fillWidth: true; elide: Text.ElideRight }
+                        Label { text: ui.candidateCapacity(modelData); opacity: 0.6; visible: text.length > 0; Layout.fillWidth: true }
                     }
                     SymbolIcon { symbol: "chevron.right" }
                 }
