@@ -616,7 +616,7 @@ void AppState::setVaultURL(const QString &url)
     QPointer<AppState> self(this);
     EngineFacade *engine = &engine_;
     // Detached: the index load runs off the main thread and hops back.
-    (void)QtConcurrent::run([self, engine, url] {
+    detachedLoads_.addFuture(QtConcurrent::run([self, engine, url] {
         VaultIndex index = engine->loadVaultIndex(url);
         QMetaObject::invokeMethod(
             self.data(),
@@ -625,7 +625,7 @@ void AppState::setVaultURL(const QString &url)
                     self->setVaultIndex(std::move(index));
             },
             Qt::QueuedConnection);
-    });
+    }));
     loadVaultEvents();
 }
 

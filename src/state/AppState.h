@@ -17,6 +17,7 @@
 #include "state/SidebarSection.h"
 #include "vault/VaultIndex.h"
 
+#include <QFutureSynchronizer>
 #include <QHash>
 #include <QObject>
 #include <QPointer>
@@ -338,4 +339,7 @@ private:
     bool driveWatchTaskStarted_ = false;
     bool rootViewAppeared_ = false;
     QPointer<FocusWindow> focusWindow_;
+    // The detached Vault index loads read through the engine: the state
+    // waits for them as it goes, so none outlives the engine it was given.
+    QFutureSynchronizer<void> detachedLoads_;
 };

@@ -1,5 +1,6 @@
 #include "drive/TeslaCamParser.h"
 #include "engine/LiveEngine.h"
+#include "engine/MockEngine.h"
 #include "playback/SyncPlayerController.h"
 #include "state/AppState.h"
 #include "support/IsolatedHome.h"
@@ -316,6 +317,91 @@ private Q_SLOTS:
         state.removeFromVault(ghost);
         QVERIFY(!state.selectedVaultEventID());
         QCOMPARE(state.triageState(ghost), TriageState::dismissed);
+    }
+
+    void rootGivenAsTheVolumeNeverResumesByItself()
+    {
+        MockEngine engine;
+        AppState state(engine);
+        state.rootViewAppeared();
+        auto stream = engine.driveEvents();
+        const VolumeCandidate stick{QStringLiteral("/media/u/STICK"), QStringLiteral("STICK"), true, {}, {}};
+        state.beginScan(stick.volumeURL); // the volume itself, not its TeslaCam folder
+        QVERIFY(settled(state));
+        stream->send(DriveEvent::makeUnmounted(stick.volumeURL));
+        QTRY_COMPARE(state.currentFailure(), DriveFailure::driveDisconnected());
+        const int epoch = state.resourceAccessEpoch();
+        stream->send(DriveEvent::makeMounted(stick));
+        QTRY_COMPARE(state.driveVolumeCandidates().back().volumeURL, stick.volumeURL);
+        // The parent of the root is /media/u, not the volume: no resume.
+        QCOMPARE(state.currentFailure(), DriveFailure::driveDisconnected());
+        QVERIFY(!state.driveIsConnected());
+        QCOMPARE(state.resourceAccessEpoch(), epoch); // unmounting raised nothing either
+    }
+
+    void wizardUpListsVolumesButTouchesNoBookmark()
+    {
+        QTemporaryDir tmp;
+        const QString root = driveWithOneEvent(tmp, QStringLiteral("SAVED"));
+        LiveEngine engine;
+        engine.saveBookmark(root, BookmarkKey::teslaDrive);
+        engine.saveBookmark(tmp.path(), BookmarkKey::vaultFolder);
+        AppState state(engine);
+        QVERIFY(state.showOnboarding());
+        state.rootViewAppeared();
+        QVERIFY(!state.driveRootURL());
+        QVERIFY(!state.vaultURL());
+        QVERIFY(!state.isScanning());
+        // Candidates are what the engine lists now.
+        QCOMPARE(state.driveVolumeCandidates().size(), engine.mountedTeslaCamVolumes().size());
+
+        // Leaving sample mode goes back to the saved drive.
+        state.loadSampleFootage();
+        QVERIFY(settled(state));
+        state.exitSampleMode();
+        QCOMPARE(state.driveRootURL().value_or(QString()), root);
+        QVERIFY(!state.isSampleMode());
+        QVERIFY(settled(state));
+        QCOMPARE(state.driveScan()->events.size(), size_t(1));
+    }
+
+    void filtersCombineAndVaultAccessRaisesTheEpoch()
+    {
+        MockEngine engine;
+        AppState state(engine);
+        state.beginScan(MockEngine::fixtureURL() + QStringLiteral("/TeslaCam"));
+        QVERIFY(settled(state));
+        const std::vector<TeslaEvent> all = state.visibleInboxEvents();
+        const ReasonCategory reason = all.front().reason.category;
+        state.setFilterReason(reason);
+        const std::vector<TeslaEvent> byReason = state.visibleInboxEvents();
+        QVERIFY(!byReason.empty() && byReason.size() < all.size());
+        for (const TeslaEvent &e : byReason)
+            QCOMPARE(e.reason.category, reason);
+        // The order is the scan's, not re-sorted.
+        std::vector<TeslaEvent> expected;
+        for (const TeslaEvent &e : all)
+            if (e.reason.category == reason)
+                expected.push_back(e);
+        QCOMPARE(byReason.size(), expected.size());
+        for (size_t i = 0; i < expected.size(); ++i)
+            QCOMPARE(byReason[i].id(), expected[i].id());
+        // Reason and kind together: both must hold.
+        const EventKind otherKind = byReason.front().kind == EventKind::sentry ? EventKind::saved : EventKind::sentry;
+        state.setFilterKind(otherKind);
+        for (const TeslaEvent &e : state.visibleInboxEvents())
+            QVERIFY(e.kind == otherKind && e.reason.category == reason);
+        state.setFilterKind(std::nullopt);
+        state.setFilterReason(std::nullopt);
+        QCOMPARE(state.visibleInboxEvents().size(), all.size());
+
+        // The Vault slot raises the epoch on every call, the same folder too.
+        QTemporaryDir tmp;
+        const int epoch = state.resourceAccessEpoch();
+        state.setVaultURL(tmp.path());
+        state.setVaultURL(tmp.path());
+        QCOMPARE(state.resourceAccessEpoch(), epoch + 2);
+        QCOMPARE(state.vaultURL().value_or(QString()), tmp.path());
     }
 
     void scanCacheKeyNamesThePhysicalDrive()
