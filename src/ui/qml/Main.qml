@@ -34,6 +34,16 @@ ApplicationWindow {
     function showHelp(articleIndex) { help.show(articleIndex === undefined ? -1 : articleIndex) }
 
     menuBar: MenuBar {
+        // The bar stands outside the content, so it takes the scheme here.
+        palette.window: ui.colors.window
+        palette.windowText: ui.colors.windowText
+        palette.button: ui.colors.window
+        palette.buttonText: ui.colors.windowText
+        palette.base: ui.colors.base
+        palette.text: ui.colors.text
+        palette.mid: ui.colors.mid
+        palette.highlight: ui.colors.highlight
+        palette.highlightedText: ui.colors.highlightedText
         Menu {
             title: qsTr("&Help")
             MenuItem { objectName: "menuHelp"; text: ui.texts.helpMenu; onTriggered: window.showHelp(-1) }
