@@ -3,10 +3,21 @@
 #include <QGuiApplication>
 #include <QScreen>
 
+namespace {
+QPointer<HelpWindowController> &sharedInstance()
+{
+    static QPointer<HelpWindowController> instance;
+    return instance;
+}
+} // namespace
+
 HelpWindowController::HelpWindowController(WindowFactory factory, QObject *parent)
     : QObject(parent), factory_(std::move(factory))
 {
+    sharedInstance() = this;
 }
+
+HelpWindowController *HelpWindowController::shared() { return sharedInstance().data(); }
 
 HelpWindowController::~HelpWindowController()
 {

@@ -24,6 +24,10 @@ public:
     explicit HelpWindowController(WindowFactory factory, QObject *parent = nullptr);
     ~HelpWindowController() override;
 
+    // The application's one controller (the latest made that still lives),
+    // for screens that point at an article; null before the app stands.
+    static HelpWindowController *shared();
+
     // With an article, select it; with none keep the selection. Raise the
     // open window, or open a new one.
     void show(std::optional<HelpArticle> article);

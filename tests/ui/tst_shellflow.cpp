@@ -75,6 +75,15 @@ QStringList shownTexts(QQuickWindow *window)
     return out;
 }
 
+// Shown or not (menu items live in closed popups).
+QQuickItem *anyItem(QQuickWindow *window, const QString &name)
+{
+    for (QQuickItem *item : allItems(window))
+        if (item->objectName() == name)
+            return item;
+    return nullptr;
+}
+
 bool click(QQuickWindow *window, const QString &name)
 {
     QQuickItem *item = visibleItem(window, name);
@@ -231,6 +240,21 @@ private Q_SLOTS:
         QCOMPARE(app->appState().selectedSection(), SidebarSection::health);
         QTRY_VERIFY(showing(QStringLiteral("No drive health yet")));
         shoot(window, QStringLiteral("health-no-report"));
+
+        // The two menu items and what they do.
+        QQuickItem *helpItem = anyItem(window, QStringLiteral("menuHelp"));
+        QQuickItem *sampleItem = anyItem(window, QStringLiteral("menuSample"));
+        QVERIFY(helpItem && sampleItem);
+        QCOMPARE(helpItem->property("text").toString(), QStringLiteral("Keelhold Help"));
+        QCOMPARE(sampleItem->property("text").toString(), QStringLiteral("Explore Sample Footage"));
+        QVERIFY(QMetaObject::invokeMethod(helpItem, "triggered"));
+        QTRY_VERIFY(app->help().window() && app->help().window()->isVisible());
+        app->help().window()->close();
+        QVERIFY(QMetaObject::invokeMethod(sampleItem, "triggered"));
+        QVERIFY(app->appState().isSampleMode());
+        QCOMPARE(app->appState().selectedSection(), SidebarSection::drive);
+        QTRY_VERIFY_WITH_TIMEOUT(!app->appState().isScanning(), 20000);
+        app->appState().exitSampleMode();
 
         // Focus mode takes the sidebar away and gives it back.
         app->appState().toggleFocusMode();
@@ -491,6 +515,7 @@ private Q_SLOTS:
         setOnboardingDone(true);
         start();
         HelpWindowController &help = app->help();
+        QCOMPARE(HelpWindowController::shared(), &help);
         auto articleTitle = [&]() -> QString {
             auto *w = qobject_cast<QQuickWindow *>(help.window());
             if (!w)
