@@ -19,6 +19,7 @@ int main(int argc, char *argv[])
 
     KeelholdApp keelhold;
     AppState &appState = keelhold.appState();
+    [[maybe_unused]] UiBridge &ui = keelhold.ui();
     // --sample: straight into the bundled footage, past the wizard.
     if (QCoreApplication::arguments().contains(QStringLiteral("--sample")))
         appState.loadSampleFootage();

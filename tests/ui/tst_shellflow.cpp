@@ -376,9 +376,13 @@ private Q_SLOTS:
         QVERIFY(app->appState().showOnboarding());
         QVERIFY(!std::holds_alternative<QString>(app->appState().engine().resolveBookmark(BookmarkKey::teslaDrive)));
 
-        // The sample still opens.
-        app->appState().loadSampleFootage();
-        QVERIFY(app->appState().isSampleMode());
+        // The sample still opens, from the wizard's own button.
+        QTest::keyClick(window, Qt::Key_Escape);
+        QTRY_VERIFY(!showing(QStringLiteral("A Keelhold licence is needed")));
+        QVERIFY(click(window, QStringLiteral("back")));
+        QTRY_VERIFY(visibleItem(window, QStringLiteral("trySample")));
+        QVERIFY(click(window, QStringLiteral("trySample")));
+        QTRY_VERIFY(app->appState().isSampleMode());
         QTRY_VERIFY(!visibleItem(window, QStringLiteral("wizardView")));
         app->drivePicker().setLicenceGate(nullptr);
     }
