@@ -404,6 +404,50 @@ private Q_SLOTS:
         QCOMPARE(state.vaultURL().value_or(QString()), tmp.path());
     }
 
+    void fieldsSignalOnlyOnARealChange()
+    {
+        MockEngine engine;
+        AppState state(engine);
+        QSignalSpy section(&state, &AppState::selectedSectionChanged);
+        QSignalSpy filter(&state, &AppState::filterStateChanged);
+        QSignalSpy visible(&state, &AppState::visibleInboxEventsChanged);
+        QSignalSpy guide(&state, &AppState::showEncryptionGuideChanged);
+        QSignalSpy bulk(&state, &AppState::selectedEventIDsForBulkChanged);
+        QSignalSpy triage(&state, &AppState::triageStatesChanged);
+
+        state.setSelectedSection(SidebarSection::drive); // already
+        state.setProperty("selectedSection", int(SidebarSection::health));
+        state.setProperty("selectedSection", int(SidebarSection::health));
+        QCOMPARE(section.count(), 1);
+        QCOMPARE(state.selectedSection(), SidebarSection::health);
+
+        state.setFilterState(TriageState::kept);
+        state.setFilterState(TriageState::kept);
+        state.setFilterStateForQml(QStringLiteral("kept"));
+        QCOMPARE(filter.count(), 1);
+        QCOMPARE(visible.count(), 1);
+        state.setFilterStateForQml(QString()); // "" is no filter
+        QCOMPARE(filter.count(), 2);
+        QVERIFY(!state.filterState());
+
+        state.setShowEncryptionGuide(false);
+        QCOMPARE(guide.count(), 0);
+        state.toggleBulkSelection(QStringLiteral("a"));
+        state.setSelectedEventIDsForBulkForQml({QStringLiteral("a")});
+        QCOMPARE(bulk.count(), 1);
+
+        TeslaEvent e;
+        e.kind = EventKind::saved;
+        e.folderName = QStringLiteral("2024-01-01_00-00-00");
+        state.setTriage(TriageState::reviewed, e);
+        state.setTriage(TriageState::reviewed, e);
+        QCOMPARE(triage.count(), 1);
+        QCOMPARE(state.triageStateFor(e.id()), QStringLiteral("reviewed"));
+        // An unknown state from a screen changes nothing.
+        state.setTriage(QStringLiteral("archived"), e.id());
+        QCOMPARE(triage.count(), 1);
+    }
+
     void scanCacheKeyNamesThePhysicalDrive()
     {
         // Two roots on the same volume share one cached answer; the key is
