@@ -266,11 +266,17 @@ void AppState::evaluateForFailure(const DriveScan &scan)
 
 void AppState::resolveDriveBookmark()
 {
-    const BookmarkResult r = engine_.resolveBookmark(BookmarkKey::teslaDrive);
+    resolveBookmark(BookmarkKey::teslaDrive, &AppState::beginScan);
+}
+
+// A saved folder opens; a stale one says so; a missing one is no news.
+void AppState::resolveBookmark(BookmarkKey key, void (AppState::*open)(const QString &))
+{
+    const BookmarkResult r = engine_.resolveBookmark(key);
     if (const QString *url = std::get_if<QString>(&r)) {
-        beginScan(*url);
+        (this->*open)(*url);
     } else if (std::get<BookmarkError>(r).errorCase() == BookmarkError::stale) {
-        setCurrentFailure(DriveFailure::staleBookmark(BookmarkKey::teslaDrive));
+        setCurrentFailure(DriveFailure::staleBookmark(key));
     }
 }
 
@@ -631,12 +637,7 @@ void AppState::setVaultURL(const QString &url)
 
 void AppState::resolveVaultBookmark()
 {
-    const BookmarkResult r = engine_.resolveBookmark(BookmarkKey::vaultFolder);
-    if (const QString *url = std::get_if<QString>(&r)) {
-        setVaultURL(*url);
-    } else if (std::get<BookmarkError>(r).errorCase() == BookmarkError::stale) {
-        setCurrentFailure(DriveFailure::staleBookmark(BookmarkKey::vaultFolder));
-    }
+    resolveBookmark(BookmarkKey::vaultFolder, &AppState::setVaultURL);
 }
 
 void AppState::loadVaultEvents()

@@ -259,6 +259,7 @@ Q_SIGNALS:
     void visibleInboxEventsChanged();
 
 private:
+    void resolveBookmark(BookmarkKey key, void (AppState::*open)(const QString &));
     enum class AccessSlot { drive, vault };
     void beginAccess(AccessSlot slot, const QString &url);
     void beginDriveAccess(const QString &url) { beginAccess(AccessSlot::drive, url); }
