@@ -132,6 +132,7 @@ QStringList HelpArticle::listLines() const
         return {};
     return {QStringLiteral("Space — play or pause all cameras together"),
             QStringLiteral("← and → — skip back or forward 5 seconds"),
+            QStringLiteral(", and . — step one frame back or forward (pauses first)"),
             QStringLiteral("1 to 7 — jump straight to a camera (in the order shown in the grid)"),
             QStringLiteral("0 — back to all cameras"),
             QStringLiteral("M — replay the moment it happened (just before the honk, bump, or detection)"),

@@ -48,7 +48,7 @@ private Q_SLOTS:
     {
         if (!TestClips::ffmpegAvailable())
             QSKIP("the ffmpeg tool is needed to make test clips");
-        TestClips::Spec clipSpec;
+        TestClips::ClipOptions clipSpec;
         clipSpec.seconds = 2.0;
         const QString clip = TestClips::clip(clipSpec);
         TeslaCamFixture fixture(dir_.path() + QStringLiteral("/TeslaCam"));
@@ -172,9 +172,9 @@ private Q_SLOTS:
     // half-written movie. Clips of two sizes force the slow re-encoding.
     void interruptStopsAndCleansUp()
     {
-        TestClips::Spec small;
+        TestClips::ClipOptions small;
         small.seconds = 4.0;
-        TestClips::Spec large = small;
+        TestClips::ClipOptions large = small;
         large.width = 640;
         large.height = 480;
         TeslaCamFixture fixture(dir_.path() + QStringLiteral("/Slow/TeslaCam"));

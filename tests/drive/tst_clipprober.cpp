@@ -219,7 +219,7 @@ private Q_SLOTS:
         // The demuxer would complain about every broken file made here on purpose.
         av_log_set_level(AV_LOG_FATAL);
         h264_ = TestClips::clip();
-        TestClips::Spec hevc;
+        TestClips::ClipOptions hevc;
         hevc.codec = QStringLiteral("libx265");
         h265_ = TestClips::clip(hevc);
         QVERIFY(QFileInfo(h264_).size() >= ClipProber::minimumBelievableSize);

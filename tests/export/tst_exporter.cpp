@@ -82,9 +82,9 @@ private:
     Date base_;
 };
 
-TestClips::Spec clipSpec(double seconds, int width = 320, int height = 240)
+TestClips::ClipOptions clipSpec(double seconds, int width = 320, int height = 240)
 {
-    TestClips::Spec s;
+    TestClips::ClipOptions s;
     s.seconds = seconds;
     s.width = width;
     s.height = height;
@@ -216,7 +216,7 @@ private Q_SLOTS:
     void soundStartsWithTheFirstClipThatHasIt()
     {
         Footage footage;
-        TestClips::Spec withSound = clipSpec(2.0);
+        TestClips::ClipOptions withSound = clipSpec(2.0);
         withSound.audio = true;
         footage.addClip(TestClips::clip(withSound), 3);
         footage.addClip(TestClips::clip(withSound), 4);
@@ -265,7 +265,7 @@ private Q_SLOTS:
     void h265JoinsByCopy()
     {
         Footage footage;
-        TestClips::Spec hevc = clipSpec(1.5);
+        TestClips::ClipOptions hevc = clipSpec(1.5);
         hevc.codec = QStringLiteral("libx265");
         const QString source = TestClips::clip(hevc);
         footage.addClip(source, 2);
@@ -301,7 +301,7 @@ private Q_SLOTS:
         QFETCH(QString, pixelFormat);
         Footage footage;
         const QString small = TestClips::clip(clipSpec(1.0));
-        TestClips::Spec otherSpec = clipSpec(1.0, width, height);
+        TestClips::ClipOptions otherSpec = clipSpec(1.0, width, height);
         otherSpec.pixelFormat = pixelFormat;
         const QString other = TestClips::clip(otherSpec);
         footage.addClip(small, 2);

@@ -95,12 +95,12 @@ private Q_SLOTS:
     {
         for (const auto &[format, range] : {std::pair{QStringLiteral("yuvj420p"), QVideoFrameFormat::ColorRange_Full},
                                            std::pair{QStringLiteral("yuv420p"), QVideoFrameFormat::ColorRange_Video}}) {
-            TestClips::Spec spec;
-            spec.seconds = 1;
-            spec.pixelFormat = format;
+            TestClips::ClipOptions options;
+            options.seconds = 1;
+            options.pixelFormat = format;
             Composition c;
             c.addMutableTrack();
-            c.track(0).insertTimeRange(TestClips::clip(spec), MediaTime::zero(), s(1), MediaTime::zero());
+            c.track(0).insertTimeRange(TestClips::clip(options), MediaTime::zero(), s(1), MediaTime::zero());
             TrackPlayer player(c);
             QTRY_VERIFY(player.hasPicture());
             const auto f = player.currentFrame().surfaceFormat();
@@ -113,13 +113,13 @@ private Q_SLOTS:
     void playsHevcClips()
     {
         // Some older cars wrote H.265.
-        TestClips::Spec spec;
-        spec.seconds = 1;
-        spec.codec = QStringLiteral("libx265");
-        spec.pixelFormat = QStringLiteral("yuv420p");
+        TestClips::ClipOptions options;
+        options.seconds = 1;
+        options.codec = QStringLiteral("libx265");
+        options.pixelFormat = QStringLiteral("yuv420p");
         Composition c;
         c.addMutableTrack();
-        c.track(0).insertTimeRange(TestClips::clip(spec), MediaTime::zero(), s(1), MediaTime::zero());
+        c.track(0).insertTimeRange(TestClips::clip(options), MediaTime::zero(), s(1), MediaTime::zero());
         TrackPlayer player(c);
         QTRY_VERIFY(player.hasPicture());
         QVERIFY(seekAndWait(player, 0.5));

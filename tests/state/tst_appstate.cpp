@@ -50,7 +50,12 @@ class TestAppState : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { setOnboardingDone(false); }
+    void init()
+    {
+        // Every case starts with no saved folders and the wizard up.
+        QSettings(QStringLiteral("Keelhold"), QStringLiteral("Keelhold")).clear();
+        setOnboardingDone(false);
+    }
 
     void initialiserTouchesNothingAndMergesStoredTriage()
     {
@@ -180,7 +185,7 @@ private Q_SLOTS:
         QCOMPARE(state.driveVolumeCandidates().size(), size_t(1));
         const QString root = QStringLiteral("/media/u/UNTITLED 1/TeslaCam");
         state.beginScan(root);
-        QTRY_VERIFY_WITH_TIMEOUT(!state.isScanning(), 10000);
+        QTRY_VERIFY_WITH_TIMEOUT(!state.isScanning() && !state.isRevalidatingScan(), 10000);
         auto stream = engine.driveEvents();
 
         // The text prefix counts "/media/u/UNTITLED" as the root's volume.
@@ -213,18 +218,18 @@ private Q_SLOTS:
 
         TeslaCamFixture empty(tmp.filePath(QStringLiteral("empty/TeslaCam")));
         state.beginScan(empty.root());
-        QTRY_VERIFY_WITH_TIMEOUT(!state.isScanning(), 10000);
+        QTRY_VERIFY_WITH_TIMEOUT(!state.isScanning() && !state.isRevalidatingScan(), 10000);
         QCOMPARE(state.currentFailure(), DriveFailure::emptyDrive());
 
         TeslaCamFixture encrypted(tmp.filePath(QStringLiteral("enc/TeslaCam")));
         TeslaCamFixture::makeDir(encrypted.path(QStringLiteral("EncryptedClips")));
         state.beginScan(encrypted.root());
-        QTRY_VERIFY_WITH_TIMEOUT(!state.isScanning(), 10000);
+        QTRY_VERIFY_WITH_TIMEOUT(!state.isScanning() && !state.isRevalidatingScan(), 10000);
         QCOMPARE(state.currentFailure(), DriveFailure::encryptedClipsOnly());
 
         const QString missing = tmp.filePath(QStringLiteral("nothing/TeslaCam"));
         state.beginScan(missing);
-        QTRY_VERIFY_WITH_TIMEOUT(!state.isScanning(), 10000);
+        QTRY_VERIFY_WITH_TIMEOUT(!state.isScanning() && !state.isRevalidatingScan(), 10000);
         QCOMPARE(state.currentFailure(), DriveFailure::noTeslaCamFolder(QStringLiteral("TeslaCam")));
         // The earlier scan stays under the failure.
         QVERIFY(state.driveScan());
@@ -275,7 +280,7 @@ private Q_SLOTS:
         state.beginScan(other.root());
         QVERIFY(!state.isSampleMode());
         QVERIFY(state.driveScan()); // the sample scan stays until the first result
-        QTRY_VERIFY_WITH_TIMEOUT(!state.isScanning(), 10000);
+        QTRY_VERIFY_WITH_TIMEOUT(!state.isScanning() && !state.isRevalidatingScan(), 10000);
         state.loadSampleFootage();
         QTRY_VERIFY_WITH_TIMEOUT(!state.isScanning(), 20000);
         state.exitSampleMode();
@@ -361,9 +366,20 @@ private Q_SLOTS:
         AppState state(engine);
         std::vector<TeslaEvent> none;
         state.beginScan(drive.root());
-        QTRY_VERIFY_WITH_TIMEOUT(state.driveScan() && !state.isScanning(), 10000);
-        const std::vector<TeslaEvent> events = state.driveScan()->events;
+        QTRY_VERIFY_WITH_TIMEOUT(state.driveScan() && !state.isScanning() && !state.isRevalidatingScan(), 10000);
+        std::vector<TeslaEvent> events = state.driveScan()->events;
         QCOMPARE(events.size(), size_t(4));
+        // One more event whose only clip vanishes before the copy.
+        const QString doomed = drive.addEvent(
+            QStringLiteral("SentryClips"), QStringLiteral("2024-05-01_10-00-00"),
+            TeslaCamFixture::eventJson(QStringLiteral("2024-05-01T10:00:00"), QStringLiteral("sentry_aware_object_detection")));
+        const QString doomedClip =
+            drive.addClip(doomed, QStringLiteral("2024-05-01_09-59-00"), QStringLiteral("front"), 0, clip);
+        state.beginScan(drive.root());
+        QTRY_VERIFY_WITH_TIMEOUT(!state.isScanning() && !state.isRevalidatingScan(), 10000);
+        QCOMPARE(state.driveScan()->events.size(), size_t(5));
+        const TeslaEvent failing = state.driveScan()->events.back();
+        QCOMPARE(failing.folderName, QStringLiteral("2024-05-01_10-00-00"));
 
         // No Vault: the failure asks for one.
         state.keep({events[0]});
@@ -393,6 +409,19 @@ private Q_SLOTS:
         QCOMPARE(state.triageState(events[1]), TriageState::kept);
         QTRY_COMPARE(state.vaultEvents().size(), size_t(2));
         QVERIFY(state.healthReport());
+
+        // A file that fails is listed on the sheet; the event is kept exactly
+        // when the run recorded it (the engine records it with what arrived).
+        QVERIFY(QFile::remove(doomedClip));
+        state.setShowArchiveReport(false);
+        state.keep({failing});
+        QTRY_VERIFY_WITH_TIMEOUT(state.showArchiveReport(), 20000);
+        QCOMPARE(state.lastArchiveReport()->failedFiles.size(), size_t(1));
+        QCOMPARE(state.lastArchiveReport()->failedFiles[0].path, doomedClip);
+        bool recorded = false;
+        for (const ArchivedEvent &a : state.lastArchiveReport()->archivedEvents)
+            recorded = recorded || a.eventID == failing.id();
+        QCOMPARE(state.triageState(failing) == TriageState::kept, recorded);
 
         // Cancelled at once: the sheet still opens, marked cancelled.
         state.setShowArchiveReport(false);

@@ -17,7 +17,7 @@ QString cacheDir()
     return dir.path();
 }
 
-QString key(const Spec &s)
+QString key(const ClipOptions &s)
 {
     const QString text = QStringLiteral("%1|%2|%3|%4|%5|%6|%7|%8|%9")
                              .arg(s.seconds)
@@ -38,7 +38,7 @@ bool ffmpegAvailable()
     return !QStandardPaths::findExecutable(QStringLiteral("ffmpeg")).isEmpty();
 }
 
-void generate(const Spec &s, const QString &dest)
+void generate(const ClipOptions &s, const QString &dest)
 {
     QStringList args{QStringLiteral("-hide_banner"), QStringLiteral("-loglevel"), QStringLiteral("error"),
                      QStringLiteral("-y"), QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"),
@@ -67,11 +67,11 @@ void generate(const Spec &s, const QString &dest)
         throw std::runtime_error(("ffmpeg failed: " + QString::fromUtf8(p.readAllStandardError())).toStdString());
 }
 
-QString clip(const Spec &spec)
+QString clip(const ClipOptions &options)
 {
-    const QString path = cacheDir() + QLatin1Char('/') + key(spec) + QStringLiteral(".mp4");
+    const QString path = cacheDir() + QLatin1Char('/') + key(options) + QStringLiteral(".mp4");
     if (!QFile::exists(path))
-        generate(spec, path);
+        generate(options, path);
     return path;
 }
 

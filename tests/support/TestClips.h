@@ -6,7 +6,7 @@
 // parameter set for the life of the test process.
 namespace TestClips {
 
-struct Spec {
+struct ClipOptions {
     double seconds = 2.0;
     int width = 320;
     int height = 240;
@@ -20,10 +20,10 @@ struct Spec {
     bool lossless = false; // H.264 at qp 0, so pixel values survive exactly
 };
 
-// Path of a generated clip matching spec (do not modify it; copy it).
-QString clip(const Spec &spec = Spec());
+// Path of a generated clip matching options (do not modify it; copy it).
+QString clip(const ClipOptions &options = ClipOptions());
 // Generates into dest directly.
-void generate(const Spec &spec, const QString &dest);
+void generate(const ClipOptions &options, const QString &dest);
 bool ffmpegAvailable();
 
 } // namespace TestClips

@@ -60,16 +60,16 @@ bool limitedRange = false;
 
 QString makeClip(const QString &pattern, const QString &filter, const QString &dir, const QString &name)
 {
-    TestClips::Spec spec;
+    TestClips::ClipOptions options;
     if (limitedRange)
-        spec.pixelFormat = "yuv420p";
-    spec.seconds = 3;
-    spec.width = 640;
-    spec.height = 480;
-    spec.pattern = pattern;
-    spec.filter = filter;
+        options.pixelFormat = "yuv420p";
+    options.seconds = 3;
+    options.width = 640;
+    options.height = 480;
+    options.pattern = pattern;
+    options.filter = filter;
     const QString dest = dir + QLatin1Char('/') + name;
-    QFile::copy(TestClips::clip(spec), dest);
+    QFile::copy(TestClips::clip(options), dest);
     return dest;
 }
 } // namespace

@@ -1,0 +1,171 @@
+#include "ExportFlow.h"
+
+#include "export/Exporter.h"
+#include "model/CancellationError.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QPointer>
+#include <QStandardPaths>
+#include <QUrl>
+#include <QUuid>
+#include <QVariantMap>
+#include <algorithm>
+
+ExportFlow::ExportFlow(EngineFacade &engine, const TeslaEvent &event, QObject *parent)
+    : QObject(parent), engine_(engine), event_(event), cameras_(event.cameras())
+{
+    std::sort(cameras_.begin(), cameras_.end(),
+              [](Camera a, Camera b) { return a.gridOrder() < b.gridOrder(); });
+    if (!cameras_.empty())
+        selectedCamera_ = cameras_.front();
+}
+
+ExportFlow::~ExportFlow()
+{
+    if (watcher_) {
+        watcher_->disconnect(this);
+        watcher_->future().cancel();
+    }
+}
+
+ExportFlow::State ExportFlow::state() const
+{
+    if (exportedPath_)
+        return State::ready;
+    return isExporting_ ? State::exporting : State::choosing;
+}
+
+QString ExportFlow::stateName() const
+{
+    switch (state()) {
+    case State::choosing: return QStringLiteral("choosing");
+    case State::exporting: return QStringLiteral("exporting");
+    case State::ready: return QStringLiteral("ready");
+    }
+    return {};
+}
+
+void ExportFlow::setSelectedCamera(std::optional<Camera> camera)
+{
+    if (isExporting_ || camera == selectedCamera_)
+        return;
+    selectedCamera_ = camera;
+    Q_EMIT changed();
+}
+
+void ExportFlow::setSelectedCameraRaw(const QString &raw)
+{
+    for (Camera c : cameras_)
+        if (c.rawValue() == raw)
+            return setSelectedCamera(c);
+}
+
+QVariantList ExportFlow::camerasForQml() const
+{
+    QVariantList list;
+    for (Camera c : cameras_)
+        list.append(QVariantMap{{QStringLiteral("raw"), c.rawValue()}, {QStringLiteral("name"), c.displayName()}});
+    return list;
+}
+
+QString ExportFlow::readyText() const
+{
+    return exportedPath_ ? QStringLiteral("Ready: ") + QFileInfo(*exportedPath_).fileName() : QString();
+}
+
+QString ExportFlow::savedText() const
+{
+    return savedFileName_ ? QStringLiteral("Saved as ") + *savedFileName_ : QString();
+}
+
+QString ExportFlow::suggestedSaveFolder()
+{
+    const QString videos = QStandardPaths::writableLocation(QStandardPaths::MoviesLocation);
+    if (!videos.isEmpty() && QFileInfo(videos).isDir())
+        return videos;
+    return QDir::homePath();
+}
+
+void ExportFlow::startExport()
+{
+    if (!selectedCamera_ || isExporting_)
+        return;
+    const QString folder = QDir(QDir::tempPath()).filePath(QUuid::createUuid().toString(QUuid::WithoutBraces));
+    const QString output = QDir(folder).filePath(Exporter::suggestedFileName(event_, *selectedCamera_));
+    isExporting_ = true;
+    sessionBegan_ = false;
+    errorMessage_.reset();
+    Q_EMIT changed();
+
+    if (!QDir().mkpath(folder)) {
+        isExporting_ = false;
+        errorMessage_ = failureMessage;
+        Q_EMIT changed();
+        return;
+    }
+    QPointer<ExportFlow> self = this;
+    auto progress = [self](double fraction) {
+        QMetaObject::invokeMethod(
+            qApp,
+            [self, fraction] {
+                if (!self || !self->isExporting_)
+                    return;
+                self->sessionBegan_ = true;
+                self->progress_ = fraction;
+                Q_EMIT self->changed();
+            },
+            Qt::QueuedConnection);
+    };
+    watcher_ = std::make_unique<QFutureWatcher<void>>();
+    const QFuture<void> future = engine_.exportFootage(*selectedCamera_, event_, std::nullopt, output, progress);
+    connect(watcher_.get(), &QFutureWatcher<void>::finished, this, [this, future, output] { finish(future, output); });
+    watcher_->setFuture(future);
+}
+
+void ExportFlow::finish(const QFuture<void> &future, const QString &output)
+{
+    isExporting_ = false;
+    if (future.isCanceled()) {
+        // A stop before the session wrote anything ends quietly; a stop
+        // during the session ends like any failure.
+        if (sessionBegan_)
+            errorMessage_ = failureMessage;
+    } else {
+        try {
+            QFuture<void>(future).waitForFinished();
+            exportedPath_ = output;
+        } catch (const CancellationError &) {
+        } catch (...) {
+            errorMessage_ = failureMessage;
+        }
+    }
+    Q_EMIT changed();
+    Q_EMIT exportFinished();
+}
+
+void ExportFlow::stop()
+{
+    if (watcher_ && isExporting_)
+        watcher_->future().cancel();
+}
+
+bool ExportFlow::saveTo(const QString &destination)
+{
+    if (!exportedPath_ || destination.isEmpty())
+        return false;
+    const QUrl url(destination);
+    const QString path = url.isLocalFile() ? url.toLocalFile() : destination;
+    bool ok = true;
+    if (QFileInfo::exists(path) || QFileInfo(path).isSymLink())
+        ok = QFile::remove(path);
+    ok = ok && QFile::copy(*exportedPath_, path);
+    if (ok)
+        savedFileName_ = QFileInfo(path).fileName();
+    else
+        saveErrorMessage_ = saveFailureMessage;
+    Q_EMIT changed();
+    return ok;
+}

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+
+class AppState;
+
+// The player actions that both keyboard routes share. Each acts on the
+// state's active controller one turn of the event loop later, so that
+// published state doesn't change inside the key event.
+namespace PlayerKeyActions {
+
+void togglePlay(AppState *state);
+void skip(AppState *state, double seconds);
+void stepFrame(AppState *state, int direction);
+void jumpToMoment(AppState *state);
+void toggleFocusMode(AppState *state);
+void focusCamera(AppState *state, int index);
+void clearFocus(AppState *state);
+
+// The digit 1 to 7 a key's text stands for, or 0 when it is none of them.
+int cameraDigit(const QString &text);
+
+} // namespace PlayerKeyActions

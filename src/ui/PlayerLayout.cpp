@@ -1,0 +1,45 @@
+#include "PlayerLayout.h"
+
+#include "playback/SyncPlayerController.h"
+
+double PlayerLayout::momentMarkX(const QVariant &triggerOffset, double duration, double width)
+{
+    if (!triggerOffset.isValid() || triggerOffset.isNull() || duration <= 0)
+        return -1;
+    // The thumb travels 12 points in from each end.
+    return triggerOffset.toDouble() / duration * (width - 24) + 12;
+}
+
+QString PlayerLayout::momentMarkTooltip(double triggerOffset)
+{
+    return QStringLiteral("The moment it happened — ") + SyncPlayerController::timeString(triggerOffset) +
+           QStringLiteral(" into the event.");
+}
+
+QString PlayerLayout::speedLabel(double rate)
+{
+    if (rate == 1.0)
+        return QStringLiteral("1×");
+    return QString::asprintf("%.1f", rate) + QStringLiteral("×");
+}
+
+QString PlayerLayout::stripTooltip(const QString &cameraName, bool focused)
+{
+    if (focused)
+        return cameraName + QStringLiteral(" — currently enlarged.");
+    return QStringLiteral("Switch to the ") + cameraName +
+           QStringLiteral(" camera. (Keys 1–7 jump between cameras; 0 shows all.)");
+}
+
+QString PlayerLayout::gridTileTooltip(const QString &cameraName)
+{
+    return QStringLiteral("Click to enlarge the ") + cameraName +
+           QStringLiteral(" camera. Click again to show all cameras.");
+}
+
+QString PlayerLayout::coordinatesText(const QVariant &latitude, const QVariant &longitude)
+{
+    if (!latitude.isValid() || latitude.isNull() || !longitude.isValid() || longitude.isNull())
+        return QStringLiteral("Location unknown");
+    return QString::asprintf("%.4f, %.4f", latitude.toDouble(), longitude.toDouble());
+}

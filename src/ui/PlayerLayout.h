@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <QVariant>
+
+// The measures and texts of the player screen that are rules rather than
+// looks: grid columns, where the moment mark stands, speed labels, tooltips.
+class PlayerLayout : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(int stripHeight READ stripHeight CONSTANT)
+
+public:
+    explicit PlayerLayout(QObject *parent = nullptr) : QObject(parent) {}
+
+    static int stripHeight() { return 84; }
+    Q_INVOKABLE static int gridColumns(int tileCount) { return tileCount < 5 ? 2 : 3; }
+    // Centre of the red mark over a slider of the given width, or a negative
+    // number when no mark is shown.
+    Q_INVOKABLE static double momentMarkX(const QVariant &triggerOffset, double duration, double width);
+    Q_INVOKABLE static QString momentMarkTooltip(double triggerOffset);
+    Q_INVOKABLE static QString speedLabel(double rate);
+    Q_INVOKABLE static QString stripTooltip(const QString &cameraName, bool focused);
+    Q_INVOKABLE static QString gridTileTooltip(const QString &cameraName);
+    // "Location unknown" unless both coordinates are known.
+    Q_INVOKABLE static QString coordinatesText(const QVariant &latitude, const QVariant &longitude);
+};

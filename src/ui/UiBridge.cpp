@@ -1,0 +1,146 @@
+#include "UiBridge.h"
+
+#include "FailureScreens.h"
+#include "HealthPresenter.h"
+#include "HelpArticle.h"
+#include "ListPaneWidth.h"
+#include "OnboardingTexts.h"
+#include "SymbolIcons.h"
+#include "state/AppState.h"
+#include "state/SidebarSection.h"
+
+#include <QSettings>
+#include <QUrl>
+
+namespace {
+const char *const listWidthKey = "KHEventListWidth";
+}
+
+UiBridge::UiBridge(AppState *state, QObject *parent) : QObject(parent), state_(state) {}
+
+QVariantMap UiBridge::texts() const
+{
+    QVariantMap t = OnboardingTexts::texts();
+    t.insert(QStringLiteral("helpTip"),
+             QStringLiteral("Open Help — Sentry Mode, clip length, corruption, and encryption explained."));
+    t.insert(QStringLiteral("resizeTip"), QStringLiteral("Drag to resize the event list."));
+    t.insert(QStringLiteral("sampleBanner"),
+             QStringLiteral("You're exploring sample footage · Connect your Tesla drive anytime"));
+    t.insert(QStringLiteral("ejectSample"), QStringLiteral("Eject Sample"));
+    t.insert(QStringLiteral("promiseTitle"), QStringLiteral("Nothing on your drive is ever changed or deleted."));
+    t.insert(QStringLiteral("promiseText"),
+             QStringLiteral("Keelhold only reads from your Tesla drive. Every \"Keep\" makes a verified copy elsewhere "
+                            "— your original footage is never touched."));
+    return t;
+}
+
+QVariantList UiBridge::helpArticles() const
+{
+    QVariantList out;
+    for (HelpArticle a : HelpArticle::allCases())
+        out.append(QVariantMap{{QStringLiteral("id"), a.rawValue()},
+                               {QStringLiteral("title"), a.title()},
+                               {QStringLiteral("icon"), SymbolIcons::iconUrl(a.symbolName())},
+                               {QStringLiteral("paragraphs"), a.paragraphs()},
+                               {QStringLiteral("listLines"), a.listLines()}});
+    return out;
+}
+
+QVariantList UiBridge::sidebarSections() const
+{
+    static const char *const symbols[] = {"externaldrive.connected.to.line.below", "lock.shield", "map",
+                                          "waveform.path.ecg"};
+    QVariantList out;
+    for (SidebarSection s : SidebarSection::allCases())
+        out.append(QVariantMap{{QStringLiteral("value"), int(s.value())},
+                               {QStringLiteral("label"), s.rawValue()},
+                               {QStringLiteral("icon"), SymbolIcons::iconUrl(QString::fromLatin1(symbols[s.value()]))}});
+    return out;
+}
+
+QVariantList UiBridge::guideSteps() const { return OnboardingTexts::encryptionSteps(); }
+QVariantList UiBridge::guideNotes() const { return OnboardingTexts::encryptionNotes(); }
+
+double UiBridge::storedListWidth() const
+{
+    return QSettings().value(QLatin1String(listWidthKey), ListPaneWidth::defaultWidth).toDouble();
+}
+
+void UiBridge::setStoredListWidth(double w)
+{
+    if (w == storedListWidth())
+        return;
+    QSettings().setValue(QLatin1String(listWidthKey), w);
+    Q_EMIT storedListWidthChanged();
+}
+
+QString UiBridge::icon(const QString &symbolName) const { return SymbolIcons::iconUrl(symbolName); }
+double UiBridge::listColumnWidth(double total, double stored) const { return ListPaneWidth::columnWidth(total, stored); }
+double UiBridge::dragWidth(double atStart, double translation) const
+{
+    return ListPaneWidth::dragWidth(atStart, translation);
+}
+QString UiBridge::scanCountsText(int e, int c) const { return OnboardingTexts::scanCountsText(e, c); }
+
+QString UiBridge::rootForChosenFolder(const QString &chosen) const
+{
+    const QUrl url(chosen);
+    return OnboardingTexts::rootForChosenFolder(url.isLocalFile() ? url.toLocalFile() : chosen);
+}
+
+QString UiBridge::candidateHeading(const QVariantMap &c) const
+{
+    VolumeCandidate v;
+    v.name = c.value(QStringLiteral("name")).toString();
+    return OnboardingTexts::candidateHeading(v);
+}
+
+QString UiBridge::candidateCapacity(const QVariantMap &c) const
+{
+    VolumeCandidate v;
+    const QVariant cap = c.value(QStringLiteral("capacityBytes"));
+    if (cap.isValid() && !cap.isNull())
+        v.capacityBytes = qint64(cap.toDouble());
+    return OnboardingTexts::candidateCapacity(v);
+}
+
+QVariantMap UiBridge::failureScreen() const
+{
+    if (!state_ || !state_->currentFailure())
+        return {};
+    const DriveFailure &f = *state_->currentFailure();
+    switch (f.kind()) {
+    case DriveFailure::NoTeslaCamFolder: return FailureScreens::noTeslaCamFolder(f.volumeName()).toVariantMap();
+    case DriveFailure::UnreadableFormat:
+        return FailureScreens::unreadableFormat(f.format().value_or(VolumeFormat())).toVariantMap();
+    case DriveFailure::StaleBookmark:
+        return FailureScreens::staleBookmark(f.bookmarkKeyValue().value_or(BookmarkKey::teslaDrive)).toVariantMap();
+    case DriveFailure::EmptyDrive: return FailureScreens::emptyDrive().toVariantMap();
+    case DriveFailure::EncryptedClipsOnly: return FailureScreens::encryptedClipsOnly().toVariantMap();
+    case DriveFailure::DriveDisconnected: return FailureScreens::driveDisconnected().toVariantMap();
+    }
+    return {};
+}
+
+QVariantMap UiBridge::healthContent() const
+{
+    if (!state_ || !state_->healthReport()) {
+        QVariantMap m = HealthPresenter::emptyState();
+        m.insert(QStringLiteral("present"), false);
+        m.insert(QStringLiteral("icon"), SymbolIcons::iconUrl(m.value(QStringLiteral("symbolName")).toString()));
+        return m;
+    }
+    QVariantMap m = HealthPresenter::content(*state_->healthReport());
+    m.insert(QStringLiteral("present"), true);
+    return m;
+}
+
+QString UiBridge::pickFolder(const QString &chosen)
+{
+    const QString root = rootForChosenFolder(chosen);
+    if (state_) {
+        state_->engine().saveBookmark(root, BookmarkKey::teslaDrive); // a failed save is dropped by the store
+        state_->beginScan(root);
+    }
+    return root;
+}

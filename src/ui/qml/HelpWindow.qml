@@ -1,0 +1,63 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+
+// The help window: articles on the left, the selected one on the right.
+ApplicationWindow {
+    id: win
+    objectName: "helpWindow"
+    title: "Keelhold Help"
+    width: 700; height: 480
+    minimumWidth: 640; minimumHeight: 440
+    property int selected: 0
+    readonly property var article: ui.helpArticles[selected]
+
+    RowLayout {
+        anchors.fill: parent
+        spacing: 0
+        ListView {
+            id: list
+            Layout.preferredWidth: 230
+            Layout.fillHeight: true
+            model: ui.helpArticles
+            currentIndex: win.selected
+            header: Label { text: "Help"; font.weight: Font.DemiBold; padding: 12; opacity: 0.6 }
+            delegate: ItemDelegate {
+                width: ListView.view.width
+                highlighted: index === win.selected
+                onClicked: win.selected = index
+                contentItem: RowLayout {
+                    spacing: 8
+                    SymbolIcon { symbol: ""; source: modelData.icon }
+                    Label { text: modelData.title; wrapMode: Text.WordWrap; Layout.fillWidth: true }
+                }
+            }
+        }
+        Rectangle { width: 1; Layout.fillHeight: true; color: palette.mid }
+        ScrollView {
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            contentWidth: availableWidth
+            ColumnLayout {
+                x: 24
+                width: Math.min(parent.width - 48, 560)
+                spacing: 12
+                Item { height: 8 }
+                RowLayout {
+                    spacing: 10
+                    SymbolIcon { source: win.article.icon; size: 28 }
+                    Label { objectName: "helpArticleTitle"; text: win.article.title; font.pixelSize: 20; font.weight: Font.DemiBold; wrapMode: Text.WordWrap; Layout.fillWidth: true }
+                }
+                Label { text: win.article.paragraphs[0]; wrapMode: Text.WordWrap; Layout.fillWidth: true; lineHeight: 1.2 }
+                Repeater {
+                    model: win.article.listLines
+                    Label { text: "•  " + modelData; wrapMode: Text.WordWrap; Layout.fillWidth: true }
+                }
+                Repeater {
+                    model: win.article.paragraphs.slice(1)
+                    Label { text: modelData; wrapMode: Text.WordWrap; Layout.fillWidth: true; lineHeight: 1.2 }
+                }
+            }
+        }
+    }
+}

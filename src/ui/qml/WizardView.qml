@@ -1,0 +1,101 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Dialogs
+import QtQuick.Layouts
+
+// intro → pickDrive → scanning. The sample path leaves the onboarding flag alone.
+Item {
+    id: wiz
+    objectName: "wizardView"
+    property string step: "intro"
+    signal finished()
+    signal dismissed()
+    function runSample() { appState.loadSampleFootage(); dismissed() }
+    function picked(url) { ui.pickFolder(url); step = "scanning" }
+
+    FolderDialog {
+        id: panel
+        objectName: "folderDialog"
+        title: ui.texts.panelTitle
+        acceptLabel: ui.texts.panelPrompt
+        onAccepted: if (selectedFolder.toString().length > 0) wiz.picked(selectedFolder.toString())
+    }
+    function openPanel(start) { panel.currentFolder = "file://" + start; panel.open() }
+
+    ColumnLayout {
+        anchors.centerIn: parent
+        width: Math.min(parent.width - 64, 520)
+        spacing: 14
+        visible: wiz.step === "intro"
+        SymbolIcon { symbol: "car.side"; size: 56; Layout.alignment: Qt.AlignHCenter }
+        Label { text: ui.texts.introTitle; font.pixelSize: 24; font.weight: Font.DemiBold; Layout.alignment: Qt.AlignHCenter }
+        Label { text: ui.texts.introText; wrapMode: Text.WordWrap; Layout.fillWidth: true; horizontalAlignment: Text.AlignHCenter; opacity: 0.8; lineHeight: 1.2 }
+        Button { objectName: "getStarted"; text: ui.texts.getStarted; highlighted: true; Layout.alignment: Qt.AlignHCenter; onClicked: wiz.step = "pickDrive" }
+        Button { objectName: "trySample"; text: ui.texts.sampleButton; flat: true; Layout.alignment: Qt.AlignHCenter
+                 ToolTip.visible: hovered; ToolTip.text: ui.texts.sampleTip; onClicked: wiz.runSample() }
+    }
+
+    ColumnLayout {
+        anchors.centerIn: parent
+        width: Math.min(parent.width - 64, 560)
+        spacing: 12
+        visible: wiz.step === "pickDrive"
+        Label { text: ui.texts.pickerTitle; font.pixelSize: 22; font.weight: Font.DemiBold }
+        Label { text: ui.texts.pickerText; wrapMode: Text.WordWrap; Layout.fillWidth: true; opacity: 0.8 }
+        Repeater {
+            model: appState.driveVolumeCandidates
+            delegate: ItemDelegate {
+                Layout.fillWidth: true
+                onClicked: wiz.openPanel(modelData.volumeURL)
+                contentItem: RowLayout {
+                    spacing: 10
+                    SymbolIcon { symbol: "externaldrive.fill"; size: 22 }
+                    ColumnLayout {
+                        Layout.fillWidth: true; spacing: 0
+                        Label { text: ui.candidateHeading(modelData); font.weight: Font.DemiBold }
+                        Label { text: ui.candidateCapacity(modelData); opacity: 0.6; visible: text.length > 0 }
+                    }
+                    SymbolIcon { symbol: "chevron.right" }
+                }
+                background: Rectangle { radius: 8; color: parent.hovered ? palette.midlight : palette.base; border.color: palette.mid }
+            }
+        }
+        Label { visible: appState.driveVolumeCandidates.length > 0; text: ui.texts.pickerNote; wrapMode: Text.WordWrap; Layout.fillWidth: true; opacity: 0.6 }
+        RowLayout {
+            visible: appState.driveVolumeCandidates.length === 0
+            spacing: 10
+            SymbolIcon { symbol: "externaldrive.badge.questionmark"; size: 28 }
+            Label { text: ui.texts.noCandidates; wrapMode: Text.WordWrap; Layout.fillWidth: true }
+        }
+        Button { visible: appState.driveVolumeCandidates.length === 0; text: ui.texts.sampleButton; flat: true
+                 ToolTip.visible: hovered; ToolTip.text: ui.texts.sampleTip; onClicked: wiz.runSample() }
+        RowLayout {
+            spacing: 10
+            Button { text: ui.texts.back; onClicked: wiz.step = "intro" }
+            Item { Layout.fillWidth: true }
+            Button { objectName: "chooseManually"; text: ui.texts.chooseManually; ToolTip.visible: hovered; ToolTip.text: ui.texts.chooseManuallyTip
+                     onClicked: wiz.openPanel(ui.texts.removableMediaFolder) }
+        }
+    }
+
+    ColumnLayout {
+        anchors.centerIn: parent
+        width: Math.min(parent.width - 64, 480)
+        spacing: 12
+        visible: wiz.step === "scanning"
+        property bool wasScanning: appState.isScanning
+        Connections {
+            target: appState
+            function onIsScanningChanged() { if (!appState.isScanning && wiz.step === "scanning") wiz.finished() }
+        }
+        Label { text: ui.texts.scanTitle; font.pixelSize: 22; font.weight: Font.DemiBold; Layout.alignment: Qt.AlignHCenter }
+        BusyIndicator { running: appState.isScanning; Layout.alignment: Qt.AlignHCenter }
+        Label { visible: !!appState.scanProgress; text: appState.scanProgress ? appState.scanProgress.phase : ""; Layout.alignment: Qt.AlignHCenter }
+        Label { visible: !!appState.scanProgress
+                text: appState.scanProgress ? ui.scanCountsText(appState.scanProgress.eventsFound, appState.scanProgress.clipsFound) : ""
+                Layout.alignment: Qt.AlignHCenter }
+        Label { text: ui.texts.scanHint; opacity: 0.6; Layout.alignment: Qt.AlignHCenter }
+        Button { text: appState.isScanning ? ui.texts.browseWhileFinishes : ui.texts.startBrowsing; highlighted: true
+                 Layout.alignment: Qt.AlignHCenter; onClicked: wiz.finished() }
+    }
+}
