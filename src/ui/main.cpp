@@ -2,6 +2,7 @@
 #include "state/AppState.h"
 #include "state/DriveFailure.h"
 #include "state/SidebarSection.h"
+#include "ScreenModels.h"
 #include "UiBridge.h"
 
 #include <QQuickWindow>
@@ -35,7 +36,9 @@ int main(int argc, char *argv[])
 
     // Declared before the engine so it outlives the QML that reads it.
     UiBridge ui(&appState);
+    ScreenModels screens(&appState);
     QQmlApplicationEngine engine;
+    screens.install(engine);
     engine.rootContext()->setContextProperty(QStringLiteral("appState"), &appState);
     engine.rootContext()->setContextProperty(QStringLiteral("ui"), &ui);
     QObject::connect(&engine, &QQmlApplicationEngine::objectCreationFailed, &app,

@@ -103,7 +103,7 @@ ApplicationWindow {
             RowLayout {
                 anchors.fill: parent
                 spacing: 0
-                visible: appState.selectedSection === 0 || appState.selectedSection === 1
+                visible: appState.selectedSection === 0 || (appState.selectedSection === 1 && !vault.isEmpty)
                 ColumnLayout {
                     visible: !appState.isFocusMode
                     Layout.preferredWidth: detail.listWidth
@@ -111,11 +111,6 @@ ApplicationWindow {
                     Layout.minimumWidth: detail.listWidth
                     Layout.fillHeight: true
                     spacing: 0
-                    SampleModeBanner {
-                        visible: appState.isSampleMode && appState.selectedSection === 0
-                        Layout.fillWidth: true
-                        onEject: appState.exitSampleMode()
-                    }
                     FailureView {
                         property var s: { appState.currentFailure; return ui.failureScreen() }
                         screen: s
@@ -123,9 +118,13 @@ ApplicationWindow {
                         Layout.fillWidth: true
                         Layout.fillHeight: true
                     }
-                    PlaceholderColumn {
-                        visible: !(appState.selectedSection === 0 && appState.currentFailure)
-                        name: appState.selectedSection === 0 ? "EventListView" : "VaultEventListColumn"
+                    EventListView {
+                        visible: appState.selectedSection === 0 && !appState.currentFailure
+                        Layout.fillWidth: true
+                        Layout.fillHeight: true
+                    }
+                    VaultEventListColumn {
+                        visible: appState.selectedSection === 1
                         Layout.fillWidth: true
                         Layout.fillHeight: true
                     }
@@ -142,14 +141,24 @@ ApplicationWindow {
                     Layout.fillHeight: true
                 }
             }
-            PlaceholderColumn {
+            VaultEmptyStateColumn {
+                anchors.fill: parent
+                visible: appState.selectedSection === 1 && vault.isEmpty
+            }
+            EventMapView {
                 anchors.fill: parent
                 visible: appState.selectedSection === 2
-                name: "EventMapView"
             }
             HealthView {
                 anchors.fill: parent
                 visible: appState.selectedSection === 3
+            }
+            ArchiveProgressOverlay {
+                visible: vault.showsProgress && (appState.selectedSection === 0 || appState.selectedSection === 2)
+                anchors.left: parent.left
+                anchors.right: parent.right
+                anchors.bottom: parent.bottom
+                anchors.margins: 16
             }
         }
     }
@@ -188,6 +197,6 @@ ApplicationWindow {
         width: 520; height: 360
         visible: appState.showArchiveReport && !!appState.lastArchiveReport
         onClosed: appState.showArchiveReport = false
-        contentItem: PlaceholderColumn { name: "ArchiveReportSheet" }
+        contentItem: ArchiveReportSheet { onDone: appState.showArchiveReport = false }
     }
 }
