@@ -59,6 +59,7 @@ ColumnLayout {
 
     Menu {
         id: rowMenu
+        objectName: "vaultRowMenu"
         property string eventID: ""
         MenuItem { objectName: "menuMoveToTrash"; text: vault.texts.moveToTrashItem; onTriggered: root.pendingRemoval = rowMenu.eventID }
     }
