@@ -18,6 +18,7 @@ TileMap::TileMap(QQuickItem *parent) : QQuickPaintedItem(parent)
     connect(TileSource::shared(), &TileSource::tileArrived, this, &TileMap::relayout);
     connect(this, &QQuickItem::widthChanged, this, &TileMap::relayout);
     connect(this, &QQuickItem::heightChanged, this, &TileMap::relayout);
+    connect(this, &QQuickItem::visibleChanged, this, &TileMap::relayout);
 }
 
 void TileMap::changed()
@@ -109,7 +110,8 @@ void TileMap::fitTo(const QVariantList &points)
 void TileMap::relayout()
 {
     std::vector<Placed> placed;
-    if (width() > 0 && height() > 0) {
+    // A hidden map asks the server for nothing.
+    if (isVisible() && width() > 0 && height() > 0) {
         const int z = int(std::clamp(std::floor(zoom_ + 0.5), 0.0, maxZoom));
         const double size = tileSize * std::pow(2.0, zoom_ - z);
         const QPointF c = centreWorld(zoom_);
