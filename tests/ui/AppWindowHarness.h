@@ -110,8 +110,27 @@ public:
         return item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
     }
 
+    // Waits for the item to stop moving (layouts settle on the next frame), then clicks its centre.
     void click(QQuickItem *item, Qt::MouseButton button = Qt::LeftButton) const
     {
-        QTest::mouseClick(window(), button, Qt::NoModifier, centreOf(item));
+        QPoint last = centreOf(item);
+        for (int i = 0; i < 20; ++i) {
+            QTest::qWait(20);
+            const QPoint now = centreOf(item);
+            if (now == last)
+                break;
+            last = now;
+        }
+        QTest::mouseClick(window(), button, Qt::NoModifier, last);
+    }
+
+    // With KEELHOLD_SCREENSHOT_DIR set, the window as it stands goes to <dir>/<name>.png.
+    void shot(const QString &name) const
+    {
+        const QString dir = qEnvironmentVariable("KEELHOLD_SCREENSHOT_DIR");
+        if (dir.isEmpty() || !window())
+            return;
+        QTest::qWait(200);
+        window()->grabWindow().save(dir + QLatin1Char('/') + name + QStringLiteral(".png"));
     }
 };

@@ -18,7 +18,7 @@ namespace {
 // A tile server on 127.0.0.1: every tile is one flat colour.
 class LocalTileServer : public QObject {
 public:
-    static inline const QColor colour{20, 160, 90};
+    static inline const QColor colour{205, 228, 196};
     QTcpServer server;
     QStringList paths;
     QStringList userAgents;
@@ -143,6 +143,7 @@ private Q_SLOTS:
         const QColor seen = shot.pixelColor(corner);
         QVERIFY2(qAbs(seen.red() - LocalTileServer::colour.red()) < 6 && qAbs(seen.green() - LocalTileServer::colour.green()) < 6,
                  qPrintable(seen.name()));
+        app->shot(QStringLiteral("event-map"));
         auto *attribution = app->find(QStringLiteral("mapAttribution"));
         QVERIFY(attribution && attribution->isVisible());
         QCOMPARE(attribution->property("text").toString(), QStringLiteral("© OpenStreetMap contributors"));

@@ -240,7 +240,9 @@ private Q_SLOTS:
         // The Sentry event is ticked but filtered away: it is not kept.
         app->state.setFilterKind(EventKind::saved);
         QTRY_VERIFY(rows()->indexOf(sentry.first()) < 0);
+        app->shot(QStringLiteral("inbox-filters-and-bulk-selection"));
         app->click(keep);
+        QTRY_VERIFY(app->state.selectedEventIDsForBulk().isEmpty());
         waitForKeep();
         QVERIFY(app->state.selectedEventIDsForBulk().isEmpty());
         for (const QString &id : saved)
@@ -252,6 +254,7 @@ private Q_SLOTS:
         auto *heading = app->find(QStringLiteral("reportHeading"));
         QVERIFY(heading);
         QTRY_COMPARE(heading->property("text").toString(), QStringLiteral("Backup Complete"));
+        app->shot(QStringLiteral("archive-report"));
         const QVariantList lines = app->screens.vault()->report().value(QStringLiteral("lines")).toList();
         QCOMPARE(lines.size(), 1);
         QVERIFY(lines.first().toMap().value(QStringLiteral("text")).toString().startsWith(
@@ -375,6 +378,7 @@ private Q_SLOTS:
         QObject *popover = badgeItem->findChild<QObject *>(QStringLiteral("verificationPopover"));
         QVERIFY(popover);
         QTRY_VERIFY(popover->property("visible").toBool());
+        app->shot(QStringLiteral("vault-verification-popover"));
         const QVariantMap info = app->screens.vault()->verification(id);
         const QVariantList files = info.value(QStringLiteral("files")).toList();
         QVERIFY(!files.isEmpty());
@@ -418,6 +422,39 @@ private Q_SLOTS:
         QVERIFY2(inTrash, qPrintable(trash));
         QDirIterator vaultIt(vaultPath, {folderName}, QDir::Dirs, QDirIterator::Subdirectories);
         QVERIFY(!vaultIt.hasNext());
+    }
+
+    void progressOverlayStandsOverDriveAndMapAndCancels()
+    {
+        std::vector<TeslaEvent> batch;
+        for (const TeslaEvent &e : app->state.driveScan()->events)
+            if (app->state.triageStateFor(e.id()) == QLatin1String("new") && batch.size() < 120)
+                batch.push_back(e);
+        auto *overlay = app->find(QStringLiteral("archiveProgressOverlay"));
+        QVERIFY(overlay && !overlay->isVisible());
+        app->state.keep(batch);
+        QVERIFY(overlay->isVisible());
+        auto *line = app->find(QStringLiteral("archiveProgressLine"));
+        QCOMPARE(line->property("text").toString(), QStringLiteral("0 of 120 events"));
+        QTRY_VERIFY(!app->state.isArchiving() || app->state.archiveProgress()->eventsCompleted >= 2);
+        app->shot(QStringLiteral("archive-progress-overlay"));
+        // Over the map too.
+        app->state.setSelectedSection(SidebarSection::map);
+        QVERIFY(!app->state.isArchiving() || overlay->isVisible());
+        const bool stillRunning = app->state.isArchiving();
+        if (stillRunning) {
+            auto *cancel = app->find(QStringLiteral("cancelArchive"));
+            QVERIFY(cancel && cancel->isVisible());
+            QMetaObject::invokeMethod(cancel, "clicked");
+        }
+        waitForKeep();
+        QTRY_VERIFY(!overlay->isVisible());
+        QVERIFY(app->state.lastArchiveReport());
+        if (stillRunning) {
+            QVERIFY(app->state.lastArchiveReport()->cancelled);
+            QCOMPARE(app->screens.vault()->report().value(QStringLiteral("heading")).toString(), QStringLiteral("Backup Stopped"));
+            QVERIFY(int(app->state.lastArchiveReport()->archivedEvents.size()) < 120);
+        }
     }
 
     void vaultEmptyStatesFollowTheFolder()
