@@ -124,6 +124,14 @@ public:
         QTest::mouseClick(window(), button, Qt::NoModifier, last);
     }
 
+    // The same without letting the event loop run first.
+    void shotNow(const QString &name) const
+    {
+        const QString dir = qEnvironmentVariable("KEELHOLD_SCREENSHOT_DIR");
+        if (!dir.isEmpty() && window())
+            window()->grabWindow().save(dir + QLatin1Char('/') + name + QStringLiteral(".png"));
+    }
+
     // With KEELHOLD_SCREENSHOT_DIR set, the window as it stands goes to <dir>/<name>.png.
     void shot(const QString &name) const
     {

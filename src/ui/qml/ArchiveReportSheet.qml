@@ -24,7 +24,7 @@ ColumnLayout {
             Label { text: modelData.text; wrapMode: Text.WordWrap; Layout.fillWidth: true }
         }
     }
-    Item { Layout.fillHeight: true }
+    Item { implicitHeight: 4 }
     Button {
         objectName: "reportDone"
         Layout.alignment: Qt.AlignRight

@@ -87,13 +87,19 @@ ColumnLayout {
             clip: true
             focus: true
             model: inbox.rows
-            currentIndex: inbox.rows.selectedIndex
             keyNavigationEnabled: false
             reuseItems: true
             cacheBuffer: 640
             boundsBehavior: Flickable.StopAtBounds
             ScrollBar.vertical: ScrollBar {}
-            onCurrentIndexChanged: if (currentIndex >= 0) positionViewAtIndex(currentIndex, ListView.Contain)
+            // The selection scrolls into view, wherever it was set from (keys, the map, Preview).
+            Connections {
+                target: inbox.rows
+                function onSelectedIndexChanged() {
+                    if (inbox.rows.selectedIndex >= 0)
+                        list.positionViewAtIndex(inbox.rows.selectedIndex, ListView.Contain)
+                }
+            }
             Keys.onUpPressed: inbox.moveSelection(-1)
             Keys.onDownPressed: inbox.moveSelection(1)
             Keys.onPressed: (event) => {

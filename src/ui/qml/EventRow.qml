@@ -67,8 +67,8 @@ Rectangle {
 
         Item {
             objectName: "thumbnail"
-            Layout.preferredWidth: 72
-            Layout.preferredHeight: 48
+            Layout.preferredWidth: 64
+            Layout.preferredHeight: 44
             Rectangle {
                 anchors.fill: parent
                 radius: 6
@@ -125,9 +125,9 @@ Rectangle {
             Label {
                 objectName: "firstLine"
                 Layout.fillWidth: true
+                Layout.minimumWidth: implicitWidth
                 text: row.timestampText
                 font.weight: Font.DemiBold
-                elide: Text.ElideRight
             }
             Label {
                 objectName: "secondLine"

@@ -194,7 +194,8 @@ ApplicationWindow {
         id: reportSheet
         modal: true
         anchors.centerIn: Overlay.overlay
-        width: 520; height: 360
+        width: 520
+        padding: 20
         visible: appState.showArchiveReport && !!appState.lastArchiveReport
         onClosed: appState.showArchiveReport = false
         contentItem: ArchiveReportSheet { onDone: appState.showArchiveReport = false }

@@ -46,7 +46,6 @@ ColumnLayout {
         Layout.fillHeight: true
         clip: true
         model: vault.rows
-        currentIndex: vault.rows.selectedIndex
         ScrollBar.vertical: ScrollBar {}
         delegate: EventRow {
             id: vrow
