@@ -1,10 +1,12 @@
 #include "AppWindowHarness.h"
 
+#include "InboxPresenter.h"
 #include "InboxViewModel.h"
 #include "VaultViewModel.h"
 #include "support/IsolatedHome.h"
 #include "support/TeslaCamFixture.h"
 
+#include <QAccessible>
 #include <QDateTime>
 #include <QDirIterator>
 #include <QGuiApplication>
@@ -493,6 +495,43 @@ private Q_SLOTS:
         QCOMPARE(VaultViewModel::emptyStateFor(true).value(QStringLiteral("title")).toString(),
                  QStringLiteral("Your Vault is empty so far"));
         QVERIFY(VaultViewModel::emptyStateFor(true).value(QStringLiteral("actionTitle")).toString().isEmpty());
+    }
+
+    void sampleFootageFillsTheInboxAndEjects()
+    {
+        if (!AppState::sampleFootageURL())
+            QSKIP("the sample footage is not built (target sample_footage)");
+        app->state.loadSampleFootage();
+        QTRY_VERIFY_WITH_TIMEOUT(app->state.isSampleMode() && app->state.driveScan() && !app->state.isScanning(), 30000);
+        QCOMPARE(app->screens.inbox()->content(), QStringLiteral("inbox"));
+        QTRY_COMPARE(rows()->count(), int(app->state.visibleInboxEvents().size()));
+        QVERIFY(rows()->count() > 0);
+        QQuickItem *banner = app->find(QStringLiteral("sampleModeBanner"));
+        QVERIFY(banner && banner->isVisible());
+
+        // Every row has its two lines; the cars' own pictures load.
+        int pictures = 0;
+        const std::vector<TeslaEvent> events = rows()->events();
+        for (const TeslaEvent &e : events) {
+            QQuickItem *row = rowItem(e.id());
+            QVERIFY(row);
+            QVERIFY(!AppWindowHarness::findItem(row, QStringLiteral("secondLine"))->property("text").toString().isEmpty());
+            // One accessibility element, named by reason, time and place.
+            QAccessibleInterface *access = QAccessible::queryAccessibleInterface(row);
+            QVERIFY(access);
+            QCOMPARE(access->text(QAccessible::Name), InboxPresenter::accessibilityLabel(e));
+            if (e.thumbURL) {
+                QQuickItem *picture = AppWindowHarness::findItem(row, QStringLiteral("picture"));
+                QTRY_COMPARE(picture->property("status").toInt(), 1);
+                ++pictures;
+            }
+        }
+        QVERIFY(pictures > 0);
+        app->shot(QStringLiteral("inbox-sample-footage"));
+
+        QMetaObject::invokeMethod(banner, "eject");
+        QTRY_VERIFY(!app->state.isSampleMode());
+        QTRY_VERIFY(!banner->isVisible());
     }
 
     void cleanupTestCase() { app.reset(); }
