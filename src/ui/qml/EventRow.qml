@@ -53,11 +53,13 @@ Rectangle {
         anchors.fill: parent
         anchors.leftMargin: 10
         anchors.rightMargin: 10
-        spacing: 10
+        spacing: 8
 
         ToolButton {
             objectName: "tick"
             visible: row.bulkMode
+            implicitWidth: 28
+            padding: 2
             icon.source: row.tickIcon
             icon.color: row.isBulkSelected ? palette.highlight : palette.windowText
             ToolTip.visible: hovered; ToolTip.text: row.tickToolTip; ToolTip.delay: 500
@@ -67,8 +69,8 @@ Rectangle {
 
         Item {
             objectName: "thumbnail"
-            Layout.preferredWidth: 64
-            Layout.preferredHeight: 44
+            Layout.preferredWidth: 60
+            Layout.preferredHeight: 42
             Rectangle {
                 anchors.fill: parent
                 radius: 6
@@ -125,9 +127,9 @@ Rectangle {
             Label {
                 objectName: "firstLine"
                 Layout.fillWidth: true
-                Layout.minimumWidth: implicitWidth
                 text: row.timestampText
                 font.weight: Font.DemiBold
+                elide: Text.ElideRight
             }
             Label {
                 objectName: "secondLine"

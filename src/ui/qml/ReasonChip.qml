@@ -12,7 +12,7 @@ Rectangle {
     property string blurb: ""
     property string accessibleText: ""
     property bool compact: true
-    implicitWidth: chipRow.implicitWidth + 12
+    implicitWidth: chipRow.implicitWidth + 10
     implicitHeight: chipRow.implicitHeight + 6
     radius: height / 2
     color: Qt.rgba(palette.windowText.r, palette.windowText.g, palette.windowText.b, 0.07)
