@@ -4,6 +4,7 @@
 #include "TileSource.h"
 
 #include <QPainter>
+#include <QQuickWindow>
 #include <algorithm>
 #include <cmath>
 
@@ -19,6 +20,7 @@ TileMap::TileMap(QQuickItem *parent) : QQuickPaintedItem(parent)
     connect(this, &QQuickItem::widthChanged, this, &TileMap::relayout);
     connect(this, &QQuickItem::heightChanged, this, &TileMap::relayout);
     connect(this, &QQuickItem::visibleChanged, this, &TileMap::relayout);
+    connect(this, &QQuickItem::windowChanged, this, &TileMap::relayout);
 }
 
 void TileMap::changed()
@@ -110,8 +112,8 @@ void TileMap::fitTo(const QVariantList &points)
 void TileMap::relayout()
 {
     std::vector<Placed> placed;
-    // A hidden map asks the server for nothing.
-    if (isVisible() && width() > 0 && height() > 0) {
+    // A hidden map, or one in no window, asks the server for nothing.
+    if (window() && isVisible() && width() > 0 && height() > 0) {
         const int z = int(std::clamp(std::floor(zoom_ + 0.5), 0.0, maxZoom));
         const double size = tileSize * std::pow(2.0, zoom_ - z);
         const QPointF c = centreWorld(zoom_);

@@ -2,6 +2,7 @@
 
 #include "EventMapPresenter.h"
 
+#include <QDateTime>
 #include <QNetworkDiskCache>
 #include <QNetworkReply>
 #include <QNetworkRequest>
@@ -44,8 +45,13 @@ std::optional<QImage> TileSource::tile(int z, int x, int y)
     const QString url = EventMapPresenter::tileUrl(urlTemplate(), z, x, y);
     if (const QImage *image = images_.object(url))
         return *image;
-    if (pending_.contains(url) || failed_.contains(url))
+    if (pending_.contains(url))
         return std::nullopt;
+    if (const auto failed = failedAt_.constFind(url); failed != failedAt_.cend()) {
+        if (QDateTime::currentMSecsSinceEpoch() - failed.value() < retryAfterMs)
+            return std::nullopt;
+        failedAt_.erase(failed);
+    }
     QNetworkRequest request{QUrl(url)};
     request.setHeader(QNetworkRequest::UserAgentHeader, userAgent());
     request.setAttribute(QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::PreferCache);
@@ -65,7 +71,7 @@ void TileSource::finished(QNetworkReply *reply, const QString &key)
         image.loadFromData(reply->readAll());
     if (image.isNull()) {
         // Offline or refused: the map stays plain; no retry storm while it is drawn.
-        failed_.insert(key);
+        failedAt_.insert(key, QDateTime::currentMSecsSinceEpoch());
         return;
     }
     images_.insert(key, new QImage(std::move(image)));

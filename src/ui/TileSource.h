@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QCache>
+#include <QHash>
 #include <QImage>
 #include <QNetworkAccessManager>
 #include <QObject>
@@ -19,6 +20,7 @@ class TileSource : public QObject {
     Q_OBJECT
 public:
     static inline const QString templateKey = QStringLiteral("KHMapTileURLTemplate");
+    static constexpr qint64 retryAfterMs = 30000;
 
     explicit TileSource(QObject *parent = nullptr);
     // The one instance of the process; lives on the main thread.
@@ -43,7 +45,9 @@ private:
     QNetworkAccessManager network_;
     QCache<QString, QImage> images_{256};
     QSet<QString> pending_;
-    QSet<QString> failed_;
+    // When each tile last failed; it is asked for again after a pause, so the
+    // map fills in once the network is back.
+    QHash<QString, qint64> failedAt_;
     int requestsStarted_ = 0;
     int tilesArrived_ = 0;
 };

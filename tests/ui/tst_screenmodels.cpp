@@ -327,6 +327,7 @@ private Q_SLOTS:
 
     void tileMapKeepsTheCoordinateUnderTheCursor()
     {
+        const int requests = TileSource::shared()->requestsStarted();
         TileMap map;
         map.setSize(QSizeF(800, 600));
         map.setCenterLatitude(30.25);
@@ -354,6 +355,8 @@ private Q_SLOTS:
                                           p.toMap().value(QStringLiteral("longitude")).toDouble());
             QVERIFY(at.x() >= 0 && at.x() <= 800 && at.y() >= 0 && at.y() <= 600);
         }
+        // Not in a window: nothing was asked of any server.
+        QCOMPARE(TileSource::shared()->requestsStarted(), requests);
     }
 
     void tileSourceNamesItselfAndReadsTheTemplate()

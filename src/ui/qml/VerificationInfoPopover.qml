@@ -9,7 +9,7 @@ Item {
     objectName: "verificationBadge"
     property string eventID: ""
     property bool showDetail: false
-    readonly property var info: { vault.rows.count; return vault.verification(eventID) }
+    readonly property var info: { appState.vaultIndex; return vault.verification(eventID) }
     visible: info.present === true
     implicitWidth: badgeButton.implicitWidth
     implicitHeight: badgeButton.implicitHeight
