@@ -151,6 +151,8 @@ int InboxViewModel::recentCount() const
     return state_ ? int(InboxPresenter::recentDriving(state_->visibleInboxEvents()).size()) : 0;
 }
 
+bool InboxViewModel::showsSwitchDrive() const { return state_ && state_->driveScan().has_value(); }
+
 QString InboxViewModel::scanCounts() const
 {
     if (!state_ || !state_->scanProgress())

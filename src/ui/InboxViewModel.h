@@ -27,6 +27,11 @@ class InboxViewModel : public QObject {
     Q_PROPERTY(QString bulkKeepTitle READ bulkKeepTitle NOTIFY bulkChanged)
     Q_PROPERTY(QString bulkDismissTitle READ bulkDismissTitle NOTIFY bulkChanged)
     Q_PROPERTY(int recentCount READ recentCount NOTIFY recentChanged)
+    // The banner stands while the visible list holds recent driving.
+    Q_PROPERTY(bool showsRecentBanner READ showsRecentBanner NOTIFY recentChanged)
+    Q_PROPERTY(bool showsTokens READ showsTokens NOTIFY filtersChanged)
+    // "Switch Drive" stands once there is a scan.
+    Q_PROPERTY(bool showsSwitchDrive READ showsSwitchDrive NOTIFY contentChanged)
     Q_PROPERTY(QString scanCounts READ scanCounts NOTIFY scanCountsChanged)
     Q_PROPERTY(QVariantMap emptyScreen READ emptyScreen NOTIFY contentChanged)
 public:
@@ -46,6 +51,9 @@ public:
     QString bulkKeepTitle() const;
     QString bulkDismissTitle() const;
     int recentCount() const;
+    bool showsRecentBanner() const { return recentCount() > 0; }
+    bool showsTokens() const { return activeFilterCount() > 0; }
+    bool showsSwitchDrive() const;
     QString scanCounts() const;
     // The screen of "noDrive" and "emptyDrive": symbolName, title, message, actionTitle.
     QVariantMap emptyScreen() const;

@@ -20,7 +20,7 @@ ColumnLayout {
         Label { text: inbox.texts.title; font.pixelSize: 16; font.weight: Font.DemiBold; Layout.fillWidth: true }
         ToolButton {
             objectName: "switchDrive"
-            visible: appState.driveScan !== undefined && appState.driveScan !== null
+            visible: inbox.showsSwitchDrive
             text: inbox.texts.switchDrive
             icon.source: inbox.texts.switchDriveIcon
             display: AbstractButton.TextBesideIcon
@@ -67,8 +67,8 @@ ColumnLayout {
             onEject: appState.exitSampleMode()
         }
         RecentDrivingBanner {
-            visible: inbox.recentCount > 0
-            hasEvents: inbox.recentCount > 0
+            visible: inbox.showsRecentBanner
+            hasEvents: inbox.showsRecentBanner
             Layout.fillWidth: true
             onKeepAll: inbox.keepRecentDriving()
             onOpen: inbox.previewRecentDriving()

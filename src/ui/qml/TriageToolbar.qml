@@ -106,7 +106,7 @@ ColumnLayout {
 
     Flow {
         objectName: "filterTokens"
-        visible: inbox.activeFilterCount > 0
+        visible: inbox.showsTokens
         Layout.fillWidth: true
         spacing: 6
         Repeater {
