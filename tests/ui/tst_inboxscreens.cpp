@@ -186,6 +186,27 @@ private Q_SLOTS:
         QTRY_VERIFY(!tokens->isVisible());
     }
 
+    void aRescanKeepsTheListAndShowsTheCheckingLine()
+    {
+        auto *line = app->find(QStringLiteral("revalidatingLine"));
+        QVERIFY(line && !line->isVisible());
+        // Checked at the moment the state turns, however short the check is.
+        int seen = 0;
+        const QMetaObject::Connection c = connect(&app->state, &AppState::isRevalidatingScanChanged, this, [&] {
+            if (!app->state.isRevalidatingScan())
+                return;
+            ++seen;
+            QCOMPARE(app->screens.inbox()->content(), QStringLiteral("inbox"));
+            QVERIFY(line->isVisible());
+            QCOMPARE(rows()->count(), 500);
+        });
+        app->state.beginScan(tmp.filePath(QStringLiteral("drive/TeslaCam")));
+        QTRY_VERIFY_WITH_TIMEOUT(seen == 1 && !app->state.isScanning() && !app->state.isRevalidatingScan(), 60000);
+        disconnect(c);
+        QVERIFY(!line->isVisible());
+        QCOMPARE(rows()->count(), 500);
+    }
+
     void recentBannerFollowsTheFilters()
     {
         auto *banner = app->find(QStringLiteral("recentDrivingBanner"));

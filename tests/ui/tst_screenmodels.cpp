@@ -158,9 +158,11 @@ private Q_SLOTS:
         state.setFilterState(std::nullopt);
         QCOMPARE(state.triageStateFor(rows->idAt(0)), QStringLiteral("new"));
 
-        // Keeping without a Vault asks for one.
+        // Keeping without a Vault asks for one; the failure stands above the filled list.
         inbox.keepSelected();
         QVERIFY(state.currentFailure());
+        QCOMPARE(inbox.content(), QStringLiteral("failure"));
+        QVERIFY(!state.driveScan()->events.empty());
     }
 
     void filterMenuAndTokens()
