@@ -141,18 +141,30 @@ Rectangle {
             }
         }
 
-        RowLayout {
-            spacing: 8
-            ReasonChip {
-                label: row.reasonLabel; shortLabel: row.reasonShortLabel; iconSource: row.reasonIcon
-                blurb: row.reasonBlurb; accessibleText: row.reasonAccessible; compact: true
+        ColumnLayout {
+            spacing: 2
+            RowLayout {
+                Layout.alignment: Qt.AlignRight
+                spacing: 8
+                // Part of the row's one accessibility element, not elements of their own.
+                ReasonChip {
+                    label: row.reasonLabel; shortLabel: row.reasonShortLabel; iconSource: row.reasonIcon
+                    blurb: row.reasonBlurb; accessibleText: row.reasonAccessible; compact: true
+                    Accessible.ignored: true
+                }
+                CorruptionGlyph {
+                    visible: row.corruptCount > 0
+                    count: row.corruptCount; toolTipText: row.corruptToolTip; accessibleText: row.corruptAccessible
+                    Accessible.ignored: true
+                }
             }
-            CorruptionGlyph {
-                visible: row.corruptCount > 0
-                count: row.corruptCount; toolTipText: row.corruptToolTip; accessibleText: row.corruptAccessible
+            Loader {
+                Layout.alignment: Qt.AlignRight
+                active: row.trailing !== null
+                sourceComponent: row.trailing
+                visible: active
             }
         }
-        Loader { active: row.trailing !== null; sourceComponent: row.trailing; visible: active }
     }
     Rectangle { anchors.bottom: parent.bottom; anchors.left: parent.left; anchors.right: parent.right; anchors.leftMargin: 10; height: 1; color: palette.mid; opacity: 0.35 }
 }

@@ -20,8 +20,11 @@ Item {
         text: vault.texts.badge
         icon.source: vault.texts.badgeIcon
         icon.color: "#16a34a"
-        display: AbstractButton.IconOnly
+        display: AbstractButton.TextBesideIcon
         font.pixelSize: 11
+        padding: 2
+        icon.width: 14
+        icon.height: 14
         ToolTip.visible: hovered; ToolTip.text: vault.texts.badgeTip; ToolTip.delay: 500
         Accessible.name: vault.texts.badge
         onClicked: badge.showDetail = !badge.showDetail
