@@ -17,8 +17,12 @@ ScreenModels::ScreenModels(AppState *state, QObject *parent)
 
 void ScreenModels::install(QQmlEngine &engine)
 {
-    qmlRegisterType<TileMap>("Keelhold", 1, 0, "TileMap");
-    qmlRegisterUncreatableType<EventListModel>("Keelhold", 1, 0, "EventListModel", QStringLiteral("made in C++"));
+    static const bool registered = [] {
+        qmlRegisterType<TileMap>("Keelhold", 1, 0, "TileMap");
+        qmlRegisterUncreatableType<EventListModel>("Keelhold", 1, 0, "EventListModel", QStringLiteral("made in C++"));
+        return true;
+    }();
+    Q_UNUSED(registered);
     engine.rootContext()->setContextProperty(QStringLiteral("inbox"), inbox_);
     engine.rootContext()->setContextProperty(QStringLiteral("vault"), vault_);
     engine.rootContext()->setContextProperty(QStringLiteral("eventMap"), map_);

@@ -1,65 +1,31 @@
 #pragma once
 
+#include "KeelholdApp.h"
 #include "ScreenModels.h"
-#include "UiBridge.h"
-#include "engine/LiveEngine.h"
-#include "state/AppState.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QQmlApplicationEngine>
-#include <QQmlContext>
 #include <QQuickItem>
-#include <QQuickStyle>
 #include <QQuickWindow>
-#include <QTemporaryDir>
 #include <QtTest>
 
-// The application's window in the test process: the real state over the
-// real engine, the real QML files (copied from the source tree into a
-// module folder of their own), so a test can click and read what the user
-// would. Call in a process whose home is already isolated.
+// The real application in the test process (state, engine, view models and
+// the QML of the app itself), with what a test needs to click and read what
+// the user would. Make it in a process whose home is already isolated.
 class AppWindowHarness {
 public:
-    LiveEngine engine;
-    AppState state{engine};
-    UiBridge ui{&state};
-    ScreenModels screens{&state};
-    QTemporaryDir moduleRoot;
-    QQmlApplicationEngine qml; // last: destroyed before what it shows
+    KeelholdApp keelhold;
+    AppState &state = keelhold.appState();
+    UiBridge &ui = keelhold.ui();
+    ScreenModels &screens = keelhold.screens();
 
     bool load()
     {
-        QQuickStyle::setStyle(QStringLiteral("Fusion"));
-        const QDir source(QFileInfo(QStringLiteral(__FILE__)).absolutePath() + QStringLiteral("/../../src/ui/qml"));
-        const QString module = moduleRoot.filePath(QStringLiteral("Keelhold"));
-        QDir().mkpath(module);
-        QByteArray qmldir = "module Keelhold\n";
-        for (const QString &name : source.entryList({QStringLiteral("*.qml")}, QDir::Files)) {
-            QFile::copy(source.filePath(name), module + QLatin1Char('/') + name);
-            qmldir += QFileInfo(name).baseName().toUtf8() + " 1.0 " + name.toUtf8() + "\n";
-        }
-        QFile f(module + QStringLiteral("/qmldir"));
-        if (!f.open(QIODevice::WriteOnly))
-            return false;
-        f.write(qmldir);
-        f.close();
-        qml.addImportPath(moduleRoot.path());
-        qml.rootContext()->setContextProperty(QStringLiteral("appState"), &state);
-        qml.rootContext()->setContextProperty(QStringLiteral("ui"), &ui);
-        screens.install(qml);
-        qml.load(QUrl::fromLocalFile(module + QStringLiteral("/Main.qml")));
-        if (!window())
+        if (!keelhold.load())
             return false;
         state.setShowOnboarding(false);
         return QTest::qWaitForWindowExposed(window());
     }
 
-    QQuickWindow *window() const
-    {
-        return qml.rootObjects().isEmpty() ? nullptr : qobject_cast<QQuickWindow *>(qml.rootObjects().first());
-    }
+    QQuickWindow *window() const { return keelhold.mainWindow(); }
 
     // By object name, through the object tree and then the item tree (list
     // delegates and open popups are reachable only through the latter).
