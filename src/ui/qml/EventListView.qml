@@ -23,6 +23,7 @@ ColumnLayout {
             visible: inbox.showsSwitchDrive
             text: inbox.texts.switchDrive
             icon.source: inbox.texts.switchDriveIcon
+            icon.color: palette.buttonText
             display: AbstractButton.TextBesideIcon
             ToolTip.visible: hovered; ToolTip.text: inbox.texts.switchDriveTip; ToolTip.delay: 500
             onClicked: appState.showOnboarding = true

@@ -29,6 +29,7 @@ Rectangle {
                 objectName: "keepRecentNow"
                 text: inbox.texts.recentKeep
                 icon.source: inbox.texts.recentKeepIcon
+                icon.color: palette.buttonText
                 highlighted: true
                 ToolTip.visible: hovered; ToolTip.text: inbox.texts.recentKeepTip; ToolTip.delay: 500
                 onClicked: banner.keepAll()

@@ -35,6 +35,7 @@ ColumnLayout {
             objectName: "filterButton"
             text: inbox.texts.filter
             icon.source: inbox.filterMenuIcon
+            icon.color: palette.buttonText
             flat: true
             ToolTip.visible: hovered; ToolTip.text: inbox.texts.filterTip; ToolTip.delay: 500
             onClicked: filterMenu.popup(filterButton, 0, filterButton.height)
@@ -75,6 +76,7 @@ ColumnLayout {
             objectName: "selectToggle"
             text: inbox.texts.select
             icon.source: inbox.texts.selectIcon
+            icon.color: palette.buttonText
             checkable: true
             flat: !checked
             checked: bar.isBulkSelecting
@@ -91,6 +93,7 @@ ColumnLayout {
             objectName: "bulkKeep"
             text: inbox.bulkKeepTitle
             icon.source: inbox.texts.bulkKeepIcon
+            icon.color: palette.buttonText
             highlighted: true
             ToolTip.visible: hovered; ToolTip.text: inbox.texts.bulkKeepTip; ToolTip.delay: 500
             onClicked: appState.keepBulkSelection()
@@ -99,6 +102,7 @@ ColumnLayout {
             objectName: "bulkDismiss"
             text: inbox.bulkDismissTitle
             icon.source: inbox.texts.bulkDismissIcon
+            icon.color: palette.buttonText
             ToolTip.visible: hovered; ToolTip.text: inbox.texts.bulkDismissTip; ToolTip.delay: 500
             onClicked: appState.dismissBulkSelection()
         }
@@ -128,6 +132,7 @@ ColumnLayout {
                         objectName: "removeToken"
                         implicitWidth: 22; implicitHeight: 22
                         icon.source: inbox.texts.tokenIcon
+                        icon.color: palette.buttonText
                         icon.width: 10; icon.height: 10
                         ToolTip.visible: hovered; ToolTip.text: inbox.texts.tokenTip; ToolTip.delay: 500
                         onClicked: inbox.clearFilter(modelData.filter)

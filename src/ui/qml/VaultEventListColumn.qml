@@ -20,6 +20,7 @@ ColumnLayout {
         ToolButton {
             objectName: "changeVaultFolder"
             icon.source: vault.texts.changeFolderIcon
+            icon.color: palette.buttonText
             ToolTip.visible: hovered; ToolTip.text: vault.texts.changeFolderTip; ToolTip.delay: 500
             Accessible.name: vault.texts.changeFolder
             onClicked: picker.open()
