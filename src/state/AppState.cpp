@@ -695,7 +695,9 @@ void AppState::removeFromVault(const QString &eventID)
 {
     for (const TeslaEvent &e : vaultEvents_)
         if (e.id() == eventID) {
-            removeFromVault(e);
+            // A copy: the removal replaces the list that e lives in.
+            const TeslaEvent event = e;
+            removeFromVault(event);
             return;
         }
 }

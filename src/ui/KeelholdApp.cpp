@@ -21,7 +21,8 @@ KeelholdApp::KeelholdApp(QObject *parent)
               delete made;
           }
           return w;
-      })
+      }),
+      screens_(&state_)
 {
     static bool styled = false;
     if (!styled) {
@@ -38,6 +39,7 @@ KeelholdApp::KeelholdApp(QObject *parent)
     ctx->setContextProperty(QStringLiteral("ui"), &ui_);
     ctx->setContextProperty(QStringLiteral("drivePicker"), &picker_);
     ctx->setContextProperty(QStringLiteral("help"), &help_);
+    screens_.install(qml_);
 }
 
 KeelholdApp::~KeelholdApp()

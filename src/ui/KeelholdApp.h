@@ -3,6 +3,7 @@
 #include "DrivePicker.h"
 #include "HelpWindowController.h"
 #include "LicenceGate.h"
+#include "ScreenModels.h"
 #include "UiBridge.h"
 #include "engine/LiveEngine.h"
 #include "state/AppState.h"
@@ -32,6 +33,7 @@ public:
     UiBridge &ui() { return ui_; }
     DrivePicker &drivePicker() { return picker_; }
     HelpWindowController &help() { return help_; }
+    ScreenModels &screens() { return screens_; }
     QQmlApplicationEngine &qmlEngine() { return qml_; }
     // The main window once loaded.
     QQuickWindow *mainWindow() const;
@@ -43,6 +45,7 @@ private:
     LicenceGate licence_;
     DrivePicker picker_;
     HelpWindowController help_;
+    ScreenModels screens_;
     // Last, so it goes first: the QML reads everything above.
     QQmlApplicationEngine qml_;
 };

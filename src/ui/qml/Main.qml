@@ -115,7 +115,7 @@ ApplicationWindow {
             RowLayout {
                 anchors.fill: parent
                 spacing: 0
-                visible: appState.selectedSection === ui.sections.drive || appState.selectedSection === ui.sections.vault
+                visible: appState.selectedSection === ui.sections.drive || (appState.selectedSection === ui.sections.vault && !vault.isEmpty)
                 ColumnLayout {
                     visible: !appState.isFocusMode
                     Layout.preferredWidth: detail.listWidth
@@ -123,11 +123,6 @@ ApplicationWindow {
                     Layout.minimumWidth: detail.listWidth
                     Layout.fillHeight: true
                     spacing: 0
-                    SampleModeBanner {
-                        visible: appState.isSampleMode && appState.selectedSection === ui.sections.drive
-                        Layout.fillWidth: true
-                        onEject: appState.exitSampleMode()
-                    }
                     FailureView {
                         property var s: { appState.currentFailure; return ui.failureScreen() }
                         screen: s
@@ -135,9 +130,13 @@ ApplicationWindow {
                         Layout.fillWidth: true
                         Layout.fillHeight: true
                     }
-                    PlaceholderColumn {
-                        visible: !(appState.selectedSection === ui.sections.drive && appState.currentFailure)
-                        name: appState.selectedSection === ui.sections.drive ? "EventListView" : "VaultEventListColumn"
+                    EventListView {
+                        visible: appState.selectedSection === ui.sections.drive && !appState.currentFailure
+                        Layout.fillWidth: true
+                        Layout.fillHeight: true
+                    }
+                    VaultEventListColumn {
+                        visible: appState.selectedSection === ui.sections.vault
                         Layout.fillWidth: true
                         Layout.fillHeight: true
                     }
@@ -154,14 +153,24 @@ ApplicationWindow {
                     Layout.fillHeight: true
                 }
             }
-            PlaceholderColumn {
+            VaultEmptyStateColumn {
+                anchors.fill: parent
+                visible: appState.selectedSection === ui.sections.vault && vault.isEmpty
+            }
+            EventMapView {
                 anchors.fill: parent
                 visible: appState.selectedSection === ui.sections.map
-                name: "EventMapView"
             }
             HealthView {
                 anchors.fill: parent
                 visible: appState.selectedSection === ui.sections.health
+            }
+            ArchiveProgressOverlay {
+                visible: vault.showsProgress && (appState.selectedSection === ui.sections.drive || appState.selectedSection === ui.sections.map)
+                anchors.left: parent.left
+                anchors.right: parent.right
+                anchors.bottom: parent.bottom
+                anchors.margins: 16
             }
         }
     }
@@ -197,9 +206,10 @@ ApplicationWindow {
         id: reportSheet
         modal: true
         anchors.centerIn: Overlay.overlay
-        width: 520; height: 360
+        width: 520
+        padding: 20
         visible: appState.showArchiveReport && !!appState.lastArchiveReport
         onClosed: appState.showArchiveReport = false
-        contentItem: PlaceholderColumn { name: "ArchiveReportSheet" }
+        contentItem: ArchiveReportSheet { onDone: appState.showArchiveReport = false }
     }
 }

@@ -1,0 +1,184 @@
+#include "InboxPresenter.h"
+
+#include <QLocale>
+
+namespace InboxPresenter {
+
+ColumnContent columnContent(bool hasFailure, bool isScanning, bool hasScan, qsizetype scanEventCount)
+{
+    if (hasFailure)
+        return ColumnContent::failure;
+    if (isScanning)
+        return ColumnContent::scanning;
+    if (!hasScan)
+        return ColumnContent::noDrive;
+    // The scan's own events decide, not the filtered list: a filter that hides everything is an empty list.
+    if (scanEventCount == 0)
+        return ColumnContent::emptyDrive;
+    return ColumnContent::inbox;
+}
+
+QString byteCount(qint64 bytes)
+{
+    return QLocale().formattedDataSize(bytes, 1, QLocale::DataSizeTraditionalFormat);
+}
+
+QString rowTimestamp(const TeslaEvent &event)
+{
+    return event.timestamp.formatLocal(QStringLiteral("ddd h:mm AP"));
+}
+
+QString longTimestamp(const TeslaEvent &event)
+{
+    return event.timestamp.formatLocal(QStringLiteral("dddd h:mm:ss AP"));
+}
+
+QString secondLine(const TeslaEvent &event, bool showsFileSize)
+{
+    std::optional<QString> size;
+    if (showsFileSize) {
+        const qint64 total = event.totalBytes();
+        if (total > 0)
+            size = byteCount(total);
+    }
+    const std::optional<QString> city = event.city && !event.city->isEmpty() ? event.city : std::nullopt;
+    if (city && size)
+        return *city + QStringLiteral(" · ") + *size;
+    if (city)
+        return *city;
+    if (size)
+        return *size;
+    if (event.missingEventJSON)
+        return QStringLiteral("Details limited — footage intact");
+    return QStringLiteral(" ");
+}
+
+QString textBlockToolTip(const TeslaEvent &event)
+{
+    if (!event.missingEventJSON)
+        return {};
+    return QStringLiteral("Your car didn't write a details file for this event, so we don't know the exact reason or "
+                          "location — the video itself is intact.");
+}
+
+QString accessibilityLabel(const TeslaEvent &event)
+{
+    QString text = event.reason.label() + QStringLiteral(", ") + longTimestamp(event);
+    if (event.city && !event.city->isEmpty())
+        text += QStringLiteral(", ") + *event.city;
+    return text;
+}
+
+QString fallbackSymbol(EventKind kind)
+{
+    return kind == EventKind::recent ? QStringLiteral("road.lanes") : QStringLiteral("video.fill");
+}
+
+Overlay triageOverlay(TriageState state)
+{
+    switch (state.value()) {
+    case TriageState::new_:
+        return {QStringLiteral("dot"), {}, QStringLiteral("New — you haven't watched this yet.")};
+    case TriageState::kept:
+        return {QStringLiteral("kept"), QStringLiteral("checkmark.circle.fill"),
+                QStringLiteral("A verified copy is safe in your Vault.")};
+    case TriageState::reviewed:
+    case TriageState::dismissed:
+        break;
+    }
+    return {};
+}
+
+QString corruptionAccessibilityText(int count)
+{
+    return QString::number(count) + (count == 1 ? QStringLiteral(" damaged clip") : QStringLiteral(" damaged clips"));
+}
+
+QString corruptionToolTip(int count)
+{
+    return QString::number(count) + (count == 1 ? QStringLiteral(" angle") : QStringLiteral(" angles"))
+        + QStringLiteral(" from this moment didn't record properly. This is a known Tesla drive issue, not something "
+                         "you did.");
+}
+
+QString reasonChipAccessibilityLabel(const PlainReason &reason)
+{
+    return QStringLiteral("Reason: ") + reason.label();
+}
+
+QString bulkKeepTitle(qsizetype count) { return QStringLiteral("Keep ") + QString::number(count); }
+QString bulkDismissTitle(qsizetype count) { return QStringLiteral("Dismiss ") + QString::number(count); }
+
+QString tickSymbol(bool selected)
+{
+    return selected ? QStringLiteral("checkmark.circle.fill") : QStringLiteral("circle");
+}
+
+QString tickToolTip(bool selected)
+{
+    return selected ? QStringLiteral("Deselect this event") : QStringLiteral("Select this event");
+}
+
+int activeFilterCount(const std::optional<TriageState> &state, const std::optional<ReasonCategory> &reason,
+                      const std::optional<EventKind> &kind)
+{
+    return int(state.has_value()) + int(reason.has_value()) + int(kind.has_value());
+}
+
+QString filterMenuSymbol(int activeCount)
+{
+    return activeCount > 0 ? QStringLiteral("line.3.horizontal.decrease.circle.fill")
+                           : QStringLiteral("line.3.horizontal.decrease.circle");
+}
+
+QString statusEntry(TriageState state)
+{
+    switch (state.value()) {
+    case TriageState::new_:
+        return QStringLiteral("New");
+    case TriageState::reviewed:
+        return QStringLiteral("Reviewed");
+    case TriageState::kept:
+        return QStringLiteral("In Vault");
+    case TriageState::dismissed:
+        return QStringLiteral("Dismissed");
+    }
+    return {};
+}
+
+QString kindEntry(EventKind kind)
+{
+    switch (kind.value()) {
+    case EventKind::sentry:
+        return QStringLiteral("Sentry");
+    case EventKind::saved:
+        return QStringLiteral("Saved");
+    case EventKind::recent:
+        return QStringLiteral("Recent Driving");
+    }
+    return {};
+}
+
+std::vector<Token> filterTokens(const std::optional<TriageState> &state, const std::optional<ReasonCategory> &reason,
+                                const std::optional<EventKind> &kind)
+{
+    std::vector<Token> tokens;
+    if (state)
+        tokens.push_back({QStringLiteral("state"), statusEntry(*state)});
+    if (reason)
+        tokens.push_back({QStringLiteral("reason"), PlainReason{*reason, {}, {}}.shortLabel()});
+    if (kind)
+        tokens.push_back({QStringLiteral("kind"), kindEntry(*kind)});
+    return tokens;
+}
+
+std::vector<TeslaEvent> recentDriving(const std::vector<TeslaEvent> &visibleEvents)
+{
+    std::vector<TeslaEvent> recent;
+    for (const TeslaEvent &e : visibleEvents)
+        if (e.kind == EventKind::recent)
+            recent.push_back(e);
+    return recent;
+}
+
+} // namespace InboxPresenter

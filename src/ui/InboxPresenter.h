@@ -1,0 +1,67 @@
+#pragma once
+
+#include "model/EventKind.h"
+#include "model/ReasonCategory.h"
+#include "model/TeslaEvent.h"
+#include "model/TriageState.h"
+
+#include <QString>
+#include <QStringList>
+#include <optional>
+#include <vector>
+
+// The inbox column's rules: what it shows, the rows' texts, the filter menu and tokens.
+namespace InboxPresenter {
+
+enum class ColumnContent { failure, scanning, noDrive, emptyDrive, inbox };
+
+// The first that holds wins: a failure stands above everything, even a filled scan.
+ColumnContent columnContent(bool hasFailure, bool isScanning, bool hasScan, qsizetype scanEventCount);
+
+// Byte-count text in the desktop's file-size style.
+QString byteCount(qint64 bytes);
+
+QString rowTimestamp(const TeslaEvent &event);  // "Mon 2:11 AM"
+QString longTimestamp(const TeslaEvent &event); // "Monday 2:11:05 AM"
+// Never empty: a single space keeps the row's height.
+QString secondLine(const TeslaEvent &event, bool showsFileSize);
+// Empty when the event's details file was written.
+QString textBlockToolTip(const TeslaEvent &event);
+QString accessibilityLabel(const TeslaEvent &event);
+QString fallbackSymbol(EventKind kind);
+
+struct Overlay {
+    QString kind; // "dot", "kept" or "" for nothing
+    QString symbolName;
+    QString toolTip;
+};
+Overlay triageOverlay(TriageState state);
+
+QString corruptionAccessibilityText(int count);
+QString corruptionToolTip(int count);
+QString reasonChipAccessibilityLabel(const PlainReason &reason);
+
+QString bulkKeepTitle(qsizetype count);
+QString bulkDismissTitle(qsizetype count);
+QString tickSymbol(bool selected);
+QString tickToolTip(bool selected);
+
+int activeFilterCount(const std::optional<TriageState> &state, const std::optional<ReasonCategory> &reason,
+                      const std::optional<EventKind> &kind);
+QString filterMenuSymbol(int activeCount);
+
+QString statusEntry(TriageState state);
+QString kindEntry(EventKind kind);
+
+struct Token {
+    QString filter; // "state", "reason" or "kind": which one the token's button clears
+    QString label;
+};
+// Status, reason, kind, in that order; only those that are set.
+std::vector<Token> filterTokens(const std::optional<TriageState> &state, const std::optional<ReasonCategory> &reason,
+                                const std::optional<EventKind> &kind);
+
+// The banner's list follows the filters: it is cut from the visible events.
+std::vector<TeslaEvent> recentDriving(const std::vector<TeslaEvent> &visibleEvents);
+
+} // namespace InboxPresenter

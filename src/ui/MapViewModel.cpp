@@ -1,0 +1,98 @@
+#include "MapViewModel.h"
+
+#include "EventMapPresenter.h"
+#include "InboxPresenter.h"
+#include "SymbolIcons.h"
+#include "state/AppState.h"
+#include "state/SidebarSection.h"
+
+MapViewModel::MapViewModel(AppState *state, QObject *parent) : QObject(parent), state_(state)
+{
+    connect(state, &AppState::driveScanChanged, this, &MapViewModel::changed);
+    connect(state, &AppState::vaultEventsChanged, this, &MapViewModel::changed);
+}
+
+std::vector<TeslaEvent> MapViewModel::allEvents() const
+{
+    if (!state_)
+        return {};
+    static const std::vector<TeslaEvent> none;
+    return EventMapPresenter::allEvents(state_->driveScan() ? state_->driveScan()->events : none, state_->vaultEvents());
+}
+
+bool MapViewModel::isEmpty() const
+{
+    for (const TeslaEvent &e : allEvents())
+        if (EventMapPresenter::isLocated(e))
+            return false;
+    return true;
+}
+
+QVariantList MapViewModel::pinsFor(const std::vector<TeslaEvent> &events)
+{
+    QVariantList out;
+    for (const TeslaEvent &e : events) {
+        if (!EventMapPresenter::isLocated(e))
+            continue;
+        out.append(QVariantMap{{QStringLiteral("id"), e.id()},
+                               {QStringLiteral("latitude"), *e.latitude},
+                               {QStringLiteral("longitude"), *e.longitude},
+                               {QStringLiteral("tint"), EventMapPresenter::pinTint(e)},
+                               {QStringLiteral("label"), e.reason.label()},
+                               {QStringLiteral("icon"), SymbolIcons::iconUrl(e.reason.symbolName())}});
+    }
+    return out;
+}
+
+QVariantList MapViewModel::sectionsFor(const std::vector<TeslaEvent> &events)
+{
+    QVariantList out;
+    for (const auto &section : EventMapPresenter::sections(events)) {
+        QVariantList rows;
+        for (const TeslaEvent &e : section.events)
+            rows.append(QVariantMap{{QStringLiteral("id"), e.id()},
+                                    {QStringLiteral("timestamp"), EventMapPresenter::rowTimestamp(e)},
+                                    {QStringLiteral("city"), e.city.value_or(QString())},
+                                    {QStringLiteral("reasonLabel"), e.reason.label()},
+                                    {QStringLiteral("reasonShortLabel"), e.reason.shortLabel()},
+                                    {QStringLiteral("reasonIcon"), SymbolIcons::iconUrl(e.reason.symbolName())},
+                                    {QStringLiteral("reasonBlurb"), e.reason.blurb()},
+                                    {QStringLiteral("reasonAccessible"), InboxPresenter::reasonChipAccessibilityLabel(e.reason)}});
+        out.append(QVariantMap{{QStringLiteral("title"), section.title}, {QStringLiteral("rows"), rows}});
+    }
+    return out;
+}
+
+QVariantList MapViewModel::pins() const { return pinsFor(allEvents()); }
+QVariantList MapViewModel::sections() const { return sectionsFor(allEvents()); }
+
+QVariantList MapViewModel::listRows() const
+{
+    QVariantList out;
+    for (const QVariant &s : sections()) {
+        const QVariantMap section = s.toMap();
+        for (const QVariant &r : section.value(QStringLiteral("rows")).toList()) {
+            QVariantMap row = r.toMap();
+            row.insert(QStringLiteral("section"), section.value(QStringLiteral("title")));
+            out.append(row);
+        }
+    }
+    return out;
+}
+
+QVariantMap MapViewModel::texts() const
+{
+    return {{QStringLiteral("emptyIcon"), SymbolIcons::iconUrl(QStringLiteral("map"))},
+            {QStringLiteral("emptySymbol"), QStringLiteral("map")},
+            {QStringLiteral("emptyTitle"), QString::fromUtf8(EventMapPresenter::emptyTitle)},
+            {QStringLiteral("emptyText"), QString::fromUtf8(EventMapPresenter::emptyText)},
+            {QStringLiteral("attribution"), QString::fromUtf8(EventMapPresenter::attribution)}};
+}
+
+void MapViewModel::select(const QString &eventID)
+{
+    if (!state_ || eventID.isEmpty())
+        return;
+    state_->setSelectedSection(SidebarSection::drive);
+    state_->setSelectedEventID(eventID);
+}

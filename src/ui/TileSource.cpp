@@ -1,0 +1,80 @@
+#include "TileSource.h"
+
+#include "EventMapPresenter.h"
+
+#include <QDateTime>
+#include <QNetworkDiskCache>
+#include <QNetworkReply>
+#include <QNetworkRequest>
+#include <QSettings>
+#include <QStandardPaths>
+
+#ifndef KEELHOLD_VERSION
+#define KEELHOLD_VERSION "0"
+#endif
+
+TileSource::TileSource(QObject *parent) : QObject(parent)
+{
+    auto *disk = new QNetworkDiskCache(&network_);
+    disk->setCacheDirectory(QStandardPaths::writableLocation(QStandardPaths::CacheLocation) + QStringLiteral("/tiles"));
+    disk->setMaximumCacheSize(qint64(100) * 1024 * 1024);
+    network_.setCache(disk);
+    network_.setTransferTimeout(15000);
+}
+
+TileSource *TileSource::shared()
+{
+    static TileSource *instance = new TileSource;
+    return instance;
+}
+
+QString TileSource::userAgent()
+{
+    return QStringLiteral("Keelhold/") + QStringLiteral(KEELHOLD_VERSION)
+        + QStringLiteral(" (+https://keelhold.app; desktop footage viewer)");
+}
+
+QString TileSource::urlTemplate() const
+{
+    const QString stored = QSettings().value(templateKey).toString();
+    return stored.isEmpty() ? QString::fromLatin1(EventMapPresenter::defaultTileTemplate) : stored;
+}
+
+std::optional<QImage> TileSource::tile(int z, int x, int y)
+{
+    const QString url = EventMapPresenter::tileUrl(urlTemplate(), z, x, y);
+    if (const QImage *image = images_.object(url))
+        return *image;
+    if (pending_.contains(url))
+        return std::nullopt;
+    if (const auto failed = failedAt_.constFind(url); failed != failedAt_.cend()) {
+        if (QDateTime::currentMSecsSinceEpoch() - failed.value() < retryAfterMs)
+            return std::nullopt;
+        failedAt_.erase(failed);
+    }
+    QNetworkRequest request{QUrl(url)};
+    request.setHeader(QNetworkRequest::UserAgentHeader, userAgent());
+    request.setAttribute(QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::PreferCache);
+    pending_.insert(url);
+    ++requestsStarted_;
+    QNetworkReply *reply = network_.get(request);
+    connect(reply, &QNetworkReply::finished, this, [this, reply, url] { finished(reply, url); });
+    return std::nullopt;
+}
+
+void TileSource::finished(QNetworkReply *reply, const QString &key)
+{
+    reply->deleteLater();
+    pending_.remove(key);
+    QImage image;
+    if (reply->error() == QNetworkReply::NoError)
+        image.loadFromData(reply->readAll());
+    if (image.isNull()) {
+        // Offline or refused: the map stays plain; no retry storm while it is drawn.
+        failedAt_.insert(key, QDateTime::currentMSecsSinceEpoch());
+        return;
+    }
+    images_.insert(key, new QImage(std::move(image)));
+    ++tilesArrived_;
+    Q_EMIT tileArrived();
+}

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "EventListModel.h"
+#include "model/ArchiveProgress.h"
+#include "model/ArchiveReport.h"
+#include "vault/ArchivedEvent.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QVariantList>
+#include <QVariantMap>
+#include <optional>
+
+class AppState;
+
+// The Vault section's screens and the two that belong to a keep: empty
+// states, storage summary, verification detail, the Trash confirmation, the
+// progress overlay and the report sheet, ready for QML.
+class VaultViewModel : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(EventListModel *rows READ rows CONSTANT)
+    Q_PROPERTY(QVariantMap texts READ texts CONSTANT)
+    Q_PROPERTY(bool isEmpty READ isEmpty NOTIFY eventsChanged)
+    Q_PROPERTY(QVariantMap emptyState READ emptyState NOTIFY emptyStateChanged)
+    Q_PROPERTY(QString summary READ summary NOTIFY summaryChanged)
+    Q_PROPERTY(bool showsProgress READ showsProgress NOTIFY progressChanged)
+    Q_PROPERTY(double progressFraction READ progressFraction NOTIFY progressChanged)
+    Q_PROPERTY(QString progressLine READ progressLine NOTIFY progressChanged)
+    Q_PROPERTY(QVariantMap report READ report NOTIFY reportChanged)
+public:
+    explicit VaultViewModel(AppState *state, QObject *parent = nullptr);
+
+    EventListModel *rows() const { return rows_; }
+    QVariantMap texts() const;
+    bool isEmpty() const;
+    // symbolName, title, message, actionTitle ("" when there is no action).
+    QVariantMap emptyState() const;
+    QString summary() const;
+    bool showsProgress() const;
+    double progressFraction() const;
+    QString progressLine() const;
+    // heading, headingIcon, lines: [{icon, text}]; empty without a report.
+    QVariantMap report() const;
+
+    // {present, files: [{name, sha256}], archivedLine, …}; present false with no index entry.
+    Q_INVOKABLE QVariantMap verification(const QString &eventID) const;
+    Q_INVOKABLE QString removalMessage(const QString &eventID) const;
+    // The folder picker's answer (a file URL or a path).
+    Q_INVOKABLE void chooseFolder(const QVariant &url);
+    Q_INVOKABLE void remove(const QString &eventID);
+    Q_INVOKABLE void cancelArchive();
+
+    // The pure rules behind the properties, for tests.
+    static QVariantMap emptyStateFor(bool hasVaultFolder);
+    static QString summaryFor(const std::vector<TeslaEvent> &events, std::optional<qint64> freeBytes);
+    static QString progressLineFor(const ArchiveProgress &progress);
+    static QVariantMap reportFor(const ArchiveReport &report);
+    static QVariantMap verificationFor(const ArchivedEvent &archived);
+    static QString removalMessageFor(const TeslaEvent &event);
+    // Free space on the disk that holds the folder; nothing without an answer.
+    static std::optional<qint64> freeBytesAt(const QString &folder);
+
+Q_SIGNALS:
+    void eventsChanged();
+    void emptyStateChanged();
+    void summaryChanged();
+    void progressChanged();
+    void reportChanged();
+
+private:
+    void refreshFreeSpace();
+
+    QPointer<AppState> state_;
+    EventListModel *rows_;
+    std::optional<qint64> freeBytes_;
+};

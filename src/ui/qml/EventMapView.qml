@@ -1,0 +1,162 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+import Keelhold
+
+// Located events as pins on a tile map, beside a list of every event.
+// Choosing either hands over to the Drive section with that event selected.
+Item {
+    id: root
+    objectName: "eventMapView"
+    property bool fitted: false
+
+    function tryFit() {
+        if (fitted || !visible || map.width <= 0 || eventMap.pins.length === 0)
+            return
+        map.fitTo(eventMap.pins)
+        fitted = true
+    }
+    onVisibleChanged: tryFit()
+    Connections { target: eventMap; function onPinsChanged() { root.tryFit() } }
+
+    EmptyStateView {
+        objectName: "mapEmptyState"
+        anchors.fill: parent
+        visible: eventMap.isEmpty
+        symbolName: eventMap.texts.emptySymbol
+        title: eventMap.texts.emptyTitle
+        message: eventMap.texts.emptyText
+    }
+
+    RowLayout {
+        anchors.fill: parent
+        visible: !eventMap.isEmpty
+        spacing: 0
+
+        Item {
+            id: mapArea
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            clip: true
+
+            TileMap {
+                id: map
+                objectName: "tileMap"
+                anchors.fill: parent
+                onWidthChanged: root.tryFit()
+            }
+
+            DragHandler {
+                id: drag
+                target: null
+                property point last: Qt.point(0, 0)
+                onActiveChanged: last = Qt.point(0, 0)
+                onTranslationChanged: {
+                    map.pan(translation.x - last.x, translation.y - last.y)
+                    last = Qt.point(translation.x, translation.y)
+                }
+            }
+            WheelHandler {
+                target: null
+                onWheel: (event) => map.zoomAround(Math.pow(2, event.angleDelta.y / 240), event.x, event.y)
+            }
+            PinchHandler {
+                target: null
+                property real lastScale: 1
+                onActiveChanged: lastScale = 1
+                onScaleChanged: {
+                    map.zoomAround(scale / lastScale, centroid.position.x, centroid.position.y)
+                    lastScale = scale
+                }
+            }
+
+            Repeater {
+                model: eventMap.pins
+                delegate: Item {
+                    id: pin
+                    objectName: "pin_" + modelData.id
+                    readonly property point at: { map.revision; return map.toView(modelData.latitude, modelData.longitude) }
+                    readonly property color tint: modelData.tint === "red" ? "#dc2626" : palette.highlight
+                    x: at.x - width / 2
+                    y: at.y - 34
+                    width: Math.max(34, pinLabel.implicitWidth + 12)
+                    height: 52
+                    Rectangle {
+                        id: head
+                        anchors.horizontalCenter: parent.horizontalCenter
+                        width: 28; height: 28; radius: 14
+                        color: pin.tint
+                        border.color: "white"; border.width: 2
+                        UrlIcon { anchors.centerIn: parent; source: modelData.icon; size: 14; color: "white" }
+                    }
+                    Rectangle {
+                        anchors.horizontalCenter: parent.horizontalCenter
+                        anchors.top: head.bottom
+                        width: 2; height: 6; color: pin.tint
+                    }
+                    Rectangle {
+                        anchors.horizontalCenter: parent.horizontalCenter
+                        y: 36
+                        width: pinLabel.implicitWidth + 8; height: pinLabel.implicitHeight + 2
+                        radius: 4
+                        color: Qt.rgba(1, 1, 1, 0.85)
+                        Label { id: pinLabel; anchors.centerIn: parent; text: modelData.label; font.pixelSize: 10; color: "#111" }
+                    }
+                    Accessible.role: Accessible.Button
+                    Accessible.name: modelData.label
+                    TapHandler { onTapped: eventMap.select(modelData.id) }
+                }
+            }
+
+            Label {
+                objectName: "mapAttribution"
+                anchors.right: parent.right
+                anchors.bottom: parent.bottom
+                padding: 3
+                leftPadding: 6; rightPadding: 6
+                text: eventMap.texts.attribution
+                font.pixelSize: 10
+                color: "#333"
+                background: Rectangle { color: Qt.rgba(1, 1, 1, 0.75) }
+            }
+        }
+
+        Rectangle { width: 1; Layout.fillHeight: true; color: palette.mid }
+
+        ListView {
+            id: side
+            objectName: "mapList"
+            Layout.preferredWidth: 300
+            Layout.fillHeight: true
+            clip: true
+            model: eventMap.listRows
+            ScrollBar.vertical: ScrollBar {}
+            section.property: "section"
+            section.delegate: Label {
+                required property string section
+                width: ListView.view.width
+                text: section
+                font.weight: Font.DemiBold
+                font.pixelSize: 12
+                padding: 8
+                opacity: 0.7
+                background: Rectangle { color: palette.alternateBase }
+            }
+            delegate: ItemDelegate {
+                objectName: "mapRow_" + modelData.id
+                width: ListView.view.width
+                onClicked: eventMap.select(modelData.id)
+                Accessible.name: modelData.reasonLabel + ", " + modelData.timestamp
+                contentItem: ColumnLayout {
+                    spacing: 4
+                    ReasonChip {
+                        label: modelData.reasonLabel; shortLabel: modelData.reasonShortLabel; iconSource: modelData.reasonIcon
+                        blurb: modelData.reasonBlurb; accessibleText: modelData.reasonAccessible; compact: false
+                    }
+                    Label { text: modelData.timestamp; font.pixelSize: 12 }
+                    Label { visible: modelData.city.length > 0; text: modelData.city; font.pixelSize: 11; opacity: 0.7 }
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,110 @@
+#pragma once
+
+#include "KeelholdApp.h"
+#include "ScreenModels.h"
+
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QtTest>
+
+// The real application in the test process (state, engine, view models and
+// the QML of the app itself), with what a test needs to click and read what
+// the user would. Make it in a process whose home is already isolated.
+class AppWindowHarness {
+public:
+    KeelholdApp keelhold;
+    AppState &state = keelhold.appState();
+    UiBridge &ui = keelhold.ui();
+    ScreenModels &screens = keelhold.screens();
+
+    bool load()
+    {
+        if (!keelhold.load())
+            return false;
+        state.setShowOnboarding(false);
+        return QTest::qWaitForWindowExposed(window());
+    }
+
+    QQuickWindow *window() const { return keelhold.mainWindow(); }
+
+    // By object name, through the object tree and then the item tree (list
+    // delegates and open popups are reachable only through the latter).
+    template <typename T = QQuickItem> T *find(const QString &name) const
+    {
+        if (!window())
+            return nullptr;
+        if (T *hit = window()->findChild<T *>(name))
+            return hit;
+        return qobject_cast<T *>(findItem(window()->contentItem(), name));
+    }
+
+    static QQuickItem *findItem(QQuickItem *root, const QString &name, bool visibleOnly = false)
+    {
+        if (!root)
+            return nullptr;
+        for (QQuickItem *child : root->childItems()) {
+            if (child->objectName() == name && (!visibleOnly || child->isVisible()))
+                return child;
+            if (QQuickItem *hit = findItem(child, name, visibleOnly))
+                return hit;
+        }
+        return nullptr;
+    }
+
+    // An entry of a menu or of its submenus, by object name.
+    static QObject *menuEntry(QObject *menu, const QString &name)
+    {
+        if (!menu)
+            return nullptr;
+        const int count = menu->property("count").toInt();
+        for (int i = 0; i < count; ++i) {
+            QQuickItem *item = nullptr;
+            QMetaObject::invokeMethod(menu, "itemAt", Q_RETURN_ARG(QQuickItem *, item), Q_ARG(int, i));
+            if (!item)
+                continue;
+            if (item->objectName() == name)
+                return item;
+            if (QObject *hit = menuEntry(item->property("subMenu").value<QObject *>(), name))
+                return hit;
+        }
+        return nullptr;
+    }
+
+    // The centre of an item in window coordinates.
+    static QPoint centreOf(QQuickItem *item)
+    {
+        return item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
+    }
+
+    // Waits for the item to stop moving (layouts settle on the next frame), then clicks its centre.
+    void click(QQuickItem *item, Qt::MouseButton button = Qt::LeftButton) const
+    {
+        QPoint last = centreOf(item);
+        for (int i = 0; i < 20; ++i) {
+            QTest::qWait(20);
+            const QPoint now = centreOf(item);
+            if (now == last)
+                break;
+            last = now;
+        }
+        QTest::mouseClick(window(), button, Qt::NoModifier, last);
+    }
+
+    // The same without letting the event loop run first.
+    void shotNow(const QString &name) const
+    {
+        const QString dir = qEnvironmentVariable("KEELHOLD_SCREENSHOT_DIR");
+        if (!dir.isEmpty() && window())
+            window()->grabWindow().save(dir + QLatin1Char('/') + name + QStringLiteral(".png"));
+    }
+
+    // With KEELHOLD_SCREENSHOT_DIR set, the window as it stands goes to <dir>/<name>.png.
+    void shot(const QString &name) const
+    {
+        const QString dir = qEnvironmentVariable("KEELHOLD_SCREENSHOT_DIR");
+        if (dir.isEmpty() || !window())
+            return;
+        QTest::qWait(200);
+        window()->grabWindow().save(dir + QLatin1Char('/') + name + QStringLiteral(".png"));
+    }
+};

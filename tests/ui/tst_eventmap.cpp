@@ -1,0 +1,246 @@
+#include "AppWindowHarness.h"
+
+#include "InboxViewModel.h"
+#include "MapViewModel.h"
+#include "TileMap.h"
+#include "TileSource.h"
+#include "support/IsolatedHome.h"
+#include "support/TeslaCamFixture.h"
+
+#include <QBuffer>
+#include <QGuiApplication>
+#include <QSettings>
+#include <QTcpServer>
+#include <QTcpSocket>
+
+namespace {
+
+// A tile server on 127.0.0.1: every tile is one flat colour.
+class LocalTileServer : public QObject {
+public:
+    static inline const QColor colour{205, 228, 196};
+    QTcpServer server;
+    QStringList paths;
+    QStringList userAgents;
+
+    bool start()
+    {
+        connect(&server, &QTcpServer::newConnection, this, [this] {
+            while (QTcpSocket *socket = server.nextPendingConnection()) {
+                connect(socket, &QTcpSocket::readyRead, socket, [this, socket] {
+                    const QByteArray request = socket->readAll();
+                    const QList<QByteArray> lines = request.split('\n');
+                    const QList<QByteArray> first = lines.value(0).split(' ');
+                    paths << QString::fromLatin1(first.value(1));
+                    for (const QByteArray &l : lines)
+                        if (l.toLower().startsWith("user-agent:"))
+                            userAgents << QString::fromLatin1(l.mid(11).trimmed());
+                    socket->write("HTTP/1.1 200 OK\r\nContent-Type: image/png\r\nConnection: close\r\nContent-Length: "
+                                  + QByteArray::number(png().size()) + "\r\n\r\n" + png());
+                    socket->disconnectFromHost();
+                });
+                connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
+            }
+        });
+        return server.listen(QHostAddress::LocalHost);
+    }
+
+    static const QByteArray &png()
+    {
+        static const QByteArray bytes = [] {
+            QImage image(256, 256, QImage::Format_RGB32);
+            image.fill(colour);
+            QByteArray data;
+            QBuffer buffer(&data);
+            buffer.open(QIODevice::WriteOnly);
+            image.save(&buffer, "PNG");
+            return data;
+        }();
+        return bytes;
+    }
+};
+
+} // namespace
+
+// The map in the real window: tiles from a local server are asked for with
+// the application's User-Agent and drawn; pins stand where their events
+// happened; a pin or a row of the side list hands over to the Drive section.
+class EventMapTest : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir tmp;
+    LocalTileServer tiles;
+    std::unique_ptr<AppWindowHarness> app;
+    QStringList located;
+    QString unlocated;
+    QStringList urgent;
+
+    void buildDrive(const QString &root)
+    {
+        TeslaCamFixture drive(root);
+        const QStringList reasons{QStringLiteral("sentry_aware_object_detection"), QStringLiteral("sentry_aware_accel_0.7"),
+                                  QStringLiteral("user_interaction_honk")};
+        for (int i = 0; i < 6; ++i) {
+            const QString name = QStringLiteral("2024-05-0%1_10-00-00").arg(i + 1);
+            const QString folder = drive.addEvent(
+                QStringLiteral("SentryClips"), name,
+                TeslaCamFixture::eventJson(QStringLiteral("2024-05-0%1T10:00:00").arg(i + 1), reasons[i % 3],
+                                           QStringLiteral("Austin"), QString::number(30.25 + i * 0.01),
+                                           QString::number(-97.75 + i * 0.012)));
+            drive.addClip(folder, QStringLiteral("2024-05-0%1_09-59-00").arg(i + 1), QStringLiteral("front"), 16 * 1024);
+            located << QStringLiteral("sentry|") + name;
+            if (i % 3 == 1)
+                urgent << QStringLiteral("sentry|") + name;
+        }
+        // No details file: no place.
+        const QString folder = drive.addEvent(QStringLiteral("SavedClips"), QStringLiteral("2024-05-09_10-00-00"), std::nullopt);
+        drive.addClip(folder, QStringLiteral("2024-05-09_09-59-00"), QStringLiteral("front"), 16 * 1024);
+        unlocated = QStringLiteral("saved|2024-05-09_10-00-00");
+    }
+
+    TileMap *map() const { return app->find<TileMap>(QStringLiteral("tileMap")); }
+
+    void showMap()
+    {
+        app->state.setSelectedSection(SidebarSection::map);
+        QTRY_VERIFY(map() && map()->isVisible());
+        QTest::qWait(100);
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        if (qEnvironmentVariableIsEmpty("DISPLAY"))
+            QSKIP("needs a display (run the suite under xvfb-run)");
+        QVERIFY(tiles.start());
+        QSettings().setValue(TileSource::templateKey,
+                             QStringLiteral("http://127.0.0.1:%1/{z}/{x}/{y}.png").arg(tiles.server.serverPort()));
+        buildDrive(tmp.filePath(QStringLiteral("drive/TeslaCam")));
+        app = std::make_unique<AppWindowHarness>();
+        QVERIFY(app->load());
+        app->window()->resize(1300, 900);
+        app->state.beginScan(tmp.filePath(QStringLiteral("drive/TeslaCam")));
+        QTRY_VERIFY_WITH_TIMEOUT(app->state.driveScan() && !app->state.isScanning() && !app->state.isRevalidatingScan(), 30000);
+        QCOMPARE(app->state.driveScan()->events.size(), size_t(7));
+    }
+
+    void tilesAreFetchedFromTheTemplateAndDrawn()
+    {
+        showMap();
+        // Fitted to the pins on first show: far closer than the world view.
+        QTRY_VERIFY(map()->zoom() > 8);
+        QTRY_VERIFY_WITH_TIMEOUT(map()->tilesDrawn() > 0, 10000);
+        QVERIFY(!tiles.paths.isEmpty());
+        const QString z = QString::number(int(std::floor(map()->zoom() + 0.5)));
+        QVERIFY2(!tiles.paths.filter(QRegularExpression(QStringLiteral("^/") + z + QStringLiteral("/\\d+/\\d+\\.png$"))).isEmpty(),
+                 qPrintable(tiles.paths.join(QLatin1Char(' '))));
+        QVERIFY(tiles.userAgents.first().startsWith(QStringLiteral("Keelhold/")));
+        QCOMPARE(tiles.userAgents.first(), TileSource::userAgent());
+
+        // The tile's colour is on screen, in a corner with no pin.
+        const QImage shot = app->window()->grabWindow();
+        const QPoint corner = map()->mapToScene(QPointF(6, 6)).toPoint() * shot.devicePixelRatio();
+        const QColor seen = shot.pixelColor(corner);
+        QVERIFY2(qAbs(seen.red() - LocalTileServer::colour.red()) < 6 && qAbs(seen.green() - LocalTileServer::colour.green()) < 6,
+                 qPrintable(seen.name()));
+        app->shot(QStringLiteral("event-map"));
+        auto *attribution = app->find(QStringLiteral("mapAttribution"));
+        QVERIFY(attribution && attribution->isVisible());
+        QCOMPARE(attribution->property("text").toString(), QStringLiteral("© OpenStreetMap contributors"));
+    }
+
+    void pinsStandAtTheirPlacesInTheirColours()
+    {
+        showMap();
+        for (const QString &id : located) {
+            QQuickItem *pin = app->find(QStringLiteral("pin_") + id);
+            QVERIFY2(pin, qPrintable(id));
+            QVERIFY(pin->isVisible());
+            const QColor tint = pin->property("tint").value<QColor>();
+            QCOMPARE(tint == QColor(QStringLiteral("#dc2626")), urgent.contains(id));
+            // Inside the map: the fit shows them all.
+            const QPointF at = pin->property("at").toPointF();
+            QVERIFY(at.x() > 0 && at.x() < map()->width() && at.y() > 0 && at.y() < map()->height());
+        }
+        QVERIFY(!app->find(QStringLiteral("pin_") + unlocated));
+        const QVariantList sections = app->screens.map()->sections();
+        QCOMPARE(sections.size(), 2);
+        QCOMPARE(sections[0].toMap().value(QStringLiteral("title")).toString(), QStringLiteral("All located events"));
+        QCOMPARE(sections[1].toMap().value(QStringLiteral("title")).toString(), QStringLiteral("No location recorded"));
+    }
+
+    void dragPansAndWheelZooms()
+    {
+        showMap();
+        const double lon = map()->centerLongitude();
+        const QPoint start = AppWindowHarness::centreOf(map());
+        QTest::mousePress(app->window(), Qt::LeftButton, Qt::NoModifier, start + QPoint(0, 80));
+        for (int i = 1; i <= 8; ++i)
+            QTest::mouseMove(app->window(), start + QPoint(i * 20, 80));
+        QTest::mouseRelease(app->window(), Qt::LeftButton, Qt::NoModifier, start + QPoint(160, 80));
+        QTRY_VERIFY(map()->centerLongitude() < lon); // dragged right: the view moves west
+
+        const double zoom = map()->zoom();
+        const QPointF pos = map()->mapToScene(QPointF(map()->width() / 2, map()->height() / 2));
+        QWheelEvent wheel(pos, app->window()->mapToGlobal(pos), QPoint(), QPoint(0, 240), Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(app->window(), &wheel);
+        QTRY_VERIFY(map()->zoom() > zoom);
+    }
+
+    void aPinOrARowSelectsTheEventInTheDriveSection()
+    {
+        showMap();
+        map()->fitTo(app->screens.map()->pins());
+        QTest::qWait(50);
+        QQuickItem *pin = app->find(QStringLiteral("pin_") + urgent.first());
+        QVERIFY(pin);
+        QTest::mouseClick(app->window(), Qt::LeftButton, Qt::NoModifier, pin->mapToScene(QPointF(pin->width() / 2, 14)).toPoint());
+        QTRY_COMPARE(app->state.selectedSection(), SidebarSection::drive);
+        QCOMPARE(app->state.selectedEventID().value_or(QString()), urgent.first());
+        // The inbox shows it selected.
+        QTRY_COMPARE(app->screens.inbox()->rows()->selectedIndex(), app->screens.inbox()->rows()->indexOf(urgent.first()));
+
+        showMap();
+        QQuickItem *row = nullptr;
+        QTRY_VERIFY((row = app->find(QStringLiteral("mapRow_") + unlocated)) && row->isVisible());
+        app->click(row);
+        QTRY_COMPARE(app->state.selectedSection(), SidebarSection::drive);
+        QCOMPARE(app->state.selectedEventID().value_or(QString()), unlocated);
+    }
+
+    void withoutTilesThePinsStandOnAPlainBackground()
+    {
+        // A port where nothing answers.
+        QTcpServer closed;
+        QVERIFY(closed.listen(QHostAddress::LocalHost));
+        const quint16 port = closed.serverPort();
+        closed.close();
+        QSettings().setValue(TileSource::templateKey, QStringLiteral("http://127.0.0.1:%1/{z}/{x}/{y}.png").arg(port));
+        showMap();
+        map()->zoomAround(0.5, map()->width() / 2, map()->height() / 2);
+        QTest::qWait(300);
+        QCOMPARE(map()->tilesDrawn(), 0);
+        for (const QString &id : located)
+            QVERIFY(app->find(QStringLiteral("pin_") + id)->isVisible());
+        QQuickItem *row = app->find(QStringLiteral("mapRow_") + located.first());
+        QVERIFY(row);
+        app->click(row);
+        QTRY_COMPARE(app->state.selectedEventID().value_or(QString()), located.first());
+    }
+
+    void cleanupTestCase() { app.reset(); }
+};
+
+int main(int argc, char **argv)
+{
+    IsolatedHome::setUp();
+    QGuiApplication a(argc, argv);
+    QGuiApplication::setOrganizationName(QStringLiteral("Keelhold"));
+    QGuiApplication::setApplicationName(QStringLiteral("Keelhold"));
+    EventMapTest tc;
+    QTEST_SET_MAIN_SOURCE_PATH
+    return QTest::qExec(&tc, argc, argv);
+}
+
+#include "tst_eventmap.moc"

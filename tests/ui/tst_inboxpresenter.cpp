@@ -1,0 +1,209 @@
+#include "EventMapPresenter.h"
+#include "InboxPresenter.h"
+
+#include <QtTest>
+
+// The inbox and map rules without a window: the column's choice, the row texts with
+// every fallback, filter tokens, plurals, pins and the tile maths.
+class InboxPresenterTest : public QObject {
+    Q_OBJECT
+
+    static TeslaEvent event(EventKind kind, const QString &folder)
+    {
+        TeslaEvent e;
+        e.kind = kind;
+        e.folderName = folder;
+        e.folderURL = QStringLiteral("/drive/TeslaCam/") + folder;
+        e.timestamp = Date(806'000'000.0);
+        e.missingEventJSON = false;
+        return e;
+    }
+
+    static void addClipBytes(TeslaEvent &e, qint64 bytes)
+    {
+        ClipRef c;
+        c.url = e.folderURL + QStringLiteral("/clip") + QString::number(e.clips.size()) + QStringLiteral(".mp4");
+        c.fileSize = bytes;
+        e.clips.push_back(c);
+    }
+
+private Q_SLOTS:
+    void columnChoiceTakesTheFirstThatHolds()
+    {
+        using namespace InboxPresenter;
+        // A failure hides even a filled scan; scanning beats a missing scan.
+        QCOMPARE(columnContent(true, true, true, 10), ColumnContent::failure);
+        QCOMPARE(columnContent(false, true, true, 10), ColumnContent::scanning);
+        QCOMPARE(columnContent(false, true, false, 0), ColumnContent::scanning);
+        QCOMPARE(columnContent(false, false, false, 0), ColumnContent::noDrive);
+        QCOMPARE(columnContent(false, false, true, 0), ColumnContent::emptyDrive);
+        QCOMPARE(columnContent(false, false, true, 1), ColumnContent::inbox);
+    }
+
+    void secondLineFallsBackInOrder()
+    {
+        using namespace InboxPresenter;
+        TeslaEvent e = event(EventKind::sentry, QStringLiteral("2026-07-21_02-11-05"));
+        // Nothing known and the details file present: one space keeps the row's height.
+        QCOMPARE(secondLine(e, true), QStringLiteral(" "));
+        QVERIFY(textBlockToolTip(e).isEmpty());
+
+        e.missingEventJSON = true;
+        QCOMPARE(secondLine(e, true), QStringLiteral("Details limited — footage intact"));
+        QVERIFY(textBlockToolTip(e).startsWith(QStringLiteral("Your car didn't write a details file")));
+
+        addClipBytes(e, 1024 * 1024);
+        addClipBytes(e, 1024 * 1024);
+        const QString size = byteCount(2 * 1024 * 1024);
+        QCOMPARE(secondLine(e, true), size);
+        // Without the size option only the fallback remains.
+        QCOMPARE(secondLine(e, false), QStringLiteral("Details limited — footage intact"));
+
+        e.city = QStringLiteral("Oslo");
+        QCOMPARE(secondLine(e, true), QStringLiteral("Oslo · ") + size);
+        QCOMPARE(secondLine(e, false), QStringLiteral("Oslo"));
+
+        // Clips of zero bytes give no size.
+        TeslaEvent empty = event(EventKind::saved, QStringLiteral("x"));
+        addClipBytes(empty, 0);
+        QCOMPARE(secondLine(empty, true), QStringLiteral(" "));
+    }
+
+    void accessibilityAndTimestamps()
+    {
+        using namespace InboxPresenter;
+        TeslaEvent e = event(EventKind::sentry, QStringLiteral("a"));
+        e.reason.category = ReasonCategory::impact;
+        const QString longTime = longTimestamp(e);
+        QVERIFY(longTime.contains(QRegularExpression(QStringLiteral("^[A-Z][a-z]+day \\d{1,2}:\\d\\d:\\d\\d [AP]M$"))));
+        QVERIFY(rowTimestamp(e).contains(QRegularExpression(QStringLiteral("^[A-Z][a-z]{2} \\d{1,2}:\\d\\d [AP]M$"))));
+        QCOMPARE(accessibilityLabel(e), e.reason.label() + QStringLiteral(", ") + longTime);
+        e.city = QStringLiteral("Bergen");
+        QCOMPARE(accessibilityLabel(e), e.reason.label() + QStringLiteral(", ") + longTime + QStringLiteral(", Bergen"));
+        QCOMPARE(reasonChipAccessibilityLabel(e.reason), QStringLiteral("Reason: ") + e.reason.label());
+        QCOMPARE(fallbackSymbol(EventKind::recent), QStringLiteral("road.lanes"));
+        QCOMPARE(fallbackSymbol(EventKind::saved), QStringLiteral("video.fill"));
+    }
+
+    void pluralsAndCounts()
+    {
+        using namespace InboxPresenter;
+        QCOMPARE(corruptionAccessibilityText(1), QStringLiteral("1 damaged clip"));
+        QCOMPARE(corruptionAccessibilityText(3), QStringLiteral("3 damaged clips"));
+        QVERIFY(corruptionToolTip(1).startsWith(QStringLiteral("1 angle from this moment")));
+        QVERIFY(corruptionToolTip(2).startsWith(QStringLiteral("2 angles from this moment")));
+        QCOMPARE(bulkKeepTitle(4), QStringLiteral("Keep 4"));
+        QCOMPARE(bulkDismissTitle(1), QStringLiteral("Dismiss 1"));
+        QCOMPARE(tickSymbol(true), QStringLiteral("checkmark.circle.fill"));
+        QCOMPARE(tickToolTip(false), QStringLiteral("Select this event"));
+    }
+
+    void triageOverlayByState()
+    {
+        using namespace InboxPresenter;
+        QCOMPARE(triageOverlay(TriageState::new_).kind, QStringLiteral("dot"));
+        QCOMPARE(triageOverlay(TriageState::kept).symbolName, QStringLiteral("checkmark.circle.fill"));
+        QVERIFY(triageOverlay(TriageState::reviewed).kind.isEmpty());
+        QVERIFY(triageOverlay(TriageState::dismissed).kind.isEmpty());
+    }
+
+    void filterTokensInFixedOrder()
+    {
+        using namespace InboxPresenter;
+        QCOMPARE(activeFilterCount({}, {}, {}), 0);
+        QCOMPARE(filterMenuSymbol(0), QStringLiteral("line.3.horizontal.decrease.circle"));
+        QVERIFY(filterTokens({}, {}, {}).empty());
+
+        const auto tokens = filterTokens(TriageState(TriageState::kept), ReasonCategory(ReasonCategory::impact),
+                                         EventKind(EventKind::recent));
+        QCOMPARE(tokens.size(), size_t(3));
+        QCOMPARE(tokens[0].filter, QStringLiteral("state"));
+        QCOMPARE(tokens[0].label, QStringLiteral("In Vault"));
+        QCOMPARE(tokens[1].filter, QStringLiteral("reason"));
+        QCOMPARE(tokens[1].label, (PlainReason{ReasonCategory::impact, {}, {}}.shortLabel()));
+        QCOMPARE(tokens[2].label, QStringLiteral("Recent Driving"));
+        QCOMPARE(activeFilterCount(TriageState(TriageState::new_), {}, EventKind(EventKind::saved)), 2);
+        QCOMPARE(filterMenuSymbol(2), QStringLiteral("line.3.horizontal.decrease.circle.fill"));
+
+        const auto kindOnly = filterTokens({}, {}, EventKind(EventKind::sentry));
+        QCOMPARE(kindOnly.size(), size_t(1));
+        QCOMPARE(kindOnly[0].filter, QStringLiteral("kind"));
+    }
+
+    void recentBannerFollowsTheVisibleList()
+    {
+        using namespace InboxPresenter;
+        std::vector<TeslaEvent> visible{event(EventKind::sentry, QStringLiteral("a")),
+                                        event(EventKind::recent, QStringLiteral("b")),
+                                        event(EventKind::recent, QStringLiteral("c"))};
+        const auto recent = recentDriving(visible);
+        QCOMPARE(recent.size(), size_t(2));
+        QCOMPARE(recent[0].folderName, QStringLiteral("b"));
+        visible.erase(visible.begin() + 1, visible.end()); // a filter hid the recent ones
+        QVERIFY(recentDriving(visible).empty());
+    }
+
+    void mapSectionsAndPins()
+    {
+        using namespace EventMapPresenter;
+        TeslaEvent located = event(EventKind::sentry, QStringLiteral("a"));
+        located.latitude = 59.9;
+        located.longitude = 10.7;
+        located.reason.category = ReasonCategory::impact;
+        TeslaEvent halfLocated = event(EventKind::saved, QStringLiteral("b"));
+        halfLocated.latitude = 60.0; // latitude without longitude gets no pin
+        TeslaEvent vaultOnly = event(EventKind::saved, QStringLiteral("c"));
+        vaultOnly.latitude = 61.0;
+        vaultOnly.longitude = 11.0;
+
+        auto all = allEvents({located, halfLocated}, {vaultOnly, located});
+        QCOMPARE(all.size(), size_t(4)); // an event in both places stands twice
+        auto s = sections(all);
+        QCOMPARE(s.size(), size_t(2));
+        QCOMPARE(s[0].title, QStringLiteral("All located events"));
+        QCOMPARE(s[0].events.size(), size_t(3));
+        QCOMPARE(s[1].title, QStringLiteral("No location recorded"));
+        QCOMPARE(s[1].events[0].folderName, QStringLiteral("b"));
+
+        s = sections(allEvents({}, {vaultOnly}));
+        QCOMPARE(s.size(), size_t(1));
+        QCOMPARE(s[0].title, QStringLiteral("All located events"));
+        QVERIFY(sections({}).empty());
+
+        QCOMPARE(pinTint(located), QStringLiteral("red"));
+        QCOMPARE(pinTint(vaultOnly), QStringLiteral("accent"));
+    }
+
+    void mercatorRoundTripsAndFits()
+    {
+        using namespace EventMapPresenter;
+        QCOMPARE(project(0, 0, 0), QPointF(128, 128));
+        QCOMPARE(project(0, -180, 1).x(), 0.0);
+        for (auto [lat, lon] : {std::pair{59.91, 10.75}, {-33.86, 151.2}, {0.0, 0.0}, {37.77, -122.42}}) {
+            const QPointF back = unproject(project(lat, lon, 12.5), 12.5);
+            QVERIFY(qAbs(back.x() - lon) < 1e-9);
+            QVERIFY(qAbs(back.y() - lat) < 1e-9);
+        }
+        // Poles are clamped, not infinite.
+        QVERIFY(std::isfinite(project(90, 0, 3).y()));
+
+        QCOMPARE(tileUrl(QStringLiteral("http://127.0.0.1:8080/{z}/{x}/{y}.png"), 3, 4, 5),
+                 QStringLiteral("http://127.0.0.1:8080/3/4/5.png"));
+
+        // Every point lands inside the view with the margin.
+        const std::vector<QPointF> pts{{59.91, 10.75}, {60.39, 5.32}, {63.43, 10.39}};
+        const View v = fitting(pts, 800, 600, 48);
+        const QPointF c = project(v.centerLatitude, v.centerLongitude, v.zoom);
+        for (const QPointF &p : pts) {
+            const QPointF q = project(p.x(), p.y(), v.zoom) - c;
+            QVERIFY(qAbs(q.x()) <= 400 - 48 + 1e-6);
+            QVERIFY(qAbs(q.y()) <= 300 - 48 + 1e-6);
+        }
+        const View one = fitting({{59.91, 10.75}}, 800, 600);
+        QCOMPARE(one.zoom, 16.0);
+        QVERIFY(qAbs(one.centerLatitude - 59.91) < 1e-9);
+    }
+};
+
+QTEST_GUILESS_MAIN(InboxPresenterTest)
+#include "tst_inboxpresenter.moc"

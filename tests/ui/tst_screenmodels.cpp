@@ -1,0 +1,409 @@
+#include "EventListModel.h"
+#include "InboxViewModel.h"
+#include "MapViewModel.h"
+#include "ThumbnailImageProvider.h"
+#include "TileMap.h"
+#include "TileSource.h"
+#include "VaultViewModel.h"
+#include "engine/MockEngine.h"
+#include "playback/ThumbnailLoader.h"
+#include "state/AppState.h"
+#include "support/IsolatedHome.h"
+#include "support/TeslaCamFixture.h"
+
+#include <QAbstractItemModelTester>
+#include <QGuiApplication>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+// The view models under the Drive, Vault and Map screens, without a window:
+// the row model's moves, the keys, the Vault's texts and plurals, the map's
+// pins and hand-over, the tile maths, the thumbnail provider.
+class ScreenModelsTest : public QObject {
+    Q_OBJECT
+
+    static QStringList ids(const std::vector<TeslaEvent> &events)
+    {
+        QStringList out;
+        for (const TeslaEvent &e : events)
+            out << e.id();
+        return out;
+    }
+
+    static void scanDemo(AppState &state)
+    {
+        state.beginScan(MockEngine::fixtureURL() + QStringLiteral("/TeslaCam"));
+        QTRY_VERIFY_WITH_TIMEOUT(state.driveScan() && !state.isScanning() && !state.isRevalidatingScan(), 20000);
+    }
+
+private Q_SLOTS:
+    void init() { QSettings().clear(); }
+
+    void rowModelMovesOnlyTheRowsThatChange()
+    {
+        MockEngine engine;
+        AppState state(engine);
+        InboxViewModel inbox(&state);
+        EventListModel *rows = inbox.rows();
+        QAbstractItemModelTester tester(rows, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        scanDemo(state);
+        QCOMPARE(ids(rows->events()), ids(state.visibleInboxEvents()));
+        QVERIFY(rows->count() >= 4);
+
+        QSignalSpy removed(rows, &QAbstractItemModel::rowsRemoved);
+        QSignalSpy inserted(rows, &QAbstractItemModel::rowsInserted);
+        QSignalSpy reset(rows, &QAbstractItemModel::modelReset);
+        QSignalSpy changed(rows, &QAbstractItemModel::dataChanged);
+
+        // A dismissal takes out that one row.
+        const QString third = rows->idAt(2);
+        state.dismissIDs({third});
+        QCOMPARE(removed.size(), 1);
+        QCOMPARE(removed.first().at(1).toInt(), 2);
+        QCOMPARE(removed.first().at(2).toInt(), 2);
+        QCOMPARE(ids(rows->events()), ids(state.visibleInboxEvents()));
+
+        // The Dismissed filter: the others go, the dismissed one comes in.
+        state.setFilterState(TriageState::dismissed);
+        QCOMPARE(ids(rows->events()), QStringList{third});
+        state.setFilterState(std::nullopt);
+        QCOMPARE(ids(rows->events()), ids(state.visibleInboxEvents()));
+        QVERIFY(inserted.size() >= 2);
+        QCOMPARE(reset.size(), 0);
+
+        // A mark on a row that stays is a data change, not a move.
+        removed.clear();
+        inserted.clear();
+        changed.clear();
+        state.setTriage(QStringLiteral("reviewed"), rows->idAt(0));
+        QCOMPARE(removed.size() + inserted.size(), 0);
+        QVERIFY(changed.size() >= 1);
+        QCOMPARE(rows->data(rows->index(0), EventListModel::OverlayKindRole).toString(), QString());
+        state.setTriage(QStringLiteral("kept"), rows->idAt(0));
+        QCOMPARE(rows->data(rows->index(0), EventListModel::OverlayKindRole).toString(), QStringLiteral("kept"));
+        QCOMPARE(rows->data(rows->index(1), EventListModel::OverlayKindRole).toString(), QStringLiteral("dot"));
+    }
+
+    void rowRolesFollowTicksSelectionAndAccess()
+    {
+        MockEngine engine;
+        AppState state(engine);
+        InboxViewModel inbox(&state);
+        EventListModel *rows = inbox.rows();
+        scanDemo(state);
+        const QModelIndex first = rows->index(0);
+        const QString id = rows->idAt(0);
+        QVERIFY(!rows->data(first, EventListModel::IsBulkSelectedRole).toBool());
+        QCOMPARE(rows->data(first, EventListModel::TickToolTipRole).toString(), QStringLiteral("Select this event"));
+        state.toggleBulkSelection(id);
+        QVERIFY(rows->data(first, EventListModel::IsBulkSelectedRole).toBool());
+        QCOMPARE(rows->data(first, EventListModel::TickToolTipRole).toString(), QStringLiteral("Deselect this event"));
+        QCOMPARE(inbox.bulkKeepTitle(), QStringLiteral("Keep 1"));
+        QVERIFY(!inbox.showsBulkActions(false));
+        QVERIFY(inbox.showsBulkActions(true));
+
+        QCOMPARE(rows->selectedIndex(), -1);
+        QSignalSpy selected(rows, &EventListModel::selectedIndexChanged);
+        state.setSelectedEventID(rows->idAt(3));
+        QCOMPARE(selected.size(), 1);
+        QCOMPARE(rows->selectedIndex(), 3);
+        QVERIFY(rows->data(rows->index(3), EventListModel::IsSelectedRole).toBool());
+        QVERIFY(!rows->data(first, EventListModel::IsSelectedRole).toBool());
+
+        // The picture's id carries the access epoch, so a change of access asks again.
+        for (int r = 0; r < rows->count(); ++r) {
+            const TeslaEvent &e = rows->events()[size_t(r)];
+            const QString source = rows->data(rows->index(r), EventListModel::ThumbSourceRole).toString();
+            if (!e.thumbURL) {
+                QVERIFY(source.isEmpty());
+                continue;
+            }
+            QCOMPARE(source, QStringLiteral("image://thumbs/%1%2").arg(state.resourceAccessEpoch()).arg(*e.thumbURL));
+            QCOMPARE(ThumbnailImageProvider::pathFromID(source.mid(15)), *e.thumbURL);
+        }
+    }
+
+    void keysWalkTheVisibleListAndActOnTheSelection()
+    {
+        MockEngine engine;
+        AppState state(engine);
+        InboxViewModel inbox(&state);
+        EventListModel *rows = inbox.rows();
+        scanDemo(state);
+        // K and D with nothing selected do nothing.
+        inbox.keepSelected();
+        inbox.dismissSelected();
+        QVERIFY(!state.isArchiving());
+        QCOMPARE(ids(state.visibleInboxEvents()).size(), rows->count());
+
+        inbox.moveSelection(-1); // from nothing: the first row
+        QCOMPARE(*state.selectedEventID(), rows->idAt(0));
+        inbox.moveSelection(-1); // stays at the top
+        QCOMPARE(*state.selectedEventID(), rows->idAt(0));
+        for (int i = 0; i < 20; ++i)
+            inbox.moveSelection(1); // stops at the end
+        QCOMPARE(*state.selectedEventID(), rows->idAt(rows->count() - 1));
+
+        const QString last = rows->idAt(rows->count() - 1);
+        inbox.dismissSelected();
+        QCOMPARE(state.triageStateFor(last), QStringLiteral("dismissed"));
+        QCOMPARE(rows->indexOf(last), -1);
+
+        // A selection the filters hide is not acted on.
+        state.setSelectedEventID(rows->idAt(0));
+        state.setFilterState(TriageState::kept);
+        inbox.dismissSelected();
+        state.setFilterState(std::nullopt);
+        QCOMPARE(state.triageStateFor(rows->idAt(0)), QStringLiteral("new"));
+
+        // Keeping without a Vault asks for one; the failure stands above the filled list.
+        inbox.keepSelected();
+        QVERIFY(state.currentFailure());
+        QCOMPARE(inbox.content(), QStringLiteral("failure"));
+        QVERIFY(!state.driveScan()->events.empty());
+    }
+
+    void filterMenuAndTokens()
+    {
+        MockEngine engine;
+        AppState state(engine);
+        InboxViewModel inbox(&state);
+        QCOMPARE(inbox.statusEntries().size(), 5);
+        QCOMPARE(inbox.statusEntries().first().toMap().value(QStringLiteral("label")).toString(), QStringLiteral("All statuses"));
+        QCOMPARE(inbox.statusEntries().at(3).toMap().value(QStringLiteral("label")).toString(), QStringLiteral("In Vault"));
+        QCOMPARE(inbox.reasonEntries().size(), 8);
+        QCOMPARE(inbox.reasonEntries().first().toMap().value(QStringLiteral("label")).toString(), QStringLiteral("Any reason"));
+        QCOMPARE(inbox.kindEntries().last().toMap().value(QStringLiteral("label")).toString(), QStringLiteral("Recent Driving"));
+
+        QSignalSpy filters(&inbox, &InboxViewModel::filtersChanged);
+        state.setFilterKindForQml(QStringLiteral("recent"));
+        state.setFilterStateForQml(QStringLiteral("kept"));
+        QCOMPARE(filters.size(), 2);
+        QCOMPARE(inbox.activeFilterCount(), 2);
+        const QVariantList tokens = inbox.filterTokens();
+        QCOMPARE(tokens.size(), 2);
+        QCOMPARE(tokens[0].toMap().value(QStringLiteral("label")).toString(), QStringLiteral("In Vault"));
+        QCOMPARE(tokens[1].toMap().value(QStringLiteral("label")).toString(), QStringLiteral("Recent Driving"));
+        inbox.clearFilter(QStringLiteral("state"));
+        QVERIFY(!state.filterState());
+        QVERIFY(state.filterKind());
+        inbox.clearFilter(QStringLiteral("nonsense"));
+        QCOMPARE(inbox.activeFilterCount(), 1);
+        inbox.clearAllFilters();
+        QCOMPARE(inbox.activeFilterCount(), 0);
+        QVERIFY(inbox.filterTokens().isEmpty());
+    }
+
+    void columnContentAndEmptyScreens()
+    {
+        MockEngine engine;
+        AppState state(engine);
+        InboxViewModel inbox(&state);
+        QCOMPARE(inbox.content(), QStringLiteral("noDrive"));
+        QVERIFY(!inbox.emptyScreen().value(QStringLiteral("title")).toString().isEmpty());
+        scanDemo(state);
+        QCOMPARE(inbox.content(), QStringLiteral("inbox"));
+        QVERIFY(inbox.emptyScreen().isEmpty());
+    }
+
+    void vaultTextsCountAndPluralise()
+    {
+        TeslaEvent one;
+        one.folderName = QStringLiteral("2024-05-01_10-00-00");
+        ClipRef clip;
+        clip.fileSize = 1500000;
+        one.clips = {clip};
+        QCOMPARE(VaultViewModel::summaryFor({one}, std::nullopt),
+                 QStringLiteral("1 event · ") + QLocale().formattedDataSize(1500000, 1, QLocale::DataSizeTraditionalFormat));
+        const QString two = VaultViewModel::summaryFor({one, one}, qint64(5) * 1024 * 1024 * 1024);
+        QVERIFY(two.startsWith(QStringLiteral("2 events · ")));
+        QVERIFY(two.endsWith(QStringLiteral(" free on this disk")));
+        QCOMPARE(VaultViewModel::summaryFor({}, std::nullopt), QStringLiteral("0 events · 0 bytes"));
+
+        QCOMPARE(VaultViewModel::progressLineFor(ArchiveProgress{10, 100, 3, 7, std::nullopt}), QStringLiteral("3 of 7 events"));
+
+        // Cancelled at once with nothing new: the heading alone.
+        ArchiveReport nothing;
+        nothing.cancelled = true;
+        QVariantMap r = VaultViewModel::reportFor(nothing);
+        QCOMPARE(r.value(QStringLiteral("heading")).toString(), QStringLiteral("Backup Stopped"));
+        QVERIFY(r.value(QStringLiteral("lines")).toList().isEmpty());
+
+        ArchiveReport some;
+        some.archivedEvents.resize(1);
+        some.skippedDuplicates = 1;
+        some.failedFiles.resize(1);
+        r = VaultViewModel::reportFor(some);
+        QCOMPARE(r.value(QStringLiteral("heading")).toString(), QStringLiteral("Backup Complete"));
+        QStringList lines;
+        for (const QVariant &l : r.value(QStringLiteral("lines")).toList())
+            lines << l.toMap().value(QStringLiteral("text")).toString();
+        QCOMPARE(lines, (QStringList{
+            QStringLiteral("1 event copied and verified, byte-for-byte. The original on your drive is untouched."),
+            QStringLiteral("1 were already in your Vault, so we skipped them."),
+            QStringLiteral("1 file couldn't be read — your drive may be failing. Nothing was deleted or changed; you can try again.")}));
+        some.archivedEvents.resize(2);
+        some.skippedDuplicates = 0;
+        some.failedFiles.resize(3);
+        r = VaultViewModel::reportFor(some);
+        const QVariantList twoLines = r.value(QStringLiteral("lines")).toList();
+        QCOMPARE(twoLines.size(), 2);
+        QVERIFY(twoLines[0].toMap().value(QStringLiteral("text")).toString().startsWith(QStringLiteral("2 events copied")));
+        QVERIFY(twoLines[1].toMap().value(QStringLiteral("text")).toString().startsWith(QStringLiteral("3 files couldn't")));
+    }
+
+    void vaultVerificationRemovalAndFreeSpace()
+    {
+        ArchivedEvent a;
+        a.eventID = QStringLiteral("sentry|2024-05-01_10-00-00");
+        a.sourceVolume = QStringLiteral("TESLADRIVE");
+        a.files = {ArchivedFile{QStringLiteral("front.mp4"), 10, QString(64, QLatin1Char('a'))}};
+        const QVariantMap v = VaultViewModel::verificationFor(a);
+        QVERIFY(v.value(QStringLiteral("present")).toBool());
+        QVERIFY(v.value(QStringLiteral("archivedLine")).toString().startsWith(QStringLiteral("Archived ")));
+        QVERIFY(v.value(QStringLiteral("archivedLine")).toString().endsWith(QStringLiteral(" from TESLADRIVE")));
+        QCOMPARE(v.value(QStringLiteral("files")).toList().first().toMap().value(QStringLiteral("name")).toString(),
+                 QStringLiteral("front.mp4"));
+
+        TeslaEvent e;
+        e.timestamp = Date::now();
+        const QString message = VaultViewModel::removalMessageFor(e);
+        QVERIFY(message.endsWith(QStringLiteral(" will move to your computer's Trash, where you can still recover it. "
+                                                "Nothing on your Tesla drive is touched.")));
+
+        QTemporaryDir dir;
+        QVERIFY(VaultViewModel::freeBytesAt(dir.path()).value_or(-1) > 0);
+        QVERIFY(!VaultViewModel::freeBytesAt(QString()));
+
+        MockEngine engine;
+        AppState state(engine);
+        VaultViewModel vault(&state);
+        QVERIFY(vault.isEmpty());
+        QCOMPARE(vault.emptyState().value(QStringLiteral("title")).toString(), QStringLiteral("Choose a Vault Folder"));
+        QSignalSpy empty(&vault, &VaultViewModel::emptyStateChanged);
+        vault.chooseFolder(QUrl::fromLocalFile(dir.path()));
+        QCOMPARE(*state.vaultURL(), dir.path());
+        QVERIFY(empty.size() >= 1);
+        QCOMPARE(vault.emptyState().value(QStringLiteral("title")).toString(), QStringLiteral("Your Vault is empty so far"));
+        QVERIFY(!vault.verification(QStringLiteral("sentry|nothing")).value(QStringLiteral("present")).toBool());
+    }
+
+    void mapPinsSectionsAndHandOver()
+    {
+        TeslaEvent located, half, urgent;
+        located.kind = EventKind::sentry;
+        located.folderName = QStringLiteral("a");
+        located.latitude = 30.2;
+        located.longitude = -97.7;
+        half = located;
+        half.folderName = QStringLiteral("b");
+        half.longitude.reset();
+        urgent = located;
+        urgent.folderName = QStringLiteral("c");
+        urgent.reason.category = ReasonCategory::impact;
+        const QVariantList pins = MapViewModel::pinsFor({located, half, urgent});
+        QCOMPARE(pins.size(), 2);
+        QCOMPARE(pins[0].toMap().value(QStringLiteral("tint")).toString(), QStringLiteral("accent"));
+        QCOMPARE(pins[1].toMap().value(QStringLiteral("tint")).toString(), QStringLiteral("red"));
+        QCOMPARE(pins[1].toMap().value(QStringLiteral("label")).toString(), urgent.reason.label());
+        const QVariantList sections = MapViewModel::sectionsFor({located, half});
+        QCOMPARE(sections.size(), 2);
+        QCOMPARE(sections[1].toMap().value(QStringLiteral("rows")).toList().first().toMap().value(QStringLiteral("id")).toString(),
+                 QStringLiteral("sentry|b"));
+        QCOMPARE(MapViewModel::sectionsFor({located}).size(), 1);
+
+        MockEngine engine;
+        AppState state(engine);
+        MapViewModel map(&state);
+        QVERIFY(map.isEmpty());
+        state.setSelectedSection(SidebarSection::map);
+        map.select(QString()); // a pin deselected: nothing
+        QCOMPARE(state.selectedSection(), SidebarSection::map);
+        // An id that is on no drive still lands in the Drive section.
+        map.select(QStringLiteral("saved|vault-only"));
+        QCOMPARE(state.selectedSection(), SidebarSection::drive);
+        QCOMPARE(*state.selectedEventID(), QStringLiteral("saved|vault-only"));
+    }
+
+    void tileMapKeepsTheCoordinateUnderTheCursor()
+    {
+        const int requests = TileSource::shared()->requestsStarted();
+        TileMap map;
+        map.setSize(QSizeF(800, 600));
+        map.setCenterLatitude(30.25);
+        map.setCenterLongitude(-97.75);
+        map.setZoom(12);
+        QCOMPARE(map.toView(30.25, -97.75), QPointF(400, 300));
+        const QPointF before = map.toView(30.3, -97.7);
+        QSignalSpy view(&map, &TileMap::viewChanged);
+        map.zoomAround(2, before.x(), before.y());
+        QCOMPARE(map.zoom(), 13.0);
+        const QPointF after = map.toView(30.3, -97.7);
+        QVERIFY(qAbs(after.x() - before.x()) < 0.5 && qAbs(after.y() - before.y()) < 0.5);
+        map.pan(100, -50);
+        const QPointF moved = map.toView(30.3, -97.7);
+        QVERIFY(qAbs(moved.x() - after.x() - 100) < 0.5 && qAbs(moved.y() - after.y() + 50) < 0.5);
+        QCOMPARE(view.size(), 2);
+        map.setZoom(40);
+        QCOMPARE(map.zoom(), TileMap::maxZoom);
+
+        const QVariantList points{QVariantMap{{QStringLiteral("latitude"), 30.1}, {QStringLiteral("longitude"), -97.9}},
+                                  QVariantMap{{QStringLiteral("latitude"), 30.6}, {QStringLiteral("longitude"), -97.4}}};
+        map.fitTo(points);
+        for (const QVariant &p : points) {
+            const QPointF at = map.toView(p.toMap().value(QStringLiteral("latitude")).toDouble(),
+                                          p.toMap().value(QStringLiteral("longitude")).toDouble());
+            QVERIFY(at.x() >= 0 && at.x() <= 800 && at.y() >= 0 && at.y() <= 600);
+        }
+        // Not in a window: nothing was asked of any server.
+        QCOMPARE(TileSource::shared()->requestsStarted(), requests);
+    }
+
+    void tileSourceNamesItselfAndReadsTheTemplate()
+    {
+        QVERIFY(TileSource::userAgent().startsWith(QStringLiteral("Keelhold/")));
+        QVERIFY(TileSource::userAgent().contains(QStringLiteral("(+")));
+        QCOMPARE(TileSource::shared()->urlTemplate(), QStringLiteral("https://tile.openstreetmap.org/{z}/{x}/{y}.png"));
+        QSettings().setValue(TileSource::templateKey, QStringLiteral("http://127.0.0.1:9/{z}/{x}/{y}.png"));
+        QCOMPARE(TileSource::shared()->urlTemplate(), QStringLiteral("http://127.0.0.1:9/{z}/{x}/{y}.png"));
+    }
+
+    void thumbnailProviderScalesCachesAndGivesNothingForBadFiles()
+    {
+        QTemporaryDir dir;
+        QImage big(800, 400, QImage::Format_RGB32);
+        big.fill(Qt::red);
+        const QString good = dir.filePath(QStringLiteral("thumb.png"));
+        QVERIFY(big.save(good));
+        const QString bad = dir.filePath(QStringLiteral("bad.png"));
+        TeslaCamFixture::writeFile(bad, "not a picture");
+        ThumbnailImageProvider provider;
+        QCOMPARE(provider.imageType(), QQuickImageProvider::Image);
+        QVERIFY(provider.flags() & QQmlImageProviderBase::ForceAsynchronousImageLoading);
+        QSize size;
+        const QImage image = provider.requestImage(QStringLiteral("3") + good, &size, QSize());
+        QCOMPARE(image.size(), QSize(200, 100));
+        QCOMPARE(size, QSize(200, 100));
+        QVERIFY(ThumbnailLoader::cached(good));
+        QVERIFY(provider.requestImage(QStringLiteral("3") + bad, &size, QSize()).isNull());
+        QVERIFY(!ThumbnailLoader::cached(bad));
+        QVERIFY(provider.requestImage(QStringLiteral("nothing"), &size, QSize()).isNull());
+    }
+};
+
+int main(int argc, char **argv)
+{
+    IsolatedHome::setUp();
+    if (qEnvironmentVariableIsEmpty("DISPLAY"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication app(argc, argv);
+    QGuiApplication::setOrganizationName(QStringLiteral("Keelhold"));
+    QGuiApplication::setApplicationName(QStringLiteral("Keelhold"));
+    ScreenModelsTest tc;
+    QTEST_SET_MAIN_SOURCE_PATH
+    return QTest::qExec(&tc, argc, argv);
+}
+
+#include "tst_screenmodels.moc"
