@@ -58,6 +58,22 @@ const QHash<QString, QString> &table()
         {QStringLiteral("folder"), QStringLiteral("places/folder")},
         {QStringLiteral("video"), QStringLiteral("devices/camera-video")},
         {QStringLiteral("mappin"), QStringLiteral("actions/mark-location")},
+        // Player
+        {QStringLiteral("gobackward.5"), QStringLiteral("actions/media-seek-backward")},
+        {QStringLiteral("goforward.5"), QStringLiteral("actions/media-seek-forward")},
+        {QStringLiteral("backward.frame"), QStringLiteral("actions/go-previous")},
+        {QStringLiteral("forward.frame"), QStringLiteral("actions/go-next")},
+        {QStringLiteral("flag.fill"), QStringLiteral("categories/emoji-flags")},
+        {QStringLiteral("video.slash"), QStringLiteral("status/camera-disabled")},
+        {QStringLiteral("play.rectangle"), QStringLiteral("mimetypes/video-x-generic")},
+        {QStringLiteral("calendar"), QStringLiteral("mimetypes/x-office-calendar")},
+        {QStringLiteral("mappin.and.ellipse"), QStringLiteral("actions/mark-location")},
+        {QStringLiteral("location"), QStringLiteral("status/location-services-active")},
+        {QStringLiteral("location.slash"), QStringLiteral("status/location-services-disabled")},
+        {QStringLiteral("checkmark.shield.fill"), QStringLiteral("status/security-high")},
+        {QStringLiteral("exclamationmark.triangle.fill"), QStringLiteral("status/dialog-warning")},
+        {QStringLiteral("arrow.up.left.and.arrow.down.right"), QStringLiteral("actions/view-fullscreen")},
+        {QStringLiteral("arrow.down.right.and.arrow.up.left"), QStringLiteral("actions/view-restore")},
     };
     return t;
 }

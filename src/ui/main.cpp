@@ -2,6 +2,7 @@
 #include "state/AppState.h"
 #include "state/DriveFailure.h"
 #include "state/SidebarSection.h"
+#include "QmlTypes.h"
 #include "UiBridge.h"
 
 #include <QQuickWindow>
@@ -13,6 +14,8 @@
 #include <QQuickStyle>
 #include <QUrl>
 #include <QtQml>
+
+Q_IMPORT_QML_PLUGIN(KeelholdPlugin)
 
 int main(int argc, char *argv[])
 {
@@ -28,10 +31,7 @@ int main(int argc, char *argv[])
     if (QCoreApplication::arguments().contains(QStringLiteral("--sample")))
         appState.loadSampleFootage();
 
-    qmlRegisterUncreatableMetaObject(SidebarSection::staticMetaObject, "Keelhold", 1, 0, "SidebarSection",
-                                     QStringLiteral("an enumeration"));
-    qmlRegisterUncreatableMetaObject(DriveFailure::staticMetaObject, "Keelhold", 1, 0, "DriveFailure",
-                                     QStringLiteral("an enumeration"));
+    QmlTypes::registerAll();
 
     // Declared before the engine so it outlives the QML that reads it.
     UiBridge ui(&appState);

@@ -136,8 +136,13 @@ ApplicationWindow {
                     width_: ui.storedListWidth
                     onWidthDragged: (w) => ui.storedListWidth = w
                 }
-                PlaceholderColumn {
-                    name: appState.selectedSection === 0 ? "DriveDetailColumn" : "VaultDetailColumn"
+                DriveDetailColumn {
+                    visible: appState.selectedSection === 0
+                    Layout.fillWidth: true
+                    Layout.fillHeight: true
+                }
+                VaultDetailColumn {
+                    visible: appState.selectedSection === 1
                     Layout.fillWidth: true
                     Layout.fillHeight: true
                 }

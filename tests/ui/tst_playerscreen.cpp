@@ -1,0 +1,505 @@
+// The real application window, in-process under xvfb-run: the player screen
+// on the sample footage and on fixture drives, driven by real key presses
+// and mouse clicks, checked by the state it leaves and by the pixels it draws.
+
+#include "EventPlayerPresenter.h"
+#include "ExportFlow.h"
+#include "QmlTypes.h"
+#include "UiBridge.h"
+#include "engine/LiveEngine.h"
+#include "playback/SyncPlayerController.h"
+#include "playback/TrackPlayer.h"
+#include "state/AppState.h"
+#include "support/IsolatedHome.h"
+#include "support/MovieFacts.h"
+#include "support/TeslaCamFixture.h"
+#include "support/TestClips.h"
+
+#include <QElapsedTimer>
+#include <QGuiApplication>
+#include <QImage>
+#include <QQmlApplicationEngine>
+#include <QQmlContext>
+#include <QQmlExtensionPlugin>
+#include <QQuickItem>
+#include <QQuickStyle>
+#include <QQuickWindow>
+#include <QSet>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <sys/stat.h>
+
+Q_IMPORT_QML_PLUGIN(KeelholdPlugin)
+
+namespace {
+
+const QString sixCameraEvent = QStringLiteral("sentry|2024-06-14_21-42-10");
+
+QQuickItem *findItem(QObject *root, const QString &name)
+{
+    if (!root)
+        return nullptr;
+    if (auto *item = qobject_cast<QQuickItem *>(root); item && item->objectName() == name && item->isVisible())
+        return item;
+    for (QObject *child : root->children())
+        if (QQuickItem *found = findItem(child, name))
+            return found;
+    if (auto *item = qobject_cast<QQuickItem *>(root))
+        for (QQuickItem *child : item->childItems())
+            if (QQuickItem *found = findItem(child, name))
+                return found;
+    return nullptr;
+}
+
+// Whether the item's area of a window grab shows a picture rather than a
+// black field with a placeholder: plenty of lit pixels and many colours.
+bool showsPicture(const QImage &shot, QQuickItem *item, QString *why = nullptr)
+{
+    const QRectF scene = item->mapRectToScene(QRectF(0, 0, item->width(), item->height()));
+    const QRect area = scene.toAlignedRect().adjusted(int(scene.width() * 0.2), int(scene.height() * 0.25),
+                                                      -int(scene.width() * 0.2), -int(scene.height() * 0.1))
+                           .intersected(shot.rect());
+    if (area.isEmpty())
+        return false;
+    int lit = 0, total = 0;
+    QSet<QRgb> colours;
+    for (int y = area.top(); y <= area.bottom(); y += 2)
+        for (int x = area.left(); x <= area.right(); x += 2) {
+            const QRgb p = shot.pixel(x, y);
+            ++total;
+            if (qRed(p) + qGreen(p) + qBlue(p) > 90)
+                ++lit;
+            colours.insert(p & 0xF0F0F0);
+        }
+    if (why)
+        *why = QStringLiteral("%1: %2 of %3 lit, %4 colours").arg(item->objectName()).arg(lit).arg(total).arg(colours.size());
+    return lit > total / 3 && colours.size() >= 8;
+}
+
+} // namespace
+
+class PlayerScreenTest : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<LiveEngine> engine_;
+    std::unique_ptr<AppState> state_;
+    std::unique_ptr<UiBridge> ui_;
+    std::unique_ptr<QQmlApplicationEngine> qml_;
+    QQuickWindow *window_ = nullptr;
+    QTemporaryDir work_;
+    QString shotsDir_;
+
+    SyncPlayerController *controller() const { return state_->activePlayerController(); }
+
+    void key(Qt::Key k) { QTest::keyClick(window_, k, Qt::NoModifier); }
+
+    void click(const QString &objectName)
+    {
+        QQuickItem *item = findItem(window_->contentItem(), objectName);
+        QVERIFY2(item, qPrintable(objectName));
+        const QPointF centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
+        QTest::mouseClick(window_, Qt::LeftButton, Qt::NoModifier, centre.toPoint());
+    }
+
+    void saveShot(const QString &name)
+    {
+        if (shotsDir_.isEmpty())
+            return;
+        window_->grabWindow().save(QDir(shotsDir_).filePath(name));
+    }
+
+    // Every tile of the open event has a player and is drawing its video.
+    void verifyAllTilesShowPictures(const QString &prefix = QStringLiteral("cameraTile_"))
+    {
+        SyncPlayerController *c = controller();
+        QVERIFY(c);
+        QTRY_VERIFY_WITH_TIMEOUT(!c->isLoadingTiles(), 20000);
+        for (const auto &tile : c->tiles()) {
+            QVERIFY2(tile.player, qPrintable(tile.camera.rawValue()));
+            QTRY_VERIFY_WITH_TIMEOUT(tile.player->hasPicture(), 10000);
+        }
+        QTest::qWait(300); // let the scene graph draw the latest frames
+        const QImage shot = window_->grabWindow();
+        for (const auto &tile : c->tiles()) {
+            QQuickItem *item = findItem(window_->contentItem(), prefix + tile.camera.rawValue());
+            QVERIFY2(item, qPrintable(prefix + tile.camera.rawValue()));
+            QString why;
+            QVERIFY2(showsPicture(shot, item, &why), qPrintable(why));
+        }
+    }
+
+    void waitForScan()
+    {
+        QTRY_VERIFY_WITH_TIMEOUT(state_->driveScan().has_value() && !state_->isScanning(), 60000);
+    }
+
+    void openEvent(const QString &id)
+    {
+        state_->setSelectedSection(SidebarSection::drive);
+        state_->setSelectedEventID(id);
+        QTRY_VERIFY_WITH_TIMEOUT(controller() != nullptr, 5000);
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        if (qEnvironmentVariableIsEmpty("DISPLAY"))
+            QSKIP("needs a display (run the suite under xvfb-run)");
+        QVERIFY(AppState::sampleFootageURL().has_value());
+        shotsDir_ = qEnvironmentVariable("KEELHOLD_SCREENSHOT_DIR");
+        QmlTypes::registerAll();
+        engine_ = std::make_unique<LiveEngine>();
+        state_ = std::make_unique<AppState>(*engine_);
+        ui_ = std::make_unique<UiBridge>(state_.get());
+        qml_ = std::make_unique<QQmlApplicationEngine>();
+        qml_->rootContext()->setContextProperty(QStringLiteral("appState"), state_.get());
+        qml_->rootContext()->setContextProperty(QStringLiteral("ui"), ui_.get());
+        QStringList warnings;
+        connect(qml_.get(), &QQmlApplicationEngine::warnings, this, [&warnings](const QList<QQmlError> &list) {
+            for (const QQmlError &e : list)
+                warnings << e.toString();
+        });
+        qml_->load(QUrl(QStringLiteral("qrc:/Keelhold/qml/Main.qml")));
+        QVERIFY(!qml_->rootObjects().isEmpty());
+        window_ = qobject_cast<QQuickWindow *>(qml_->rootObjects().first());
+        QVERIFY(window_);
+        window_->resize(1280, 800);
+        window_->requestActivate();
+        QVERIFY(QTest::qWaitForWindowActive(window_));
+        state_->setShowOnboarding(false);
+        state_->setVaultURL(work_.filePath(QStringLiteral("Vault")));
+        QDir().mkpath(work_.filePath(QStringLiteral("Vault")));
+        state_->loadSampleFootage();
+        waitForScan();
+        QVERIFY2(warnings.isEmpty(), qPrintable(warnings.join('\n')));
+    }
+
+    void cleanupTestCase()
+    {
+        qml_.reset();
+        ui_.reset();
+        state_.reset();
+        engine_.reset();
+    }
+
+    // The review of one event from opening to a kept copy played back from
+    // the Vault with no drive, and one camera exported and checked.
+    void wholeReviewEndToEnd()
+    {
+        // Open: every tile draws its camera.
+        openEvent(sixCameraEvent);
+        SyncPlayerController *c = controller();
+        QTRY_VERIFY_WITH_TIMEOUT(!c->isLoadingTiles(), 20000);
+        QCOMPARE(int(c->tiles().size()), 6);
+        QVERIFY(findItem(window_->contentItem(), QStringLiteral("gridLayout")));
+        verifyAllTilesShowPictures();
+        // Its moment lies after the last minute of footage: no mark, no button.
+        QVERIFY(!c->triggerOffset());
+        QVERIFY(!findItem(window_->contentItem(), QStringLiteral("momentMark")));
+        QVERIFY(!findItem(window_->contentItem(), QStringLiteral("momentButton")));
+
+        // Space pauses the playing event, Space plays it again.
+        QTRY_VERIFY_WITH_TIMEOUT(c->isPlaying(), 10000);
+        key(Qt::Key_Space);
+        QTRY_VERIFY_WITH_TIMEOUT(!c->isPlaying(), 2000);
+        QTest::qWait(400);
+        key(Qt::Key_Space);
+        QTRY_VERIFY_WITH_TIMEOUT(c->isPlaying(), 2000);
+        QTest::qWait(1500);
+        saveShot(QStringLiteral("player-grid.png"));
+        key(Qt::Key_Space);
+        QTRY_VERIFY_WITH_TIMEOUT(!c->isPlaying(), 2000);
+        QTest::qWait(500);
+        // Every camera shows the same moment, give or take one frame (10 fps).
+        double lowest = 1e9, highest = -1e9;
+        for (const auto &tile : c->tiles()) {
+            const auto t = tile.player->presentedTime();
+            QVERIFY(t.has_value());
+            lowest = std::min(lowest, *t);
+            highest = std::max(highest, *t);
+        }
+        QVERIFY2(highest - lowest <= 0.1 + 1e-3, qPrintable(QStringLiteral("%1 .. %2").arg(lowest).arg(highest)));
+
+        // "." and "," step one frame each way.
+        const double paused = c->currentTime();
+        key(Qt::Key_Period);
+        QTRY_VERIFY_WITH_TIMEOUT(c->currentTime() > paused, 3000);
+        key(Qt::Key_Comma);
+        QTRY_VERIFY_WITH_TIMEOUT(std::abs(c->currentTime() - paused) < 0.02, 3000);
+
+        // M: to just before the moment, or with none the start, playing.
+        c->seek(60);
+        key(Qt::Key_M);
+        const double cue = c->triggerOffset() ? std::max(0.0, *c->triggerOffset() - 10.0) : 0.0;
+        QTRY_VERIFY_WITH_TIMEOUT(c->isPlaying() && std::abs(c->currentTime() - cue) < 1.5, 5000);
+
+        // 2: the second camera large over the strip; 0: the grid again,
+        // with playback going on, no jump.
+        key(Qt::Key_2);
+        QTRY_COMPARE_WITH_TIMEOUT(c->focusedCamera(), std::optional<Camera>(c->tiles()[1].camera), 2000);
+        QTRY_VERIFY(findItem(window_->contentItem(), QStringLiteral("focusedLayout")));
+        QVERIFY(findItem(window_->contentItem(), QStringLiteral("showAllCamerasButton")));
+        QTest::qWait(400);
+        {
+            const QImage shot = window_->grabWindow();
+            QString why;
+            QVERIFY2(showsPicture(shot, findItem(window_->contentItem(), QStringLiteral("focusedTile")), &why),
+                     qPrintable(why));
+        }
+        verifyAllTilesShowPictures(QStringLiteral("stripTile_"));
+        saveShot(QStringLiteral("player-focused.png"));
+        const double beforeZero = c->currentTime();
+        key(Qt::Key_0);
+        QTRY_VERIFY_WITH_TIMEOUT(!c->focusedCamera().has_value(), 2000);
+        QVERIFY(c->isPlaying());
+        QVERIFY(c->currentTime() >= beforeZero && c->currentTime() < beforeZero + 1.0);
+        QTRY_VERIFY(findItem(window_->contentItem(), QStringLiteral("gridLayout")));
+
+        // F fills the window with the player; Esc gives the list back.
+        key(Qt::Key_F);
+        QTRY_VERIFY_WITH_TIMEOUT(state_->isFocusMode(), 2000);
+        key(Qt::Key_Escape);
+        QTRY_VERIFY_WITH_TIMEOUT(!state_->isFocusMode(), 2000);
+
+        // Typing into a text field never reaches the player.
+        {
+            QQmlComponent field(qml_.get());
+            field.setData("import QtQuick.Controls\nTextField { objectName: \"probeField\"; width: 200 }", QUrl());
+            auto *item = qobject_cast<QQuickItem *>(field.create(qml_->rootContext()));
+            QVERIFY(item);
+            item->setParentItem(window_->contentItem());
+            item->forceActiveFocus();
+            const bool wasPlaying = c->isPlaying();
+            QTest::keyClick(window_, Qt::Key_Space);
+            QTest::keyClick(window_, Qt::Key_F);
+            QTest::qWait(200);
+            QCOMPARE(c->isPlaying(), wasPlaying);
+            QVERIFY(!state_->isFocusMode());
+            QCOMPARE(item->property("text").toString(), QStringLiteral(" f"));
+            delete item;
+        }
+
+        // K keeps it: the report sheet's flag goes up and the event is kept.
+        key(Qt::Key_K);
+        QTRY_VERIFY_WITH_TIMEOUT(state_->showArchiveReport(), 30000);
+        QCOMPARE(state_->triageStateFor(sixCameraEvent), QStringLiteral("kept"));
+        QVERIFY(!c->isPlaying()); // keeping pauses the player
+        state_->setShowArchiveReport(false);
+        QTRY_VERIFY_WITH_TIMEOUT(std::any_of(state_->vaultEvents().begin(), state_->vaultEvents().end(),
+                                             [](const TeslaEvent &e) { return e.id() == sixCameraEvent; }),
+                                 10000);
+
+        // The drive goes away; the kept copy plays from the Vault.
+        state_->exitSampleMode();
+        QTRY_VERIFY(!state_->driveScan().has_value());
+        state_->setSelectedSection(SidebarSection::vault);
+        state_->setSelectedVaultEventID(sixCameraEvent);
+        QTRY_VERIFY_WITH_TIMEOUT(controller() != nullptr && controller() != c, 5000);
+        c = controller();
+        QTRY_VERIFY_WITH_TIMEOUT(!c->isLoadingTiles(), 20000);
+        QCOMPARE(int(c->tiles().size()), 6);
+        verifyAllTilesShowPictures();
+        QVERIFY(findItem(window_->contentItem(), QStringLiteral("verifiedBadge")));
+
+        // Export & Share: the front camera, then a copy over an existing file.
+        click(QStringLiteral("exportButton"));
+        QQuickItem *sheetItem = nullptr;
+        QTRY_VERIFY((sheetItem = findItem(window_->contentItem()->parentItem(), QStringLiteral("startExportButton"))));
+        auto *presenter = window_->contentItem()->findChild<EventPlayerPresenter *>();
+        QVERIFY(presenter);
+        auto *flow = presenter->findChild<ExportFlow *>();
+        QVERIFY(flow);
+        QCOMPARE(flow->selectedCamera(), std::optional<Camera>(Camera::front));
+        QCOMPARE(flow->stateName(), QStringLiteral("choosing"));
+        // Player keys don't act behind the sheet.
+        const bool playingBehind = c->isPlaying();
+        key(Qt::Key_Space);
+        QTest::qWait(200);
+        QCOMPARE(c->isPlaying(), playingBehind);
+        QTest::qWait(200);
+        saveShot(QStringLiteral("export-choosing.png"));
+        click(QStringLiteral("startExportButton"));
+        QCOMPARE(flow->stateName(), QStringLiteral("exporting"));
+        saveShot(QStringLiteral("export-exporting.png"));
+        QTRY_COMPARE_WITH_TIMEOUT(flow->stateName(), QStringLiteral("ready"), 60000);
+        QTRY_VERIFY(findItem(window_->contentItem()->parentItem(), QStringLiteral("saveToButton")));
+        QTest::qWait(200);
+        saveShot(QStringLiteral("export-ready.png"));
+
+        const QString destination = work_.filePath(QStringLiteral("Videos/front.mp4"));
+        QDir().mkpath(QFileInfo(destination).path());
+        TeslaCamFixture::writeFile(destination, "an older file in the way");
+        qputenv("KEELHOLD_SAVE_TO", destination.toLocal8Bit());
+        click(QStringLiteral("saveToButton"));
+        QTRY_COMPARE(flow->savedText(), QStringLiteral("Saved as front.mp4"));
+        qunsetenv("KEELHOLD_SAVE_TO");
+        QVERIFY(QFileInfo::exists(*flow->exportedPath()));
+
+        // The copy plays end to end: every frame decodes, and it lasts as
+        // long as the front camera's three minutes.
+        const MovieFacts facts = MovieFacts::read(destination);
+        QVERIFY(facts.opened);
+        const MovieFacts::Stream *video = facts.firstOf(QStringLiteral("video"));
+        QVERIFY(video);
+        QCOMPARE(video->decodeErrors, 0);
+        QVERIFY2(std::abs(facts.duration - 180.0) < 1.5, qPrintable(QString::number(facts.duration)));
+        QVERIFY2(video->decodedFrames >= 1790, qPrintable(QString::number(video->decodedFrames)));
+
+        click(QStringLiteral("exportFooterButton")); // Done
+        QTRY_VERIFY(!findItem(window_->contentItem()->parentItem(), QStringLiteral("saveToButton")));
+        QVERIFY(QFileInfo::exists(*flow->exportedPath())); // left in the scratch folder
+    }
+
+    // Moving the selection through the inbox plays each event in turn from
+    // ten seconds before its moment; the same controller serves them all and
+    // keeps the speed the user chose.
+    void walkingTheInboxPlaysEachEventFromBeforeItsMoment()
+    {
+        QTemporaryDir drive;
+        TeslaCamFixture fx(drive.filePath(QStringLiteral("TeslaCam")));
+        TestClips::ClipOptions options;
+        options.seconds = 30;
+        options.fps = 10;
+        const QString source = TestClips::clip(options);
+        // Moments 25, 20 and 15 s into each event; the last has none.
+        const QStringList names{"2026-03-01_10-00-25", "2026-03-02_10-00-20", "2026-03-03_10-00-15",
+                                "2026-03-04_10-00-15"};
+        for (int i = 0; i < names.size(); ++i) {
+            const QString when = names[i].left(10) + QLatin1Char('T') + names[i].mid(11).replace('-', ':');
+            const QString dir = fx.addEvent(QStringLiteral("SavedClips"), names[i],
+                                            i < 3 ? std::optional<QByteArray>(TeslaCamFixture::eventJson(
+                                                        when, QStringLiteral("user_interaction_honk")))
+                                                  : std::nullopt);
+            for (const char *camera : {"front", "back"})
+                fx.addClip(dir, names[i].left(17) + QStringLiteral("00"), QString::fromLatin1(camera), 0, source);
+        }
+        state_->setSelectedSection(SidebarSection::drive);
+        state_->beginScan(fx.root());
+        QTRY_VERIFY_WITH_TIMEOUT(state_->driveScan() && state_->driveScan()->events.size() == 4 &&
+                                     !state_->isScanning() && !state_->isRevalidatingScan(),
+                                 30000);
+
+        const std::vector<TeslaEvent> inbox = state_->visibleInboxEvents();
+        QCOMPARE(int(inbox.size()), 4);
+        SyncPlayerController *first = nullptr;
+        for (const TeslaEvent &event : inbox) {
+            openEvent(event.id());
+            SyncPlayerController *c = controller();
+            if (!first) {
+                first = c;
+                c->setRate(1.5f);
+            }
+            QCOMPARE(c, first);
+            QCOMPARE(c->rate(), 1.5f);
+            QTRY_VERIFY_WITH_TIMEOUT(!c->isLoadingTiles() && c->isPlaying(), 20000);
+            const double expected = c->triggerOffset() ? *c->triggerOffset() - 10.0 : 0.0;
+            QVERIFY2(c->currentTime() >= expected - 0.05 && c->currentTime() < expected + 2.0,
+                     qPrintable(QStringLiteral("%1 at %2, expected %3").arg(event.id()).arg(c->currentTime()).arg(expected)));
+            // The red mark and the Moment button stand exactly when there is a moment.
+            const bool hasMoment = !event.missingEventJSON;
+            QCOMPARE(c->triggerOffset().has_value(), hasMoment);
+            QTRY_COMPARE(findItem(window_->contentItem(), QStringLiteral("momentMark")) != nullptr, hasMoment);
+            QCOMPARE(findItem(window_->contentItem(), QStringLiteral("momentButton")) != nullptr, hasMoment);
+            // Opening marked it reviewed.
+            QCOMPARE(state_->triageStateFor(event.id()), QStringLiteral("reviewed"));
+        }
+        first->setRate(1.0f);
+    }
+
+    // A clip that hangs whoever opens it (a FIFO named like a clip) costs
+    // that one tile, and the main thread never stalls while the event loads.
+    void hangingClipCostsOnlyItsTile()
+    {
+        QTemporaryDir drive;
+        TeslaCamFixture fx(drive.filePath(QStringLiteral("TeslaCam")));
+        const QString dir = fx.addEvent(
+            QStringLiteral("SavedClips"), QStringLiteral("2026-03-04_10-00-30"),
+            TeslaCamFixture::eventJson(QStringLiteral("2026-03-04T10:00:20"), QStringLiteral("user_interaction_honk")));
+        TestClips::ClipOptions options;
+        options.seconds = 4;
+        const QString source = TestClips::clip(options);
+        for (const char *camera : {"front", "back", "left_repeater"})
+            fx.addClip(dir, QStringLiteral("2026-03-04_10-00-00"), QString::fromLatin1(camera), 0, source);
+        const QString fifo = dir + QStringLiteral("/2026-03-04_10-00-00-right_repeater.mp4");
+        QCOMPARE(::mkfifo(QFile::encodeName(fifo).constData(), 0644), 0);
+
+        state_->setSelectedSection(SidebarSection::drive);
+        state_->beginScan(fx.root());
+        QTRY_VERIFY_WITH_TIMEOUT(state_->driveScan() && state_->driveScan()->events.size() == 1 && !state_->isScanning(),
+                                 30000);
+        const QString id = state_->driveScan()->events.front().id();
+        // Probing done too, so only the player's own work is measured.
+        QTRY_VERIFY_WITH_TIMEOUT(std::none_of(state_->driveScan()->events.front().clips.begin(),
+                                              state_->driveScan()->events.front().clips.end(),
+                                              [](const ClipRef &c) { return c.health == ClipHealth::unknown; }),
+                                 20000);
+        QTest::qWait(300);
+
+        qint64 longestWait = 0;
+        QElapsedTimer sinceTick;
+        QTimer ticker;
+        ticker.setInterval(10);
+        QElapsedTimer total;
+        total.start();
+        connect(&ticker, &QTimer::timeout, this, [&] {
+            const qint64 gap = sinceTick.restart();
+            if (gap > 40)
+                qDebug() << "GAP" << gap << "at" << total.elapsed();
+            longestWait = std::max(longestWait, gap);
+        });
+        sinceTick.start();
+        ticker.start();
+        state_->setSelectedEventID(id);
+        QTRY_VERIFY_WITH_TIMEOUT(controller() && !controller()->isLoadingTiles(), 20000);
+        QTest::qWait(500);
+        ticker.stop();
+        QVERIFY2(longestWait <= 100, qPrintable(QStringLiteral("the main thread waited %1 ms").arg(longestWait)));
+
+        SyncPlayerController *c = controller();
+        QCOMPARE(int(c->tiles().size()), 4);
+        int placeholders = 0;
+        for (const auto &tile : c->tiles()) {
+            if (tile.camera == Camera::rightRepeater) {
+                QVERIFY(!tile.player);
+                QVERIFY(tile.placeholderReason.has_value());
+                ++placeholders;
+            } else {
+                QVERIFY2(tile.player, qPrintable(tile.camera.rawValue()));
+            }
+        }
+        QCOMPARE(placeholders, 1);
+        // 4 tiles: two columns; the placeholder keeps its place and says why.
+        QTRY_VERIFY(findItem(window_->contentItem(), QStringLiteral("gridLayout")));
+        for (const auto &tile : c->tiles())
+            if (tile.player)
+                QTRY_VERIFY_WITH_TIMEOUT(tile.player->hasPicture(), 10000);
+        QTest::qWait(300);
+        const QImage shot = window_->grabWindow();
+        for (const auto &tile : c->tiles()) {
+            QQuickItem *item = findItem(window_->contentItem(), QStringLiteral("cameraTile_") + tile.camera.rawValue());
+            QVERIFY(item);
+            QString why;
+            QCOMPARE(showsPicture(shot, item, &why), bool(tile.player));
+        }
+        QQuickItem *front = findItem(window_->contentItem(), QStringLiteral("cameraTile_front"));
+        QQuickItem *right = findItem(window_->contentItem(), QStringLiteral("cameraTile_right_repeater"));
+        QVERIFY(front && right);
+        QCOMPARE(front->width(), right->width());
+        QVERIFY(right->x() > front->x() || right->y() > front->y());
+    }
+};
+
+int main(int argc, char **argv)
+{
+    IsolatedHome::setUp();
+    QGuiApplication app(argc, argv);
+    QGuiApplication::setOrganizationName(QStringLiteral("Keelhold"));
+    QGuiApplication::setApplicationName(QStringLiteral("Keelhold"));
+    QQuickStyle::setStyle(QStringLiteral("Fusion"));
+    PlayerScreenTest tc;
+    QTEST_SET_MAIN_SOURCE_PATH
+    return QTest::qExec(&tc, argc, argv);
+}
+
+#include "tst_playerscreen.moc"
