@@ -49,15 +49,17 @@ void VideoMirror::reconnect()
     disconnect(connection_);
     connection_ = {};
     QVideoSink *hub = hubFor(player_);
-    if (!hub || !target_)
+    if (!target_)
         return;
+    if (!hub) {
+        target_->setVideoFrame(QVideoFrame()); // no picture from an earlier player
+        return;
+    }
     QPointer<QVideoSink> target = target_;
     connection_ = connect(hub, &QVideoSink::videoFrameChanged, this, [target](const QVideoFrame &frame) {
         if (target)
             target->setVideoFrame(frame);
     });
     // A paused player sends nothing new: show what it shows now.
-    const QVideoFrame current = hub->videoFrame();
-    if (current.isValid())
-        target_->setVideoFrame(current);
+    target_->setVideoFrame(hub->videoFrame());
 }

@@ -30,6 +30,7 @@
 
 #include <sys/stat.h>
 
+
 Q_IMPORT_QML_PLUGIN(KeelholdPlugin)
 
 namespace {
@@ -74,7 +75,8 @@ bool showsPicture(const QImage &shot, QQuickItem *item, QString *why = nullptr)
         }
     if (why)
         *why = QStringLiteral("%1: %2 of %3 lit, %4 colours").arg(item->objectName()).arg(lit).arg(total).arg(colours.size());
-    return lit > total / 3 && colours.size() >= 8;
+    // Footage is mostly lit (sky, road); a placeholder is mostly black.
+    return lit > total / 2 && colours.size() >= 3;
 }
 
 } // namespace
@@ -122,6 +124,10 @@ class PlayerScreenTest : public QObject {
         QTest::qWait(300); // let the scene graph draw the latest frames
         const QImage shot = window_->grabWindow();
         for (const auto &tile : c->tiles()) {
+            // The focused camera's own slot in the strip is dimmed; its
+            // picture is checked on the large tile.
+            if (c->focusedCamera() == tile.camera)
+                continue;
             QQuickItem *item = findItem(window_->contentItem(), prefix + tile.camera.rawValue());
             QVERIFY2(item, qPrintable(prefix + tile.camera.rawValue()));
             QString why;
@@ -225,8 +231,12 @@ private Q_SLOTS:
         const double paused = c->currentTime();
         key(Qt::Key_Period);
         QTRY_VERIFY_WITH_TIMEOUT(c->currentTime() > paused, 3000);
+        const double forward = c->currentTime();
+        QVERIFY(forward - paused <= 0.1 + 1e-3);
         key(Qt::Key_Comma);
-        QTRY_VERIFY_WITH_TIMEOUT(std::abs(c->currentTime() - paused) < 0.02, 3000);
+        QTRY_VERIFY_WITH_TIMEOUT(c->currentTime() < forward, 3000);
+        QVERIFY(std::abs(c->currentTime() - paused) <= 0.1 + 1e-3);
+        QVERIFY(!c->isPlaying());
 
         // M: to just before the moment, or with none the start, playing.
         c->seek(60);
@@ -305,8 +315,10 @@ private Q_SLOTS:
         // Export & Share: the front camera, then a copy over an existing file.
         click(QStringLiteral("exportButton"));
         QQuickItem *sheetItem = nullptr;
-        QTRY_VERIFY((sheetItem = findItem(window_->contentItem()->parentItem(), QStringLiteral("startExportButton"))));
-        auto *presenter = window_->contentItem()->findChild<EventPlayerPresenter *>();
+        QTRY_VERIFY((sheetItem = findItem(window_->contentItem(), QStringLiteral("startExportButton"))));
+        QQuickItem *view = findItem(window_->contentItem(), QStringLiteral("eventPlayerView"));
+        QVERIFY(view);
+        auto *presenter = qobject_cast<EventPlayerPresenter *>(view->property("presenter").value<QObject *>());
         QVERIFY(presenter);
         auto *flow = presenter->findChild<ExportFlow *>();
         QVERIFY(flow);
@@ -323,7 +335,7 @@ private Q_SLOTS:
         QCOMPARE(flow->stateName(), QStringLiteral("exporting"));
         saveShot(QStringLiteral("export-exporting.png"));
         QTRY_COMPARE_WITH_TIMEOUT(flow->stateName(), QStringLiteral("ready"), 60000);
-        QTRY_VERIFY(findItem(window_->contentItem()->parentItem(), QStringLiteral("saveToButton")));
+        QTRY_VERIFY(findItem(window_->contentItem(), QStringLiteral("saveToButton")));
         QTest::qWait(200);
         saveShot(QStringLiteral("export-ready.png"));
 
@@ -347,7 +359,7 @@ private Q_SLOTS:
         QVERIFY2(video->decodedFrames >= 1790, qPrintable(QString::number(video->decodedFrames)));
 
         click(QStringLiteral("exportFooterButton")); // Done
-        QTRY_VERIFY(!findItem(window_->contentItem()->parentItem(), QStringLiteral("saveToButton")));
+        QTRY_VERIFY(!findItem(window_->contentItem(), QStringLiteral("saveToButton")));
         QVERIFY(QFileInfo::exists(*flow->exportedPath())); // left in the scratch folder
     }
 
@@ -423,18 +435,27 @@ private Q_SLOTS:
             fx.addClip(dir, QStringLiteral("2026-03-04_10-00-00"), QString::fromLatin1(camera), 0, source);
         const QString fifo = dir + QStringLiteral("/2026-03-04_10-00-00-right_repeater.mp4");
         QCOMPARE(::mkfifo(QFile::encodeName(fifo).constData(), 0644), 0);
+        // An earlier event, opened first: the screen is up before the load
+        // that is measured.
+        const QString earlier = fx.addEvent(
+            QStringLiteral("SavedClips"), QStringLiteral("2026-03-03_10-00-30"),
+            TeslaCamFixture::eventJson(QStringLiteral("2026-03-03T10:00:20"), QStringLiteral("user_interaction_honk")));
+        for (const char *camera : {"front", "back"})
+            fx.addClip(earlier, QStringLiteral("2026-03-03_10-00-00"), QString::fromLatin1(camera), 0, source);
 
         state_->setSelectedSection(SidebarSection::drive);
         state_->beginScan(fx.root());
-        QTRY_VERIFY_WITH_TIMEOUT(state_->driveScan() && state_->driveScan()->events.size() == 1 && !state_->isScanning(),
+        QTRY_VERIFY_WITH_TIMEOUT(state_->driveScan() && state_->driveScan()->events.size() == 2 && !state_->isScanning(),
                                  30000);
-        const QString id = state_->driveScan()->events.front().id();
+        const QString id = QStringLiteral("saved|2026-03-04_10-00-30");
         // Probing done too, so only the player's own work is measured.
         QTRY_VERIFY_WITH_TIMEOUT(std::none_of(state_->driveScan()->events.front().clips.begin(),
                                               state_->driveScan()->events.front().clips.end(),
                                               [](const ClipRef &c) { return c.health == ClipHealth::unknown; }),
                                  20000);
-        QTest::qWait(300);
+        openEvent(QStringLiteral("saved|2026-03-03_10-00-30"));
+        QTRY_VERIFY_WITH_TIMEOUT(!controller()->isLoadingTiles() && controller()->isPlaying(), 20000);
+        QTest::qWait(500);
 
         qint64 longestWait = 0;
         QElapsedTimer sinceTick;
@@ -451,6 +472,7 @@ private Q_SLOTS:
         sinceTick.start();
         ticker.start();
         state_->setSelectedEventID(id);
+        qDebug() << "SELECTED at" << total.elapsed();
         QTRY_VERIFY_WITH_TIMEOUT(controller() && !controller()->isLoadingTiles(), 20000);
         QTest::qWait(500);
         ticker.stop();

@@ -4,8 +4,10 @@ import QtQuick.Layouts
 import Keelhold
 
 // The cameras of the event: the grid, or one camera large over a strip of
-// all of them. Every tile keeps its player attached in both layouts, so a
-// change of focus never disturbs the sync.
+// all of them. One tile per camera slot is made with the screen and kept:
+// a video view is costly to make (each sets up its own GPU context), so a
+// new event or a change of layout only moves and refills the same tiles.
+// Every player stays attached throughout, so focus never disturbs the sync.
 Item {
     id: grid
     objectName: "cameraGrid"
@@ -19,18 +21,24 @@ Item {
     readonly property int columns: rules.gridColumns(tiles.length)
     readonly property int rows: Math.max(1, Math.ceil(tiles.length / columns))
     readonly property int spacing: 4
-    readonly property var focusedTile: {
+    readonly property int maxCameras: 7
+    readonly property real cellWidth: (width - (columns - 1) * spacing) / columns
+    readonly property real cellHeight: (height - (rows - 1) * spacing) / rows
+    readonly property real stripTop: height - rules.stripHeight
+    readonly property real slotHeight: rules.stripHeight
+    readonly property real slotWidth: slotHeight * 4 / 3
+    readonly property int focusedIndex: {
         for (let i = 0; i < tiles.length; ++i)
             if (tiles[i].camera === focused)
-                return tiles[i]
-        return null
+                return i
+        return -1
     }
 
     Label {
         objectName: "loadingCameras"
         anchors.centerIn: parent
         visible: grid.mode === "loading"
-        text: grid.texts.loading
+        text: grid.texts.loading || ""
         opacity: 0.7
     }
 
@@ -39,68 +47,77 @@ Item {
         anchors.fill: parent
         visible: grid.mode === "empty"
         symbolName: "video.slash"
-        title: grid.texts.emptyTitle
-        message: grid.texts.emptyText
+        title: grid.texts.emptyTitle || ""
+        message: grid.texts.emptyText || ""
     }
 
     Item {
-        objectName: "gridLayout"
+        id: gridArea
+        objectName: grid.mode === "grid" ? "gridLayout" : "focusedLayout"
         anchors.fill: parent
-        visible: grid.mode === "grid"
-        readonly property real cellWidth: (width - (grid.columns - 1) * grid.spacing) / grid.columns
-        readonly property real cellHeight: (height - (grid.rows - 1) * grid.spacing) / grid.rows
-        Repeater {
-            model: grid.mode === "grid" ? grid.tiles : []
-            delegate: CameraTile {
-                required property var modelData
-                required property int index
-                x: (index % grid.columns) * (parent.cellWidth + grid.spacing)
-                y: Math.floor(index / grid.columns) * (parent.cellHeight + grid.spacing)
-                width: parent.cellWidth
-                height: parent.cellHeight
-                tileData: modelData
+        visible: grid.mode === "grid" || grid.mode === "focused"
+
+        // The strip: a small tile per camera, in tile order, scrolling
+        // sideways without indicators.
+        Flickable {
+            id: strip
+            objectName: "cameraStrip"
+            visible: grid.mode === "focused"
+            x: 0
+            y: grid.stripTop
+            width: parent.width
+            height: grid.slotHeight
+            clip: true
+            contentWidth: grid.tiles.length * (grid.slotWidth + grid.spacing)
+            contentHeight: height
+            flickableDirection: Flickable.HorizontalFlick
+            boundsBehavior: Flickable.StopAtBounds
+            // The focused camera's own slot: a second view of the same
+            // player, dimmed.
+            CameraTile {
+                objectName: grid.focusedIndex >= 0 ? "stripTile_" + grid.tiles[grid.focusedIndex].camera : ""
+                visible: grid.mode === "focused" && grid.focusedIndex >= 0
+                x: Math.max(0, grid.focusedIndex) * (grid.slotWidth + grid.spacing)
+                width: grid.slotWidth
+                height: grid.slotHeight
+                small: true
+                isFocused: true
+                dimmed: true
                 texts: grid.texts
-                tooltip: rules.gridTileTooltip(modelData.cameraName)
-                onTapFocus: grid.controller.focusedCamera = modelData.camera
+                tileData: visible ? grid.tiles[grid.focusedIndex] : ({})
+                tooltip: visible ? rules.stripTooltip(tileData.cameraName, true) : ""
             }
         }
-    }
 
-    ColumnLayout {
-        objectName: "focusedLayout"
-        anchors.fill: parent
-        visible: grid.mode === "focused"
-        spacing: grid.spacing
-        CameraTile {
-            objectName: "focusedTile"
-            Layout.fillWidth: true
-            Layout.fillHeight: true
-            tileData: grid.mode === "focused" ? grid.focusedTile : ({})
-            isFocused: true
-            texts: grid.texts
-            tooltip: grid.focusedTile ? rules.gridTileTooltip(grid.focusedTile.cameraName) : ""
-            onTapFocus: grid.controller.clearFocus()
-        }
-        ListView {
-            objectName: "cameraStrip"
-            Layout.fillWidth: true
-            Layout.preferredHeight: rules.stripHeight
-            orientation: ListView.Horizontal
-            spacing: grid.spacing
-            clip: true
-            boundsBehavior: Flickable.StopAtBounds
-            model: grid.mode === "focused" ? grid.tiles : []
+        Repeater {
+            id: tilesRepeater
+            model: grid.maxCameras
             delegate: CameraTile {
-                required property var modelData
-                height: ListView.view.height
-                width: height * 4 / 3
-                small: true
-                tileData: modelData
+                id: tile
+                required property int index
+                readonly property bool present: index < grid.tiles.length
+                readonly property bool isBig: grid.mode === "focused" && index === grid.focusedIndex
+                readonly property bool inStrip: grid.mode === "focused" && !isBig
+                parent: inStrip ? strip.contentItem : gridArea
+                visible: present && (grid.mode === "grid" || grid.mode === "focused")
+                tileData: present ? grid.tiles[index] : ({})
+                small: inStrip
+                isFocused: isBig
                 texts: grid.texts
-                isFocused: modelData.camera === grid.focused
-                dimmed: isFocused
-                tooltip: rules.stripTooltip(modelData.cameraName, isFocused)
-                onTapFocus: grid.controller.focusedCamera = modelData.camera
+                objectName: isBig ? "focusedTile" : (inStrip ? "stripTile_" : "cameraTile_") + (present ? tileData.camera : "")
+                x: isBig ? 0 : inStrip ? index * (grid.slotWidth + grid.spacing)
+                                       : (index % grid.columns) * (grid.cellWidth + grid.spacing)
+                y: isBig || inStrip ? 0 : Math.floor(index / grid.columns) * (grid.cellHeight + grid.spacing)
+                width: isBig ? gridArea.width : inStrip ? grid.slotWidth : grid.cellWidth
+                height: isBig ? grid.stripTop - grid.spacing : inStrip ? grid.slotHeight : grid.cellHeight
+                tooltip: !present ? "" : inStrip ? rules.stripTooltip(tileData.cameraName, false)
+                                                 : rules.gridTileTooltip(tileData.cameraName)
+                onTapFocus: {
+                    if (isBig)
+                        grid.controller.clearFocus()
+                    else
+                        grid.controller.focusedCamera = tileData.camera
+                }
             }
         }
     }

@@ -44,7 +44,7 @@ RowLayout {
     Item { Layout.fillWidth: true }
     ToolbarButton {
         objectName: "exportButton"
-        text: bar.texts.export
+        text: (bar.texts.export || "").replace("&", "&&") // a lone & would underline the next letter
         icon.source: bar.texts.exportIcon
         flat: true
         tip: bar.texts.exportTip
