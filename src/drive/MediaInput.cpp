@@ -9,7 +9,6 @@ extern "C" {
 
 #include <QFile>
 #include <cerrno>
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -26,15 +25,9 @@ std::unique_ptr<MediaInput> MediaInput::open(const QString &path, std::function<
         return nullptr;
     std::unique_ptr<MediaInput> input(new MediaInput);
     input->shouldStop_ = std::move(shouldStop);
-    // Opened without blocking: a blocking open of a FIFO waits for a writer
-    // forever, beyond the reach of any stop. A regular file then reads as
-    // usual; anything else keeps non-blocking reads, which end at once.
-    input->fd_ = ReadOnlyFs::openReadNonBlocking(path);
+    input->fd_ = ReadOnlyFs::openRead(path);
     if (input->fd_ < 0 || input->stopRequested())
         return nullptr;
-    struct stat st {};
-    if (::fstat(input->fd_, &st) == 0 && S_ISREG(st.st_mode))
-        ::fcntl(input->fd_, F_SETFL, ::fcntl(input->fd_, F_GETFL) & ~O_NONBLOCK);
 
     auto *buffer = static_cast<unsigned char *>(av_malloc(ioBufferSize));
     if (!buffer)
