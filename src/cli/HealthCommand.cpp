@@ -1,8 +1,8 @@
 #include "cli/HealthCommand.h"
 
 #include "cli/CliOutput.h"
+#include "cli/CliScan.h"
 #include "drive/ClipProber.h"
-#include "drive/TeslaCamParser.h"
 #include "health/HealthComputer.h"
 #include "model/JsonCoding.h"
 #include "vault/VaultIndex.h"
@@ -10,10 +10,6 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFileInfo>
-
-extern "C" {
-#include <libavutil/log.h>
-}
 
 namespace HealthCommand {
 
@@ -54,40 +50,11 @@ int run(const QStringList &arguments)
         index = VaultIndex::loadOrEmpty(vaultPath);
     }
 
-    try {
-        DriveScan scan = TeslaCamParser::scan(root, [](const ScanProgress &p) {
-            CliOutput::status(QStringLiteral("%1 %2 events, %3 clips").arg(p.phase).arg(p.eventsFound).arg(p.clipsFound));
-        });
-        if (parser.isSet(probe)) {
-            // Damaged clips are what the report counts; the demuxer's own
-            // complaints about them would only be noise.
-            av_log_set_level(AV_LOG_QUIET);
-            scan.events = ClipProber::probeAll(scan.events, ClipProber::defaultTimeout, ClipProber::engineConcurrencyCap,
-                                               [](int completed, int total) {
-                                                   if (!CliOutput::stderrIsTerminal() && completed % 100 != 0
-                                                       && completed != total)
-                                                       return;
-                                                   CliOutput::status(QStringLiteral("probing %1 of %2 clips")
-                                                                         .arg(completed)
-                                                                         .arg(total));
-                                               });
-        }
-        CliOutput::endStatus();
-        const QJsonObject json = HealthComputer::compute(scan, index).toJson();
-        CliOutput::printJson(json, parser.isSet(pretty));
-        return 0;
-    } catch (const TeslaCamParser::ParserError &e) {
-        CliOutput::err(e.errorCase() == TeslaCamParser::ParserError::rootNotFound
-                           ? QStringLiteral("There is no folder at \u201c%1\u201d. Check that the drive is plugged in "
-                                            "and the path is right.")
-                                 .arg(root)
-                           : QStringLiteral("\u201c%1\u201d is a file, not a folder. Give the TeslaCam folder itself.")
-                                 .arg(root));
-    } catch (const TeslaCamParser::ScanError &e) {
-        CliOutput::err(e.message());
-    }
-    CliOutput::endStatus();
-    return CliOutput::failureExit;
+    const auto scan = CliScan::read(root, parser.isSet(probe) ? std::optional(ClipProber::defaultTimeout) : std::nullopt);
+    if (!scan)
+        return CliOutput::failureExit;
+    CliOutput::printJson(HealthComputer::compute(*scan, index).toJson(), parser.isSet(pretty));
+    return 0;
 }
 
 } // namespace HealthCommand

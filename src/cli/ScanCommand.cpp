@@ -1,17 +1,13 @@
 #include "cli/ScanCommand.h"
 
 #include "cli/CliOutput.h"
+#include "cli/CliScan.h"
 #include "drive/ClipProber.h"
-#include "drive/TeslaCamParser.h"
 #include "model/JsonCoding.h"
 
 #include <QCommandLineParser>
 #include <QDir>
 #include <cmath>
-
-extern "C" {
-#include <libavutil/log.h>
-}
 
 namespace ScanCommand {
 
@@ -53,44 +49,11 @@ int run(const QStringList &arguments)
     }
     const QString root = QDir::cleanPath(QDir::current().absoluteFilePath(positional.first()));
 
-    try {
-        DriveScan result = TeslaCamParser::scan(root, [](const ScanProgress &p) {
-            CliOutput::status(QStringLiteral("%1 %2 folders, %3 events, %4 clips")
-                                  .arg(p.phase)
-                                  .arg(p.foldersScanned)
-                                  .arg(p.eventsFound)
-                                  .arg(p.clipsFound));
-        });
-        if (parser.isSet(probe)) {
-            // Damaged clips are the expected case here, reported in the JSON;
-            // the demuxer's own complaints about them would only be noise.
-            av_log_set_level(AV_LOG_QUIET);
-            result.events = ClipProber::probeAll(result.events, timeout, ClipProber::engineConcurrencyCap,
-                                                 [](int completed, int total) {
-                                                     // Without a terminal, a line per clip would bury the rest.
-                                                     if (!CliOutput::stderrIsTerminal() && completed % 100 != 0
-                                                         && completed != total)
-                                                         return;
-                                                     CliOutput::status(QStringLiteral("probing %1 of %2 clips")
-                                                                           .arg(completed)
-                                                                           .arg(total));
-                                                 });
-        }
-        CliOutput::endStatus();
-        const QJsonObject json = result.toJson();
-        CliOutput::printJson(json, parser.isSet(pretty));
-        return 0;
-    } catch (const TeslaCamParser::ParserError &e) {
-        CliOutput::err(e.errorCase() == TeslaCamParser::ParserError::rootNotFound
-                           ? QStringLiteral("There is no folder at \u201c%1\u201d. Check that the drive is plugged in "
-                                            "and the path is right.")
-                                 .arg(root)
-                           : QStringLiteral("\u201c%1\u201d is a file, not a folder. Give the TeslaCam folder itself.")
-                                 .arg(root));
-    } catch (const TeslaCamParser::ScanError &e) {
-        CliOutput::err(e.message());
-    }
-    return CliOutput::failureExit;
+    const auto result = CliScan::read(root, parser.isSet(probe) ? std::optional(timeout) : std::nullopt);
+    if (!result)
+        return CliOutput::failureExit;
+    CliOutput::printJson(result->toJson(), parser.isSet(pretty));
+    return 0;
 }
 
 } // namespace ScanCommand

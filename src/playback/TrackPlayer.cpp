@@ -11,6 +11,7 @@ extern "C" {
 #include <algorithm>
 #include <atomic>
 #include <chrono>
+#include <cmath>
 #include <condition_variable>
 #include <deque>
 #include <mutex>
@@ -52,6 +53,8 @@ struct TrackPlayer::Shared {
     bool seekRequested = false;
     double seekTarget = 0;
     std::deque<Entry> queue;
+    // Frames a seek took out of the queue; the worker may still use them.
+    std::deque<Entry> salvage;
 
     // The clock, for dropping frames that are already late.
     bool playing = false;
@@ -102,6 +105,8 @@ public:
                 generation_ = s_->generation;
                 const double target = s_->seekTarget;
                 s_->queue.clear();
+                salvage_ = std::move(s_->salvage);
+                s_->salvage.clear();
                 lock.unlock();
                 firstOfGeneration_ = true;
                 seekTo(target);
@@ -169,8 +174,10 @@ private:
         curSeg_ = i;
         if (!cur_)
             return false;
+        if (fresh)
+            lastDecoded_ = -1e300;
         if (sourceSeconds > epsilon || !fresh)
-            cur_->seekKeyframe(sourceSeconds);
+            seekSource(sourceSeconds);
         return true;
     }
 
@@ -181,8 +188,11 @@ private:
             readyPosted_ = true;
             s_->post(&TrackPlayer::markReady);
         }
-        if (generation_ != s_->generation)
-            return; // a newer seek is waiting
+        if (generation_ != s_->generation) {
+            // A newer seek is waiting; the frame may still serve it.
+            s_->salvage.push_back(Shared::Entry{generation_, time, frame, picture});
+            return;
+        }
         s_->queue.push_back(Shared::Entry{generation_, time, frame, picture});
         lastPushed_ = time;
         if (firstOfGeneration_) {
@@ -233,19 +243,68 @@ private:
         exactSeek(i, sourceTarget, target);
     }
 
+    void seekSource(double sourceSeconds)
+    {
+        cur_->seekKeyframe(sourceSeconds);
+        lastDecoded_ = -1e300;
+    }
+
+    // True when the decoder sits right after the salvaged frames and the
+    // target is among them, or ahead in the same segment with no keyframe in
+    // between: going on is then cheaper than going back to a keyframe.
+    bool canResume(int i, double sourceTarget, double target) const
+    {
+        if (!cur_ || salvage_.empty())
+            return false;
+        for (const auto &e : salvage_)
+            if (!e.picture)
+                return false;
+        if (salvage_.front().time > target + epsilon || std::abs(salvage_.back().time - lastDecoded_) > epsilon)
+            return false;
+        if (salvage_.back().time > target + epsilon)
+            return true; // the frame after the target is there too
+        const auto &seg = segs_[size_t(i)];
+        if (curSeg_ != i || salvage_.back().time < seg.timelineStart.seconds() - epsilon)
+            return false;
+        const auto keyframe = cur_->keyframeAtOrBefore(sourceTarget);
+        return !keyframe || toTimeline(seg, *keyframe) <= salvage_.back().time + epsilon;
+    }
+
+    void pushSalvaged(const Shared::Entry &e, double clampTo)
+    {
+        push(firstOfGeneration_ ? std::min(e.time, clampTo) : e.time, e.frame, true);
+    }
+
     // Keyframe at or before, then decode forward: the frame shown is the
     // newest one not after the target.
     void exactSeek(int i, double sourceTarget, double target)
     {
         const auto &seg = segs_[size_t(i)];
-        if (!enterSegment(i, sourceTarget)) {
+        std::optional<Shared::Entry> carried; // a salvaged frame at or before the target
+        if (canResume(i, sourceTarget, target)) {
+            size_t k = 0;
+            while (k + 1 < salvage_.size() && salvage_[k + 1].time <= target + epsilon)
+                ++k;
+            if (k + 1 < salvage_.size()) {
+                // The frame and those after it are all decoded already.
+                for (size_t j = k; j < salvage_.size(); ++j)
+                    pushSalvaged(salvage_[j], target);
+                salvage_.clear();
+                return;
+            }
+            carried = std::move(salvage_[k]);
+        }
+        salvage_.clear();
+        if (!carried && !enterSegment(i, sourceTarget)) {
             pushGap(target);
             return;
         }
         double back = 0;
         for (int attempt = 0; attempt < 6; ++attempt) {
-            if (attempt > 0)
-                cur_->seekKeyframe(sourceTarget - back);
+            if (attempt > 0) {
+                carried.reset();
+                seekSource(sourceTarget - back);
+            }
             FramePtr prev;
             double prevTime = 0;
             bool retry = false;
@@ -254,8 +313,10 @@ private:
                     return;
                 double st = 0;
                 const AVFrame *f = cur_->nextFrame(&st);
-                if (f)
+                if (f) {
                     ++s_->decoded;
+                    lastDecoded_ = toTimeline(seg, st);
+                }
                 const bool ended = !f || st >= sourceEnd(seg) - epsilon;
                 if (!ended && st < seg.sourceStart.seconds() - epsilon)
                     continue;
@@ -265,19 +326,21 @@ private:
                     av_frame_unref(prev.get());
                     av_frame_ref(prev.get(), f);
                     prevTime = st;
+                    carried.reset();
                     continue;
                 }
-                if (!prev && !ended && sourceTarget - back > seg.sourceStart.seconds() + epsilon) {
+                if (!prev && !carried && !ended && sourceTarget - back > seg.sourceStart.seconds() + epsilon) {
                     // Landed past the target: go further back.
                     back += 1.0;
                     retry = true;
                     break;
                 }
-                if (prev) {
+                if (prev)
                     pushFrame(seg, prev.get(), prevTime, target);
-                } else if (ended) {
+                else if (carried)
+                    pushSalvaged(*carried, target);
+                else if (ended)
                     pushGap(target);
-                }
                 if (ended) {
                     nextSegment();
                 } else {
@@ -330,6 +393,7 @@ private:
             return;
         }
         ++s_->decoded;
+        lastDecoded_ = toTimeline(seg, st);
         if (st < seg.sourceStart.seconds() - epsilon)
             return;
         const double time = toTimeline(seg, st);
@@ -346,7 +410,7 @@ private:
                     const double aim = seg.sourceStart.seconds() + (now + catchUpLead - seg.timelineStart.seconds());
                     const auto keyframe = cur_->keyframeAtOrBefore(std::min(aim, sourceEnd(seg)));
                     if (keyframe && *keyframe > st + catchUpThreshold / 2) {
-                        cur_->seekKeyframe(*keyframe);
+                        seekSource(*keyframe);
                         return;
                     }
                 }
@@ -371,6 +435,8 @@ private:
     bool firstOfGeneration_ = false;
     bool readyPosted_ = false;
     double lastPushed_ = -1e300;
+    double lastDecoded_ = -1e300; // timeline time of the newest frame out of cur_'s decoder
+    std::deque<Shared::Entry> salvage_;
 };
 
 void TrackPlayer::setDecoderThreads(int threads)
@@ -457,6 +523,12 @@ void TrackPlayer::requestSeek(double seconds)
     generation_ = ++shared_->generation;
     shared_->seekRequested = true;
     shared_->seekTarget = seconds;
+    // A forward step often lands on a frame already decoded: hand the
+    // queue to the worker instead of throwing it away. An empty queue means
+    // the worker has not produced since the last seek, so the older salvage
+    // still matches its decoder.
+    if (!shared_->queue.empty())
+        shared_->salvage = std::move(shared_->queue);
     shared_->queue.clear();
     shared_->changed.notify_all();
 }

@@ -274,6 +274,8 @@ void AppState::resolveDriveBookmark()
     }
 }
 
+void AppState::refreshVolumeCandidates() { setDriveVolumeCandidates(engine_.mountedTeslaCamVolumes()); }
+
 void AppState::startWatchingDriveEvents()
 {
     if (driveWatchTaskStarted_)
@@ -614,7 +616,7 @@ void AppState::setVaultURL(const QString &url)
     QPointer<AppState> self(this);
     EngineFacade *engine = &engine_;
     // Detached: the index load runs off the main thread and hops back.
-    (void)QtConcurrent::run([self, engine, url] {
+    detachedLoads_.addFuture(QtConcurrent::run([self, engine, url] {
         VaultIndex index = engine->loadVaultIndex(url);
         QMetaObject::invokeMethod(
             self.data(),
@@ -623,7 +625,7 @@ void AppState::setVaultURL(const QString &url)
                     self->setVaultIndex(std::move(index));
             },
             Qt::QueuedConnection);
-    });
+    }));
     loadVaultEvents();
 }
 
@@ -656,8 +658,11 @@ QCoro::Task<void> AppState::vaultEventsTask(QPointer<AppState> self, QString vau
         self->setVaultEvents(std::move(events));
 }
 
-void AppState::removeFromVault(const TeslaEvent &event)
+void AppState::removeFromVault(const TeslaEvent &given)
 {
+    // A copy: the caller's event is often an element of vaultEvents_, which
+    // this replaces below.
+    const TeslaEvent event = given;
     if (!vaultURL_)
         return;
     if (auto *player = activePlayerController())

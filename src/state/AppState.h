@@ -17,6 +17,7 @@
 #include "state/SidebarSection.h"
 #include "vault/VaultIndex.h"
 
+#include <QFutureSynchronizer>
 #include <QHash>
 #include <QObject>
 #include <QPointer>
@@ -105,6 +106,8 @@ public:
 
     // Drive lifecycle.
     Q_INVOKABLE void startWatchingDriveEvents();
+    // The wizard's appearance: the mounted candidates, listed anew.
+    Q_INVOKABLE void refreshVolumeCandidates();
     Q_INVOKABLE void resolveDriveBookmark();
     Q_INVOKABLE void beginScan(const QString &root);
     Q_INVOKABLE void recomputeHealth();
@@ -336,4 +339,7 @@ private:
     bool driveWatchTaskStarted_ = false;
     bool rootViewAppeared_ = false;
     QPointer<FocusWindow> focusWindow_;
+    // The detached Vault index loads read through the engine: the state
+    // waits for them as it goes, so none outlives the engine it was given.
+    QFutureSynchronizer<void> detachedLoads_;
 };

@@ -9,6 +9,9 @@
 #include "state/AppState.h"
 #include "state/SidebarSection.h"
 
+#include <QGuiApplication>
+#include <QMetaEnum>
+#include <QPalette>
 #include <QSettings>
 #include <QUrl>
 
@@ -27,6 +30,12 @@ QVariantMap UiBridge::texts() const
     t.insert(QStringLiteral("sampleBanner"),
              QStringLiteral("You're exploring sample footage · Connect your Tesla drive anytime"));
     t.insert(QStringLiteral("ejectSample"), QStringLiteral("Eject Sample"));
+    t.insert(QStringLiteral("licenceTitle"), QStringLiteral("A Keelhold licence is needed"));
+    t.insert(QStringLiteral("licenceText"),
+             QStringLiteral("Reading your own Tesla drive needs a Keelhold licence. Sample footage stays available "
+                            "without one."));
+    t.insert(QStringLiteral("helpMenu"), QStringLiteral("Keelhold Help"));
+    t.insert(QStringLiteral("sampleMenu"), QStringLiteral("Explore Sample Footage"));
     t.insert(QStringLiteral("promiseTitle"), QStringLiteral("Nothing on your drive is ever changed or deleted."));
     t.insert(QStringLiteral("promiseText"),
              QStringLiteral("Keelhold only reads from your Tesla drive. Every \"Keep\" makes a verified copy elsewhere "
@@ -55,6 +64,43 @@ QVariantList UiBridge::sidebarSections() const
         out.append(QVariantMap{{QStringLiteral("value"), int(s.value())},
                                {QStringLiteral("label"), s.rawValue()},
                                {QStringLiteral("icon"), SymbolIcons::iconUrl(QString::fromLatin1(symbols[s.value()]))}});
+    return out;
+}
+
+QVariantMap UiBridge::sections() const
+{
+    QVariantMap out;
+    const QMetaEnum e = QMetaEnum::fromType<SidebarSection::Value>();
+    for (int i = 0; i < e.keyCount(); ++i)
+        out.insert(QString::fromLatin1(e.key(i)), e.value(i));
+    return out;
+}
+
+QVariantMap UiBridge::columns() const
+{
+    QVariantMap out;
+    const QMetaEnum e = QMetaEnum::fromType<AppState::ColumnVisibility>();
+    for (int i = 0; i < e.keyCount(); ++i)
+        out.insert(QString::fromLatin1(e.key(i)), e.value(i));
+    return out;
+}
+
+QVariantMap UiBridge::colors() const
+{
+    const QPalette p = QGuiApplication::palette();
+    static const std::pair<const char *, QPalette::ColorRole> roles[] = {
+        {"window", QPalette::Window},         {"windowText", QPalette::WindowText},
+        {"base", QPalette::Base},             {"alternateBase", QPalette::AlternateBase},
+        {"text", QPalette::Text},             {"button", QPalette::Button},
+        {"buttonText", QPalette::ButtonText}, {"mid", QPalette::Mid},
+        {"midlight", QPalette::Midlight},     {"dark", QPalette::Dark},
+        {"light", QPalette::Light},           {"highlight", QPalette::Highlight},
+        {"highlightedText", QPalette::HighlightedText}, {"toolTipBase", QPalette::ToolTipBase},
+        {"toolTipText", QPalette::ToolTipText},         {"placeholderText", QPalette::PlaceholderText},
+    };
+    QVariantMap out;
+    for (const auto &[name, role] : roles)
+        out.insert(QString::fromLatin1(name), p.color(QPalette::Active, role));
     return out;
 }
 
@@ -133,14 +179,4 @@ QVariantMap UiBridge::healthContent() const
     QVariantMap m = HealthPresenter::content(*state_->healthReport());
     m.insert(QStringLiteral("present"), true);
     return m;
-}
-
-QString UiBridge::pickFolder(const QString &chosen)
-{
-    const QString root = rootForChosenFolder(chosen);
-    if (state_) {
-        state_->engine().saveBookmark(root, BookmarkKey::teslaDrive); // a failed save is dropped by the store
-        state_->beginScan(root);
-    }
-    return root;
 }

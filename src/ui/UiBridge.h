@@ -16,6 +16,13 @@ class UiBridge : public QObject {
     Q_PROPERTY(QVariantList sidebarSections READ sidebarSections CONSTANT)
     Q_PROPERTY(QVariantList guideSteps READ guideSteps CONSTANT)
     Q_PROPERTY(QVariantList guideNotes READ guideNotes CONSTANT)
+    // Named values of the enumerations QML compares with (QML can't reach
+    // lower-case enum keys): sections.drive …, columns.all / detailOnly.
+    Q_PROPERTY(QVariantMap sections READ sections CONSTANT)
+    Q_PROPERTY(QVariantMap columns READ columns CONSTANT)
+    // The application palette by role name (window, windowText, base, …),
+    // set on the windows so every control follows the chosen scheme.
+    Q_PROPERTY(QVariantMap colors READ colors CONSTANT)
     Q_PROPERTY(double storedListWidth READ storedListWidth WRITE setStoredListWidth NOTIFY storedListWidthChanged)
 public:
     explicit UiBridge(AppState *state, QObject *parent = nullptr);
@@ -25,6 +32,9 @@ public:
     QVariantList sidebarSections() const;
     QVariantList guideSteps() const;
     QVariantList guideNotes() const;
+    QVariantMap sections() const;
+    QVariantMap columns() const;
+    QVariantMap colors() const;
     double storedListWidth() const;
     void setStoredListWidth(double w);
 
@@ -39,8 +49,6 @@ public:
     Q_INVOKABLE QVariantMap failureScreen() const;
     // The health screen's content; `present` false when there is no report.
     Q_INVOKABLE QVariantMap healthContent() const;
-    // The picker's pick: saves the bookmark, begins the scan; returns the root.
-    Q_INVOKABLE QString pickFolder(const QString &chosen);
 
 Q_SIGNALS:
     void storedListWidthChanged();

@@ -1,9 +1,4 @@
-#include "engine/LiveEngine.h"
-#include "state/AppState.h"
-#include "state/DriveFailure.h"
-#include "state/SidebarSection.h"
-#include "QmlTypes.h"
-#include "UiBridge.h"
+#include "KeelholdApp.h"
 
 #include <QQuickWindow>
 #include <QTimer>
@@ -15,32 +10,24 @@
 #include <QUrl>
 #include <QtQml>
 
-Q_IMPORT_QML_PLUGIN(KeelholdPlugin)
-
 int main(int argc, char *argv[])
 {
     QGuiApplication app(argc, argv);
     QGuiApplication::setOrganizationName(QStringLiteral("Keelhold"));
     QGuiApplication::setApplicationName(QStringLiteral("Keelhold"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Keelhold"));
-    QQuickStyle::setStyle(QStringLiteral("Fusion"));
 
-    LiveEngine liveEngine;
-    AppState appState(liveEngine);
+    KeelholdApp keelhold;
+    AppState &appState = keelhold.appState();
+    [[maybe_unused]] UiBridge &ui = keelhold.ui();
     // --sample: straight into the bundled footage, past the wizard.
     if (QCoreApplication::arguments().contains(QStringLiteral("--sample")))
         appState.loadSampleFootage();
 
-    QmlTypes::registerAll();
-
-    // Declared before the engine so it outlives the QML that reads it.
-    UiBridge ui(&appState);
-    QQmlApplicationEngine engine;
-    engine.rootContext()->setContextProperty(QStringLiteral("appState"), &appState);
-    engine.rootContext()->setContextProperty(QStringLiteral("ui"), &ui);
+    QQmlApplicationEngine &engine = keelhold.qmlEngine();
     QObject::connect(&engine, &QQmlApplicationEngine::objectCreationFailed, &app,
                      [] { QCoreApplication::exit(1); }, Qt::QueuedConnection);
-    engine.load(QUrl(QStringLiteral("qrc:/Keelhold/qml/Main.qml")));
+    keelhold.load();
     // Test hook: KEELHOLD_SCREENSHOT=<png> grabs the window after a short wait
     // (KEELHOLD_SCREENSHOT_MS) and quits; KEELHOLD_SECTION picks a section first.
     const QString shot = qEnvironmentVariable("KEELHOLD_SCREENSHOT");

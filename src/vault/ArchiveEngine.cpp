@@ -67,8 +67,7 @@ private:
 };
 
 // Hashes a block on a second thread while the caller writes the same block,
-// so that the digest costs no extra pass and little extra time. Still only
-// one block is held: the caller waits for both before reading the next.
+// so that the digest costs no extra pass and little extra time.
 class BlockHasher {
 public:
     explicit BlockHasher(Sha256 &hash) : hash_(hash) {}
@@ -175,26 +174,34 @@ ArchivedFile copySteps(const QString &from, const QString &to, const std::stop_t
 
     Sha256 hash;
     qint64 count = 0;
-    // One block, shared by reading, hashing and writing. The hasher is
-    // declared after it, so it is done with the block before the block goes.
-    const std::unique_ptr<char[]> block(new char[size_t(chunkSize)]);
-    {
-        BlockHasher hasher(hash);
+    // Two blocks: the next one is read while the hasher is still on the last,
+    // so reading costs no time of its own. The hasher is declared after
+    // them, so it is done with a block before the blocks go.
+    const std::unique_ptr<char[]> blocks(new char[size_t(chunkSize) * 2]);
+    const auto readBlock = [&](char *into) -> size_t {
         for (;;) {
             if (stop.stop_requested())
                 throw CancellationError();
-            const ssize_t n = ::read(source.get(), block.get(), size_t(chunkSize));
-            if (n < 0) {
-                if (errno == EINTR)
-                    continue;
+            const ssize_t n = ::read(source.get(), into, size_t(chunkSize));
+            if (n >= 0)
+                return size_t(n);
+            if (errno != EINTR)
                 raiseErrno("read");
-            }
-            if (n == 0)
-                break;
-            hasher.begin(block.get(), size_t(n));
-            writeAll(out.get(), block.get(), size_t(n));
+        }
+    };
+    {
+        BlockHasher hasher(hash);
+        char *current = blocks.get();
+        char *next = blocks.get() + chunkSize;
+        size_t n = readBlock(current);
+        while (n > 0) {
+            hasher.begin(current, n);
+            writeAll(out.get(), current, n);
+            count += qint64(n);
+            const size_t following = readBlock(next);
             hasher.wait();
-            count += n;
+            std::swap(current, next);
+            n = following;
         }
     }
     if (::close(out.release()) != 0)

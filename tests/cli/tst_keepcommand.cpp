@@ -55,14 +55,6 @@ ArchiveReport parseReport(const QByteArray &out)
     return ArchiveReport::fromJson(QJsonDocument::fromJson(out).object());
 }
 
-QStringList temporaryFiles(const QString &folder)
-{
-    QStringList found;
-    QDirIterator it(folder, {QStringLiteral(".tmp-*")}, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
-    while (it.hasNext())
-        found << it.next();
-    return found;
-}
 
 } // namespace
 
@@ -226,7 +218,7 @@ private Q_SLOTS:
         QVERIFY(report.failedFiles[0].path.startsWith(big));
         QCOMPARE(report.failedFiles[0].reason, QStringLiteral("This file couldn't be read."));
         QCOMPARE(VaultIndex::load(vault).events, report.archivedEvents);
-        const QStringList leftovers = temporaryFiles(vault);
+        const QStringList leftovers = DriveBuilder::temporaryFiles(vault);
         QCOMPARE(leftovers.size(), 1);
         QCOMPARE(QFileInfo(leftovers[0]).size(), qint64(2 << 20));
     }

@@ -91,6 +91,46 @@ private Q_SLOTS:
         }
     }
 
+    // Stepping and short forward seeks go on from frames already decoded
+    // instead of going back to the keyframe each time, and stay exact.
+    void forwardStepsReuseDecodedFrames()
+    {
+        TrackPlayer player(threeClips);
+        QVideoSink sink;
+        player.setVideoSink(&sink);
+        QTRY_COMPARE(player.status(), TrackPlayer::ReadyToPlay);
+        const auto verifyAt = [&](double t) {
+            QVERIFY2(seekAndWait(player, t), qPrintable(QString::number(t)));
+            const auto expected = expectedAt(t, 0, starts, clipIds);
+            const auto shown = identify(sink.videoFrame());
+            QVERIFY2(shown && expected && *shown == *expected, qPrintable(QString("wrong frame at %1").arg(t)));
+        };
+
+        verifyAt(s(0.5).seconds());
+        const quint64 before = player.decodedFrameCount();
+        int steps = 0;
+        // Frame by frame across the keyframe at 1 s and into the next clip.
+        for (double t = 0.5; t < 3.3; t += 1.0 / fps, ++steps) {
+            QTRY_VERIFY(player.nextFrameTime().has_value());
+            verifyAt(MediaTime::fromTicks(qint64(std::ceil(*player.nextFrameTime() * 600 - 1e-6))).seconds());
+        }
+        // Going back to the keyframe every time would decode half a second
+        // of frames per step; a busy machine may cost a few such seeks.
+        const quint64 decoded = player.decodedFrameCount() - before;
+        QVERIFY2(decoded < quint64(steps) * 3, qPrintable(QString("%1 frames for %2 steps").arg(decoded).arg(steps)));
+
+        // A longer jump ahead within the same second, then back: still exact.
+        verifyAt(s(4.05).seconds());
+        QTRY_VERIFY(player.nextFrameTime().has_value());
+        verifyAt(s(4.9).seconds());
+        verifyAt(s(4.2).seconds());
+        verifyAt(s(0.03).seconds());
+        // Several seeks before the worker catches up.
+        player.seek(s(1.5));
+        player.seek(s(1.52));
+        verifyAt(s(1.55).seconds());
+    }
+
     void framesCarryColourSpaceAndRange()
     {
         for (const auto &[format, range] : {std::pair{QStringLiteral("yuvj420p"), QVideoFrameFormat::ColorRange_Full},

@@ -4,6 +4,7 @@
 
 #include <QCryptographicHash>
 #include <QDateTime>
+#include <QDirIterator>
 #include <QFile>
 #include <QRandomGenerator>
 #include <fcntl.h>
@@ -79,4 +80,13 @@ QByteArray DriveBuilder::readQuietly(const QString &path)
 QString DriveBuilder::sha256Hex(const QString &path)
 {
     return sha256Hex(readQuietly(path));
+}
+
+QStringList DriveBuilder::temporaryFiles(const QString &folder)
+{
+    QStringList found;
+    QDirIterator it(folder, {QStringLiteral(".tmp-*")}, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (it.hasNext())
+        found << it.next();
+    return found;
 }

@@ -31,6 +31,8 @@ public:
     static QString sha256Hex(const QByteArray &bytes);
     // Clip file names for an event folder name, in the order addEvent makes them.
     static QStringList clipNames(const QString &folderName, int clips);
+    // Hidden temporary files of interrupted copies under a Vault folder.
+    static QStringList temporaryFiles(const QString &folder);
 
 private:
     TeslaCamFixture fixture_;

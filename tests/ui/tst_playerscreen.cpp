@@ -4,9 +4,7 @@
 
 #include "EventPlayerPresenter.h"
 #include "ExportFlow.h"
-#include "QmlTypes.h"
-#include "UiBridge.h"
-#include "engine/LiveEngine.h"
+#include "KeelholdApp.h"
 #include "playback/SyncPlayerController.h"
 #include "playback/TrackPlayer.h"
 #include "state/AppState.h"
@@ -20,7 +18,6 @@
 #include <QImage>
 #include <QQmlApplicationEngine>
 #include <QQmlContext>
-#include <QQmlExtensionPlugin>
 #include <QQuickItem>
 #include <QQuickStyle>
 #include <QQuickWindow>
@@ -32,8 +29,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-
-Q_IMPORT_QML_PLUGIN(KeelholdPlugin)
 
 namespace {
 
@@ -116,10 +111,9 @@ private:
 class PlayerScreenTest : public QObject {
     Q_OBJECT
 
-    std::unique_ptr<LiveEngine> engine_;
-    std::unique_ptr<AppState> state_;
-    std::unique_ptr<UiBridge> ui_;
-    std::unique_ptr<QQmlApplicationEngine> qml_;
+    std::unique_ptr<KeelholdApp> app_;
+    AppState *state_ = nullptr;
+    QQmlApplicationEngine *qml_ = nullptr;
     QQuickWindow *window_ = nullptr;
     QTemporaryDir work_;
     QString shotsDir_;
@@ -192,19 +186,15 @@ private Q_SLOTS:
             QSKIP("needs a display (run the suite under xvfb-run)");
         QVERIFY(AppState::sampleFootageURL().has_value());
         shotsDir_ = qEnvironmentVariable("KEELHOLD_SAVE_SCREENSHOTS");
-        QmlTypes::registerAll();
-        engine_ = std::make_unique<LiveEngine>();
-        state_ = std::make_unique<AppState>(*engine_);
-        ui_ = std::make_unique<UiBridge>(state_.get());
-        qml_ = std::make_unique<QQmlApplicationEngine>();
-        qml_->rootContext()->setContextProperty(QStringLiteral("appState"), state_.get());
-        qml_->rootContext()->setContextProperty(QStringLiteral("ui"), ui_.get());
+        app_ = std::make_unique<KeelholdApp>();
+        state_ = &app_->appState();
+        qml_ = &app_->qmlEngine();
         QStringList warnings;
-        connect(qml_.get(), &QQmlApplicationEngine::warnings, this, [&warnings](const QList<QQmlError> &list) {
+        connect(qml_, &QQmlApplicationEngine::warnings, this, [&warnings](const QList<QQmlError> &list) {
             for (const QQmlError &e : list)
                 warnings << e.toString();
         });
-        qml_->load(QUrl(QStringLiteral("qrc:/Keelhold/qml/Main.qml")));
+        QVERIFY(app_->load());
         QVERIFY(!qml_->rootObjects().isEmpty());
         window_ = qobject_cast<QQuickWindow *>(qml_->rootObjects().first());
         QVERIFY(window_);
@@ -219,13 +209,7 @@ private Q_SLOTS:
         QVERIFY2(warnings.isEmpty(), qPrintable(warnings.join('\n')));
     }
 
-    void cleanupTestCase()
-    {
-        qml_.reset();
-        ui_.reset();
-        state_.reset();
-        engine_.reset();
-    }
+    void cleanupTestCase() { app_.reset(); }
 
     // The review of one event from opening to a kept copy played back from
     // the Vault with no drive, and one camera exported and checked.
@@ -320,7 +304,7 @@ private Q_SLOTS:
 
         // Typing into a text field never reaches the player.
         {
-            QQmlComponent field(qml_.get());
+            QQmlComponent field(qml_);
             field.setData("import QtQuick.Controls\nTextField { objectName: \"probeField\"; width: 200 }", QUrl());
             auto *item = qobject_cast<QQuickItem *>(field.create(qml_->rootContext()));
             QVERIFY(item);
@@ -581,7 +565,6 @@ int main(int argc, char **argv)
     QGuiApplication app(argc, argv);
     QGuiApplication::setOrganizationName(QStringLiteral("Keelhold"));
     QGuiApplication::setApplicationName(QStringLiteral("Keelhold"));
-    QQuickStyle::setStyle(QStringLiteral("Fusion"));
     PlayerScreenTest tc;
     QTEST_SET_MAIN_SOURCE_PATH
     return QTest::qExec(&tc, argc, argv);

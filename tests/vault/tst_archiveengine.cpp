@@ -32,15 +32,6 @@ QString reason(const char16_t *text)
     return QString::fromUtf16(text);
 }
 
-// Hidden temporary files of interrupted copies under a folder.
-QStringList temporaryFiles(const QString &folder)
-{
-    QStringList found;
-    QDirIterator it(folder, {QStringLiteral(".tmp-*")}, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
-    while (it.hasNext())
-        found << it.next();
-    return found;
-}
 
 // Reads without touching access times, so that tests can look at the drive.
 QByteArray readAll(const QString &path)
@@ -211,7 +202,7 @@ private Q_SLOTS:
             }
         }
         QCOMPARE(VaultIndex::load(vault).events, report.archivedEvents);
-        QVERIFY(temporaryFiles(vault).isEmpty());
+        QVERIFY(DriveBuilder::temporaryFiles(vault).isEmpty());
         QCOMPARE(drive.changes(), QString());
     }
 
@@ -305,7 +296,7 @@ private Q_SLOTS:
         QCOMPARE(report.archivedEvents[0].files.size(), size_t(4)); // 2 clips, event.json, thumbnail
         QVERIFY(QFileInfo(vault.filePath("2026/sentry/2026-07-16_09-15-32")).isDir());
         QVERIFY(QFileInfo(vault.filePath("2026/sentry/2026-07-15_09-15-32")).isDir());
-        QVERIFY(temporaryFiles(vault.path()).isEmpty());
+        QVERIFY(DriveBuilder::temporaryFiles(vault.path()).isEmpty());
 
         std::vector<int> ends;
         for (const auto &p : emitted)
@@ -499,7 +490,7 @@ private Q_SLOTS:
         QCOMPARE(report.failedFiles[0].reason,
                  QStringLiteral("This file changed size while copying \u2014 the drive may have been disconnected."));
         QVERIFY(report.archivedEvents.empty());
-        QVERIFY(temporaryFiles(vault.path()).isEmpty());
+        QVERIFY(DriveBuilder::temporaryFiles(vault.path()).isEmpty());
         QVERIFY(!QFileInfo::exists(vault.filePath("2026/sentry/2026-07-18_09-15-32/2026-07-18_09-14-32-front.mp4")));
     }
 
@@ -525,7 +516,7 @@ private Q_SLOTS:
         QCOMPARE(second.failedFiles[0].path, events[1].clips[0].url);
         QCOMPARE(second.failedFiles[0].reason, reason(ArchiveEngine::Reason::unreadable));
         // The partial copy stays behind under its hidden name.
-        const QStringList leftovers = temporaryFiles(vault + "/2026/sentry/2026-07-17_09-15-32");
+        const QStringList leftovers = DriveBuilder::temporaryFiles(vault + "/2026/sentry/2026-07-17_09-15-32");
         const QString clipName = QFileInfo(events[1].clips[0].url).fileName();
         const auto partialCopy = std::find_if(leftovers.begin(), leftovers.end(),
                                               [&](const QString &p) { return p.endsWith("-" + clipName); });
@@ -599,7 +590,7 @@ private Q_SLOTS:
         }
         QCOMPARE(VaultIndex::load(vault.path()).events, report.archivedEvents);
         // The read error left its partial copy behind.
-        QCOMPARE(temporaryFiles(vault.filePath("2026/sentry/2026-07-17_09-15-32")).size(), 1);
+        QCOMPARE(DriveBuilder::temporaryFiles(vault.filePath("2026/sentry/2026-07-17_09-15-32")).size(), 1);
     }
 
     void readErrorsOnTheDriveCostOneFile()
@@ -666,7 +657,7 @@ private Q_SLOTS:
         answerLate.join();
         // Either way what arrived stays behind under the hidden name: the first
         // block, and the late one, written before the next check stops the copy.
-        const QStringList leftovers = temporaryFiles(vault.filePath("2026/sentry/" + name));
+        const QStringList leftovers = DriveBuilder::temporaryFiles(vault.filePath("2026/sentry/" + name));
         QCOMPARE(leftovers.size(), 1);
         QVERIFY(leftovers[0].endsWith("-" + clips[0]));
         QCOMPARE(QFileInfo(leftovers[0]).size(), qint64(2 << 20));
@@ -701,7 +692,7 @@ private Q_SLOTS:
         QCOMPARE(report.failedFiles[0].path, events[0].clips[0].url);
         QCOMPARE(report.failedFiles[0].reason, reason(ArchiveEngine::Reason::unreadable));
         // The whole copy waits under its temporary name.
-        const QStringList leftovers = temporaryFiles(folder);
+        const QStringList leftovers = DriveBuilder::temporaryFiles(folder);
         QCOMPARE(leftovers.size(), 1);
         QCOMPARE(QFileInfo(leftovers[0]).size(), qint64(5000));
         QVERIFY(QFileInfo(folder + "/" + clip + "/inside").isDir());

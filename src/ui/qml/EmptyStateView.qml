@@ -39,8 +39,8 @@ Item {
         RowLayout {
             Layout.alignment: Qt.AlignHCenter
             spacing: 10
-            Button { visible: root.actionTitle.length > 0; text: root.actionTitle; highlighted: true; onClicked: root.action() }
-            Button { visible: root.secondaryTitle.length > 0; text: root.secondaryTitle; onClicked: root.secondaryAction() }
+            Button { objectName: "emptyStateAction"; visible: root.actionTitle.length > 0; text: root.actionTitle; highlighted: true; onClicked: root.action() }
+            Button { objectName: "emptyStateSecondary"; visible: root.secondaryTitle.length > 0; text: root.secondaryTitle; onClicked: root.secondaryAction() }
         }
     }
 }

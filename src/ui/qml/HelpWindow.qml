@@ -2,14 +2,31 @@ import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
 
-// The help window: articles on the left, the selected one on the right.
+// The help window: articles on the left, the selected one on the right. Its
+// title, size and life are the controller's; the selection outlives it.
 ApplicationWindow {
     id: win
     objectName: "helpWindow"
-    title: "Keelhold Help"
     width: 700; height: 480
     minimumWidth: 640; minimumHeight: 440
-    property int selected: 0
+    palette.window: ui.colors.window
+    palette.windowText: ui.colors.windowText
+    palette.base: ui.colors.base
+    palette.alternateBase: ui.colors.alternateBase
+    palette.text: ui.colors.text
+    palette.button: ui.colors.button
+    palette.buttonText: ui.colors.buttonText
+    palette.mid: ui.colors.mid
+    palette.midlight: ui.colors.midlight
+    palette.dark: ui.colors.dark
+    palette.light: ui.colors.light
+    palette.highlight: ui.colors.highlight
+    palette.highlightedText: ui.colors.highlightedText
+    palette.toolTipBase: ui.colors.toolTipBase
+    palette.toolTipText: ui.colors.toolTipText
+    palette.placeholderText: ui.colors.placeholderText
+    property QtObject selection: null
+    readonly property int selected: selection ? selection.selected : 0
     readonly property var article: ui.helpArticles[selected]
 
     RowLayout {
@@ -25,7 +42,7 @@ ApplicationWindow {
             delegate: ItemDelegate {
                 width: ListView.view.width
                 highlighted: index === win.selected
-                onClicked: win.selected = index
+                onClicked: if (win.selection) win.selection.selected = index
                 contentItem: RowLayout {
                     spacing: 8
                     SymbolIcon { symbol: ""; source: modelData.icon }

@@ -13,36 +13,41 @@ ApplicationWindow {
     minimumHeight: 600
     visible: true
     title: "Keelhold"
+    palette.window: ui.colors.window
+    palette.windowText: ui.colors.windowText
+    palette.base: ui.colors.base
+    palette.alternateBase: ui.colors.alternateBase
+    palette.text: ui.colors.text
+    palette.button: ui.colors.button
+    palette.buttonText: ui.colors.buttonText
+    palette.mid: ui.colors.mid
+    palette.midlight: ui.colors.midlight
+    palette.dark: ui.colors.dark
+    palette.light: ui.colors.light
+    palette.highlight: ui.colors.highlight
+    palette.highlightedText: ui.colors.highlightedText
+    palette.toolTipBase: ui.colors.toolTipBase
+    palette.toolTipText: ui.colors.toolTipText
+    palette.placeholderText: ui.colors.placeholderText
 
-    property int helpSelection: 0
-    property var helpWindow: null
-    // Help: switch the article in place if open, else open on the last one.
-    function showHelp(articleIndex) {
-        if (articleIndex !== undefined && articleIndex >= 0)
-            helpSelection = articleIndex
-        if (helpWindow) {
-            helpWindow.selected = helpSelection
-            helpWindow.raise(); helpWindow.requestActivate()
-            return
-        }
-        helpWindow = helpComponent.createObject(null, { selected: helpSelection })
-        helpWindow.x = window.x + (window.width - helpWindow.width) / 2
-        helpWindow.y = window.y + (window.height - helpWindow.height) / 2
-        helpWindow.show(); helpWindow.raise(); helpWindow.requestActivate()
-    }
-    Component {
-        id: helpComponent
-        HelpWindow {
-            onSelectedChanged: window.helpSelection = selected
-            onClosing: { window.helpWindow = null; destroy() }
-        }
-    }
+    // Help: one window at most; the controller switches or reopens it.
+    function showHelp(articleIndex) { help.show(articleIndex === undefined ? -1 : articleIndex) }
 
     menuBar: MenuBar {
+        // The bar stands outside the content, so it takes the scheme here.
+        palette.window: ui.colors.window
+        palette.windowText: ui.colors.windowText
+        palette.button: ui.colors.window
+        palette.buttonText: ui.colors.windowText
+        palette.base: ui.colors.base
+        palette.text: ui.colors.text
+        palette.mid: ui.colors.mid
+        palette.highlight: ui.colors.highlight
+        palette.highlightedText: ui.colors.highlightedText
         Menu {
-            title: "Help"
-            MenuItem { objectName: "menuHelp"; text: "Keelhold Help"; onTriggered: window.showHelp(-1) }
-            MenuItem { objectName: "menuSample"; text: "Explore Sample Footage"; onTriggered: appState.loadSampleFootage() }
+            title: qsTr("&Help")
+            MenuItem { objectName: "menuHelp"; text: ui.texts.helpMenu; onTriggered: window.showHelp(-1) }
+            MenuItem { objectName: "menuSample"; text: ui.texts.sampleMenu; onTriggered: appState.loadSampleFootage() }
         }
     }
 
@@ -57,8 +62,9 @@ ApplicationWindow {
 
         // Sidebar
         Rectangle {
-            visible: appState.columnVisibility === 0 || !appState.isFocusMode
-            Layout.preferredWidth: 170
+            objectName: "sidebar"
+            visible: appState.columnVisibility === ui.columns.all
+            Layout.preferredWidth: 160
             Layout.minimumWidth: 140
             Layout.maximumWidth: 200
             Layout.fillHeight: true
@@ -69,10 +75,11 @@ ApplicationWindow {
                 spacing: 2
                 RowLayout {
                     Layout.fillWidth: true
-                    Label { text: "Keelhold"; font.pixelSize: 16; font.weight: Font.DemiBold; Layout.fillWidth: true; leftPadding: 6 }
+                    Label { text: "Keelhold"; font.pixelSize: 15; font.weight: Font.DemiBold; Layout.fillWidth: true; leftPadding: 6 }
                     ToolButton {
                         objectName: "helpButton"
                         icon.source: ui.icon("questionmark.circle")
+                        icon.color: palette.windowText
                         ToolTip.visible: hovered; ToolTip.text: ui.texts.helpTip
                         onClicked: window.showHelp(-1)
                     }
@@ -84,14 +91,19 @@ ApplicationWindow {
                         Layout.fillWidth: true
                         highlighted: appState.selectedSection === modelData.value
                         icon.source: modelData.icon
+                        icon.color: highlighted ? palette.highlightedText : palette.windowText
                         text: modelData.label
                         onClicked: appState.selectedSection = modelData.value
+                        background: Rectangle {
+                            radius: 6
+                            color: parent.highlighted ? palette.highlight : parent.hovered ? palette.midlight : "transparent"
+                        }
                     }
                 }
                 Item { Layout.fillHeight: true }
             }
         }
-        Rectangle { width: 1; Layout.fillHeight: true; color: palette.mid }
+        Rectangle { visible: appState.columnVisibility === ui.columns.all; width: 1; Layout.fillHeight: true; color: palette.mid }
 
         // Detail
         Item {
@@ -103,7 +115,7 @@ ApplicationWindow {
             RowLayout {
                 anchors.fill: parent
                 spacing: 0
-                visible: appState.selectedSection === 0 || appState.selectedSection === 1
+                visible: appState.selectedSection === ui.sections.drive || appState.selectedSection === ui.sections.vault
                 ColumnLayout {
                     visible: !appState.isFocusMode
                     Layout.preferredWidth: detail.listWidth
@@ -112,20 +124,20 @@ ApplicationWindow {
                     Layout.fillHeight: true
                     spacing: 0
                     SampleModeBanner {
-                        visible: appState.isSampleMode && appState.selectedSection === 0
+                        visible: appState.isSampleMode && appState.selectedSection === ui.sections.drive
                         Layout.fillWidth: true
                         onEject: appState.exitSampleMode()
                     }
                     FailureView {
                         property var s: { appState.currentFailure; return ui.failureScreen() }
                         screen: s
-                        visible: appState.selectedSection === 0 && s.title !== undefined
+                        visible: appState.selectedSection === ui.sections.drive && s.title !== undefined
                         Layout.fillWidth: true
                         Layout.fillHeight: true
                     }
                     PlaceholderColumn {
-                        visible: !(appState.selectedSection === 0 && appState.currentFailure)
-                        name: appState.selectedSection === 0 ? "EventListView" : "VaultEventListColumn"
+                        visible: !(appState.selectedSection === ui.sections.drive && appState.currentFailure)
+                        name: appState.selectedSection === ui.sections.drive ? "EventListView" : "VaultEventListColumn"
                         Layout.fillWidth: true
                         Layout.fillHeight: true
                     }
@@ -137,24 +149,24 @@ ApplicationWindow {
                     onWidthDragged: (w) => ui.storedListWidth = w
                 }
                 DriveDetailColumn {
-                    visible: appState.selectedSection === 0
+                    visible: appState.selectedSection === ui.sections.drive
                     Layout.fillWidth: true
                     Layout.fillHeight: true
                 }
                 VaultDetailColumn {
-                    visible: appState.selectedSection === 1
+                    visible: appState.selectedSection === ui.sections.vault
                     Layout.fillWidth: true
                     Layout.fillHeight: true
                 }
             }
             PlaceholderColumn {
                 anchors.fill: parent
-                visible: appState.selectedSection === 2
+                visible: appState.selectedSection === ui.sections.map
                 name: "EventMapView"
             }
             HealthView {
                 anchors.fill: parent
-                visible: appState.selectedSection === 3
+                visible: appState.selectedSection === ui.sections.health
             }
         }
     }

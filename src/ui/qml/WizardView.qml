@@ -11,16 +11,36 @@ Item {
     signal finished()
     signal dismissed()
     function runSample() { appState.loadSampleFootage(); dismissed() }
-    function picked(url) { ui.pickFolder(url); step = "scanning" }
+    function openPanel(start) { drivePicker.presentOpenPanel(start) }
 
+    Component.onCompleted: appState.refreshVolumeCandidates()
+
+    // The panel rules (licence gate, the "TeslaCam" root, the bookmark) are
+    // the picker's; this only shows the dialog it asks for.
+    Connections {
+        target: drivePicker
+        function onOpenPanelRequested(start) { panel.currentFolder = "file://" + start; panel.open() }
+        // The step first: a cached scan can end the scanning before
+        // beginScan returns, and the step must be there to see it end.
+        function onPicked(root) { wiz.step = "scanning"; appState.beginScan(root) }
+        function onLicenceWindowRequested() { licenceWindow.open() }
+    }
     FolderDialog {
         id: panel
         objectName: "folderDialog"
         title: ui.texts.panelTitle
         acceptLabel: ui.texts.panelPrompt
-        onAccepted: if (selectedFolder.toString().length > 0) wiz.picked(selectedFolder.toString())
+        onAccepted: drivePicker.panelFinished(true, selectedFolder.toString())
     }
-    function openPanel(start) { panel.currentFolder = "file://" + start; panel.open() }
+    Dialog {
+        id: licenceWindow
+        objectName: "licenceWindow"
+        anchors.centerIn: parent
+        modal: true
+        title: ui.texts.licenceTitle
+        standardButtons: Dialog.Ok
+        Label { text: ui.texts.licenceText; wrapMode: Text.WordWrap; width: 360 }
+    }
 
     ColumnLayout {
         anchors.centerIn: parent
@@ -40,11 +60,12 @@ Item {
         width: Math.min(parent.width - 64, 560)
         spacing: 12
         visible: wiz.step === "pickDrive"
-        Label { text: ui.texts.pickerTitle; font.pixelSize: 22; font.weight: Font.DemiBold }
+        Label { objectName: "pickerTitle"; text: ui.texts.pickerTitle; font.pixelSize: 22; font.weight: Font.DemiBold }
         Label { text: ui.texts.pickerText; wrapMode: Text.WordWrap; Layout.fillWidth: true; opacity: 0.8 }
         Repeater {
             model: appState.driveVolumeCandidates
             delegate: ItemDelegate {
+                objectName: "candidate_" + index
                 Layout.fillWidth: true
                 onClicked: wiz.openPanel(modelData.volumeURL)
                 contentItem: RowLayout {
@@ -52,8 +73,8 @@ Item {
                     SymbolIcon { symbol: "externaldrive.fill"; size: 22 }
                     ColumnLayout {
                         Layout.fillWidth: true; spacing: 0
-                        Label { text: ui.candidateHeading(modelData); font.weight: Font.DemiBold }
-                        Label { text: ui.candidateCapacity(modelData); opacity: 0.6; visible: text.length > 0 }
+                        Label { text: ui.candidateHeading(modelData); font.weight: Font.DemiBold; Layout.fillWidth: true; elide: Text.ElideRight }
+                        Label { text: ui.candidateCapacity(modelData); opacity: 0.6; visible: text.length > 0; Layout.fillWidth: true }
                     }
                     SymbolIcon { symbol: "chevron.right" }
                 }
@@ -67,11 +88,11 @@ Item {
             SymbolIcon { symbol: "externaldrive.badge.questionmark"; size: 28 }
             Label { text: ui.texts.noCandidates; wrapMode: Text.WordWrap; Layout.fillWidth: true }
         }
-        Button { visible: appState.driveVolumeCandidates.length === 0; text: ui.texts.sampleButton; flat: true
+        Button { objectName: "pickerSample"; visible: appState.driveVolumeCandidates.length === 0; text: ui.texts.sampleButton; flat: true
                  ToolTip.visible: hovered; ToolTip.text: ui.texts.sampleTip; onClicked: wiz.runSample() }
         RowLayout {
             spacing: 10
-            Button { text: ui.texts.back; onClicked: wiz.step = "intro" }
+            Button { objectName: "back"; text: ui.texts.back; onClicked: wiz.step = "intro" }
             Item { Layout.fillWidth: true }
             Button { objectName: "chooseManually"; text: ui.texts.chooseManually; ToolTip.visible: hovered; ToolTip.text: ui.texts.chooseManuallyTip
                      onClicked: wiz.openPanel(ui.texts.removableMediaFolder) }
@@ -88,14 +109,14 @@ Item {
             target: appState
             function onIsScanningChanged() { if (!appState.isScanning && wiz.step === "scanning") wiz.finished() }
         }
-        Label { text: ui.texts.scanTitle; font.pixelSize: 22; font.weight: Font.DemiBold; Layout.alignment: Qt.AlignHCenter }
+        Label { objectName: "scanTitle"; text: ui.texts.scanTitle; font.pixelSize: 22; font.weight: Font.DemiBold; Layout.alignment: Qt.AlignHCenter }
         BusyIndicator { running: appState.isScanning; Layout.alignment: Qt.AlignHCenter }
         Label { visible: !!appState.scanProgress; text: appState.scanProgress ? appState.scanProgress.phase : ""; Layout.alignment: Qt.AlignHCenter }
         Label { visible: !!appState.scanProgress
                 text: appState.scanProgress ? ui.scanCountsText(appState.scanProgress.eventsFound, appState.scanProgress.clipsFound) : ""
                 Layout.alignment: Qt.AlignHCenter }
         Label { text: ui.texts.scanHint; opacity: 0.6; Layout.alignment: Qt.AlignHCenter }
-        Button { text: appState.isScanning ? ui.texts.browseWhileFinishes : ui.texts.startBrowsing; highlighted: true
+        Button { objectName: "doneButton"; text: appState.isScanning ? ui.texts.browseWhileFinishes : ui.texts.startBrowsing; highlighted: true
                  Layout.alignment: Qt.AlignHCenter; onClicked: wiz.finished() }
     }
 }

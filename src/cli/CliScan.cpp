@@ -1,0 +1,55 @@
+#include "cli/CliScan.h"
+
+#include "cli/CliOutput.h"
+#include "drive/ClipProber.h"
+#include "drive/TeslaCamParser.h"
+
+extern "C" {
+#include <libavutil/log.h>
+}
+
+namespace CliScan {
+
+std::optional<DriveScan> read(const QString &root, std::optional<std::chrono::milliseconds> probeTimeout)
+{
+    try {
+        DriveScan scan = TeslaCamParser::scan(root, [](const ScanProgress &p) {
+            CliOutput::status(QStringLiteral("%1 %2 folders, %3 events, %4 clips")
+                                  .arg(p.phase)
+                                  .arg(p.foldersScanned)
+                                  .arg(p.eventsFound)
+                                  .arg(p.clipsFound));
+        });
+        if (probeTimeout) {
+            // Damaged clips are the expected case here, reported in the JSON;
+            // the demuxer's own complaints about them would only be noise.
+            av_log_set_level(AV_LOG_QUIET);
+            scan.events = ClipProber::probeAll(scan.events, *probeTimeout, ClipProber::engineConcurrencyCap,
+                                               [](int completed, int total) {
+                                                   // Without a terminal, a line per clip would bury the rest.
+                                                   if (!CliOutput::stderrIsTerminal() && completed % 100 != 0
+                                                       && completed != total)
+                                                       return;
+                                                   CliOutput::status(QStringLiteral("probing %1 of %2 clips")
+                                                                         .arg(completed)
+                                                                         .arg(total));
+                                               });
+        }
+        CliOutput::endStatus();
+        return scan;
+    } catch (const TeslaCamParser::ParserError &e) {
+        CliOutput::endStatus();
+        CliOutput::err(e.errorCase() == TeslaCamParser::ParserError::rootNotFound
+                           ? QStringLiteral("There is no folder at \u201c%1\u201d. Check that the drive is plugged in "
+                                            "and the path is right.")
+                                 .arg(root)
+                           : QStringLiteral("\u201c%1\u201d is a file, not a folder. Give the TeslaCam folder itself.")
+                                 .arg(root));
+    } catch (const TeslaCamParser::ScanError &e) {
+        CliOutput::endStatus();
+        CliOutput::err(e.message());
+    }
+    return std::nullopt;
+}
+
+} // namespace CliScan

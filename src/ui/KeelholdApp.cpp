@@ -1,0 +1,57 @@
+#include "KeelholdApp.h"
+
+#include "ColorScheme.h"
+#include "QmlTypes.h"
+#include "state/DriveFailure.h"
+#include "state/SidebarSection.h"
+
+#include <QQmlComponent>
+#include <QQmlContext>
+#include <QQuickStyle>
+#include <QQuickWindow>
+
+
+KeelholdApp::KeelholdApp(QObject *parent)
+    : QObject(parent), state_(engine_), ui_(&state_), picker_(&state_, &licence_),
+      help_([this](HelpArticleSelection *selection) -> QWindow * {
+          QQmlComponent component(&qml_, QUrl(helpWindowUrl));
+          QObject *made = component.createWithInitialProperties({{QStringLiteral("selection"), QVariant::fromValue<QObject *>(selection)}});
+          auto *w = qobject_cast<QWindow *>(made);
+          if (!w) {
+              qWarning("%s", qPrintable(component.errorString()));
+              delete made;
+          }
+          return w;
+      })
+{
+    static bool styled = false;
+    if (!styled) {
+        QQuickStyle::setStyle(QStringLiteral("Fusion"));
+        ColorScheme::apply();
+        QmlTypes::registerAll();
+        styled = true;
+    }
+    QQmlContext *ctx = qml_.rootContext();
+    ctx->setContextProperty(QStringLiteral("appState"), &state_);
+    ctx->setContextProperty(QStringLiteral("ui"), &ui_);
+    ctx->setContextProperty(QStringLiteral("drivePicker"), &picker_);
+    ctx->setContextProperty(QStringLiteral("help"), &help_);
+}
+
+KeelholdApp::~KeelholdApp()
+{
+    // The help window is QML of this engine: let it go before the engine.
+    delete help_.window();
+}
+
+bool KeelholdApp::load()
+{
+    qml_.load(QUrl(rootViewUrl));
+    return mainWindow() != nullptr;
+}
+
+QQuickWindow *KeelholdApp::mainWindow() const
+{
+    const QList<QObject *> roots = qml_.rootObjects();
+    return roots.isEmpty() ? nullptr : qobject_cast<QQuickWindow *>(roots.first());
+}

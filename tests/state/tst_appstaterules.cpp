@@ -1,0 +1,479 @@
+#include "drive/TeslaCamParser.h"
+#include "engine/LiveEngine.h"
+#include "engine/MockEngine.h"
+#include "playback/SyncPlayerController.h"
+#include "state/AppState.h"
+#include "support/IsolatedHome.h"
+#include "support/TeslaCamFixture.h"
+#include "support/TestClips.h"
+
+#include <QDir>
+#include <QGuiApplication>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+// The rules of the application state that compute something, each on a real
+// engine over real folders: which format clears which failure, the name a
+// failed root leaves, the player paused before copying, the scan cache key.
+namespace {
+
+// The live engine, with the drive's format told by the test: the one way to
+// put a drive of any format in front of the state without mounting it.
+class FormatEngine final : public EngineFacade {
+public:
+    LiveEngine inner;
+    std::optional<VolumeFormat> freshFormat;
+    std::optional<DriveScan> cached;
+
+    QFuture<DriveScan> scanDrive(const QString &root, ScanProgressCallback progress) override
+    {
+        const std::optional<VolumeFormat> format = freshFormat;
+        return inner.scanDrive(root, std::move(progress)).then([format](DriveScan scan) {
+            if (format)
+                scan.format = *format;
+            return scan;
+        });
+    }
+    QFuture<std::optional<DriveScan>> cachedScan(const QString &) override
+    {
+        return QtFuture::makeReadyFuture(cached);
+    }
+    QFuture<void> storeScanInCache(const DriveScan &, const QString &) override
+    {
+        return QtFuture::makeReadyFuture();
+    }
+    QFuture<std::vector<TeslaEvent>> probeAll(const std::vector<TeslaEvent> &events) override
+    {
+        return inner.probeAll(events);
+    }
+    void saveBookmark(const QString &url, BookmarkKey key) override { inner.saveBookmark(url, key); }
+    BookmarkResult resolveBookmark(BookmarkKey key) override { return inner.resolveBookmark(key); }
+    std::vector<VolumeCandidate> mountedTeslaCamVolumes() override { return inner.mountedTeslaCamVolumes(); }
+    std::shared_ptr<DriveEventStream> driveEvents() override { return inner.driveEvents(); }
+    ArchivePlan planArchive(const std::vector<TeslaEvent> &events, const VaultIndex &vault) override
+    {
+        return inner.planArchive(events, vault);
+    }
+    QFuture<ArchiveReport> runArchive(const ArchivePlan &plan, const QString &vaultURL,
+                                      ArchiveProgressCallback progress, std::stop_token stop) override
+    {
+        return inner.runArchive(plan, vaultURL, std::move(progress), stop);
+    }
+    VaultIndex loadVaultIndex(const QString &vaultURL) override { return inner.loadVaultIndex(vaultURL); }
+    bool removeFromVault(const QString &eventID, const QString &vaultURL) override
+    {
+        return inner.removeFromVault(eventID, vaultURL);
+    }
+    QFuture<std::vector<TeslaEvent>> scanVault(const QString &url) override { return inner.scanVault(url); }
+    TriageState triageState(const QString &eventID) override { return inner.triageState(eventID); }
+    void setTriageState(TriageState state, const QString &eventID) override { inner.setTriageState(state, eventID); }
+    QFuture<TriageStates> loadAllTriageStates() override { return inner.loadAllTriageStates(); }
+    QFuture<void> exportFootage(Camera camera, const TeslaEvent &event, std::optional<SecondsRange> range,
+                                const QString &to, FractionCallback progress) override
+    {
+        return inner.exportFootage(camera, event, range, to, std::move(progress));
+    }
+};
+
+// As the parser reads a file-system type; "unknown" is no type at all.
+VolumeFormat formatOf(const QString &type)
+{
+    if (type == QLatin1String("unknown"))
+        return VolumeFormat(VolumeFormat::unknown);
+    return TeslaCamParser::volumeFormat(type);
+}
+
+QString driveWithOneEvent(const QTemporaryDir &tmp, const QString &name, const QString &clipSource = QString())
+{
+    TeslaCamFixture drive(tmp.filePath(name + QStringLiteral("/TeslaCam")));
+    const QString folder = drive.addEvent(
+        QStringLiteral("SentryClips"), QStringLiteral("2024-06-01_10-00-00"),
+        TeslaCamFixture::eventJson(QStringLiteral("2024-06-01T10:00:00"), QStringLiteral("user_interaction_honk")));
+    drive.addClip(folder, QStringLiteral("2024-06-01_09-59-00"), QStringLiteral("front"), 64 * 1024, clipSource);
+    return drive.root();
+}
+
+bool settled(AppState &state)
+{
+    return QTest::qWaitFor([&] { return !state.isScanning() && !state.isRevalidatingScan(); }, 15000);
+}
+
+DriveScan scanWith(const std::vector<TeslaEvent> &events, const VolumeFormat &format, bool encrypted = false)
+{
+    DriveScan s;
+    s.events = events;
+    s.format = format;
+    s.encryptedClipsPresent = encrypted;
+    return s;
+}
+
+} // namespace
+
+class AppStateRulesTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { QSettings(QStringLiteral("Keelhold"), QStringLiteral("Keelhold")).clear(); }
+
+    // A fresh scan's own format, with events: the failure it leaves.
+    void formatOfAFreshScan_data()
+    {
+        QTest::addColumn<QString>("format");
+        QTest::addColumn<bool>("unreadable");
+        QTest::newRow("exFAT") << QStringLiteral("exfat") << false;
+        QTest::newRow("FAT32") << QStringLiteral("fat32") << false;
+        QTest::newRow("APFS") << QStringLiteral("apfs") << false;
+        QTest::newRow("ext4, the computer's own") << QStringLiteral("ext4") << false;
+        QTest::newRow("btrfs, the computer's own") << QStringLiteral("btrfs") << false;
+        QTest::newRow("tmpfs, a sandbox's own") << QStringLiteral("tmpfs") << false;
+        QTest::newRow("NTFS") << QStringLiteral("ntfs") << true;
+        QTest::newRow("HFS+") << QStringLiteral("hfsplus") << true;
+        QTest::newRow("unknown") << QStringLiteral("unknown") << true;
+    }
+
+    void formatOfAFreshScan()
+    {
+        QFETCH(QString, format);
+        QFETCH(bool, unreadable);
+        QTemporaryDir tmp;
+        FormatEngine engine;
+        engine.freshFormat = formatOf(format);
+        AppState state(engine);
+        state.beginScan(driveWithOneEvent(tmp, QStringLiteral("D")));
+        QVERIFY(settled(state));
+        QCOMPARE(state.driveScan()->events.size(), size_t(1));
+        if (unreadable)
+            QCOMPARE(state.currentFailure(), DriveFailure::unreadableFormat(*engine.freshFormat));
+        else
+            QVERIFY(!state.currentFailure());
+        // Health follows the scan on every path.
+        QTRY_VERIFY(state.healthReport());
+    }
+
+    // A cached scan says unreadable; the fresh scan behind it clears that only
+    // when it is in a car's format.
+    void unreadableFromTheCacheClearedOnlyByACarFormat_data()
+    {
+        QTest::addColumn<QString>("fresh");
+        QTest::addColumn<bool>("cleared");
+        QTest::newRow("exFAT clears") << QStringLiteral("exfat") << true;
+        QTest::newRow("FAT32 clears") << QStringLiteral("fat32") << true;
+        QTest::newRow("APFS keeps it") << QStringLiteral("apfs") << false;
+        QTest::newRow("ext4 keeps it") << QStringLiteral("ext4") << false;
+        QTest::newRow("NTFS sets its own") << QStringLiteral("ntfs") << false;
+    }
+
+    void unreadableFromTheCacheClearedOnlyByACarFormat()
+    {
+        QFETCH(QString, fresh);
+        QFETCH(bool, cleared);
+        QTemporaryDir tmp;
+        FormatEngine engine;
+        const QString root = driveWithOneEvent(tmp, QStringLiteral("D"));
+        const VolumeFormat ntfs = formatOf(QStringLiteral("ntfs"));
+        engine.cached = scanWith({}, ntfs);
+        engine.freshFormat = formatOf(fresh);
+        AppState state(engine);
+        QSignalSpy failures(&state, &AppState::currentFailureChanged);
+        state.beginScan(root);
+        QVERIFY(settled(state));
+        // The cached answer set it on the way.
+        QVERIFY(failures.count() >= 1);
+        if (cleared) {
+            QVERIFY(!state.currentFailure());
+        } else {
+            QVERIFY(state.currentFailure());
+            QCOMPARE(state.currentFailure()->kind(), DriveFailure::UnreadableFormat);
+        }
+        if (fresh == QLatin1String("ntfs"))
+            QCOMPARE(state.currentFailure(), DriveFailure::unreadableFormat(ntfs));
+    }
+
+    void emptinessAndEncryptionAfterAReadableFormat()
+    {
+        QTemporaryDir tmp;
+        FormatEngine engine;
+        AppState state(engine);
+
+        // The format wins over emptiness.
+        TeslaCamFixture empty(tmp.filePath(QStringLiteral("E/TeslaCam")));
+        TeslaCamFixture::makeDir(empty.path(QStringLiteral("EncryptedClips")));
+        engine.freshFormat = formatOf(QStringLiteral("ntfs"));
+        state.beginScan(empty.root());
+        QVERIFY(settled(state));
+        QCOMPARE(state.currentFailure()->kind(), DriveFailure::UnreadableFormat);
+        engine.freshFormat = VolumeFormat(VolumeFormat::exFAT);
+        state.beginScan(empty.root());
+        QVERIFY(settled(state));
+        QCOMPARE(state.currentFailure(), DriveFailure::encryptedClipsOnly());
+
+        // A cached empty scan shows emptyDrive; a revalidation with events clears it.
+        engine.cached = scanWith({}, VolumeFormat(VolumeFormat::exFAT));
+        QSignalSpy failures(&state, &AppState::currentFailureChanged);
+        state.beginScan(driveWithOneEvent(tmp, QStringLiteral("F")));
+        QVERIFY(settled(state));
+        QVERIFY(!state.currentFailure());
+        // Cleared at the start, emptyDrive from the cache, cleared by the fresh scan.
+        QCOMPARE(failures.count(), 3);
+
+        // Events in a readable format leave other failures alone: a stale
+        // bookmark written while the scan ran stays.
+        engine.cached.reset();
+        state.beginScan(driveWithOneEvent(tmp, QStringLiteral("G")));
+        state.resolveVaultBookmark(); // nothing stored: no failure
+        state.keep({});              // no Vault folder: the failure asks for one
+        QCOMPARE(state.currentFailure(), DriveFailure::staleBookmark(BookmarkKey::vaultFolder));
+        QVERIFY(settled(state));
+        QCOMPARE(state.currentFailure(), DriveFailure::staleBookmark(BookmarkKey::vaultFolder));
+    }
+
+    void failedRootLeavesItsOwnLastNameAsTheVolumeName()
+    {
+        // The root is the TeslaCam folder, so the name shown is as a rule
+        // "TeslaCam": what the picker gives, kept as it is.
+        QTemporaryDir tmp;
+        LiveEngine engine;
+        AppState state(engine);
+        QDir().mkpath(tmp.filePath(QStringLiteral("STICK")));
+        state.beginScan(tmp.filePath(QStringLiteral("STICK/TeslaCam")));
+        QVERIFY(settled(state));
+        QCOMPARE(state.currentFailure(), DriveFailure::noTeslaCamFolder(QStringLiteral("TeslaCam")));
+        // A root given as some other folder carries that folder's name, and a
+        // trailing slash does not make it empty.
+        state.beginScan(tmp.filePath(QStringLiteral("STICK/Footage/")));
+        QVERIFY(settled(state));
+        QCOMPARE(state.currentFailure(), DriveFailure::noTeslaCamFolder(QStringLiteral("Footage")));
+        QCOMPARE(state.currentFailure()->volumeNameForQml(), QStringLiteral("Footage"));
+    }
+
+    void playerPausedBeforeKeepAndBeforeVaultRemoval()
+    {
+        if (!TestClips::ffmpegAvailable())
+            QSKIP("Needs the ffmpeg tool to make real clips.");
+        TestClips::ClipOptions options;
+        options.seconds = 4;
+        const QString clip = TestClips::clip(options);
+        QTemporaryDir tmp;
+        LiveEngine engine;
+        AppState state(engine);
+        state.beginScan(driveWithOneEvent(tmp, QStringLiteral("D"), clip));
+        QVERIFY(settled(state));
+        const TeslaEvent event = state.driveScan()->events.front();
+
+        SyncPlayerController player(event);
+        state.setActivePlayerController(&player);
+        QCOMPARE(state.activePlayerController(), &player);
+        QTRY_VERIFY_WITH_TIMEOUT(player.isPlaying(), 10000);
+
+        // No Vault yet: still paused, and the failure asks for a folder.
+        state.keep({event});
+        QVERIFY(!player.isPlaying());
+        QCOMPARE(state.currentFailure(), DriveFailure::staleBookmark(BookmarkKey::vaultFolder));
+
+        const QString vault = tmp.filePath(QStringLiteral("vault"));
+        QDir().mkpath(vault);
+        state.setVaultURL(vault);
+        player.play();
+        QVERIFY(player.isPlaying());
+        state.keep({event});
+        QVERIFY(!player.isPlaying()); // before the copy starts reading
+        QVERIFY(state.isArchiving());
+        QTRY_VERIFY_WITH_TIMEOUT(state.showArchiveReport(), 20000);
+        QTRY_COMPARE(state.vaultEvents().size(), size_t(1));
+
+        player.play();
+        QVERIFY(player.isPlaying());
+        state.setSelectedVaultEventID(event.id());
+        // Handed an element of the state's own Vault list, as the screens do.
+        state.removeFromVault(state.vaultEvents().front());
+        QVERIFY(state.vaultEvents().empty());
+        QVERIFY(!player.isPlaying());
+        QVERIFY(!state.selectedVaultEventID());
+        QCOMPARE(state.triageState(event), TriageState::reviewed);
+
+        // A player that has gone is simply not there.
+        state.setActivePlayerController(nullptr);
+        state.keep({event});
+        QTRY_VERIFY_WITH_TIMEOUT(!state.isArchiving(), 20000);
+    }
+
+    void removalWithoutVaultOrOfAnUnknownEventChangesNothing()
+    {
+        QTemporaryDir tmp;
+        LiveEngine engine;
+        AppState state(engine);
+        TeslaEvent ghost;
+        ghost.kind = EventKind::saved;
+        ghost.folderName = QStringLiteral("2024-01-01_00-00-00");
+        state.setSelectedVaultEventID(ghost.id());
+        state.removeFromVault(ghost); // no Vault: not even the selection moves
+        QCOMPARE(state.selectedVaultEventID(), std::optional<QString>(ghost.id()));
+        state.setTriage(TriageState::dismissed, ghost);
+        const QString vault = tmp.filePath(QStringLiteral("vault"));
+        QDir().mkpath(vault);
+        state.setVaultURL(vault);
+        state.removeFromVault(ghost);
+        QVERIFY(!state.selectedVaultEventID());
+        QCOMPARE(state.triageState(ghost), TriageState::dismissed);
+    }
+
+    void rootGivenAsTheVolumeNeverResumesByItself()
+    {
+        MockEngine engine;
+        AppState state(engine);
+        state.rootViewAppeared();
+        auto stream = engine.driveEvents();
+        const VolumeCandidate stick{QStringLiteral("/media/u/STICK"), QStringLiteral("STICK"), true, {}, {}};
+        state.beginScan(stick.volumeURL); // the volume itself, not its TeslaCam folder
+        QVERIFY(settled(state));
+        stream->send(DriveEvent::makeUnmounted(stick.volumeURL));
+        QTRY_COMPARE(state.currentFailure(), DriveFailure::driveDisconnected());
+        const int epoch = state.resourceAccessEpoch();
+        stream->send(DriveEvent::makeMounted(stick));
+        QTRY_COMPARE(state.driveVolumeCandidates().back().volumeURL, stick.volumeURL);
+        // The parent of the root is /media/u, not the volume: no resume.
+        QCOMPARE(state.currentFailure(), DriveFailure::driveDisconnected());
+        QVERIFY(!state.driveIsConnected());
+        QCOMPARE(state.resourceAccessEpoch(), epoch); // unmounting raised nothing either
+    }
+
+    void wizardUpListsVolumesButTouchesNoBookmark()
+    {
+        QTemporaryDir tmp;
+        const QString root = driveWithOneEvent(tmp, QStringLiteral("SAVED"));
+        LiveEngine engine;
+        engine.saveBookmark(root, BookmarkKey::teslaDrive);
+        engine.saveBookmark(tmp.path(), BookmarkKey::vaultFolder);
+        AppState state(engine);
+        QVERIFY(state.showOnboarding());
+        state.rootViewAppeared();
+        QVERIFY(!state.driveRootURL());
+        QVERIFY(!state.vaultURL());
+        QVERIFY(!state.isScanning());
+        // Candidates are what the engine lists now.
+        QCOMPARE(state.driveVolumeCandidates().size(), engine.mountedTeslaCamVolumes().size());
+
+        // Leaving sample mode goes back to the saved drive.
+        state.loadSampleFootage();
+        QVERIFY(settled(state));
+        state.exitSampleMode();
+        QCOMPARE(state.driveRootURL().value_or(QString()), root);
+        QVERIFY(!state.isSampleMode());
+        QVERIFY(settled(state));
+        QCOMPARE(state.driveScan()->events.size(), size_t(1));
+    }
+
+    void filtersCombineAndVaultAccessRaisesTheEpoch()
+    {
+        MockEngine engine;
+        AppState state(engine);
+        state.beginScan(MockEngine::fixtureURL() + QStringLiteral("/TeslaCam"));
+        QVERIFY(settled(state));
+        const std::vector<TeslaEvent> all = state.visibleInboxEvents();
+        const ReasonCategory reason = all.front().reason.category;
+        state.setFilterReason(reason);
+        const std::vector<TeslaEvent> byReason = state.visibleInboxEvents();
+        QVERIFY(!byReason.empty() && byReason.size() < all.size());
+        for (const TeslaEvent &e : byReason)
+            QCOMPARE(e.reason.category, reason);
+        // The order is the scan's, not re-sorted.
+        std::vector<TeslaEvent> expected;
+        for (const TeslaEvent &e : all)
+            if (e.reason.category == reason)
+                expected.push_back(e);
+        QCOMPARE(byReason.size(), expected.size());
+        for (size_t i = 0; i < expected.size(); ++i)
+            QCOMPARE(byReason[i].id(), expected[i].id());
+        // Reason and kind together: both must hold.
+        const EventKind otherKind = byReason.front().kind == EventKind::sentry ? EventKind::saved : EventKind::sentry;
+        state.setFilterKind(otherKind);
+        for (const TeslaEvent &e : state.visibleInboxEvents())
+            QVERIFY(e.kind == otherKind && e.reason.category == reason);
+        state.setFilterKind(std::nullopt);
+        state.setFilterReason(std::nullopt);
+        QCOMPARE(state.visibleInboxEvents().size(), all.size());
+
+        // The Vault slot raises the epoch on every call, the same folder too.
+        QTemporaryDir tmp;
+        const int epoch = state.resourceAccessEpoch();
+        state.setVaultURL(tmp.path());
+        state.setVaultURL(tmp.path());
+        QCOMPARE(state.resourceAccessEpoch(), epoch + 2);
+        QCOMPARE(state.vaultURL().value_or(QString()), tmp.path());
+    }
+
+    void fieldsSignalOnlyOnARealChange()
+    {
+        MockEngine engine;
+        AppState state(engine);
+        QSignalSpy section(&state, &AppState::selectedSectionChanged);
+        QSignalSpy filter(&state, &AppState::filterStateChanged);
+        QSignalSpy visible(&state, &AppState::visibleInboxEventsChanged);
+        QSignalSpy guide(&state, &AppState::showEncryptionGuideChanged);
+        QSignalSpy bulk(&state, &AppState::selectedEventIDsForBulkChanged);
+        QSignalSpy triage(&state, &AppState::triageStatesChanged);
+
+        state.setSelectedSection(SidebarSection::drive); // already
+        state.setProperty("selectedSection", int(SidebarSection::health));
+        state.setProperty("selectedSection", int(SidebarSection::health));
+        QCOMPARE(section.count(), 1);
+        QCOMPARE(state.selectedSection(), SidebarSection::health);
+
+        state.setFilterState(TriageState::kept);
+        state.setFilterState(TriageState::kept);
+        state.setFilterStateForQml(QStringLiteral("kept"));
+        QCOMPARE(filter.count(), 1);
+        QCOMPARE(visible.count(), 1);
+        state.setFilterStateForQml(QString()); // "" is no filter
+        QCOMPARE(filter.count(), 2);
+        QVERIFY(!state.filterState());
+
+        state.setShowEncryptionGuide(false);
+        QCOMPARE(guide.count(), 0);
+        state.toggleBulkSelection(QStringLiteral("a"));
+        state.setSelectedEventIDsForBulkForQml({QStringLiteral("a")});
+        QCOMPARE(bulk.count(), 1);
+
+        TeslaEvent e;
+        e.kind = EventKind::saved;
+        e.folderName = QStringLiteral("2024-01-01_00-00-00");
+        state.setTriage(TriageState::reviewed, e);
+        state.setTriage(TriageState::reviewed, e);
+        QCOMPARE(triage.count(), 1);
+        QCOMPARE(state.triageStateFor(e.id()), QStringLiteral("reviewed"));
+        // An unknown state from a screen changes nothing.
+        state.setTriage(QStringLiteral("archived"), e.id());
+        QCOMPARE(triage.count(), 1);
+    }
+
+    void scanCacheKeyNamesThePhysicalDrive()
+    {
+        // Two roots on the same volume share one cached answer; the key is
+        // "<name>|<capacity>", so a drive mounted elsewhere finds it too.
+        QTemporaryDir tmp;
+        LiveEngine engine;
+        AppState state(engine);
+        const QString a = driveWithOneEvent(tmp, QStringLiteral("A"));
+        state.beginScan(a);
+        QVERIFY(settled(state));
+        const QString b = driveWithOneEvent(tmp, QStringLiteral("B"));
+        QSignalSpy revalidating(&state, &AppState::isRevalidatingScanChanged);
+        state.beginScan(b);
+        QVERIFY(settled(state));
+        // The first answer came from the cache of A, on the same volume.
+        QVERIFY(revalidating.count() >= 2);
+    }
+};
+
+int main(int argc, char **argv)
+{
+    IsolatedHome::setUp();
+    QGuiApplication app(argc, argv);
+    AppStateRulesTest tc;
+    QTEST_SET_MAIN_SOURCE_PATH
+    return QTest::qExec(&tc, argc, argv);
+}
+
+#include "tst_appstaterules.moc"

@@ -1,0 +1,578 @@
+#include "KeelholdApp.h"
+#include "support/IsolatedHome.h"
+#include "support/TeslaCamFixture.h"
+
+#include <QDir>
+#include <QGuiApplication>
+#include <QProcess>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QSet>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QtTest>
+#include <functional>
+#include <memory>
+#include <unistd.h>
+
+// The real application in this process, on a temporary home: the wizard's
+// sample and picker paths clicked through, the failure screens reached from
+// real drives, the sidebar and the help window.
+//
+// With KEELHOLD_SAVE_SCREENSHOTS=<folder> the screens are also saved there
+// as PNGs (how docs/screenshots is made).
+
+namespace {
+
+class LockedGate final : public LicenceGate {
+public:
+    Status status() const override { return Status::locked; }
+};
+
+QList<QQuickItem *> allItems(QQuickWindow *window)
+{
+    QList<QQuickItem *> out;
+    QSet<QObject *> seen;
+    std::function<void(QObject *)> walk = [&](QObject *o) {
+        if (!o || seen.contains(o))
+            return;
+        seen.insert(o);
+        if (auto *item = qobject_cast<QQuickItem *>(o)) {
+            out << item;
+            for (QQuickItem *c : item->childItems())
+                walk(c);
+        }
+        for (QObject *c : o->children())
+            walk(c);
+    };
+    walk(window->contentItem());
+    walk(window);
+    return out;
+}
+
+QQuickItem *visibleItem(QQuickWindow *window, const QString &name)
+{
+    for (QQuickItem *item : allItems(window))
+        if (item->objectName() == name && item->isVisible() && item->width() > 0)
+            return item;
+    return nullptr;
+}
+
+// Every text now on screen.
+QStringList shownTexts(QQuickWindow *window)
+{
+    QStringList out;
+    for (QQuickItem *item : allItems(window)) {
+        if (!item->isVisible() || item->opacity() == 0)
+            continue;
+        const char *cls = item->metaObject()->className();
+        if (qstrcmp(cls, "QQuickText") != 0 && !item->inherits("QQuickText"))
+            continue;
+        const QString t = item->property("text").toString();
+        if (!t.isEmpty())
+            out << t;
+    }
+    return out;
+}
+
+// Shown or not (menu items live in closed popups).
+QQuickItem *anyItem(QQuickWindow *window, const QString &name)
+{
+    for (QQuickItem *item : allItems(window))
+        if (item->objectName() == name)
+            return item;
+    return nullptr;
+}
+
+bool click(QQuickWindow *window, const QString &name)
+{
+    QQuickItem *item = visibleItem(window, name);
+    if (!item)
+        return false;
+    const QPoint at = item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
+    QTest::mouseClick(window, Qt::LeftButton, Qt::NoModifier, at);
+    return true;
+}
+
+void setOnboardingDone(bool done)
+{
+    QSettings(QStringLiteral("Keelhold"), QStringLiteral("Keelhold")).setValue(AppState::onboardingKey, done);
+}
+
+void shoot(QQuickWindow *window, const QString &name)
+{
+    const QString dir = qEnvironmentVariable("KEELHOLD_SAVE_SCREENSHOTS");
+    if (dir.isEmpty() || !window)
+        return;
+    QTest::qWait(400); // let the scene settle before the grab
+    QDir().mkpath(dir);
+    window->grabWindow().save(dir + QLatin1Char('/') + name + QStringLiteral(".png"));
+}
+
+bool run(const QString &program, const QStringList &args, QString *out = nullptr)
+{
+    QProcess p;
+    p.start(program, args);
+    if (!p.waitForFinished(30000) || p.exitStatus() != QProcess::NormalExit || p.exitCode() != 0)
+        return false;
+    if (out)
+        *out = QString::fromLocal8Bit(p.readAllStandardOutput()).trimmed();
+    return true;
+}
+
+// A real volume mounted under /media for the length of a test (needs root).
+// "exfat" is a loop image through FUSE, as a car's drive mounts here;
+// "tmpfs" and "ramfs" are kernel file systems.
+class MountedVolume {
+public:
+    MountedVolume(const QString &type, const QString &name) : mountPoint_(QStringLiteral("/media/") + name)
+    {
+        if (geteuid() != 0 || QFileInfo::exists(mountPoint_) || !QDir().mkpath(mountPoint_))
+            return;
+        if (type == QLatin1String("exfat")) {
+            image_ = QDir::temp().filePath(name + QStringLiteral(".img"));
+            QFile f(image_);
+            if (!f.open(QIODevice::WriteOnly) || !f.resize(64 * 1024 * 1024))
+                return;
+            f.close();
+            if (!run(QStringLiteral("mkfs.exfat"), {QStringLiteral("-L"), name.left(11), image_})
+                || !run(QStringLiteral("losetup"), {QStringLiteral("-f"), QStringLiteral("--show"), image_}, &loop_)
+                || !run(QStringLiteral("mount.exfat-fuse"), {loop_, mountPoint_}))
+                return;
+        } else if (!run(QStringLiteral("mount"), {QStringLiteral("-t"), type, type, mountPoint_})) {
+            return;
+        }
+        mounted_ = true;
+    }
+    ~MountedVolume() { unmount(); QDir().rmdir(mountPoint_); }
+    bool ok() const { return mounted_; }
+    const QString &path() const { return mountPoint_; }
+    void unmount()
+    {
+        if (mounted_)
+            run(QStringLiteral("umount"), {QStringLiteral("-l"), mountPoint_}); // as a drive pulled out: open files or not
+        mounted_ = false;
+        if (!loop_.isEmpty())
+            run(QStringLiteral("losetup"), {QStringLiteral("-d"), loop_});
+        loop_.clear();
+        if (!image_.isEmpty())
+            QFile::remove(image_);
+        image_.clear();
+    }
+
+private:
+    QString mountPoint_;
+    QString image_;
+    QString loop_;
+    bool mounted_ = false;
+};
+
+// A drive with one Sentry event of one sparse clip under `root`.
+void addOneEvent(const QString &teslaCamRoot)
+{
+    TeslaCamFixture drive(teslaCamRoot);
+    const QString folder = drive.addEvent(
+        QStringLiteral("SentryClips"), QStringLiteral("2024-06-01_10-00-00"),
+        TeslaCamFixture::eventJson(QStringLiteral("2024-06-01T10:00:00"), QStringLiteral("sentry_aware_object_detection")));
+    drive.addClip(folder, QStringLiteral("2024-06-01_09-59-00"), QStringLiteral("front"), 64 * 1024);
+}
+
+QString tag() { return QString::number(QCoreApplication::applicationPid()); }
+
+} // namespace
+
+class ShellFlowTest : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<KeelholdApp> app;
+    QQuickWindow *window = nullptr;
+
+    void start()
+    {
+        app = std::make_unique<KeelholdApp>();
+        QVERIFY(app->load());
+        window = app->mainWindow();
+        QVERIFY(window);
+        window->resize(1100, 720);
+        QVERIFY(QTest::qWaitForWindowExposed(window));
+    }
+
+    bool showing(const QString &text) { return shownTexts(window).contains(text); }
+    bool showingPrefix(const QString &prefix)
+    {
+        for (const QString &t : shownTexts(window))
+            if (t.startsWith(prefix))
+                return true;
+        return false;
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        if (qEnvironmentVariableIsEmpty("DISPLAY"))
+            QSKIP("needs a display (run the suite under xvfb-run)");
+        QSettings(QStringLiteral("Keelhold"), QStringLiteral("Keelhold")).clear();
+        qunsetenv(DrivePicker::answerEnv);
+    }
+
+    void cleanup()
+    {
+        window = nullptr;
+        app.reset();
+        qunsetenv(DrivePicker::answerEnv);
+        QSettings(QStringLiteral("Keelhold"), QStringLiteral("Keelhold")).clear();
+    }
+
+    void shellHasItsSectionsAndLeastSize()
+    {
+        setOnboardingDone(true);
+        start();
+        QCOMPARE(window->minimumSize(), QSize(900, 600));
+        QVERIFY(!visibleItem(window, QStringLiteral("wizardView")));
+        for (const QString &label : {QStringLiteral("Keelhold"), QStringLiteral("Drive"), QStringLiteral("Vault"),
+                                     QStringLiteral("Map"), QStringLiteral("Drive Health")})
+            QVERIFY2(showing(label), qPrintable(label));
+        QQuickItem *sidebar = visibleItem(window, QStringLiteral("sidebar"));
+        QVERIFY(sidebar);
+        QVERIFY(sidebar->width() >= 140 && sidebar->width() <= 200);
+
+        QVERIFY(click(window, QStringLiteral("section_Drive Health")));
+        QCOMPARE(app->appState().selectedSection(), SidebarSection::health);
+        QTRY_VERIFY(showing(QStringLiteral("No drive health yet")));
+        shoot(window, QStringLiteral("health-no-report"));
+
+        // The two menu items and what they do.
+        QQuickItem *helpItem = anyItem(window, QStringLiteral("menuHelp"));
+        QQuickItem *sampleItem = anyItem(window, QStringLiteral("menuSample"));
+        QVERIFY(helpItem && sampleItem);
+        QCOMPARE(helpItem->property("text").toString(), QStringLiteral("Keelhold Help"));
+        QCOMPARE(sampleItem->property("text").toString(), QStringLiteral("Explore Sample Footage"));
+        QVERIFY(QMetaObject::invokeMethod(helpItem, "triggered"));
+        QTRY_VERIFY(app->help().window() && app->help().window()->isVisible());
+        app->help().window()->close();
+        QVERIFY(QMetaObject::invokeMethod(sampleItem, "triggered"));
+        QVERIFY(app->appState().isSampleMode());
+        QCOMPARE(app->appState().selectedSection(), SidebarSection::drive);
+        QTRY_VERIFY_WITH_TIMEOUT(!app->appState().isScanning(), 20000);
+        app->appState().exitSampleMode();
+
+        // Focus mode takes the sidebar away and gives it back.
+        app->appState().toggleFocusMode();
+        QTRY_VERIFY(!visibleItem(window, QStringLiteral("sidebar")));
+        app->appState().exitFocusMode(true);
+        QTRY_VERIFY(visibleItem(window, QStringLiteral("sidebar")));
+    }
+
+    void wizardSamplePath()
+    {
+        start();
+        QTRY_VERIFY(visibleItem(window, QStringLiteral("wizardView")));
+        QVERIFY(showing(QStringLiteral("Welcome to Keelhold")));
+        QVERIFY(showingPrefix(QStringLiteral("Your Tesla is always recording — Sentry Mode, saved clips")));
+        QVERIFY(showing(QStringLiteral("Get Started")));
+        QVERIFY(showing(QStringLiteral("Just exploring? Try sample footage")));
+        shoot(window, QStringLiteral("wizard-intro"));
+
+        QVERIFY(click(window, QStringLiteral("trySample")));
+        QTRY_VERIFY(!app->appState().showOnboarding());
+        QVERIFY(app->appState().isSampleMode());
+        QVERIFY(!app->appState().hasCompletedOnboarding());
+        QVERIFY(!QSettings(QStringLiteral("Keelhold"), QStringLiteral("Keelhold")).value(AppState::onboardingKey).toBool());
+        QTRY_VERIFY(!visibleItem(window, QStringLiteral("wizardView")));
+        QTRY_VERIFY(showing(QStringLiteral("You're exploring sample footage · Connect your Tesla drive anytime")));
+        QVERIFY(showing(QStringLiteral("Eject Sample")));
+
+        // The health screen of the sample, once its clips are probed.
+        QTRY_VERIFY_WITH_TIMEOUT(app->appState().healthReport() && app->appState().healthReport()->probedClipCount > 0,
+                                 60000);
+        QVERIFY(click(window, QStringLiteral("section_Drive Health")));
+        QTRY_VERIFY(showing(QStringLiteral("Free Space")));
+        QVERIFY(showing(QStringLiteral("Footage Condition")));
+        QVERIFY(showing(QStringLiteral("Recommendations")));
+        QVERIFY(showing(QStringLiteral("2 of ") + QString::number(app->appState().healthReport()->probedClipCount)
+                        + QStringLiteral(" checked clips didn't record properly.")));
+        shoot(window, QStringLiteral("health-sample"));
+    }
+
+    void wizardPickerPath_data()
+    {
+        QTest::addColumn<QString>("answer");
+        // Later rows scan the same volume, whose cached scan may finish the
+        // wizard before the scanning step has been looked at.
+        QTest::addColumn<bool>("firstScan");
+        QTest::newRow("the volume itself") << QStringLiteral("USBSTICK") << true;
+        QTest::newRow("its TeslaCam folder") << QStringLiteral("USBSTICK/TeslaCam") << false;
+        QTest::newRow("as a file URL") << QStringLiteral("file://%1/USBSTICK") << false;
+    }
+
+    void wizardPickerPath()
+    {
+        QFETCH(QString, answer);
+        QFETCH(bool, firstScan);
+        QTemporaryDir tmp;
+        addOneEvent(tmp.filePath(QStringLiteral("USBSTICK/TeslaCam")));
+        const QString root = tmp.filePath(QStringLiteral("USBSTICK/TeslaCam"));
+        const QString chosen = answer.contains(QLatin1String("%1")) ? answer.arg(tmp.path()) : tmp.filePath(answer);
+        start();
+        QTRY_VERIFY(visibleItem(window, QStringLiteral("getStarted")));
+
+        QVERIFY(click(window, QStringLiteral("getStarted")));
+        QTRY_VERIFY(showing(QStringLiteral("Show Me Your Tesla Drive")));
+        QVERIFY(showing(QStringLiteral("Plug in the USB drive from your car's glovebox, then pick it below. We only "
+                                       "look at the parts of the drive you choose to show us.")));
+        QVERIFY(showing(QStringLiteral("Choose a Drive or Folder Manually…")));
+        QVERIFY(showing(QStringLiteral("Back")));
+
+        // Back and forth.
+        QVERIFY(click(window, QStringLiteral("back")));
+        QTRY_VERIFY(showing(QStringLiteral("Welcome to Keelhold")));
+        QVERIFY(click(window, QStringLiteral("getStarted")));
+        QTRY_VERIFY(visibleItem(window, QStringLiteral("chooseManually")));
+
+        // A cancelled panel does nothing.
+        qputenv(DrivePicker::answerEnv, "-");
+        QVERIFY(click(window, QStringLiteral("chooseManually")));
+        QVERIFY(!app->appState().driveRootURL());
+        QVERIFY(showing(QStringLiteral("Show Me Your Tesla Drive")));
+
+        qputenv(DrivePicker::answerEnv, chosen.toLocal8Bit());
+        QVERIFY(click(window, QStringLiteral("chooseManually")));
+        // The scanning step stands at once, before the scan has answered.
+        if (firstScan) {
+            QVERIFY(showing(QStringLiteral("Reading your drive…")));
+            QVERIFY(showing(QStringLiteral("Getting started…")));
+            QVERIFY(showing(QStringLiteral("Found 0 events so far, across 0 clips.")));
+            QVERIFY(showing(QStringLiteral("This usually takes a few seconds.")));
+            QVERIFY(showing(QStringLiteral("Browse While It Finishes")));
+        }
+        QCOMPARE(app->appState().driveRootURL().value_or(QString()), root);
+
+        // The scan's end finishes the wizard by itself.
+        QTRY_VERIFY_WITH_TIMEOUT(!app->appState().showOnboarding(), 10000);
+        QVERIFY(app->appState().hasCompletedOnboarding());
+        QVERIFY(!app->appState().isSampleMode());
+        QCOMPARE(app->appState().driveScan()->events.size(), size_t(1));
+        QVERIFY(!app->appState().currentFailure());
+        // The bookmark is the root, so the next start finds the drive.
+        const BookmarkResult saved = app->appState().engine().resolveBookmark(BookmarkKey::teslaDrive);
+        QVERIFY(std::holds_alternative<QString>(saved));
+        QCOMPARE(std::get<QString>(saved), root);
+    }
+
+    void lockedGateKeepsThePanelShutButNotTheSample()
+    {
+        QTemporaryDir tmp;
+        addOneEvent(tmp.filePath(QStringLiteral("USBSTICK/TeslaCam")));
+        qputenv(DrivePicker::answerEnv, tmp.filePath(QStringLiteral("USBSTICK")).toLocal8Bit());
+        start();
+        LockedGate locked;
+        app->drivePicker().setLicenceGate(&locked);
+        QTRY_VERIFY(visibleItem(window, QStringLiteral("getStarted")));
+        QVERIFY(click(window, QStringLiteral("getStarted")));
+        QTRY_VERIFY(visibleItem(window, QStringLiteral("chooseManually")));
+        QVERIFY(click(window, QStringLiteral("chooseManually")));
+        QTRY_VERIFY(showing(QStringLiteral("A Keelhold licence is needed")));
+        QVERIFY(!app->appState().driveRootURL());
+        QVERIFY(app->appState().showOnboarding());
+        QVERIFY(!std::holds_alternative<QString>(app->appState().engine().resolveBookmark(BookmarkKey::teslaDrive)));
+
+        // The sample still opens, from the wizard's own button.
+        QTest::keyClick(window, Qt::Key_Escape);
+        QTRY_VERIFY(!showing(QStringLiteral("A Keelhold licence is needed")));
+        QVERIFY(click(window, QStringLiteral("back")));
+        QTRY_VERIFY(visibleItem(window, QStringLiteral("trySample")));
+        QVERIFY(click(window, QStringLiteral("trySample")));
+        QTRY_VERIFY(app->appState().isSampleMode());
+        QTRY_VERIFY(!visibleItem(window, QStringLiteral("wizardView")));
+        app->drivePicker().setLicenceGate(nullptr);
+    }
+
+    void pickerFollowsAMountedDrive()
+    {
+        if (geteuid() != 0)
+            QSKIP("mounting a drive needs root");
+        start();
+        QTRY_VERIFY(visibleItem(window, QStringLiteral("getStarted")));
+        QVERIFY(click(window, QStringLiteral("getStarted")));
+        QTRY_VERIFY(visibleItem(window, QStringLiteral("chooseManually")));
+
+        // Plugged in while the picker is up: it appears without a click.
+        const QString name = QStringLiteral("TESLADRIVE");
+        MountedVolume volume(QStringLiteral("exfat"), name);
+        if (!volume.ok())
+            QSKIP("could not mount an exFAT image under /media");
+        addOneEvent(volume.path() + QStringLiteral("/TeslaCam"));
+        const QString heading = QStringLiteral("Is this your Tesla drive? — ") + name;
+        QTRY_VERIFY_WITH_TIMEOUT(showing(heading), 10000);
+        QVERIFY(showingPrefix(QStringLiteral("Connected drives appear here the moment your system mounts them.")));
+        int row = -1;
+        const auto &candidates = app->appState().driveVolumeCandidates();
+        for (size_t i = 0; i < candidates.size(); ++i)
+            if (candidates[i].volumeURL == volume.path())
+                row = int(i);
+        QVERIFY(row >= 0);
+        QVERIFY(candidates[size_t(row)].capacityBytes.has_value());
+        shoot(window, QStringLiteral("wizard-drive-picker"));
+
+        // A click on the row opens the panel at the volume; picking it scans its TeslaCam folder.
+        qputenv(DrivePicker::answerEnv, volume.path().toLocal8Bit());
+        QVERIFY(click(window, QStringLiteral("candidate_") + QString::number(row)));
+        QCOMPARE(app->appState().driveRootURL().value_or(QString()), volume.path() + QStringLiteral("/TeslaCam"));
+        QTRY_VERIFY_WITH_TIMEOUT(!app->appState().showOnboarding(), 10000);
+        QCOMPARE(app->appState().driveScan()->format, VolumeFormat(VolumeFormat::exFAT));
+        QVERIFY(!app->appState().currentFailure());
+
+        // Pulled out: the drive view turns into the disconnected screen.
+        volume.unmount();
+        QTRY_VERIFY_WITH_TIMEOUT(showing(QStringLiteral("Your drive was disconnected")), 10000);
+        QVERIFY(showing(QStringLiteral("No problem — nothing was lost. Whatever was in progress is paused and will pick "
+                                       "back up right where it left off as soon as you plug the drive back in.")));
+        QVERIFY(!app->appState().driveIsConnected());
+        shoot(window, QStringLiteral("failure-drive-disconnected"));
+    }
+
+    void failureScreensFromRealDrives()
+    {
+        QTemporaryDir tmp;
+        setOnboardingDone(true);
+        start();
+        AppState &state = app->appState();
+        auto scanned = [&](const QString &root) {
+            state.beginScan(root);
+            return QTest::qWaitFor([&] { return !state.isScanning() && !state.isRevalidatingScan(); }, 10000);
+        };
+
+        // A folder with no TeslaCam: the root's own name leads the message.
+        QDir().mkpath(tmp.filePath(QStringLiteral("NOTACAR")));
+        QVERIFY(scanned(tmp.filePath(QStringLiteral("NOTACAR/TeslaCam"))));
+        QTRY_VERIFY(showing(QStringLiteral("We couldn't find a TeslaCam folder")));
+        QVERIFY(showingPrefix(QStringLiteral("\"TeslaCam\" doesn't have a TeslaCam folder on it, so it may not be the "
+                                             "drive from your car. Tesla dashcam and Sentry footage always lives")));
+        shoot(window, QStringLiteral("failure-no-teslacam"));
+        QVERIFY(click(window, QStringLiteral("emptyStateAction")));
+        QTRY_VERIFY(state.showOnboarding());
+        state.setShowOnboarding(false);
+
+        TeslaCamFixture empty(tmp.filePath(QStringLiteral("EMPTY/TeslaCam")));
+        QVERIFY(scanned(empty.root()));
+        QTRY_VERIFY(showing(QStringLiteral("This drive doesn't have any footage yet")));
+        QVERIFY(showingPrefix(QStringLiteral("We found a TeslaCam folder, but there's nothing in it yet.")));
+        QVERIFY(!visibleItem(window, QStringLiteral("emptyStateAction")));
+        shoot(window, QStringLiteral("failure-empty-drive"));
+
+        TeslaCamFixture encrypted(tmp.filePath(QStringLiteral("ENC/TeslaCam")));
+        TeslaCamFixture::makeDir(encrypted.path(QStringLiteral("EncryptedClips")));
+        QVERIFY(scanned(encrypted.root()));
+        QTRY_VERIFY(showing(QStringLiteral("Your car is encrypting this footage")));
+        QVERIFY(showingPrefix(QStringLiteral("Newer Tesla software can encrypt dashcam clips so only your Tesla account "
+                                             "can view them.")));
+        shoot(window, QStringLiteral("failure-encrypted-only"));
+        QVERIFY(showing(QStringLiteral("Show Me the 30-Second Fix")));
+        QVERIFY(click(window, QStringLiteral("emptyStateAction")));
+        QTRY_VERIFY(state.showEncryptionGuide());
+        QTRY_VERIFY(showing(QStringLiteral("Recording without encryption")));
+        QVERIFY(showing(QStringLiteral("In your car, tap Controls")));
+        QVERIFY(showing(QStringLiteral("Switch off “Encrypt Dashcam Recordings”")));
+        shoot(window, QStringLiteral("encryption-guide"));
+        state.setShowEncryptionGuide(false);
+
+        // A saved drive that has gone: the stale screen asks for it again.
+        const QString gone = tmp.filePath(QStringLiteral("GONE/TeslaCam"));
+        QDir().mkpath(gone);
+        state.engine().saveBookmark(gone, BookmarkKey::teslaDrive);
+        QDir(tmp.filePath(QStringLiteral("GONE"))).removeRecursively();
+        state.resolveDriveBookmark();
+        QTRY_VERIFY(showing(QStringLiteral("We need you to point us back to your Tesla drive")));
+        QVERIFY(showing(QStringLiteral("Choose Tesla drive")));
+        QVERIFY(showingPrefix(QStringLiteral("Your system asks apps to re-confirm folder access sometimes")));
+        shoot(window, QStringLiteral("failure-stale-drive"));
+        QVERIFY(click(window, QStringLiteral("emptyStateAction")));
+        QTRY_VERIFY(state.showOnboarding());
+        state.setShowOnboarding(false);
+
+        const QString vault = tmp.filePath(QStringLiteral("VAULT"));
+        QDir().mkpath(vault);
+        state.engine().saveBookmark(vault, BookmarkKey::vaultFolder);
+        QDir(vault).removeRecursively();
+        state.resolveVaultBookmark();
+        QTRY_VERIFY(showing(QStringLiteral("We need you to point us back to your Vault folder")));
+        QVERIFY(showing(QStringLiteral("Choose Vault folder")));
+        shoot(window, QStringLiteral("failure-stale-vault"));
+
+        // A drive in a format the car doesn't write and this computer doesn't own.
+        if (geteuid() != 0)
+            QSKIP("mounting a drive needs root");
+        MountedVolume ram(QStringLiteral("ramfs"), QStringLiteral("RAMDRIVE-") + tag());
+        if (!ram.ok())
+            QSKIP("could not mount a ramfs under /media");
+        addOneEvent(ram.path() + QStringLiteral("/TeslaCam"));
+        QVERIFY(scanned(ram.path() + QStringLiteral("/TeslaCam")));
+        QTRY_VERIFY(showing(QStringLiteral("This drive needs to be reformatted")));
+        QVERIFY(showingPrefix(QStringLiteral("Your car needs a drive formatted as exFAT (or FAT32 for smaller drives), "
+                                             "and this one is ramfs. Back up anything important")));
+        QCOMPARE(state.driveScan()->events.size(), size_t(1)); // events don't save it
+        shoot(window, QStringLiteral("failure-unreadable-format"));
+    }
+
+    void helpWindowOpensSwitchesAndReopens()
+    {
+        setOnboardingDone(true);
+        start();
+        HelpWindowController &help = app->help();
+        QCOMPARE(HelpWindowController::shared(), &help);
+        auto articleTitle = [&]() -> QString {
+            auto *w = qobject_cast<QQuickWindow *>(help.window());
+            if (!w)
+                return {};
+            QQuickItem *label = visibleItem(w, QStringLiteral("helpArticleTitle"));
+            return label ? label->property("text").toString() : QString();
+        };
+
+        // The sidebar's help button opens it on the first article.
+        QVERIFY(click(window, QStringLiteral("helpButton")));
+        QTRY_VERIFY(help.window() && help.window()->isVisible());
+        QWindow *first = help.window();
+        QCOMPARE(first->title(), QStringLiteral("Keelhold Help"));
+        QCOMPARE(first->size(), QSize(700, 480));
+        QTRY_COMPARE(articleTitle(), QStringLiteral("What is Sentry Mode?"));
+
+        // With an article while open: switched in place, the same window.
+        help.show(HelpArticle::keyboardShortcuts);
+        QCOMPARE(help.window(), first);
+        QTRY_COMPARE(articleTitle(), QStringLiteral("Keyboard shortcuts"));
+        auto *quick = qobject_cast<QQuickWindow *>(first);
+        QVERIFY(shownTexts(quick).contains(QStringLiteral("•  K — keep a safe copy of the selected event in your Vault")));
+        shoot(quick, QStringLiteral("help-window"));
+
+        // Closed, then asked with no article: a fresh window on the last selection.
+        first->close();
+        QTRY_VERIFY(!help.window());
+        help.show(std::nullopt);
+        QTRY_VERIFY(help.window() && help.window()->isVisible());
+        QTRY_COMPARE(articleTitle(), QStringLiteral("Keyboard shortcuts"));
+        QCOMPARE(help.selection().selected(), HelpArticle::keyboardShortcuts);
+
+        // A choice in the list is the selection the next call keeps.
+        help.selection().setSelectedIndex(2);
+        QTRY_COMPARE(articleTitle(), QStringLiteral("What does \"didn't record properly\" mean?"));
+        help.show(-1);
+        QCOMPARE(help.selection().selected(), HelpArticle::corruptionExplained);
+    }
+};
+
+int main(int argc, char **argv)
+{
+    IsolatedHome::setUp();
+    // Without a display every case skips; the offscreen platform lets the
+    // process come up to say so.
+    if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication app(argc, argv);
+    QGuiApplication::setOrganizationName(QStringLiteral("Keelhold"));
+    QGuiApplication::setApplicationName(QStringLiteral("Keelhold"));
+    ShellFlowTest tc;
+    QTEST_SET_MAIN_SOURCE_PATH
+    return QTest::qExec(&tc, argc, argv);
+}
+
+#include "tst_shellflow.moc"
