@@ -22,6 +22,7 @@
 #include <QQuickStyle>
 #include <QQuickWindow>
 #include <QSet>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -391,6 +392,13 @@ private Q_SLOTS:
         click(QStringLiteral("exportFooterButton")); // Done
         QTRY_VERIFY(!findItem(window_->contentItem(), QStringLiteral("saveToButton")));
         QVERIFY(QFileInfo::exists(*flow->exportedPath())); // left in the scratch folder
+
+        // The hint bar's close button hides it and remembers that.
+        QVERIFY(findItem(window_->contentItem(), QStringLiteral("keyboardHintBar")));
+        click(QStringLiteral("hideHintsButton"));
+        QTRY_VERIFY(!findItem(window_->contentItem(), QStringLiteral("keyboardHintBar")));
+        QCOMPARE(QSettings().value(QStringLiteral("KHShowKeyboardHints")).toBool(), false);
+        QSettings().setValue(QStringLiteral("KHShowKeyboardHints"), true);
     }
 
     // Moving the selection through the inbox plays each event in turn from
@@ -495,7 +503,9 @@ private Q_SLOTS:
         total.start();
         FrameSyncClock frames(window_);
         qint64 longestFrameWait = 0;
+        int ticks = 0;
         connect(&ticker, &QTimer::timeout, this, [&] {
+            ++ticks;
             const qint64 gap = sinceTick.restart();
             const qint64 inFrames = frames.take();
             longestWait = std::max(longestWait, gap - inFrames);
@@ -518,7 +528,9 @@ private Q_SLOTS:
         });
         releaser.start();
         QTRY_VERIFY_WITH_TIMEOUT(controller() && !controller()->isLoadingTiles(), 20000);
+        QTest::qWait(300); // and the first pictures
         ticker.stop();
+        QVERIFY(ticks > 10);
         releaser.stop();
         qInfo("longest wait of the main thread: %lld ms, and %lld ms more in one frame sync with the renderer",
               longestWait, longestFrameWait);
