@@ -7,6 +7,7 @@
 #include "playback/MediaSource.h"
 
 #include <QThreadPool>
+#include <QTimer>
 #include <QtConcurrent/QtConcurrentRun>
 #include <qcoro/qcorofuture.h>
 #include <qcoro/qcorotimer.h>
@@ -51,6 +52,16 @@ void SyncPlayerController::loadEvent(const TeslaEvent &event)
     setIsPlaying(false);
     setCurrentTime(0);
     setFocusedCamera(std::nullopt);
+    // The old players stop at once and go a little later: each one's
+    // destructor waits for its worker, which would stall the GUI thread.
+    std::vector<std::shared_ptr<TrackPlayer>> retired;
+    for (Tile &tile : tiles_)
+        if (tile.player) {
+            tile.player->requestStop();
+            retired.push_back(std::move(tile.player));
+        }
+    if (!retired.empty())
+        QTimer::singleShot(retireDelay, this, [retired] {});
     tiles_.clear();
     tilesForQml_.clear();
     Q_EMIT tilesChanged();

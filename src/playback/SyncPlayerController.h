@@ -51,6 +51,7 @@ public:
     static constexpr std::chrono::milliseconds cuePollInterval{50};
     static constexpr std::chrono::milliseconds clipTimeout{8000};
     static constexpr qint64 observerIntervalTicks = 150; // 0.25 s at timescale 600
+    static constexpr std::chrono::milliseconds retireDelay{500};
 
     static inline const QString damagedReason =
         QStringLiteral("This angle didn't record properly — a known Tesla drive issue.");

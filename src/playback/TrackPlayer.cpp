@@ -482,6 +482,14 @@ TrackPlayer::~TrackPlayer()
     // Pending completions are dropped: their owners may be going too.
 }
 
+void TrackPlayer::requestStop()
+{
+    presentTimer_.stop();
+    std::lock_guard lock(shared_->mutex);
+    shared_->stop = true;
+    shared_->changed.notify_all();
+}
+
 void TrackPlayer::markReady()
 {
     if (status_ == ReadyToPlay)

@@ -33,6 +33,10 @@ public:
     explicit TrackPlayer(const Composition &composition, QObject *parent = nullptr);
     ~TrackPlayer() override;
 
+    // Asks the worker to end now, so that the destructor, run later, finds
+    // it gone and doesn't hold up the GUI thread.
+    void requestStop();
+
     // Decoder threads per player; 0 (the default) gives the large HW4 front
     // camera two and every other camera one.
     static void setDecoderThreads(int threads);

@@ -2,6 +2,7 @@
 
 #include "export/Exporter.h"
 #include "model/CancellationError.h"
+#include "model/PlatformWords.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -89,6 +90,37 @@ QString ExportFlow::suggestedSaveFolder()
     return QDir::homePath();
 }
 
+QString ExportFlow::exportedFileName() const
+{
+    return exportedPath_ ? QFileInfo(*exportedPath_).fileName() : QString();
+}
+
+QString ExportFlow::automaticSaveDestination()
+{
+    return qEnvironmentVariable("KEELHOLD_SAVE_TO");
+}
+
+QVariantMap ExportFlow::texts()
+{
+    return {{QStringLiteral("title"), title},
+            {QStringLiteral("explanation"), explanation},
+            {QStringLiteral("cameraLabel"), QStringLiteral("Camera")},
+            {QStringLiteral("note"), combinedNote},
+            {QStringLiteral("exporting"), QStringLiteral("Exporting…")},
+            {QStringLiteral("cancel"), QStringLiteral("Cancel")},
+            {QStringLiteral("export"), QStringLiteral("Export")},
+            {QStringLiteral("stop"), QStringLiteral("Stop")},
+            {QStringLiteral("stopTip"), stopTooltip},
+            {QStringLiteral("done"), QStringLiteral("Done")},
+            {QStringLiteral("showInFolder"), QStringLiteral("Show in Folder")},
+            {QStringLiteral("showInFolderTip"), QStringLiteral("Opens the folder that holds the file, with the file selected.")},
+            {QStringLiteral("email"), QStringLiteral("Email…")},
+            {QStringLiteral("emailTip"), QStringLiteral("Starts a new email with the file attached.")},
+            {QStringLiteral("saveTo"), QStringLiteral("Save to…")},
+            {QStringLiteral("saveToTip"), QStringLiteral("Choose exactly where on your ") + PlatformWords::computer() + QStringLiteral(" to save this file.")},
+            {QStringLiteral("movieFilter"), QStringLiteral("MPEG-4 movie (*.mp4)")}};
+}
+
 void ExportFlow::startExport()
 {
     if (!selectedCamera_ || isExporting_)
@@ -128,19 +160,18 @@ void ExportFlow::startExport()
 void ExportFlow::finish(const QFuture<void> &future, const QString &output)
 {
     isExporting_ = false;
-    if (future.isCanceled()) {
-        // A stop before the session wrote anything ends quietly; a stop
-        // during the session ends like any failure.
-        if (sessionBegan_)
-            errorMessage_ = failureMessage;
-    } else {
-        try {
-            QFuture<void>(future).waitForFinished();
+    // A future that ends in an exception also reads as cancelled, so the
+    // stored exception decides first.
+    try {
+        QFuture<void>(future).waitForFinished();
+        if (!future.isCanceled())
             exportedPath_ = output;
-        } catch (const CancellationError &) {
-        } catch (...) {
-            errorMessage_ = failureMessage;
-        }
+        else if (sessionBegan_)
+            errorMessage_ = failureMessage; // stopped while the session was writing
+    } catch (const CancellationError &) {
+        // Stopped before the session began: back to choosing, quietly.
+    } catch (...) {
+        errorMessage_ = failureMessage;
     }
     Q_EMIT changed();
     Q_EMIT exportFinished();

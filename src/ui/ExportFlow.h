@@ -8,6 +8,7 @@
 #include <QObject>
 #include <QString>
 #include <QVariantList>
+#include <QVariantMap>
 #include <memory>
 #include <optional>
 
@@ -28,6 +29,9 @@ class ExportFlow : public QObject {
     Q_PROPERTY(QString savedText READ savedText NOTIFY changed)
     Q_PROPERTY(QString saveErrorMessage READ saveErrorMessageForQml NOTIFY changed)
     Q_PROPERTY(QString suggestedSaveFolder READ suggestedSaveFolder CONSTANT)
+    Q_PROPERTY(QString exportedFileName READ exportedFileName NOTIFY changed)
+    Q_PROPERTY(QString automaticSaveDestination READ automaticSaveDestination CONSTANT)
+    Q_PROPERTY(QVariantMap texts READ texts CONSTANT)
 
 public:
     enum class State { choosing, exporting, ready };
@@ -64,6 +68,12 @@ public:
     QString savedText() const;
     // The user's Videos folder, else home.
     static QString suggestedSaveFolder();
+    QString exportedFileName() const;
+    // Test hook: with KEELHOLD_SAVE_TO set, "Save to…" saves there without
+    // asking, as if the user had chosen that path in the dialog.
+    static QString automaticSaveDestination();
+    // The dialog's fixed words: title, explanation, buttons, tooltips.
+    static QVariantMap texts();
 
     Q_INVOKABLE void startExport();
     Q_INVOKABLE void stop();

@@ -1,6 +1,7 @@
 #include "KeelholdApp.h"
 
 #include "ColorScheme.h"
+#include "QmlTypes.h"
 #include "state/DriveFailure.h"
 #include "state/SidebarSection.h"
 
@@ -28,10 +29,7 @@ KeelholdApp::KeelholdApp(QObject *parent)
     if (!styled) {
         QQuickStyle::setStyle(QStringLiteral("Fusion"));
         ColorScheme::apply();
-        qmlRegisterUncreatableMetaObject(SidebarSection::staticMetaObject, "Keelhold", 1, 0, "SidebarSection",
-                                         QStringLiteral("an enumeration"));
-        qmlRegisterUncreatableMetaObject(DriveFailure::staticMetaObject, "Keelhold", 1, 0, "DriveFailure",
-                                         QStringLiteral("an enumeration"));
+        QmlTypes::registerAll();
         styled = true;
     }
     QQmlContext *ctx = qml_.rootContext();

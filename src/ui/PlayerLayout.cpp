@@ -43,3 +43,33 @@ QString PlayerLayout::coordinatesText(const QVariant &latitude, const QVariant &
         return QStringLiteral("Location unknown");
     return QString::asprintf("%.4f, %.4f", latitude.toDouble(), longitude.toDouble());
 }
+
+QString PlayerLayout::gridMode(const QString &focusedCamera, const QVariantList &tiles, bool isLoading)
+{
+    if (!focusedCamera.isEmpty()) {
+        for (const QVariant &t : tiles)
+            if (t.toMap().value(QStringLiteral("camera")).toString() == focusedCamera)
+                return QStringLiteral("focused");
+    }
+    if (isLoading)
+        return QStringLiteral("loading");
+    return tiles.isEmpty() ? QStringLiteral("empty") : QStringLiteral("grid");
+}
+
+QVariantMap PlayerLayout::detailEmptyState(bool vault, bool hasDriveScan)
+{
+    QVariantMap m{{QStringLiteral("symbol"), QStringLiteral("play.rectangle")},
+                  {QStringLiteral("title"), QStringLiteral("Select an event")}};
+    if (vault) {
+        m.insert(QStringLiteral("message"),
+                 QStringLiteral("Choose an archived event on the left to watch it — everything here works exactly "
+                                "like the Drive tab, even with no Tesla drive connected."));
+        m.insert(QStringLiteral("action"), QString());
+    } else {
+        m.insert(QStringLiteral("message"), QStringLiteral("Choose something from the list on the left to watch every "
+                                                           "available camera angle, synced on one timeline."));
+        m.insert(QStringLiteral("action"),
+                 hasDriveScan ? QString() : QStringLiteral("Just exploring? Try sample footage"));
+    }
+    return m;
+}

@@ -3,6 +3,8 @@
 #include <QObject>
 #include <QString>
 #include <QVariant>
+#include <QVariantList>
+#include <QVariantMap>
 
 // The measures and texts of the player screen that are rules rather than
 // looks: grid columns, where the moment mark stands, speed labels, tooltips.
@@ -24,4 +26,11 @@ public:
     Q_INVOKABLE static QString gridTileTooltip(const QString &cameraName);
     // "Location unknown" unless both coordinates are known.
     Q_INVOKABLE static QString coordinatesText(const QVariant &latitude, const QVariant &longitude);
+    // What the camera area shows, in this order: "focused" when the focused
+    // camera has a tile, "loading" while tiles load, "empty" with no tiles,
+    // else "grid". tiles are the controller's tile maps (key "camera").
+    Q_INVOKABLE static QString gridMode(const QString &focusedCamera, const QVariantList &tiles, bool isLoading);
+    // The detail column's message when no event is shown: symbol, title,
+    // message, and the sample-footage action before any drive was read.
+    Q_INVOKABLE static QVariantMap detailEmptyState(bool vault, bool hasDriveScan);
 };

@@ -81,6 +81,19 @@ const QHash<QString, QString> &table()
         {QStringLiteral("hand.tap"), QStringLiteral("devices/input-touchpad")},
         {QStringLiteral("horn.blast"), QStringLiteral("status/audio-volume-high")},
         {QStringLiteral("light.beacon.max"), QStringLiteral("status/alarm")},
+        // Player
+        {QStringLiteral("gobackward.5"), QStringLiteral("actions/media-seek-backward")},
+        {QStringLiteral("goforward.5"), QStringLiteral("actions/media-seek-forward")},
+        {QStringLiteral("backward.frame"), QStringLiteral("actions/go-previous")},
+        {QStringLiteral("forward.frame"), QStringLiteral("actions/go-next")},
+        {QStringLiteral("flag.fill"), QStringLiteral("categories/emoji-flags")},
+        {QStringLiteral("video.slash"), QStringLiteral("status/camera-disabled")},
+        {QStringLiteral("calendar"), QStringLiteral("mimetypes/x-office-calendar")},
+        {QStringLiteral("mappin.and.ellipse"), QStringLiteral("actions/mark-location")},
+        {QStringLiteral("location"), QStringLiteral("status/location-services-active")},
+        {QStringLiteral("location.slash"), QStringLiteral("status/location-services-disabled")},
+        {QStringLiteral("arrow.up.left.and.arrow.down.right"), QStringLiteral("actions/view-fullscreen")},
+        {QStringLiteral("arrow.down.right.and.arrow.up.left"), QStringLiteral("actions/view-restore")},
     };
     return t;
 }

@@ -3,13 +3,23 @@
 #include "ListPlayerKeyRouter.h"
 #include "PlayerKeyActions.h"
 #include "PlayerLayout.h"
+#include "EventPlayerPresenter.h"
+#include "VideoMirror.h"
+#include "engine/LiveEngine.h"
 #include "engine/MockEngine.h"
+#include "playback/TrackPlayer.h"
+#include "support/FaultyFs.h"
+#include "support/MovieFacts.h"
+#include "support/TeslaCamFixture.h"
+#include "support/TestClips.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QVideoFrame>
+#include <QVideoSink>
 #include <QtTest>
 
 class TestPlayerRules : public QObject {
@@ -92,45 +102,256 @@ private Q_SLOTS:
         QTRY_COMPARE(state.isFocusMode(), !before);
     }
 
-    void exportFlowRunsThroughItsStates()
+    // Scans a fixture drive through the real engine into the state.
+    // (A cached scan of the same volume may show first; wait for this one.)
+    static void scan(AppState &state, const QString &root, int events)
     {
-        MockEngine engine;
-        const TeslaEvent event = MockEngine::demoEvents().front();
-        ExportFlow flow(engine, event);
-        QCOMPARE(flow.stateName(), QStringLiteral("choosing"));
-        QVERIFY(flow.selectedCamera());
-        QVERIFY(flow.canExport());
-        QCOMPARE(flow.availableCameras().front().gridOrder() <= flow.availableCameras().back().gridOrder(), true);
-        flow.startExport();
-        QCOMPARE(flow.stateName(), QStringLiteral("exporting"));
-        QTRY_COMPARE_WITH_TIMEOUT(flow.stateName(), QStringLiteral("ready"), 10000);
-        QVERIFY(flow.readyText().startsWith(QStringLiteral("Ready: ")));
-        const QString first = *flow.exportedPath();
-
-        // Saving replaces a file already there and leaves the export in place.
-        QTemporaryDir dir;
-        const QString target = dir.filePath(QStringLiteral("copy.mp4"));
-        QFile old(target);
-        QVERIFY(old.open(QIODevice::WriteOnly));
-        old.write("old");
-        old.close();
-        if (QFileInfo::exists(first)) {
-            QVERIFY(flow.saveTo(target));
-            QCOMPARE(flow.savedText(), QStringLiteral("Saved as copy.mp4"));
-            QVERIFY(QFileInfo::exists(first));
-        }
-        QVERIFY(!flow.saveTo(dir.filePath(QStringLiteral("missing/dir/x.mp4"))) || !QFileInfo::exists(first));
+        state.setShowOnboarding(false);
+        state.beginScan(root);
+        QTRY_VERIFY_WITH_TIMEOUT(state.driveScan() && !state.isScanning() && !state.isRevalidatingScan() &&
+                                     int(state.driveScan()->events.size()) == events &&
+                                     state.driveScan()->events.front().folderURL.startsWith(root),
+                                 30000);
     }
 
-    void stopBeforeTheSessionEndsQuietly()
+    static QString realEvent(TeslaCamFixture &fx, const QString &name, const QString &when, int cameras = 2)
     {
-        MockEngine engine;
-        ExportFlow flow(engine, MockEngine::demoEvents().front());
-        flow.startExport();
-        flow.stop();
-        QTRY_COMPARE_WITH_TIMEOUT(flow.isExporting(), false, 10000);
+        const QString dir = fx.addEvent(QStringLiteral("SavedClips"), name,
+                                        TeslaCamFixture::eventJson(when, QStringLiteral("user_interaction_honk"),
+                                                                   QStringLiteral("Taylor"), QStringLiteral("30.6075"),
+                                                                   QStringLiteral("-97.4812")));
+        TestClips::ClipOptions options;
+        options.seconds = 2;
+        const QString source = TestClips::clip(options);
+        const QString stamp = name.left(17) + QStringLiteral("00");
+        const char *names[] = {"front", "back", "left_repeater", "right_repeater"};
+        for (int i = 0; i < cameras; ++i)
+            fx.addClip(dir, stamp, QString::fromLatin1(names[i]), 0, source);
+        return QStringLiteral("saved|") + name;
+    }
+
+    void gridModeFollowsFocusThenLoadingThenTiles()
+    {
+        const QVariantList four{QVariantMap{{"camera", "front"}}, QVariantMap{{"camera", "back"}},
+                                QVariantMap{{"camera", "left_repeater"}}, QVariantMap{{"camera", "right_repeater"}}};
+        QCOMPARE(PlayerLayout::gridMode(QString(), four, false), QStringLiteral("grid"));
+        QCOMPARE(PlayerLayout::gridMode(QStringLiteral("back"), four, false), QStringLiteral("focused"));
+        // A focused camera with no tile of its own doesn't hide the grid.
+        QCOMPARE(PlayerLayout::gridMode(QStringLiteral("left_pillar"), four, false), QStringLiteral("grid"));
+        QCOMPARE(PlayerLayout::gridMode(QStringLiteral("left_pillar"), {}, true), QStringLiteral("loading"));
+        QCOMPARE(PlayerLayout::gridMode(QString(), {}, false), QStringLiteral("empty"));
+
+        const QVariantMap drive = PlayerLayout::detailEmptyState(false, false);
+        QCOMPARE(drive.value("title").toString(), QStringLiteral("Select an event"));
+        QCOMPARE(drive.value("action").toString(), QStringLiteral("Just exploring? Try sample footage"));
+        QVERIFY(PlayerLayout::detailEmptyState(false, true).value("action").toString().isEmpty());
+        QVERIFY(PlayerLayout::detailEmptyState(true, false).value("message").toString().contains("no Tesla drive"));
+    }
+
+    // The presenter on a real scanned drive: opening marks a new event
+    // reviewed and hands its controller to the keys; a reviewed, kept or
+    // dismissed event keeps its state; the one controller is reused; a
+    // vanished event stops the player and lets go of the keys.
+    void presenterOpensEventsOnOneController()
+    {
+        QTemporaryDir dir;
+        TeslaCamFixture fx(dir.filePath(QStringLiteral("TeslaCam")));
+        const QString a = realEvent(fx, QStringLiteral("2026-02-01_10-00-40"), QStringLiteral("2026-02-01T10:00:30"));
+        const QString b = realEvent(fx, QStringLiteral("2026-02-02_11-00-40"), QStringLiteral("2026-02-02T11:00:30"));
+        LiveEngine engine;
+        AppState state(engine);
+        scan(state, fx.root(), 2);
+        state.setTriage(QStringLiteral("dismissed"), b);
+
+        EventPlayerPresenter presenter;
+        presenter.setAppState(&state);
+        QVERIFY(!presenter.hasEvent());
+        QVERIFY(!presenter.controller());
+        presenter.setEventID(a);
+        QVERIFY(presenter.hasEvent());
+        SyncPlayerController *controller = presenter.controller();
+        QVERIFY(controller);
+        QCOMPARE(state.activePlayerController(), controller);
+        QCOMPARE(state.triageStateFor(a), QStringLiteral("reviewed"));
+        const QVariantMap meta = presenter.metadata();
+        QCOMPARE(meta.value("city").toString(), QStringLiteral("Taylor"));
+        QCOMPARE(meta.value("coordinatesText").toString(), QStringLiteral("30.6075, -97.4812"));
+        QCOMPARE(meta.value("damagedCount").toInt(), 0);
+        QVERIFY(!meta.value("verified").toBool());
+        QVERIFY(meta.value("dateText").toString().contains(QStringLiteral("10:00:30")));
+        QVERIFY(!presenter.keepProminent()); // a honk isn't urgent
+        QTRY_VERIFY_WITH_TIMEOUT(!controller->isLoadingTiles(), 15000);
+        QCOMPARE(int(controller->tiles().size()), 2);
+
+        presenter.chooseRate(2.0);
+        presenter.setEventID(b);
+        QCOMPARE(presenter.controller(), controller);
+        QCOMPARE(controller->rate(), 2.0f);
+        QCOMPARE(state.triageStateFor(b), QStringLiteral("dismissed"));
+        QTRY_VERIFY_WITH_TIMEOUT(!controller->isLoadingTiles(), 15000);
+
+        presenter.setEventID(QStringLiteral("saved|1999-01-01_00-00-00"));
+        QVERIFY(!presenter.hasEvent());
+        QVERIFY(!controller->isPlaying());
+        QCOMPARE(state.activePlayerController(), nullptr);
+        // Coming back to the same event loads it again.
+        presenter.setEventID(b);
+        QCOMPARE(state.activePlayerController(), controller);
+        QVERIFY(controller->isLoadingTiles());
+    }
+
+    // One player, several views: each gets the frames, and a view that
+    // joins late at once shows what the player shows now.
+    void videoMirrorFansFramesOut()
+    {
+        TrackPlayer player{Composition()};
+        QVideoSink first, second;
+        VideoMirror a, b;
+        a.setTarget(&first);
+        a.setPlayer(&player);
+        QVideoSink *hub = VideoMirror::hubFor(&player);
+        QVERIFY(hub);
+        QCOMPARE(player.videoSink(), hub);
+        QCOMPARE(VideoMirror::hubFor(&player), hub);
+        QVideoFrame frame(QVideoFrameFormat(QSize(16, 16), QVideoFrameFormat::Format_YUV420P));
+        hub->setVideoFrame(frame);
+        QCOMPARE(first.videoFrame().size(), QSize(16, 16));
+        b.setPlayer(&player);
+        b.setTarget(&second);
+        QCOMPARE(second.videoFrame().size(), QSize(16, 16));
+        QCOMPARE(player.videoSink(), hub); // the player's sink never moved
+        // A view that loses its player shows nothing rather than an old frame.
+        b.setPlayer(nullptr);
+        QVERIFY(!second.videoFrame().isValid());
+        hub->setVideoFrame(QVideoFrame(QVideoFrameFormat(QSize(32, 32), QVideoFrameFormat::Format_YUV420P)));
+        QCOMPARE(first.videoFrame().size(), QSize(32, 32));
+        QVERIFY(!second.videoFrame().isValid());
+        QVERIFY(!VideoMirror::hubFor(&a)); // not a player
+    }
+
+    // A real export through the live engine on generated clips: the
+    // states, the camera choice, two exports in two folders, a copy that
+    // replaces a file, and a failed copy shown next to the earlier success.
+    void exportFlowExportsRealFootage()
+    {
+        QTemporaryDir dir;
+        TeslaCamFixture fx(dir.filePath(QStringLiteral("TeslaCam")));
+        const QString id = realEvent(fx, QStringLiteral("2026-02-01_10-00-40"), QStringLiteral("2026-02-01T10:00:30"), 3);
+        LiveEngine engine;
+        AppState state(engine);
+        scan(state, fx.root(), 1);
+        const TeslaEvent event = state.driveScan()->events.front();
+        QCOMPARE(event.id(), id);
+
+        ExportFlow flow(engine, event);
         QCOMPARE(flow.stateName(), QStringLiteral("choosing"));
-        QVERIFY(!flow.errorMessage());
+        QCOMPARE(flow.selectedCamera(), std::optional<Camera>(Camera::front)); // first in grid order
+        QCOMPARE(int(flow.availableCameras().size()), 3);
+        QCOMPARE(flow.availableCameras().back(), Camera::back);
+        flow.setProperty("selectedCamera", QStringLiteral("left_repeater"));
+        QCOMPARE(flow.selectedCamera(), std::optional<Camera>(Camera::leftRepeater));
+        flow.setProperty("selectedCamera", QStringLiteral("rear_backup")); // not in the event: ignored
+        QCOMPARE(flow.selectedCamera(), std::optional<Camera>(Camera::leftRepeater));
+        QVERIFY(flow.canExport());
+        flow.startExport();
+        QCOMPARE(flow.stateName(), QStringLiteral("exporting"));
+        QVERIFY(!flow.canExport());
+        QTRY_COMPARE_WITH_TIMEOUT(flow.stateName(), QStringLiteral("ready"), 30000);
+        const QString first = *flow.exportedPath();
+        QVERIFY(first.endsWith(QStringLiteral(".mp4")));
+        QVERIFY(flow.readyText().endsWith(QFileInfo(first).fileName()));
+        QCOMPARE(flow.exportedFileName(), QFileInfo(first).fileName());
+        const MovieFacts facts = MovieFacts::read(first);
+        QVERIFY(facts.opened);
+        QCOMPARE(facts.firstOf(QStringLiteral("video"))->decodeErrors, 0);
+        QVERIFY(std::abs(facts.duration - 2.0) < 0.2);
+
+        // Saving replaces a file already there and leaves the export in place.
+        const QString target = dir.filePath(QStringLiteral("copy.mp4"));
+        TeslaCamFixture::writeFile(target, "old");
+        QVERIFY(flow.saveTo(QUrl::fromLocalFile(target).toString()));
+        QCOMPARE(flow.savedText(), QStringLiteral("Saved as copy.mp4"));
+        QCOMPARE(QFileInfo(target).size(), QFileInfo(first).size());
+        QVERIFY(QFileInfo::exists(first));
+        QVERIFY(!flow.saveTo(dir.filePath(QStringLiteral("missing/dir/x.mp4"))));
+        QCOMPARE(flow.saveErrorMessage(), std::optional<QString>(ExportFlow::saveFailureMessage));
+        QCOMPARE(flow.savedText(), QStringLiteral("Saved as copy.mp4")); // both lines stand
+
+        // A second export goes to a folder of its own.
+        ExportFlow again(engine, event);
+        again.startExport();
+        QTRY_COMPARE_WITH_TIMEOUT(again.stateName(), QStringLiteral("ready"), 30000);
+        QVERIFY(QFileInfo(*again.exportedPath()).path() != QFileInfo(first).path());
+    }
+
+    void exportFailureAndStop()
+    {
+        QTemporaryDir dir;
+        TeslaCamFixture fx(dir.filePath(QStringLiteral("TeslaCam")));
+        // Clips that are only zeros: nothing to export.
+        const QString folder = fx.addEvent(QStringLiteral("SavedClips"), QStringLiteral("2026-02-03_10-00-40"),
+                                           TeslaCamFixture::eventJson(QStringLiteral("2026-02-03T10:00:30"),
+                                                                      QStringLiteral("user_interaction_honk")));
+        fx.addClip(folder, QStringLiteral("2026-02-03_10-00-00"), QStringLiteral("front"), 200000);
+        realEvent(fx, QStringLiteral("2026-02-04_10-00-40"), QStringLiteral("2026-02-04T10:00:30"));
+        LiveEngine engine;
+        AppState state(engine);
+        scan(state, fx.root(), 2);
+        const auto &events = state.driveScan()->events;
+        const auto bad = std::find_if(events.begin(), events.end(),
+                                      [](const TeslaEvent &e) { return e.folderName.startsWith("2026-02-03"); });
+        const auto good = std::find_if(events.begin(), events.end(),
+                                       [](const TeslaEvent &e) { return e.folderName.startsWith("2026-02-04"); });
+        QVERIFY(bad != events.end() && good != events.end());
+
+        ExportFlow failing(engine, *bad);
+        failing.startExport();
+        QTRY_VERIFY_WITH_TIMEOUT(!failing.isExporting(), 30000);
+        QCOMPARE(failing.errorMessage(), std::optional<QString>(ExportFlow::failureMessage));
+        QCOMPARE(failing.selectedCamera(), std::optional<Camera>(Camera::front)); // the choice survives
+        QVERIFY(failing.canExport());
+
+        QCOMPARE(good->cameras().size(), size_t(2));
+    }
+
+    // Stopped while the clips are still being prepared (the drive hangs on
+    // the first read): back to choosing, without a message.
+    void exportStoppedBeforeTheSessionEndsQuietly()
+    {
+        if (!FaultyFs::available())
+            QSKIP("needs FUSE");
+        QTemporaryDir mountPoint;
+        FaultyFs fs(mountPoint.path());
+        QVERIFY(fs.isMounted());
+        QFile source(TestClips::clip());
+        QVERIFY(source.open(QIODevice::ReadOnly));
+        const QString relative = QStringLiteral("TeslaCam/SavedClips/2026-02-05_10-00-40/2026-02-05_10-00-00-front.mp4");
+        fs.addFile(relative, source.readAll());
+        fs.hangReadsFrom(relative, 0);
+        TeslaEvent event;
+        event.kind = EventKind::saved;
+        event.folderName = QStringLiteral("2026-02-05_10-00-40");
+        event.folderURL = mountPoint.filePath(QStringLiteral("TeslaCam/SavedClips/2026-02-05_10-00-40"));
+        event.timestamp = Date(800000000.0);
+        ClipRef clip;
+        clip.url = mountPoint.filePath(relative);
+        clip.camera = Camera::front;
+        clip.startDate = event.timestamp;
+        clip.fileSize = source.size();
+        clip.health = ClipHealth::ok;
+        event.clips.push_back(clip);
+
+        LiveEngine engine;
+        ExportFlow stopped(engine, event);
+        stopped.startExport();
+        QTRY_VERIFY_WITH_TIMEOUT(fs.isHanging(), 10000);
+        stopped.stop();
+        QTest::qWait(200); // the stop reaches the preparation before the drive answers again
+        fs.release();
+        QTRY_VERIFY_WITH_TIMEOUT(!stopped.isExporting(), 30000);
+        QCOMPARE(stopped.stateName(), QStringLiteral("choosing"));
+        QVERIFY(!stopped.errorMessage());
+        QCOMPARE(ExportFlow::texts().value("title").toString(), QStringLiteral("Export & Share"));
     }
 };
 

@@ -147,8 +147,13 @@ ApplicationWindow {
                     width_: ui.storedListWidth
                     onWidthDragged: (w) => ui.storedListWidth = w
                 }
-                PlaceholderColumn {
-                    name: appState.selectedSection === ui.sections.drive ? "DriveDetailColumn" : "VaultDetailColumn"
+                DriveDetailColumn {
+                    visible: appState.selectedSection === ui.sections.drive
+                    Layout.fillWidth: true
+                    Layout.fillHeight: true
+                }
+                VaultDetailColumn {
+                    visible: appState.selectedSection === ui.sections.vault
                     Layout.fillWidth: true
                     Layout.fillHeight: true
                 }

@@ -1,0 +1,255 @@
+#include "EventPlayerPresenter.h"
+
+#include "ExportFlow.h"
+#include "PlayerLayout.h"
+#include "SymbolIcons.h"
+#include "model/PlatformWords.h"
+
+EventPlayerPresenter::EventPlayerPresenter(QObject *parent) : QObject(parent) {}
+
+EventPlayerPresenter::~EventPlayerPresenter()
+{
+    for (const auto &c : stateConnections_)
+        disconnect(c);
+}
+
+void EventPlayerPresenter::setAppState(AppState *state)
+{
+    if (appState_ == state)
+        return;
+    for (const auto &c : stateConnections_)
+        disconnect(c);
+    stateConnections_.clear();
+    appState_ = state;
+    if (state) {
+        stateConnections_ << connect(state, &AppState::driveScanChanged, this, &EventPlayerPresenter::resolve)
+                          << connect(state, &AppState::vaultEventsChanged, this, &EventPlayerPresenter::resolve)
+                          << connect(state, &AppState::vaultIndexChanged, this, &EventPlayerPresenter::metadataChanged);
+    }
+    Q_EMIT appStateChanged();
+    resolve();
+}
+
+void EventPlayerPresenter::setEventID(const QString &id)
+{
+    if (eventID_ == id)
+        return;
+    eventID_ = id;
+    Q_EMIT eventIDChanged();
+    resolve();
+}
+
+void EventPlayerPresenter::setFromVault(bool value)
+{
+    if (fromVault_ == value)
+        return;
+    fromVault_ = value;
+    Q_EMIT fromVaultChanged();
+    resolve();
+}
+
+void EventPlayerPresenter::resolve()
+{
+    std::optional<TeslaEvent> found;
+    if (appState_ && !eventID_.isEmpty()) {
+        if (fromVault_) {
+            for (const TeslaEvent &e : appState_->vaultEvents())
+                if (e.id() == eventID_) {
+                    found = e;
+                    break;
+                }
+        } else if (const auto &scan = appState_->driveScan()) {
+            for (const TeslaEvent &e : scan->events)
+                if (e.id() == eventID_) {
+                    found = e;
+                    break;
+                }
+        }
+    }
+    const bool hadEvent = event_.has_value();
+    event_ = std::move(found);
+    if (hadEvent || event_)
+        Q_EMIT eventChanged();
+    Q_EMIT metadataChanged();
+    if (!event_) {
+        // The event went away (drive detached, kept copy removed): the
+        // player stops and the keys no longer reach it.
+        if (controller_ && !loadedID_.isEmpty()) {
+            controller_->pause();
+            if (appState_ && appState_->activePlayerController() == controller_)
+                appState_->setActivePlayerController(nullptr);
+        }
+        loadedID_.clear();
+        return;
+    }
+    if (event_->id() == loadedID_)
+        return;
+    // A new identity: the same controller takes the new event.
+    loadedID_ = event_->id();
+    if (!controller_) {
+        controller_ = new SyncPlayerController(*event_, this);
+        Q_EMIT controllerChanged();
+    } else {
+        controller_->loadEvent(*event_);
+    }
+    opened();
+}
+
+void EventPlayerPresenter::opened()
+{
+    if (!appState_ || !event_)
+        return;
+    // Looking at an event for the first time is what marks it reviewed.
+    if (appState_->triageState(*event_) == TriageState::new_)
+        appState_->setTriage(TriageState::reviewed, *event_);
+    appState_->setActivePlayerController(controller_);
+}
+
+QString EventPlayerPresenter::dateText(const TeslaEvent &event)
+{
+    return event.timestamp.formatLocal(QStringLiteral("dddd h:mm:ss AP"));
+}
+
+QVariantMap EventPlayerPresenter::metadata() const
+{
+    QVariantMap m;
+    if (!event_)
+        return m;
+    const TeslaEvent &e = *event_;
+    const int damaged = e.corruptClipCount();
+    m.insert(QStringLiteral("reasonLabel"), e.reason.label());
+    m.insert(QStringLiteral("reasonIcon"), SymbolIcons::iconUrl(e.reason.symbolName()));
+    m.insert(QStringLiteral("reasonTooltip"), e.reason.blurb());
+    m.insert(QStringLiteral("damagedCount"), damaged);
+    m.insert(QStringLiteral("damagedIcon"), SymbolIcons::iconUrl(QStringLiteral("exclamationmark.triangle.fill")));
+    m.insert(QStringLiteral("damagedTooltip"),
+             QString::number(damaged) + (damaged == 1 ? QStringLiteral(" angle") : QStringLiteral(" angles")) +
+                 QStringLiteral(" from this moment didn't record properly. This is a known Tesla drive issue, not "
+                                "something you did."));
+    m.insert(QStringLiteral("dateText"), dateText(e));
+    m.insert(QStringLiteral("dateIcon"), SymbolIcons::iconUrl(QStringLiteral("calendar")));
+    m.insert(QStringLiteral("city"), e.city.value_or(QString()));
+    m.insert(QStringLiteral("cityIcon"), SymbolIcons::iconUrl(QStringLiteral("mappin.and.ellipse")));
+    const bool located = e.latitude && e.longitude;
+    m.insert(QStringLiteral("hasCoordinates"), located);
+    m.insert(QStringLiteral("coordinatesText"),
+             PlayerLayout::coordinatesText(e.latitude ? QVariant(*e.latitude) : QVariant(),
+                                           e.longitude ? QVariant(*e.longitude) : QVariant()));
+    m.insert(QStringLiteral("coordinatesIcon"),
+             SymbolIcons::iconUrl(located ? QStringLiteral("location") : QStringLiteral("location.slash")));
+    m.insert(QStringLiteral("coordinatesTooltip"),
+             located ? QStringLiteral("Coordinates as recorded by your car — useful for an insurance or police report.")
+                     : QString());
+    // The verification badge when the event has a copy in the Vault.
+    bool verified = false;
+    QString archivedLine;
+    if (appState_) {
+        for (const ArchivedEvent &a : appState_->vaultIndex().events) {
+            if (a.kind == e.kind && a.folderName == e.folderName) {
+                verified = true;
+                archivedLine = QStringLiteral("Archived ") + a.archivedAt.formatLocal(QStringLiteral("MMM d, yyyy h:mm AP")) +
+                               QStringLiteral(" from ") + a.sourceVolume;
+                break;
+            }
+        }
+    }
+    m.insert(QStringLiteral("verified"), verified);
+    m.insert(QStringLiteral("verifiedIcon"), SymbolIcons::iconUrl(QStringLiteral("checkmark.seal")));
+    m.insert(QStringLiteral("archivedLine"), archivedLine);
+    return m;
+}
+
+QVariantMap EventPlayerPresenter::texts()
+{
+    auto icon = [](const char *name) { return SymbolIcons::iconUrl(QString::fromLatin1(name)); };
+    return {
+        {QStringLiteral("loading"), QStringLiteral("Loading cameras…")},
+        {QStringLiteral("emptyIcon"), icon("video.slash")},
+        {QStringLiteral("emptyTitle"), QStringLiteral("No playable footage for this event")},
+        {QStringLiteral("emptyText"),
+         QStringLiteral("None of this event's camera angles could be read. The files are still safely on your drive "
+                        "— this can happen with a failing drive or a corrupted minute.")},
+        {QStringLiteral("placeholderIcon"), icon("video.slash")},
+        {QStringLiteral("noFootage"), SyncPlayerController::noFootageReason},
+        {QStringLiteral("stepBackIcon"), icon("gobackward.5")},
+        {QStringLiteral("stepBackTip"), QStringLiteral("Step back 5 seconds. (Left Arrow)")},
+        {QStringLiteral("stepForwardIcon"), icon("goforward.5")},
+        {QStringLiteral("stepForwardTip"), QStringLiteral("Step forward 5 seconds. (Right Arrow)")},
+        {QStringLiteral("frameBackIcon"), icon("backward.frame")},
+        {QStringLiteral("frameBackTip"), QStringLiteral("Step back one frame. (,)")},
+        {QStringLiteral("frameForwardIcon"), icon("forward.frame")},
+        {QStringLiteral("frameForwardTip"), QStringLiteral("Step forward one frame. (.)")},
+        {QStringLiteral("playIcon"), icon("play.fill")},
+        {QStringLiteral("pauseIcon"), icon("pause.fill")},
+        {QStringLiteral("playTip"), QStringLiteral("Play or pause all cameras together, perfectly in sync. (Space)")},
+        {QStringLiteral("moment"), QStringLiteral("Moment")},
+        {QStringLiteral("momentIcon"), icon("flag.fill")},
+        {QStringLiteral("momentTip"),
+         QStringLiteral("Jump to just before the moment it happened — the honk, bump, or detection. (M)")},
+        {QStringLiteral("speed"), QStringLiteral("Speed")},
+        {QStringLiteral("speedTip"), QStringLiteral("Playback speed, from half speed to 4×.")},
+        {QStringLiteral("showAll"), QStringLiteral("Show All Cameras")},
+        {QStringLiteral("showAllTip"), QStringLiteral("Return to the full camera grid.")},
+        {QStringLiteral("sliderTip"), QStringLiteral("Drag to jump to any moment. Every camera stays in sync.")},
+        {QStringLiteral("sliderName"), QStringLiteral("Playback position")},
+        {QStringLiteral("keep"), QStringLiteral("Keep a safe copy on this ") + PlatformWords::computer()},
+        {QStringLiteral("keepIcon"), icon("checkmark.shield.fill")},
+        {QStringLiteral("keepTip"),
+         QStringLiteral("Copies this footage to your Vault and verifies it matches byte-for-byte. Nothing on your "
+                        "drive is ever changed or deleted. (K)")},
+        {QStringLiteral("dismiss"), QStringLiteral("Dismiss")},
+        {QStringLiteral("dismissIcon"), icon("xmark.circle")},
+        {QStringLiteral("dismissTip"),
+         QStringLiteral("Hide this from your inbox. This never deletes anything from your drive or Vault. (D)")},
+        {QStringLiteral("export"), QStringLiteral("Export & Share")},
+        {QStringLiteral("exportIcon"), icon("square.and.arrow.up")},
+        {QStringLiteral("exportTip"),
+         QStringLiteral("Save one camera's footage as its own file and hand it off by email, or save it to a "
+                        "folder.")},
+        {QStringLiteral("focusIcon"), icon("arrow.up.left.and.arrow.down.right")},
+        {QStringLiteral("unfocusIcon"), icon("arrow.down.right.and.arrow.up.left")},
+        {QStringLiteral("focusTip"), QStringLiteral("Fill the window with just the cameras. (F, Esc to go back)")},
+        {QStringLiteral("verifiedLabel"), QStringLiteral("Verified copy")},
+        {QStringLiteral("verifiedTip"),
+         QStringLiteral("This copy was checked byte-for-byte against your drive when it was archived. Tap for the "
+                        "technical detail.")},
+        {QStringLiteral("verifiedTitle"), QStringLiteral("Faithful Copy")},
+        {QStringLiteral("verifiedText"),
+         QStringLiteral("Every file below was copied and its checksum (SHA-256) was compared to the original on your "
+                        "drive at the time — a faithful, unaltered copy. This is a technical integrity check, not a "
+                        "legal certification.")},
+    };
+}
+
+void EventPlayerPresenter::chooseRate(double rate)
+{
+    if (!controller_)
+        return;
+    controller_->setRate(float(rate));
+    if (controller_->isPlaying())
+        controller_->play();
+}
+
+void EventPlayerPresenter::keep()
+{
+    if (appState_ && event_)
+        appState_->keep({*event_});
+}
+
+void EventPlayerPresenter::dismiss()
+{
+    if (appState_ && event_)
+        appState_->dismiss({*event_});
+}
+
+ExportFlow *EventPlayerPresenter::newExportFlow()
+{
+    if (!appState_ || !event_)
+        return nullptr;
+    if (exportFlow_) {
+        exportFlow_->stop();
+        exportFlow_->deleteLater();
+    }
+    exportFlow_ = new ExportFlow(appState_->engine(), *event_, this);
+    return exportFlow_;
+}

@@ -1,0 +1,82 @@
+import QtQuick
+import QtQuick.Controls
+import QtMultimedia
+import Keelhold
+
+// One camera: its video scaled to fit over a black field, or a placeholder
+// that says why there is none. The player keeps feeding its own sink; this
+// tile only shows copies of the frames, so tiles come and go freely.
+Rectangle {
+    id: tile
+    property var tileData: ({})
+    property bool isFocused: false
+    property bool small: false
+    property bool dimmed: false
+    property string tooltip: ""
+    property var texts: ({})
+    signal tapFocus()
+
+    readonly property var player: tileData && tileData.player ? tileData.player : null
+    objectName: (small ? "stripTile_" : "cameraTile_") + (tileData ? tileData.camera : "")
+    color: "black"
+    clip: true
+    opacity: dimmed ? 0.45 : 1.0
+    border.width: small && isFocused ? 2 : 0
+    border.color: palette.highlight
+    Accessible.role: Accessible.Button
+    Accessible.name: (tileData ? tileData.cameraName : "") + " camera"
+
+    VideoOutput {
+        id: video
+        objectName: "video"
+        anchors.fill: parent
+        anchors.margins: tile.border.width
+        fillMode: VideoOutput.PreserveAspectFit
+        visible: tile.player !== null
+    }
+    VideoMirror { player: tile.player; target: video.videoSink }
+
+    Column {
+        visible: tile.player === null
+        anchors.centerIn: parent
+        width: parent.width - 24
+        spacing: tile.small ? 2 : 8
+        SymbolIcon {
+            anchors.horizontalCenter: parent.horizontalCenter
+            symbol: "video.slash"
+            size: tile.small ? 16 : 32
+            color: "#bbbbbb"
+        }
+        Label {
+            objectName: "placeholderText"
+            visible: !tile.small
+            width: parent.width
+            horizontalAlignment: Text.AlignHCenter
+            wrapMode: Text.WordWrap
+            color: "#dddddd"
+            text: tile.tileData && tile.tileData.placeholderReason ? tile.tileData.placeholderReason : (tile.texts.noFootage || "")
+        }
+    }
+
+    Label {
+        x: tile.small ? 4 : 8
+        y: tile.small ? 2 : 6
+        text: (tile.tileData && tile.tileData.cameraName) || ""
+        color: "white"
+        font.pixelSize: tile.small ? 10 : 13
+        font.weight: Font.DemiBold
+        style: Text.Outline
+        styleColor: "#80000000"
+    }
+
+    MouseArea {
+        id: mouse
+        anchors.fill: parent
+        hoverEnabled: true
+        cursorShape: Qt.PointingHandCursor
+        onClicked: tile.tapFocus()
+    }
+    ToolTip.visible: mouse.containsMouse && tile.tooltip.length > 0
+    ToolTip.delay: 600
+    ToolTip.text: tile.tooltip
+}

@@ -1,0 +1,62 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+
+// The pane's toolbar: keep and dismiss for the event, then export and focus
+// mode. K and D reach the same actions through the player's keys.
+RowLayout {
+    id: bar
+    property var presenter: null
+    property var texts: ({})
+    property bool focusMode: false
+    signal exportRequested()
+    signal focusModeToggled()
+    spacing: 6
+
+    component ToolbarButton: Button {
+        property string tip: ""
+        focusPolicy: Qt.NoFocus
+        display: AbstractButton.TextBesideIcon
+        icon.width: 16
+        icon.height: 16
+        ToolTip.visible: hovered && tip.length > 0
+        ToolTip.delay: 600
+        ToolTip.text: tip
+    }
+
+    ToolbarButton {
+        objectName: "keepButton"
+        text: bar.texts.keep
+        icon.source: bar.texts.keepIcon
+        highlighted: bar.presenter ? bar.presenter.keepProminent : false
+        flat: !highlighted
+        tip: bar.texts.keepTip
+        onClicked: bar.presenter.keep()
+    }
+    ToolbarButton {
+        objectName: "dismissButton"
+        text: bar.texts.dismiss
+        icon.source: bar.texts.dismissIcon
+        flat: true
+        tip: bar.texts.dismissTip
+        onClicked: bar.presenter.dismiss()
+    }
+    Item { Layout.fillWidth: true }
+    ToolbarButton {
+        objectName: "exportButton"
+        text: (bar.texts.export || "").replace("&", "&&") // a lone & would underline the next letter
+        icon.source: bar.texts.exportIcon
+        flat: true
+        tip: bar.texts.exportTip
+        onClicked: bar.exportRequested()
+    }
+    ToolbarButton {
+        objectName: "focusModeButton"
+        display: AbstractButton.IconOnly
+        icon.source: bar.focusMode ? bar.texts.unfocusIcon : bar.texts.focusIcon
+        flat: true
+        tip: bar.texts.focusTip
+        Accessible.name: bar.texts.focusTip
+        onClicked: bar.focusModeToggled()
+    }
+}

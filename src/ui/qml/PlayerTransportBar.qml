@@ -1,0 +1,94 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+import Keelhold
+
+// Play, pause, step, the moment, speed, and the way back to the grid.
+RowLayout {
+    id: bar
+    property var controller: null
+    property var presenter: null
+    property var texts: ({})
+    spacing: 4
+    PlayerLayout { id: rules }
+
+    component TransportButton: ToolButton {
+        property string tip: ""
+        focusPolicy: Qt.NoFocus
+        icon.width: 20
+        icon.height: 20
+        ToolTip.visible: hovered && tip.length > 0
+        ToolTip.delay: 600
+        ToolTip.text: tip
+    }
+
+    TransportButton {
+        objectName: "frameBackButton"
+        icon.source: bar.texts.frameBackIcon
+        tip: bar.texts.frameBackTip
+        onClicked: bar.controller.stepFrame(-1)
+    }
+    TransportButton {
+        objectName: "stepBackButton"
+        icon.source: bar.texts.stepBackIcon
+        tip: bar.texts.stepBackTip
+        onClicked: bar.controller.stepBack()
+    }
+    TransportButton {
+        objectName: "playPauseButton"
+        icon.source: bar.controller && bar.controller.isPlaying ? bar.texts.pauseIcon : bar.texts.playIcon
+        icon.width: 26
+        icon.height: 26
+        tip: bar.texts.playTip
+        onClicked: bar.controller.togglePlayPause()
+    }
+    TransportButton {
+        objectName: "stepForwardButton"
+        icon.source: bar.texts.stepForwardIcon
+        tip: bar.texts.stepForwardTip
+        onClicked: bar.controller.stepForward()
+    }
+    TransportButton {
+        objectName: "frameForwardButton"
+        icon.source: bar.texts.frameForwardIcon
+        tip: bar.texts.frameForwardTip
+        onClicked: bar.controller.stepFrame(1)
+    }
+    TransportButton {
+        objectName: "momentButton"
+        visible: bar.controller !== null && bar.controller.triggerOffset !== null && bar.controller.triggerOffset !== undefined
+        text: bar.texts.moment
+        display: AbstractButton.TextBesideIcon
+        icon.source: bar.texts.momentIcon
+        icon.color: "#e0302a"
+        palette.buttonText: "#e0302a"
+        tip: bar.texts.momentTip
+        onClicked: bar.controller.jumpToMoment()
+    }
+    Item { Layout.fillWidth: true }
+    Label { text: bar.texts.speed; opacity: 0.8 }
+    ComboBox {
+        id: speed
+        objectName: "speedPicker"
+        focusPolicy: Qt.NoFocus
+        readonly property var rates: bar.controller ? bar.controller.allowedRates : []
+        model: rates.map(r => rules.speedLabel(r))
+        currentIndex: bar.controller ? rates.indexOf(bar.controller.rate) : -1
+        onActivated: (index) => bar.presenter.chooseRate(rates[index])
+        implicitWidth: 80
+        ToolTip.visible: hovered
+        ToolTip.delay: 600
+        ToolTip.text: bar.texts.speedTip
+    }
+    Button {
+        objectName: "showAllCamerasButton"
+        visible: bar.controller !== null && bar.controller.focusedCamera !== ""
+        focusPolicy: Qt.NoFocus
+        text: bar.texts.showAll
+        ToolTip.visible: hovered
+        ToolTip.delay: 600
+        ToolTip.text: bar.texts.showAllTip
+        // On the next turn, so the grid isn't rebuilt inside the click.
+        onClicked: Qt.callLater(bar.controller.clearFocus)
+    }
+}

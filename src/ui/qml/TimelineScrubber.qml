@@ -1,0 +1,66 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+import Keelhold
+
+// The one position of all cameras: a slider that seeks at once, the red
+// mark of the moment, and the two times under it.
+ColumnLayout {
+    id: scrubber
+    property var controller: null
+    property var texts: ({})
+    spacing: 0
+    PlayerLayout { id: rules }
+
+    Item {
+        Layout.fillWidth: true
+        Layout.preferredHeight: slider.implicitHeight
+        Slider {
+            id: slider
+            objectName: "timelineSlider"
+            anchors.fill: parent
+            focusPolicy: Qt.NoFocus
+            from: 0
+            to: scrubber.controller ? Math.max(1.0, scrubber.controller.duration) : 1.0
+            value: scrubber.controller ? scrubber.controller.currentTime : 0
+            onMoved: if (scrubber.controller) scrubber.controller.seek(value)
+            Accessible.name: scrubber.texts.sliderName
+            ToolTip.visible: hovered && !pressed
+            ToolTip.delay: 800
+            ToolTip.text: scrubber.texts.sliderTip
+        }
+        Rectangle {
+            id: mark
+            objectName: "momentMark"
+            readonly property real centre: scrubber.controller
+                ? rules.momentMarkX(scrubber.controller.triggerOffset, scrubber.controller.duration, slider.width) : -1
+            visible: centre >= 0
+            x: centre - width / 2
+            anchors.verticalCenter: parent.verticalCenter
+            width: 3
+            height: parent.height - 4
+            radius: 1
+            color: "#e0302a"
+            Accessible.ignored: true
+            HoverHandler { id: markHover }
+            ToolTip.visible: markHover.hovered
+            ToolTip.text: scrubber.controller && mark.visible ? rules.momentMarkTooltip(scrubber.controller.triggerOffset) : ""
+        }
+    }
+    RowLayout {
+        Layout.fillWidth: true
+        Label {
+            objectName: "currentTimeText"
+            text: scrubber.controller ? scrubber.controller.timeString(scrubber.controller.currentTime) : ""
+            font.family: "DejaVu Sans Mono"
+            opacity: 0.8
+        }
+        Item { Layout.fillWidth: true }
+        Label {
+            objectName: "durationText"
+            text: scrubber.controller ? scrubber.controller.timeString(scrubber.controller.duration) : ""
+            font.family: "DejaVu Sans Mono"
+            opacity: 0.8
+        }
+    }
+}
