@@ -22,3 +22,20 @@ QString setUp();
         QTEST_SET_MAIN_SOURCE_PATH                                                                                     \
         return QTest::qExec(&tc, argc, argv);                                                                          \
     }
+
+// The same for tests of the application's window: a GUI application named
+// as the app is (its settings land where the app's would). Without a display
+// the offscreen platform lets the process come up to say what it skips.
+#define KEELHOLD_APP_TEST_MAIN(TestObject)                                                                             \
+    int main(int argc, char **argv)                                                                                    \
+    {                                                                                                                  \
+        IsolatedHome::setUp();                                                                                         \
+        if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))                  \
+            qputenv("QT_QPA_PLATFORM", "offscreen");                                                                   \
+        QGuiApplication app(argc, argv);                                                                               \
+        QGuiApplication::setOrganizationName(QStringLiteral("Keelhold"));                                              \
+        QGuiApplication::setApplicationName(QStringLiteral("Keelhold"));                                               \
+        TestObject tc;                                                                                                 \
+        QTEST_SET_MAIN_SOURCE_PATH                                                                                     \
+        return QTest::qExec(&tc, argc, argv);                                                                          \
+    }

@@ -232,15 +232,6 @@ private Q_SLOTS:
     void cleanupTestCase() { app.reset(); }
 };
 
-int main(int argc, char **argv)
-{
-    IsolatedHome::setUp();
-    QGuiApplication a(argc, argv);
-    QGuiApplication::setOrganizationName(QStringLiteral("Keelhold"));
-    QGuiApplication::setApplicationName(QStringLiteral("Keelhold"));
-    EventMapTest tc;
-    QTEST_SET_MAIN_SOURCE_PATH
-    return QTest::qExec(&tc, argc, argv);
-}
+KEELHOLD_APP_TEST_MAIN(EventMapTest)
 
 #include "tst_eventmap.moc"

@@ -571,15 +571,6 @@ private Q_SLOTS:
 
 };
 
-int main(int argc, char **argv)
-{
-    IsolatedHome::setUp();
-    QGuiApplication app(argc, argv);
-    QGuiApplication::setOrganizationName(QStringLiteral("Keelhold"));
-    QGuiApplication::setApplicationName(QStringLiteral("Keelhold"));
-    PlayerScreenTest tc;
-    QTEST_SET_MAIN_SOURCE_PATH
-    return QTest::qExec(&tc, argc, argv);
-}
+KEELHOLD_APP_TEST_MAIN(PlayerScreenTest)
 
 #include "tst_playerscreen.moc"

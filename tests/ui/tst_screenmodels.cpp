@@ -393,17 +393,6 @@ private Q_SLOTS:
     }
 };
 
-int main(int argc, char **argv)
-{
-    IsolatedHome::setUp();
-    if (qEnvironmentVariableIsEmpty("DISPLAY"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    QGuiApplication app(argc, argv);
-    QGuiApplication::setOrganizationName(QStringLiteral("Keelhold"));
-    QGuiApplication::setApplicationName(QStringLiteral("Keelhold"));
-    ScreenModelsTest tc;
-    QTEST_SET_MAIN_SOURCE_PATH
-    return QTest::qExec(&tc, argc, argv);
-}
+KEELHOLD_APP_TEST_MAIN(ScreenModelsTest)
 
 #include "tst_screenmodels.moc"

@@ -560,19 +560,6 @@ private Q_SLOTS:
     }
 };
 
-int main(int argc, char **argv)
-{
-    IsolatedHome::setUp();
-    // Without a display every case skips; the offscreen platform lets the
-    // process come up to say so.
-    if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    QGuiApplication app(argc, argv);
-    QGuiApplication::setOrganizationName(QStringLiteral("Keelhold"));
-    QGuiApplication::setApplicationName(QStringLiteral("Keelhold"));
-    ShellFlowTest tc;
-    QTEST_SET_MAIN_SOURCE_PATH
-    return QTest::qExec(&tc, argc, argv);
-}
+KEELHOLD_APP_TEST_MAIN(ShellFlowTest)
 
 #include "tst_shellflow.moc"
