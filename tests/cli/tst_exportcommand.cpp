@@ -48,9 +48,9 @@ private Q_SLOTS:
     {
         if (!TestClips::ffmpegAvailable())
             QSKIP("the ffmpeg tool is needed to make test clips");
-        TestClips::ClipOptions clipSpec;
-        clipSpec.seconds = 2.0;
-        const QString clip = TestClips::clip(clipSpec);
+        TestClips::ClipOptions clipOptions;
+        clipOptions.seconds = 2.0;
+        const QString clip = TestClips::clip(clipOptions);
         TeslaCamFixture fixture(dir_.path() + QStringLiteral("/TeslaCam"));
         root_ = fixture.root();
         const QString event = fixture.addEvent(QStringLiteral("SentryClips"), QStringLiteral("2024-06-01_15-05-00"),

@@ -82,7 +82,7 @@ private:
     Date base_;
 };
 
-TestClips::ClipOptions clipSpec(double seconds, int width = 320, int height = 240)
+TestClips::ClipOptions clipOptions(double seconds, int width = 320, int height = 240)
 {
     TestClips::ClipOptions s;
     s.seconds = seconds;
@@ -179,7 +179,7 @@ private Q_SLOTS:
     void joinsClipsBackToBackSkippingDamaged()
     {
         Footage footage;
-        const QString source = TestClips::clip(clipSpec(2.0));
+        const QString source = TestClips::clip(clipOptions(2.0));
         footage.addClip(source, 2);
         QFile whole(source);
         QVERIFY(whole.open(QIODevice::ReadOnly));
@@ -216,11 +216,11 @@ private Q_SLOTS:
     void soundStartsWithTheFirstClipThatHasIt()
     {
         Footage footage;
-        TestClips::ClipOptions withSound = clipSpec(2.0);
+        TestClips::ClipOptions withSound = clipOptions(2.0);
         withSound.audio = true;
         footage.addClip(TestClips::clip(withSound), 3);
         footage.addClip(TestClips::clip(withSound), 4);
-        footage.addClip(TestClips::clip(clipSpec(2.0)), 2); // silent, and first by date
+        footage.addClip(TestClips::clip(clipOptions(2.0)), 2); // silent, and first by date
 
         Exporter::exportFootage(Camera::front, footage.event, std::nullopt, footage.output(), {});
 
@@ -233,7 +233,7 @@ private Q_SLOTS:
         QVERIFY(audio->dtsStrictlyIncreasing);
         QVERIFY(video->dtsStrictlyIncreasing);
         QCOMPARE(video->decodedFrames, 216);
-        QCOMPARE(video->extradata, extradataOf(TestClips::clip(clipSpec(2.0))));
+        QCOMPARE(video->extradata, extradataOf(TestClips::clip(clipOptions(2.0))));
         QVERIFY(std::abs(facts.duration - 6.0) < 0.1);
     }
 
@@ -242,7 +242,7 @@ private Q_SLOTS:
     void clipStartingLateClosesUp()
     {
         Footage footage;
-        const QString source = TestClips::clip(clipSpec(2.0));
+        const QString source = TestClips::clip(clipOptions(2.0));
         footage.addClip(source, 2);
         const QString late = footage.output(QStringLiteral("late.mp4"));
         QProcess ffmpeg;
@@ -265,7 +265,7 @@ private Q_SLOTS:
     void h265JoinsByCopy()
     {
         Footage footage;
-        TestClips::ClipOptions hevc = clipSpec(1.5);
+        TestClips::ClipOptions hevc = clipOptions(1.5);
         hevc.codec = QStringLiteral("libx265");
         const QString source = TestClips::clip(hevc);
         footage.addClip(source, 2);
@@ -300,10 +300,10 @@ private Q_SLOTS:
         QFETCH(int, height);
         QFETCH(QString, pixelFormat);
         Footage footage;
-        const QString small = TestClips::clip(clipSpec(1.0));
-        TestClips::ClipOptions otherSpec = clipSpec(1.0, width, height);
-        otherSpec.pixelFormat = pixelFormat;
-        const QString other = TestClips::clip(otherSpec);
+        const QString small = TestClips::clip(clipOptions(1.0));
+        TestClips::ClipOptions otherOptions = clipOptions(1.0, width, height);
+        otherOptions.pixelFormat = pixelFormat;
+        const QString other = TestClips::clip(otherOptions);
         footage.addClip(small, 2);
         footage.addClip(other, 3);
         footage.addClip(small, 4);
@@ -353,7 +353,7 @@ private Q_SLOTS:
         QFETCH(double, to);
         QFETCH(double, expected);
         Footage footage;
-        const QString source = TestClips::clip(clipSpec(2.0));
+        const QString source = TestClips::clip(clipOptions(2.0));
         footage.addClip(source, 2);
         footage.addClip(source, 3);
 
@@ -372,7 +372,7 @@ private Q_SLOTS:
     void rangeOutsideTheFootageFails()
     {
         Footage footage;
-        footage.addClip(TestClips::clip(clipSpec(2.0)), 2);
+        footage.addClip(TestClips::clip(clipOptions(2.0)), 2);
         for (const auto &range : {std::make_pair(10.0, 20.0), std::make_pair(1.5, 1.0)}) {
             const auto error = exportErrorOf([&] {
                 Exporter::exportFootage(Camera::front, footage.event, range, footage.output(), {});
@@ -387,7 +387,7 @@ private Q_SLOTS:
     void cameraWithoutClipsFailsAtOnce()
     {
         Footage footage;
-        footage.addClip(TestClips::clip(clipSpec(1.0)), 2, Camera::front);
+        footage.addClip(TestClips::clip(clipOptions(1.0)), 2, Camera::front);
         std::stop_source stop;
         stop.request_stop();
         const auto error = exportErrorOf([&] {
@@ -400,7 +400,7 @@ private Q_SLOTS:
     void noUsableClipFails()
     {
         Footage footage;
-        const QString source = TestClips::clip(clipSpec(1.0));
+        const QString source = TestClips::clip(clipOptions(1.0));
         QFile whole(source);
         QVERIFY(whole.open(QIODevice::ReadOnly));
         footage.addBytes(QByteArray(), 2);                         // zero bytes
@@ -423,7 +423,7 @@ private Q_SLOTS:
     void cancelledBeforeWritingIsACancellation()
     {
         Footage footage;
-        footage.addClip(TestClips::clip(clipSpec(1.0)), 2);
+        footage.addClip(TestClips::clip(clipOptions(1.0)), 2);
         std::stop_source stop;
         stop.request_stop();
         ProgressLog progress;
@@ -439,7 +439,7 @@ private Q_SLOTS:
     void cancelledWhilePreparingIsACancellation()
     {
         Footage footage;
-        const QString source = TestClips::clip(clipSpec(1.0));
+        const QString source = TestClips::clip(clipOptions(1.0));
         for (int minute = 0; minute < 60; ++minute)
             footage.addClip(source, minute);
         std::stop_source stop;
@@ -472,7 +472,7 @@ private Q_SLOTS:
     {
         QFETCH(double, stopAt);
         Footage footage;
-        const QString source = TestClips::clip(clipSpec(2.0));
+        const QString source = TestClips::clip(clipOptions(2.0));
         for (int minute = 2; minute < 6; ++minute)
             footage.addClip(source, minute);
         const TreeSnapshot before = TreeSnapshot::take(footage.root());
@@ -498,7 +498,7 @@ private Q_SLOTS:
     void destinationMustBeNew()
     {
         Footage footage;
-        footage.addClip(TestClips::clip(clipSpec(1.0)), 2);
+        footage.addClip(TestClips::clip(clipOptions(1.0)), 2);
         {
             QFile existing(footage.output());
             QVERIFY(existing.open(QIODevice::WriteOnly));
