@@ -49,6 +49,23 @@ QVariant optionalJson(const std::optional<T> &v)
 
 } // namespace
 
+namespace {
+// A progress callback for the engine's threads: each value hops to the main
+// thread and is applied there only if the state still exists.
+template <typename Value, typename Apply> auto onMainThread(QPointer<AppState> weak, Apply apply)
+{
+    return [weak, apply](const Value &value) {
+        QMetaObject::invokeMethod(
+            weak.data(),
+            [weak, apply, value] {
+                if (weak)
+                    apply(*weak, value);
+            },
+            Qt::QueuedConnection);
+    };
+}
+} // namespace
+
 AppState::AppState(EngineFacade &engine, QObject *parent) : QObject(parent), engine_(engine)
 {
     hasCompletedOnboarding_ = settings().value(onboardingKey, false).toBool();
@@ -182,16 +199,10 @@ QCoro::Task<void> AppState::scanTask(QPointer<AppState> self, QString root, QStr
         self->evaluateForFailure(*cached);
     }
 
-    QPointer<AppState> weak = self;
-    auto progress = [weak](const ScanProgress &p) {
-        QMetaObject::invokeMethod(
-            weak.data(),
-            [weak, p] {
-                if (weak && !weak->isRevalidatingScan_)
-                    weak->setScanProgress(p);
-            },
-            Qt::QueuedConnection);
-    };
+    auto progress = onMainThread<ScanProgress>(self, [](AppState &state, const ScanProgress &p) {
+        if (!state.isRevalidatingScan_)
+            state.setScanProgress(p);
+    });
 
     DriveScan scan;
     try {
@@ -403,16 +414,7 @@ void AppState::loadSampleFootage()
 QCoro::Task<void> AppState::sampleTask(QPointer<AppState> self, QString root)
 {
     EngineFacade &engine = self->engine_;
-    QPointer<AppState> weak = self;
-    auto progress = [weak](const ScanProgress &p) {
-        QMetaObject::invokeMethod(
-            weak.data(),
-            [weak, p] {
-                if (weak)
-                    weak->setScanProgress(p);
-            },
-            Qt::QueuedConnection);
-    };
+    auto progress = onMainThread<ScanProgress>(self, [](AppState &state, const ScanProgress &p) { state.setScanProgress(p); });
     DriveScan scan;
     try {
         scan = co_await engine.scanDrive(root, progress);
@@ -564,16 +566,7 @@ void AppState::keep(const std::vector<TeslaEvent> &events)
 QCoro::Task<void> AppState::keepTask(QPointer<AppState> self, ArchivePlan plan, QString vaultURL,
                                      std::vector<TeslaEvent> events, std::shared_ptr<std::stop_source> task)
 {
-    QPointer<AppState> weak = self;
-    auto progress = [weak](const ArchiveProgress &p) {
-        QMetaObject::invokeMethod(
-            weak.data(),
-            [weak, p] {
-                if (weak)
-                    weak->setArchiveProgress(p);
-            },
-            Qt::QueuedConnection);
-    };
+    auto progress = onMainThread<ArchiveProgress>(self, [](AppState &state, const ArchiveProgress &p) { state.setArchiveProgress(p); });
     ArchiveReport report;
     try {
         report = co_await self->engine_.runArchive(plan, vaultURL, progress, task->get_token());
