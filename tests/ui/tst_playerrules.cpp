@@ -195,9 +195,14 @@ private Q_SLOTS:
         QVERIFY(!controller->isPlaying());
         QCOMPARE(state.activePlayerController(), nullptr);
         // Coming back to the same event loads it again.
+        // (The build may finish before setEventID returns, so watch the
+        // signal rather than the flag.)
+        QSignalSpy loading(controller, &SyncPlayerController::isLoadingTilesChanged);
         presenter.setEventID(b);
         QCOMPARE(state.activePlayerController(), controller);
-        QVERIFY(controller->isLoadingTiles());
+        QVERIFY(loading.count() >= 1);
+        QTRY_VERIFY_WITH_TIMEOUT(!controller->isLoadingTiles(), 15000);
+        QCOMPARE(int(controller->tiles().size()), 2);
     }
 
     // One player, several views: each gets the frames, and a view that
