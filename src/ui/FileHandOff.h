@@ -4,6 +4,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <chrono>
+
 // Hands a finished file on to the desktop: the file manager with the file
 // selected, or a new mail with the file attached.
 class FileHandOff : public QObject {
@@ -21,6 +23,10 @@ public:
     static QList<QStringList> showInFolderCommands(const QString &path);
     static QStringList emailCommand(const QString &path);
 
+    // How long a file manager may take to answer before the next way is tried.
+    static constexpr std::chrono::milliseconds answerLimit{3000};
+
+    // Returns at once; false only when there is no such file.
     Q_INVOKABLE static bool showInFolder(const QString &path);
     Q_INVOKABLE static bool email(const QString &path);
 };

@@ -1,0 +1,135 @@
+#include "FileHandOff.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QtTest>
+
+// The hand-off runs the desktop's own programs. Here a folder of small
+// stand-in programs takes their place on PATH, each leaving a note of how
+// it was called, so the order of attempts and the arguments can be seen.
+class TestFileHandOff : public QObject {
+    Q_OBJECT
+
+private:
+    QTemporaryDir dir_;
+    QByteArray oldPath_;
+
+    QString bin() const { return dir_.filePath(QStringLiteral("bin")); }
+    QString notes() const { return dir_.filePath(QStringLiteral("notes")); }
+
+    void program(const QString &name, const QByteArray &body)
+    {
+        QFile f(bin() + QLatin1Char('/') + name);
+        QVERIFY(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        f.write("#!/bin/sh\n" + body + "\n");
+        f.close();
+        f.setPermissions(f.permissions() | QFileDevice::ExeOwner);
+    }
+    void noteTaker(const QString &name, int exitCode)
+    {
+        program(name, QStringLiteral("echo \"%1 $*\" >> '%2'\nexit %3").arg(name, notes()).arg(exitCode).toUtf8());
+    }
+    QStringList readNotes() const
+    {
+        QFile f(notes());
+        if (!f.open(QIODevice::ReadOnly))
+            return {};
+        return QString::fromUtf8(f.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    }
+    QString exported() const { return dir_.filePath(QStringLiteral("out/Front Camera.mp4")); }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QVERIFY(dir_.isValid());
+        QVERIFY(QDir().mkpath(bin()));
+        QVERIFY(QDir().mkpath(dir_.filePath(QStringLiteral("out"))));
+        QFile f(exported());
+        QVERIFY(f.open(QIODevice::WriteOnly));
+        f.write("mp4");
+        oldPath_ = qgetenv("PATH");
+        qputenv("PATH", QFile::encodeName(bin()));
+    }
+    void cleanupTestCase() { qputenv("PATH", oldPath_); }
+    void init()
+    {
+        QFile::remove(notes());
+        for (const QString &name : QDir(bin()).entryList(QDir::Files))
+            QFile::remove(bin() + QLatin1Char('/') + name);
+    }
+
+    void fileManagerSelectsTheFile()
+    {
+        noteTaker(QStringLiteral("dbus-send"), 0);
+        noteTaker(QStringLiteral("xdg-open"), 0);
+        QVERIFY(FileHandOff::showInFolder(exported()));
+        QTRY_COMPARE(readNotes().size(), 1);
+        const QString call = readNotes().front();
+        QVERIFY(call.startsWith(QStringLiteral("dbus-send --session")));
+        QVERIFY(call.contains(QStringLiteral("org.freedesktop.FileManager1.ShowItems")));
+        // The file's address, with its space escaped as a URI wants.
+        QVERIFY(call.contains(QStringLiteral("array:string:file://")));
+        QVERIFY(call.contains(QStringLiteral("Front%20Camera.mp4")));
+        QTest::qWait(300);
+        QCOMPARE(readNotes().size(), 1); // nothing else was tried
+    }
+
+    // No file manager service, or none installed: the folder opens instead.
+    void folderOpensWhenTheFileManagerFailsOrIsMissing()
+    {
+        noteTaker(QStringLiteral("dbus-send"), 1);
+        noteTaker(QStringLiteral("xdg-open"), 0);
+        QVERIFY(FileHandOff::showInFolder(exported()));
+        QTRY_COMPARE(readNotes().size(), 2);
+        QVERIFY(readNotes().at(0).startsWith(QStringLiteral("dbus-send")));
+        QCOMPARE(readNotes().at(1), QStringLiteral("xdg-open ") + dir_.filePath(QStringLiteral("out")));
+
+        QFile::remove(notes());
+        QFile::remove(bin() + QStringLiteral("/dbus-send"));
+        QVERIFY(FileHandOff::showInFolder(exported()));
+        QTRY_COMPARE(readNotes(), QStringList{QStringLiteral("xdg-open ") + dir_.filePath(QStringLiteral("out"))});
+    }
+
+    // A bus that never answers must not freeze the window: the call
+    // returns at once and the folder opens after the limit.
+    void silentFileManagerNeverHoldsTheCaller()
+    {
+        program(QStringLiteral("dbus-send"), "exec /bin/sleep 30");
+        noteTaker(QStringLiteral("xdg-open"), 0);
+        QElapsedTimer clock;
+        clock.start();
+        QVERIFY(FileHandOff::showInFolder(exported()));
+        QVERIFY(clock.elapsed() < FileHandOff::answerLimit.count() / 2);
+        QTRY_VERIFY_WITH_TIMEOUT(!readNotes().isEmpty(), int(FileHandOff::answerLimit.count()) + 5000);
+        // (a coarse timer: up to 5% early)
+        QVERIFY(clock.elapsed() >= FileHandOff::answerLimit.count() * 9 / 10);
+        QVERIFY(readNotes().front().startsWith(QStringLiteral("xdg-open ")));
+    }
+
+    void nothingHappensForAMissingFile()
+    {
+        noteTaker(QStringLiteral("dbus-send"), 0);
+        noteTaker(QStringLiteral("xdg-open"), 0);
+        noteTaker(QStringLiteral("xdg-email"), 0);
+        const QString gone = dir_.filePath(QStringLiteral("out/gone.mp4"));
+        QVERIFY(!FileHandOff::showInFolder(gone));
+        QVERIFY(!FileHandOff::email(gone));
+        QTest::qWait(300);
+        QVERIFY(readNotes().isEmpty());
+    }
+
+    void emailOnlyWhereTheDesktopCanSendIt()
+    {
+        QVERIFY(!FileHandOff::canEmail());
+        QVERIFY(!FileHandOff::email(exported()));
+        noteTaker(QStringLiteral("xdg-email"), 0);
+        QVERIFY(FileHandOff::canEmail());
+        QVERIFY(FileHandOff::email(exported()));
+        QTRY_COMPARE(readNotes(), QStringList{QStringLiteral("xdg-email --attach ") + exported()});
+    }
+};
+
+QTEST_GUILESS_MAIN(TestFileHandOff)
+#include "tst_filehandoff.moc"
