@@ -1,5 +1,6 @@
 #include "ExportFlow.h"
 
+#include "engine/AsyncRun.h"
 #include "export/Exporter.h"
 #include "model/CancellationError.h"
 #include "model/PlatformWords.h"
@@ -14,6 +15,7 @@
 #include <QUuid>
 #include <QVariantMap>
 #include <algorithm>
+#include <cstdio>
 
 ExportFlow::ExportFlow(EngineFacade &engine, const TeslaEvent &event, QObject *parent)
     : QObject(parent), engine_(engine), event_(event), cameras_(event.cameras())
@@ -107,6 +109,7 @@ QVariantMap ExportFlow::texts()
             {QStringLiteral("cameraLabel"), QStringLiteral("Camera")},
             {QStringLiteral("note"), combinedNote},
             {QStringLiteral("exporting"), QStringLiteral("Exporting…")},
+            {QStringLiteral("saving"), QStringLiteral("Saving a copy…")},
             {QStringLiteral("cancel"), QStringLiteral("Cancel")},
             {QStringLiteral("export"), QStringLiteral("Export")},
             {QStringLiteral("stop"), QStringLiteral("Stop")},
@@ -185,18 +188,48 @@ void ExportFlow::stop()
 
 bool ExportFlow::saveTo(const QString &destination)
 {
-    if (!exportedPath_ || destination.isEmpty())
+    if (!exportedPath_ || destination.isEmpty() || isSaving_)
         return false;
     const QUrl url(destination);
     const QString path = url.isLocalFile() ? url.toLocalFile() : destination;
-    bool ok = true;
-    if (QFileInfo::exists(path) || QFileInfo(path).isSymLink())
-        ok = QFile::remove(path);
-    ok = ok && QFile::copy(*exportedPath_, path);
-    if (ok)
-        savedFileName_ = QFileInfo(path).fileName();
-    else
-        saveErrorMessage_ = saveFailureMessage;
+    isSaving_ = true;
     Q_EMIT changed();
-    return ok;
+    const QString source = *exportedPath_;
+    const QFuture<bool> copy = AsyncRun::onPool(*QThreadPool::globalInstance(),
+                                                [source, path] { return copyReplacing(source, path); });
+    auto *watcher = new QFutureWatcher<bool>(this);
+    connect(watcher, &QFutureWatcher<bool>::finished, this, [this, watcher, path] {
+        watcher->deleteLater();
+        const bool ok = watcher->future().result();
+        isSaving_ = false;
+        if (ok)
+            savedFileName_ = QFileInfo(path).fileName();
+        else
+            saveErrorMessage_ = saveFailureMessage;
+        Q_EMIT changed();
+        Q_EMIT saveFinished(ok);
+    });
+    watcher->setFuture(copy);
+    return true;
+}
+
+bool ExportFlow::copyReplacing(const QString &source, const QString &destination)
+{
+    const QFileInfo target(destination);
+    if (target.fileName().isEmpty() || (target.exists() && target.isDir() && !target.isSymLink()))
+        return false;
+    const QString part = target.dir().filePath(QStringLiteral(".") + target.fileName() + QStringLiteral(".part-") +
+                                               QUuid::createUuid().toString(QUuid::Id128).left(8));
+    // QFile::copy writes into a temporary file of its own and renames it
+    // into place only once every byte is written.
+    if (!QFile::copy(source, part)) {
+        QFile::remove(part);
+        return false;
+    }
+    // rename(2) swaps the new file in for whatever was there in one step.
+    if (::rename(QFile::encodeName(part).constData(), QFile::encodeName(destination).constData()) != 0) {
+        QFile::remove(part);
+        return false;
+    }
+    return true;
 }

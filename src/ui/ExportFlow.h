@@ -28,6 +28,7 @@ class ExportFlow : public QObject {
     Q_PROPERTY(QString readyText READ readyText NOTIFY changed)
     Q_PROPERTY(QString savedText READ savedText NOTIFY changed)
     Q_PROPERTY(QString saveErrorMessage READ saveErrorMessageForQml NOTIFY changed)
+    Q_PROPERTY(bool isSaving READ isSaving NOTIFY changed)
     Q_PROPERTY(QString suggestedSaveFolder READ suggestedSaveFolder CONSTANT)
     Q_PROPERTY(QString exportedFileName READ exportedFileName NOTIFY changed)
     Q_PROPERTY(QString automaticSaveDestination READ automaticSaveDestination CONSTANT)
@@ -64,6 +65,7 @@ public:
     const std::optional<QString> &exportedPath() const { return exportedPath_; }
     const std::optional<QString> &savedFileName() const { return savedFileName_; }
     const std::optional<QString> &saveErrorMessage() const { return saveErrorMessage_; }
+    bool isSaving() const { return isSaving_; }
     QString readyText() const;
     QString savedText() const;
     // The user's Videos folder, else home.
@@ -78,12 +80,19 @@ public:
     Q_INVOKABLE void startExport();
     Q_INVOKABLE void stop();
     // Copies the finished file to destination (a path or file:// URL),
-    // replacing a file already there; the exported file stays.
+    // replacing a file already there; the exported file stays. The copy
+    // runs off the window's thread; saveFinished() tells the outcome.
+    // Returns whether a copy started (one at a time).
     Q_INVOKABLE bool saveTo(const QString &destination);
+    // The copy itself: whole into a hidden file beside the destination,
+    // then renamed over it, so a failed copy (a full disk, a pulled stick)
+    // leaves what was there before and no partial file.
+    static bool copyReplacing(const QString &source, const QString &destination);
 
 Q_SIGNALS:
     void changed();
     void exportFinished();
+    void saveFinished(bool succeeded);
 
 private:
     QString selectedCameraRaw() const { return selectedCamera_ ? selectedCamera_->rawValue() : QString(); }
@@ -105,5 +114,6 @@ private:
     std::optional<QString> exportedPath_;
     std::optional<QString> savedFileName_;
     std::optional<QString> saveErrorMessage_;
+    bool isSaving_ = false;
     std::unique_ptr<QFutureWatcher<void>> watcher_;
 };

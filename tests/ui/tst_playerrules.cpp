@@ -14,6 +14,9 @@
 #include "support/TestClips.h"
 
 #include <QFile>
+#include <QScopeGuard>
+#include <QDir>
+#include <QProcess>
 #include <QFileInfo>
 #include <QSettings>
 #include <QSignalSpy>
@@ -21,6 +24,8 @@
 #include <QVideoFrame>
 #include <QVideoSink>
 #include <QtTest>
+
+#include <unistd.h>
 
 class TestPlayerRules : public QObject {
     Q_OBJECT
@@ -274,11 +279,19 @@ private Q_SLOTS:
         // Saving replaces a file already there and leaves the export in place.
         const QString target = dir.filePath(QStringLiteral("copy.mp4"));
         TeslaCamFixture::writeFile(target, "old");
+        QSignalSpy saved(&flow, &ExportFlow::saveFinished);
         QVERIFY(flow.saveTo(QUrl::fromLocalFile(target).toString()));
+        QVERIFY(flow.isSaving());
+        QVERIFY(!flow.saveTo(target)); // one copy at a time
+        QTRY_COMPARE_WITH_TIMEOUT(saved.count(), 1, 10000);
+        QCOMPARE(saved.takeFirst().at(0).toBool(), true);
+        QVERIFY(!flow.isSaving());
         QCOMPARE(flow.savedText(), QStringLiteral("Saved as copy.mp4"));
         QCOMPARE(QFileInfo(target).size(), QFileInfo(first).size());
         QVERIFY(QFileInfo::exists(first));
-        QVERIFY(!flow.saveTo(dir.filePath(QStringLiteral("missing/dir/x.mp4"))));
+        QVERIFY(flow.saveTo(dir.filePath(QStringLiteral("missing/dir/x.mp4"))));
+        QTRY_COMPARE_WITH_TIMEOUT(saved.count(), 1, 10000);
+        QCOMPARE(saved.takeFirst().at(0).toBool(), false);
         QCOMPARE(flow.saveErrorMessage(), std::optional<QString>(ExportFlow::saveFailureMessage));
         QCOMPARE(flow.savedText(), QStringLiteral("Saved as copy.mp4")); // both lines stand
 
@@ -287,6 +300,45 @@ private Q_SLOTS:
         again.startExport();
         QTRY_COMPARE_WITH_TIMEOUT(again.stateName(), QStringLiteral("ready"), 30000);
         QVERIFY(QFileInfo(*again.exportedPath()).path() != QFileInfo(first).path());
+    }
+
+    // A copy that can't finish leaves what was at the destination, and no
+    // half-written file beside it.
+    void failedSaveKeepsTheOldFileAndLeavesNoPart()
+    {
+        QTemporaryDir dir;
+        const QString source = dir.filePath(QStringLiteral("export.mp4"));
+        TeslaCamFixture::writeFile(source, QByteArray(3 * 1024 * 1024, 'v'));
+        const auto entries = [](const QString &folder) {
+            return QDir(folder).entryList(QDir::Files | QDir::Hidden | QDir::System);
+        };
+
+        // Plain replacing, and a folder in the way.
+        const QString target = dir.filePath(QStringLiteral("out/clip.mp4"));
+        QDir().mkpath(dir.filePath(QStringLiteral("out")));
+        TeslaCamFixture::writeFile(target, "old");
+        QVERIFY(ExportFlow::copyReplacing(source, target));
+        QCOMPARE(QFileInfo(target).size(), qint64(3 * 1024 * 1024));
+        QDir().mkpath(dir.filePath(QStringLiteral("out/folder.mp4")));
+        QVERIFY(!ExportFlow::copyReplacing(source, dir.filePath(QStringLiteral("out/folder.mp4"))));
+        QVERIFY(QFileInfo(dir.filePath(QStringLiteral("out/folder.mp4"))).isDir());
+        QCOMPARE(entries(dir.filePath(QStringLiteral("out"))), QStringList{QStringLiteral("clip.mp4")});
+
+        // A disk too small for the copy.
+        if (::geteuid() != 0)
+            QSKIP("needs root to mount a small tmpfs");
+        QTemporaryDir mountPoint;
+        if (QProcess::execute(QStringLiteral("mount"), {QStringLiteral("-t"), QStringLiteral("tmpfs"), QStringLiteral("-o"),
+                                                        QStringLiteral("size=1m"), QStringLiteral("tmpfs"), mountPoint.path()}) != 0)
+            QSKIP("tmpfs mount not available");
+        const auto unmount = qScopeGuard([&] { QProcess::execute(QStringLiteral("umount"), {mountPoint.path()}); });
+        const QString small = mountPoint.filePath(QStringLiteral("clip.mp4"));
+        TeslaCamFixture::writeFile(small, "what the user had");
+        QVERIFY(!ExportFlow::copyReplacing(source, small));
+        QFile kept(small);
+        QVERIFY(kept.open(QIODevice::ReadOnly));
+        QCOMPARE(kept.readAll(), QByteArray("what the user had"));
+        QCOMPARE(entries(mountPoint.path()), QStringList{QStringLiteral("clip.mp4")});
     }
 
     void exportFailureAndStop()

@@ -137,11 +137,19 @@ Popup {
                 }
                 Button {
                     objectName: "saveToButton"
+                    enabled: sheet.flow !== null && !sheet.flow.isSaving
                     text: sheet.texts.saveTo || ""
                     ToolTip.visible: hovered
                     ToolTip.text: sheet.texts.saveToTip || ""
                     onClicked: sheet.presentSavePanel()
                 }
+            }
+            RowLayout {
+                objectName: "savingRow"
+                visible: sheet.flow !== null && sheet.flow.isSaving
+                spacing: 8
+                BusyIndicator { running: parent.visible; implicitWidth: 20; implicitHeight: 20 }
+                Label { text: sheet.texts.saving || ""; opacity: 0.8 }
             }
             Label {
                 objectName: "savedText"
