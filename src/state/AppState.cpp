@@ -1,6 +1,7 @@
 #include "state/AppState.h"
 
 #include "drive/ReadableFormats.h"
+#include "engine/AsyncRun.h"
 #include "drive/TeslaCamParser.h"
 #include "health/HealthComputer.h"
 #include "playback/SyncPlayerController.h"
@@ -178,12 +179,19 @@ void AppState::beginScan(const QString &root)
     setIsScanning(true);
     setIsRevalidatingScan(false);
     setScanProgress(ScanProgress{gettingStartedPhase, 0, 0, 0});
-    scanTask(QPointer<AppState>(this), root, scanCacheKey(root));
+    scanTask(QPointer<AppState>(this), root);
 }
 
-QCoro::Task<void> AppState::scanTask(QPointer<AppState> self, QString root, QString key)
+QCoro::Task<void> AppState::scanTask(QPointer<AppState> self, QString root)
 {
     EngineFacade &engine = self->engine_;
+    // The key asks the drive for its size, and a failing drive can take
+    // minutes to answer that: never on this thread.
+    QFuture<QString> keyFuture =
+        AsyncRun::onPool(*QThreadPool::globalInstance(), [root] { return scanCacheKey(root); });
+    const QString key = co_await keyFuture;
+    if (!self)
+        co_return;
     std::optional<DriveScan> cached;
     try {
         cached = co_await engine.cachedScan(key);

@@ -274,7 +274,7 @@ private:
 
     // Tasks bound to the main thread; each holds the state weakly.
     static QCoro::Task<void> loadTriageTask(QPointer<AppState> self);
-    static QCoro::Task<void> scanTask(QPointer<AppState> self, QString root, QString key);
+    static QCoro::Task<void> scanTask(QPointer<AppState> self, QString root);
     static QCoro::Task<void> sampleTask(QPointer<AppState> self, QString root);
     static QCoro::Task<void> watchTask(QPointer<AppState> self);
     static QCoro::Task<void> keepTask(QPointer<AppState> self, ArchivePlan plan, QString vaultURL,

@@ -3,16 +3,21 @@
 #include "engine/MockEngine.h"
 #include "playback/SyncPlayerController.h"
 #include "state/AppState.h"
+#include "support/FaultyFs.h"
 #include "support/IsolatedHome.h"
 #include "support/TeslaCamFixture.h"
 #include "support/TestClips.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QtTest>
+
+#include <chrono>
+#include <thread>
 
 // The rules of the application state that compute something, each on a real
 // engine over real folders: which format clears which failure, the name a
@@ -446,6 +451,41 @@ private Q_SLOTS:
         // An unknown state from a screen changes nothing.
         state.setTriage(QStringLiteral("archived"), e.id());
         QCOMPARE(triage.count(), 1);
+    }
+
+    // A drive that stops answering is asked nothing on the window's thread:
+    // the scan starts at once and goes on when the drive answers again.
+    void unansweringDriveNeverHoldsTheWindowThread()
+    {
+        if (!FaultyFs::available())
+            QSKIP("needs FUSE");
+        QTemporaryDir mountPoint;
+        FaultyFs fs(mountPoint.path());
+        QVERIFY(fs.isMounted());
+        fs.addFile(QStringLiteral("TeslaCam/SentryClips/2024-06-01_10-00-00/event.json"),
+                   TeslaCamFixture::eventJson(QStringLiteral("2024-06-01T10:00:00"), QStringLiteral("user_interaction_honk")));
+        fs.addFile(QStringLiteral("TeslaCam/SentryClips/2024-06-01_10-00-00/2024-06-01_09-59-00-front.mp4"),
+                   QByteArray(64 * 1024, 'x'));
+        fs.hangStatfs();
+        LiveEngine engine;
+        AppState state(engine);
+        // Should the state ask anyway, the drive answers after a while, so
+        // the test fails rather than hangs.
+        std::thread releaser([&fs] {
+            std::this_thread::sleep_for(std::chrono::seconds(3));
+            fs.release();
+        });
+        const auto join = qScopeGuard([&] { releaser.join(); });
+        QElapsedTimer clock;
+        clock.start();
+        state.beginScan(mountPoint.filePath(QStringLiteral("TeslaCam")));
+        QVERIFY2(clock.elapsed() < 1000, qPrintable(QString::number(clock.elapsed())));
+        QVERIFY(state.isScanning());
+        QTRY_VERIFY_WITH_TIMEOUT(fs.isHanging(), 2000);
+        QVERIFY(!state.driveScan());
+        QVERIFY(settled(state));
+        QVERIFY(state.driveScan());
+        QCOMPARE(state.driveScan()->events.size(), size_t(1));
     }
 
     void scanCacheKeyNamesThePhysicalDrive()

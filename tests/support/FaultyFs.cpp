@@ -14,6 +14,7 @@
 #include <set>
 #include <string>
 #include <sys/stat.h>
+#include <sys/statvfs.h>
 #include <thread>
 #include <unistd.h>
 
@@ -32,6 +33,7 @@ struct FaultyFs::State {
     std::condition_variable released;
     bool releasing = false;
     std::atomic<bool> hanging{false};
+    bool hangStatfs = false;
     std::map<std::string, File> files; // "/TeslaCam/…"
     std::set<std::string> folders{"/"};
     std::atomic<qint64> served{0};
@@ -44,6 +46,15 @@ namespace {
 FaultyFs::State &state()
 {
     return *static_cast<FaultyFs::State *>(fuse_get_context()->private_data);
+}
+
+// Waits while the test holds the drive still; false if it vanished meanwhile.
+bool waitWhileHeld(FaultyFs::State &s, std::unique_lock<std::mutex> &lock)
+{
+    s.hanging = true;
+    s.released.wait(lock, [&] { return s.releasing; });
+    s.hanging = false;
+    return !s.vanished;
 }
 
 void *onInit(fuse_conn_info *, fuse_config *config)
@@ -131,11 +142,9 @@ int onRead(const char *path, char *buffer, size_t size, off_t offset, fuse_file_
     if (it == s.files.end())
         return -EIO;
     if (it->second.hangFrom >= 0 && offset + qint64(size) > it->second.hangFrom && !s.releasing) {
-        s.hanging = true;
-        s.released.wait(lock, [&] { return s.releasing; });
-        s.hanging = false;
+        const bool present = waitWhileHeld(s, lock);
         it = s.files.find(path);
-        if (s.vanished || it == s.files.end())
+        if (!present || it == s.files.end())
             return -EIO;
     }
     const auto &file = it->second;
@@ -153,6 +162,19 @@ int onRead(const char *path, char *buffer, size_t size, off_t offset, fuse_file_
     return int(n);
 }
 
+int onStatfs(const char *, struct statvfs *out)
+{
+    auto &s = state();
+    std::unique_lock lock(s.mutex);
+    if (s.hangStatfs && !s.releasing && !waitWhileHeld(s, lock))
+        return -EIO;
+    // What libfuse answers when a file system has no statfs of its own.
+    std::memset(out, 0, sizeof *out);
+    out->f_namemax = 255;
+    out->f_bsize = 512;
+    return 0;
+}
+
 const fuse_operations &operations()
 {
     static const fuse_operations ops = [] {
@@ -162,6 +184,7 @@ const fuse_operations &operations()
         o.readdir = onReaddir;
         o.open = onOpen;
         o.read = onRead;
+        o.statfs = onStatfs;
         return o;
     }();
     return ops;
@@ -262,6 +285,13 @@ void FaultyFs::hangReadsFrom(const QString &relativePath, qint64 offset)
 {
     std::lock_guard lock(state_->mutex);
     state_->files[key(relativePath)].hangFrom = offset;
+    state_->releasing = false;
+}
+
+void FaultyFs::hangStatfs()
+{
+    std::lock_guard lock(state_->mutex);
+    state_->hangStatfs = true;
     state_->releasing = false;
 }
 

@@ -33,6 +33,9 @@ public:
     // Reads that reach offset don't answer until release(): a drive that
     // stops responding mid-file.
     void hangReadsFrom(const QString &relativePath, qint64 offset);
+    // Asking the drive for its size and free space doesn't answer until
+    // release().
+    void hangStatfs();
     void release();
     bool isHanging() const;
     void vanish();
