@@ -15,7 +15,7 @@ const QHash<QString, QString> &table()
         {QStringLiteral("lock.shield"), QStringLiteral("status/security-high")},
         {QStringLiteral("map"), QStringLiteral("actions/mark-location")},
         {QStringLiteral("waveform.path.ecg"), QStringLiteral("status/power-profile-balanced")},
-        {QStringLiteral("questionmark.circle"), QStringLiteral("status/dialog-question")},
+        {QStringLiteral("questionmark.circle"), QStringLiteral("legacy/help-browser")},
         {QStringLiteral("sparkles"), QStringLiteral("actions/star-new")},
         // Onboarding
         {QStringLiteral("car.side"), QStringLiteral("categories/emoji-travel")},

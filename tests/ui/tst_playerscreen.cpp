@@ -355,6 +355,8 @@ private Q_SLOTS:
         QVERIFY(flow);
         QCOMPARE(flow->selectedCamera(), std::optional<Camera>(Camera::front));
         QCOMPARE(flow->stateName(), QStringLiteral("choosing"));
+        QQuickItem *promise = findItem(window_->contentItem(), QStringLiteral("exportPromise"));
+        QVERIFY(promise && promise->isVisible());
         // Player keys don't act behind the sheet.
         const bool playingBehind = c->isPlaying();
         key(Qt::Key_Space);

@@ -52,6 +52,7 @@ Popup {
             font.pixelSize: 18
             font.weight: Font.DemiBold
         }
+        ReadOnlyPromiseBanner { objectName: "exportPromise"; Layout.fillWidth: true }
 
         // Choosing and exporting
         ColumnLayout {
