@@ -354,7 +354,8 @@ private Q_SLOTS:
         LiveEngine engine;
         AppState state(engine);
         scan(state, fx.root(), 2);
-        const auto &events = state.driveScan()->events;
+        // A copy: the probe that follows the scan replaces the state's list.
+        const std::vector<TeslaEvent> events = state.driveScan()->events;
         const auto bad = std::find_if(events.begin(), events.end(),
                                       [](const TeslaEvent &e) { return e.folderName.startsWith("2026-02-03"); });
         const auto good = std::find_if(events.begin(), events.end(),
