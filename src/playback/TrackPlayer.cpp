@@ -478,12 +478,16 @@ TrackPlayer::~TrackPlayer()
     shared_->changed.notify_all();
     // A read stuck in the kernel (a dead drive) can't be interrupted: wait a
     // moment, then leave the worker to end by itself; it owns what it uses.
-    shared_->changed.wait_for(lock, std::chrono::seconds(1), [this] { return shared_->finished; });
+    // A player stopped earlier had its moment already, and waiting again
+    // would only hold the window's thread.
+    if (!stopRequested_)
+        shared_->changed.wait_for(lock, std::chrono::seconds(1), [this] { return shared_->finished; });
     // Pending completions are dropped: their owners may be going too.
 }
 
 void TrackPlayer::requestStop()
 {
+    stopRequested_ = true;
     presentTimer_.stop();
     std::lock_guard lock(shared_->mutex);
     shared_->stop = true;

@@ -101,6 +101,7 @@ private:
     double trackEnd_ = 0;
     Status status_ = Unknown;
     bool playing_ = false;
+    bool stopRequested_ = false;
     float rate_ = 1.0f;
     double anchorMedia_ = 0;
     double anchorHost_ = 0;

@@ -268,6 +268,32 @@ private Q_SLOTS:
             QVERIFY(!player.hasPicture());
         }
     }
+
+    // A player on a read that never ends, stopped and then let go as the
+    // controller does when the event changes: the window's thread never
+    // waits for the stuck worker, which ends by itself once the read does.
+    void stoppedPlayerOnAHangingFileGoesAtOnce()
+    {
+        const QString fifo = dir.path() + "/hang-stopped.mp4";
+        QCOMPARE(::mkfifo(QFile::encodeName(fifo).constData(), 0600), 0);
+        Composition c;
+        c.addMutableTrack();
+        c.track(0).insertTimeRange(fifo, MediaTime::zero(), s(3), MediaTime::zero());
+        auto *player = new TrackPlayer(c);
+        QTest::qWait(300);
+        QCOMPARE(player->status(), TrackPlayer::Unknown); // stuck opening
+        player->requestStop();
+        QElapsedTimer timer;
+        timer.start();
+        delete player;
+        QVERIFY2(timer.elapsed() < 200, qPrintable(QString::number(timer.elapsed())));
+        // Let the worker's open end, so it finishes before the test does.
+        const int w = ::open(QFile::encodeName(fifo).constData(), O_WRONLY | O_NONBLOCK);
+        QTest::qWait(50);
+        if (w >= 0)
+            ::close(w);
+        QTest::qWait(200);
+    }
 };
 
 QTEST_MAIN(TestTrackPlayer)
