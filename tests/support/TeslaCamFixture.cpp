@@ -98,16 +98,19 @@ void TeslaCamFixture::makeDir(const QString &path)
         throw std::runtime_error(("cannot make folder " + path).toStdString());
 }
 
+QByteArray TeslaCamFixture::flatPng(QSize size, const QColor &colour)
+{
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(colour);
+    QByteArray data;
+    QBuffer buffer(&data);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "PNG");
+    return data;
+}
+
 QByteArray TeslaCamFixture::pngBytes()
 {
-    static const QByteArray bytes = [] {
-        QImage image(64, 48, QImage::Format_RGB32);
-        image.fill(QColor(30, 90, 160));
-        QByteArray data;
-        QBuffer buffer(&data);
-        buffer.open(QIODevice::WriteOnly);
-        image.save(&buffer, "PNG");
-        return data;
-    }();
+    static const QByteArray bytes = flatPng(QSize(64, 48), QColor(30, 90, 160));
     return bytes;
 }

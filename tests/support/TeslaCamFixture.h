@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QByteArray>
+#include <QColor>
+#include <QSize>
 #include <QString>
 #include <QStringList>
 #include <optional>
@@ -36,6 +38,8 @@ public:
     static void makeDir(const QString &path);
     // A tiny valid PNG.
     static QByteArray pngBytes();
+    // A PNG of one flat colour.
+    static QByteArray flatPng(QSize size, const QColor &colour);
 
 private:
     QString root_;

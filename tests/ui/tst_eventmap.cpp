@@ -7,7 +7,6 @@
 #include "support/IsolatedHome.h"
 #include "support/TeslaCamFixture.h"
 
-#include <QBuffer>
 #include <QGuiApplication>
 #include <QSettings>
 #include <QTcpServer>
@@ -47,15 +46,7 @@ public:
 
     static const QByteArray &png()
     {
-        static const QByteArray bytes = [] {
-            QImage image(256, 256, QImage::Format_RGB32);
-            image.fill(colour);
-            QByteArray data;
-            QBuffer buffer(&data);
-            buffer.open(QIODevice::WriteOnly);
-            image.save(&buffer, "PNG");
-            return data;
-        }();
+        static const QByteArray bytes = TeslaCamFixture::flatPng(QSize(256, 256), colour);
         return bytes;
     }
 };
