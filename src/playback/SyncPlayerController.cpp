@@ -32,8 +32,8 @@ SyncPlayerController::~SyncPlayerController()
 void SyncPlayerController::removeTimeObserver()
 {
     if (timeObserverToken_) {
-        if (primaryPlayer_)
-            primaryPlayer_->removeTimeObserver(*timeObserverToken_);
+        if (clockPlayer_)
+            clockPlayer_->removeTimeObserver(*timeObserverToken_);
         timeObserverToken_.reset();
     }
 }
@@ -48,6 +48,7 @@ void SyncPlayerController::loadEvent(const TeslaEvent &event)
     cueTask_.reset();
     removeTimeObserver();
     primaryPlayer_.clear();
+    clockPlayer_.clear();
 
     setIsPlaying(false);
     setCurrentTime(0);
@@ -186,9 +187,9 @@ void SyncPlayerController::applyTileOutcomes(const std::vector<TileOutcome> &out
     std::vector<Tile> tiles;
     for (const TileOutcome &o : outcomes) {
         if (o.composition)
-            tiles.push_back(Tile{o.camera, std::make_shared<TrackPlayer>(*o.composition), std::nullopt});
+            tiles.push_back(Tile{o.camera, std::make_shared<TrackPlayer>(*o.composition), std::nullopt, o.contentEnd});
         else
-            tiles.push_back(Tile{o.camera, nullptr, o.placeholderReason});
+            tiles.push_back(Tile{o.camera, nullptr, o.placeholderReason, 0});
     }
     tiles_ = std::move(tiles);
     tilesForQml_.clear();
@@ -199,6 +200,7 @@ void SyncPlayerController::applyTileOutcomes(const std::vector<TileOutcome> &out
         m.insert(QStringLiteral("player"), QVariant::fromValue<QObject *>(t.player.get()));
         m.insert(QStringLiteral("placeholderReason"),
                  t.placeholderReason ? QVariant(*t.placeholderReason) : QVariant());
+        m.insert(QStringLiteral("contentEnd"), t.contentEnd);
         tilesForQml_.append(m);
     }
     Q_EMIT tilesChanged();
@@ -213,24 +215,42 @@ void SyncPlayerController::applyTileOutcomes(const std::vector<TileOutcome> &out
             setTriggerOffset(duration_);
     }
 
+    const Tile *longest = nullptr;
     for (const Tile &t : tiles_) {
-        if (t.player) {
+        if (!t.player)
+            continue;
+        if (!primaryPlayer_)
             primaryPlayer_ = t.player.get();
-            break;
-        }
+        if (!longest || t.contentEnd > longest->contentEnd)
+            longest = &t;
     }
-    if (primaryPlayer_) {
+    if (longest) {
+        clockPlayer_ = longest->player.get();
         QPointer<SyncPlayerController> self(this);
-        timeObserverToken_ = primaryPlayer_->addPeriodicTimeObserver(
+        timeObserverToken_ = clockPlayer_->addPeriodicTimeObserver(
             MediaTime::fromTicks(observerIntervalTicks), [self](MediaTime time) {
                 QMetaObject::invokeMethod(
                     self.data(),
                     [self, time] {
-                        if (self && self->isPlaying_)
-                            self->setCurrentTime(time.seconds());
+                        if (self)
+                            self->observedTime(time.seconds());
                     },
                     Qt::QueuedConnection);
             });
+    }
+}
+
+void SyncPlayerController::observedTime(double seconds)
+{
+    if (!isPlaying_)
+        return;
+    setCurrentTime(seconds);
+    // The clock's player stops at its footage's end, which is the event's:
+    // playback is over, so the transport offers Play again.
+    const double end = clockPlayer_ ? std::min(duration_, clockPlayer_->trackDuration().seconds()) : duration_;
+    if (seconds >= end - 1e-3) {
+        setCurrentTime(duration_);
+        pause();
     }
 }
 
@@ -248,6 +268,9 @@ void SyncPlayerController::play()
     const auto playable = playableTiles();
     if (playable.empty())
         return;
+    // Play at the end starts over.
+    if (currentTime_ >= duration_ - 1e-3)
+        setCurrentTime(0);
     const double startInstant = HostClock::now() + startLead;
     const MediaTime position = MediaTime::fromSeconds(currentTime_);
     for (const Tile &t : playable)
@@ -421,6 +444,9 @@ QString SyncPlayerController::timeString(double seconds)
     if (!(rounded >= 0))
         rounded = 0;
     const qint64 whole = qint64(rounded);
+    // An hour or more reads as hours, not as hundreds of minutes.
+    if (whole >= 3600)
+        return QString::asprintf("%d:%02d:%02d", int(whole / 3600), int(whole / 60 % 60), int(whole % 60));
     return QString::asprintf("%d:%02d", int(whole / 60), int(whole % 60));
 }
 

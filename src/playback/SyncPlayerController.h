@@ -39,6 +39,7 @@ public:
         Camera camera;
         std::shared_ptr<TrackPlayer> player;      // absent when the camera can't be shown
         std::optional<QString> placeholderReason; // set exactly when player is absent
+        double contentEnd = 0;                    // where this camera's footage ends on the axis
         Camera id() const { return camera; }
     };
 
@@ -118,6 +119,7 @@ private:
     static QCoro::Task<void> runFrameSteps(QPointer<SyncPlayerController> self);
 
     void removeTimeObserver();
+    void observedTime(double seconds);
     void setIsPlaying(bool value);
     void setCurrentTime(double value);
     void setDuration(double value);
@@ -141,6 +143,9 @@ private:
 
     std::optional<int> timeObserverToken_;
     QPointer<TrackPlayer> primaryPlayer_;
+    // The player whose footage runs longest: its clock is the timeline's
+    // and reaches the end of the event, where playback stops.
+    QPointer<TrackPlayer> clockPlayer_;
     std::optional<std::stop_source> buildTask_;
     std::optional<std::stop_source> cueTask_;
     int pendingFrameSteps_ = 0;

@@ -616,6 +616,9 @@ void AppState::setVaultURL(const QString &url)
 {
     beginVaultAccess(url);
     setVaultURLField(url);
+    // The failure that asked for a Vault folder has its answer.
+    if (currentFailure_ && *currentFailure_ == DriveFailure::staleBookmark(BookmarkKey::vaultFolder))
+        setCurrentFailure(std::nullopt);
     try {
         engine_.saveBookmark(url, BookmarkKey::vaultFolder);
     } catch (...) {
@@ -715,13 +718,44 @@ std::optional<TeslaEvent> AppState::findEvent(const QString &id) const
 std::vector<TeslaEvent> AppState::eventsForIDs(const QStringList &ids) const
 {
     std::vector<TeslaEvent> out;
-    for (const QString &id : ids)
-        if (auto e = findEvent(id))
+    for (const QString &id : ids) {
+        if (auto e = findEvent(id)) {
             out.push_back(*e);
+            continue;
+        }
+        const auto kept = std::find_if(vaultEvents_.begin(), vaultEvents_.end(), [&](const TeslaEvent &v) { return v.id() == id; });
+        if (kept != vaultEvents_.end())
+            out.push_back(*kept);
+    }
     return out;
 }
 
-void AppState::keepIDs(const QStringList &eventIDs) { keep(eventsForIDs(eventIDs)); }
+void AppState::requestKeep(const std::vector<TeslaEvent> &events)
+{
+    if (isArchiving_)
+        return;
+    std::vector<TeslaEvent> toCopy;
+    int alreadyKept = 0;
+    for (const TeslaEvent &e : events) {
+        // The drive's own files are what a keep copies, never the Vault's.
+        if (auto onDrive = findEvent(e.id()))
+            toCopy.push_back(*onDrive);
+        else if (std::any_of(vaultEvents_.begin(), vaultEvents_.end(), [&](const TeslaEvent &v) { return v.id() == e.id(); }))
+            ++alreadyKept;
+        else
+            toCopy.push_back(e);
+    }
+    if (toCopy.empty() && alreadyKept > 0) {
+        ArchiveReport report;
+        report.skippedDuplicates = alreadyKept;
+        setLastArchiveReport(report);
+        setShowArchiveReport(true);
+        return;
+    }
+    keep(toCopy);
+}
+
+void AppState::keepIDs(const QStringList &eventIDs) { requestKeep(eventsForIDs(eventIDs)); }
 void AppState::dismissIDs(const QStringList &eventIDs) { dismiss(eventsForIDs(eventIDs)); }
 
 void AppState::toggleBulkSelection(const QString &eventID)
@@ -734,12 +768,15 @@ void AppState::toggleBulkSelection(const QString &eventID)
 
 void AppState::takeBulkSelection(bool keepThem)
 {
+    // The ticks wait for the running keep rather than being dropped.
+    if (keepThem && isArchiving_)
+        return;
     std::vector<TeslaEvent> chosen;
     for (const TeslaEvent &e : visibleInboxEvents())
         if (selectedEventIDsForBulk_.contains(e.id()))
             chosen.push_back(e);
     if (keepThem)
-        keep(chosen);
+        requestKeep(chosen);
     else
         dismiss(chosen);
     setSelectedEventIDsForBulk({});

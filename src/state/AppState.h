@@ -128,6 +128,11 @@ public:
     Q_INVOKABLE QString triageStateFor(const QString &eventID) const;
     void keep(const std::vector<TeslaEvent> &events);
     void dismiss(const std::vector<TeslaEvent> &events);
+    // The screens' way to keep: ignored while a keep runs, so that there is
+    // one at a time and Cancel always reaches it. An event that is in the
+    // Vault and not on the drive has nothing to copy: the report says so.
+    void requestKeep(const std::vector<TeslaEvent> &events);
+    // Ids of the drive's events, else of the Vault's.
     Q_INVOKABLE void keepIDs(const QStringList &eventIDs);
     Q_INVOKABLE void dismissIDs(const QStringList &eventIDs);
     std::vector<TeslaEvent> visibleInboxEvents() const;

@@ -1,5 +1,6 @@
 #include "DrivePicker.h"
 
+#include "FileChooser.h"
 #include "LicenceGate.h"
 #include "OnboardingTexts.h"
 #include "state/AppState.h"
@@ -17,12 +18,27 @@ void DrivePicker::presentOpenPanel(const QString &startingAt)
         Q_EMIT licenceWindowRequested();
         return;
     }
+    Q_EMIT openPanelRequested(startingAt);
     if (qEnvironmentVariableIsSet(answerEnv)) {
         const QString answer = qEnvironmentVariable(answerEnv);
         panelFinished(answer != QLatin1String("-"), answer);
         return;
     }
-    Q_EMIT openPanelRequested(startingAt);
+    const QVariantMap texts = OnboardingTexts::texts();
+    FileChooser::Request request;
+    request.mode = FileChooser::Mode::folder;
+    request.title = texts.value(QStringLiteral("panelTitle")).toString();
+    request.message = texts.value(QStringLiteral("panelMessage")).toString();
+    request.acceptLabel = texts.value(QStringLiteral("panelPrompt")).toString();
+    request.startFolder = startingAt;
+    setPanelOpen(true);
+    QPointer<DrivePicker> self(this);
+    FileChooser::open(request, [self](std::optional<QString> chosen) {
+        if (!self)
+            return;
+        self->setPanelOpen(false);
+        self->panelFinished(chosen.has_value(), chosen.value_or(QString()));
+    });
 }
 
 void DrivePicker::panelFinished(bool accepted, const QString &chosen)
@@ -40,4 +56,12 @@ void DrivePicker::panelFinished(bool accepted, const QString &chosen)
         }
     }
     Q_EMIT picked(root);
+}
+
+void DrivePicker::setPanelOpen(bool open)
+{
+    if (panelOpen_ == open)
+        return;
+    panelOpen_ = open;
+    Q_EMIT isPanelOpenChanged();
 }

@@ -63,6 +63,7 @@ QHash<int, QByteArray> EventListModel::roleNames() const
         {TickIconRole, "tickIcon"},
         {TickToolTipRole, "tickToolTip"},
         {IsSelectedRole, "isSelected"},
+        {DayHeadingRole, "dayHeading"},
     };
 }
 
@@ -86,6 +87,8 @@ QVariant EventListModel::data(const QModelIndex &index, int role) const
         return e.kind.rawValue();
     case TimestampTextRole:
         return InboxPresenter::rowTimestamp(e);
+    case DayHeadingRole:
+        return InboxPresenter::dayHeading(e.timestamp, QDate::currentDate());
     case SecondLineRole:
         return InboxPresenter::secondLine(e, source_ == Source::vault);
     case TextToolTipRole:

@@ -43,6 +43,7 @@ public:
         TickIconRole,
         TickToolTipRole,
         IsSelectedRole,
+        DayHeadingRole,
     };
 
     EventListModel(AppState *state, Source source, QObject *parent = nullptr);

@@ -1,5 +1,7 @@
 #include "EventMapPresenter.h"
 
+#include "InboxPresenter.h"
+
 #include <algorithm>
 #include <cmath>
 #include <numbers>
@@ -39,7 +41,7 @@ QString pinTint(const TeslaEvent &event)
     return event.reason.isUrgentForProtection() ? QStringLiteral("red") : QStringLiteral("accent");
 }
 
-QString rowTimestamp(const TeslaEvent &event) { return event.timestamp.formatLocal(QStringLiteral("dddd h:mm:ss AP")); }
+QString rowTimestamp(const TeslaEvent &event) { return InboxPresenter::longTimestamp(event); }
 
 QPointF project(double latitude, double longitude, double zoom)
 {

@@ -1,6 +1,7 @@
 #include "EventPlayerPresenter.h"
 
 #include "ExportFlow.h"
+#include "InboxPresenter.h"
 #include "PlayerLayout.h"
 #include "SymbolIcons.h"
 #include "model/PlatformWords.h"
@@ -107,7 +108,7 @@ void EventPlayerPresenter::opened()
 
 QString EventPlayerPresenter::dateText(const TeslaEvent &event)
 {
-    return event.timestamp.formatLocal(QStringLiteral("dddd h:mm:ss AP"));
+    return InboxPresenter::longTimestamp(event);
 }
 
 QVariantMap EventPlayerPresenter::metadata() const
@@ -190,9 +191,11 @@ QVariantMap EventPlayerPresenter::texts()
         {QStringLiteral("speedTip"), QStringLiteral("Playback speed, from half speed to 4×.")},
         {QStringLiteral("showAll"), QStringLiteral("Show All Cameras")},
         {QStringLiteral("showAllTip"), QStringLiteral("Return to the full camera grid.")},
+        {QStringLiteral("showAllIcon"), icon("square.grid.2x2")},
         {QStringLiteral("sliderTip"), QStringLiteral("Drag to jump to any moment. Every camera stays in sync.")},
         {QStringLiteral("sliderName"), QStringLiteral("Playback position")},
         {QStringLiteral("keep"), QStringLiteral("Keep a safe copy on this ") + PlatformWords::computer()},
+        {QStringLiteral("keepShort"), QStringLiteral("Keep")},
         {QStringLiteral("keepIcon"), icon("checkmark.shield.fill")},
         {QStringLiteral("keepTip"),
          QStringLiteral("Copies this footage to your Vault and verifies it matches byte-for-byte. Nothing on your "
@@ -233,7 +236,7 @@ void EventPlayerPresenter::chooseRate(double rate)
 void EventPlayerPresenter::keep()
 {
     if (appState_ && event_)
-        appState_->keep({*event_});
+        appState_->requestKeep({*event_});
 }
 
 void EventPlayerPresenter::dismiss()

@@ -1,5 +1,7 @@
 #include "ExportFlow.h"
 
+#include "FileChooser.h"
+
 #include "engine/AsyncRun.h"
 #include "export/Exporter.h"
 #include "model/CancellationError.h"
@@ -97,9 +99,23 @@ QString ExportFlow::exportedFileName() const
     return exportedPath_ ? QFileInfo(*exportedPath_).fileName() : QString();
 }
 
-QString ExportFlow::automaticSaveDestination()
+
+void ExportFlow::presentSavePanel()
 {
-    return qEnvironmentVariable("KEELHOLD_SAVE_TO");
+    if (!exportedPath_ || isSaving_)
+        return;
+    FileChooser::Request request;
+    request.mode = FileChooser::Mode::saveFile;
+    request.title = texts().value(QStringLiteral("saveTo")).toString();
+    request.startFolder = suggestedSaveFolder();
+    request.suggestedName = QDir(request.startFolder).filePath(exportedFileName());
+    request.nameFilters = {texts().value(QStringLiteral("movieFilter")).toString()};
+    request.defaultSuffix = QStringLiteral("mp4");
+    QPointer<ExportFlow> self(this);
+    FileChooser::open(request, [self](std::optional<QString> chosen) {
+        if (self && chosen)
+            self->saveTo(*chosen);
+    });
 }
 
 QVariantMap ExportFlow::texts()

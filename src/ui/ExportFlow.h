@@ -31,7 +31,6 @@ class ExportFlow : public QObject {
     Q_PROPERTY(bool isSaving READ isSaving NOTIFY changed)
     Q_PROPERTY(QString suggestedSaveFolder READ suggestedSaveFolder CONSTANT)
     Q_PROPERTY(QString exportedFileName READ exportedFileName NOTIFY changed)
-    Q_PROPERTY(QString automaticSaveDestination READ automaticSaveDestination CONSTANT)
     Q_PROPERTY(QVariantMap texts READ texts CONSTANT)
 
 public:
@@ -71,9 +70,6 @@ public:
     // The user's Videos folder, else home.
     static QString suggestedSaveFolder();
     QString exportedFileName() const;
-    // Test hook: with KEELHOLD_SAVE_TO set, "Save to…" saves there without
-    // asking, as if the user had chosen that path in the dialog.
-    static QString automaticSaveDestination();
     // The dialog's fixed words: title, explanation, buttons, tooltips.
     static QVariantMap texts();
 
@@ -84,6 +80,9 @@ public:
     // runs off the window's thread; saveFinished() tells the outcome.
     // Returns whether a copy started (one at a time).
     Q_INVOKABLE bool saveTo(const QString &destination);
+    // "Save to…": the save dialog at the Videos folder with the file's
+    // name; its answer goes to saveTo.
+    Q_INVOKABLE void presentSavePanel();
     // The copy itself: whole into a hidden file beside the destination,
     // then renamed over it, so a failed copy (a full disk, a pulled stick)
     // leaves what was there before and no partial file.

@@ -5,19 +5,38 @@
 
 namespace FailureScreens {
 
-QVariantMap Screen::toVariantMap() const
+namespace {
+
+QString actionName(Action action)
 {
-    QString act;
     switch (action) {
     case Action::none: break;
-    case Action::reopenWizard: act = QStringLiteral("reopenWizard"); break;
-    case Action::showEncryptionGuide: act = QStringLiteral("showEncryptionGuide"); break;
+    case Action::reopenWizard: return QStringLiteral("reopenWizard");
+    case Action::showEncryptionGuide: return QStringLiteral("showEncryptionGuide");
+    case Action::chooseVaultFolder: return QStringLiteral("chooseVaultFolder");
     }
+    return {};
+}
+
+// The way to another drive, on screens whose own button leads elsewhere.
+Screen withOtherDrive(Screen screen)
+{
+    screen.secondaryTitle = QStringLiteral("Choose a Different Drive");
+    screen.secondaryAction = Action::reopenWizard;
+    return screen;
+}
+
+} // namespace
+
+QVariantMap Screen::toVariantMap() const
+{
     return {{QStringLiteral("symbolName"), symbolName},
             {QStringLiteral("title"), title},
             {QStringLiteral("message"), message},
             {QStringLiteral("actionTitle"), actionTitle},
-            {QStringLiteral("action"), act}};
+            {QStringLiteral("action"), actionName(action)},
+            {QStringLiteral("secondaryTitle"), secondaryTitle},
+            {QStringLiteral("secondaryAction"), actionName(secondaryAction)}};
 }
 
 Screen noTeslaCamFolder(const std::optional<QString> &volumeName)
@@ -40,8 +59,8 @@ Screen unreadableFormat(const VolumeFormat &format)
         + format.displayName()
         + QStringLiteral(". Back up anything important from it first, then reformat it using ") + PlatformWords::diskUtility()
         + QStringLiteral(" (choose \"ExFAT\") and reinsert it into your car so it can start recording.");
-    return {QStringLiteral("exclamationmark.arrow.triangle.2.circlepath"), QStringLiteral("This drive needs to be reformatted"),
-            message, {}, Action::none};
+    return withOtherDrive({QStringLiteral("exclamationmark.arrow.triangle.2.circlepath"),
+                           QStringLiteral("This drive needs to be reformatted"), message, {}, Action::none});
 }
 
 Screen staleBookmark(BookmarkKey key)
@@ -54,16 +73,19 @@ Screen staleBookmark(BookmarkKey key)
                                              "drive is renamed or unplugged and replugged. Nothing is wrong and nothing "
                                              "was lost; just pick the ")
                             + noun + QStringLiteral(" again and everything will pick up where it left off.");
+    // The Vault's folder is asked for by the Vault's own picker, not the drive wizard.
     return {QStringLiteral("questionmark.folder"), QStringLiteral("We need you to point us back to your ") + noun, message,
-            QStringLiteral("Choose ") + noun, Action::reopenWizard};
+            QStringLiteral("Choose ") + noun,
+            key == BookmarkKey::teslaDrive ? Action::reopenWizard : Action::chooseVaultFolder};
 }
 
 Screen emptyDrive()
 {
-    return {QStringLiteral("tray"), QStringLiteral("This drive doesn't have any footage yet"),
-            QStringLiteral("We found a TeslaCam folder, but there's nothing in it yet. Your car saves footage here as you "
-                           "drive and while it's parked with Sentry Mode on — check back after your next drive."),
-            {}, Action::none};
+    return withOtherDrive({QStringLiteral("tray"), QStringLiteral("This drive doesn't have any footage yet"),
+                           QStringLiteral("We found a TeslaCam folder, but there's nothing in it yet. Your car saves "
+                                          "footage here as you drive and while it's parked with Sentry Mode on — check "
+                                          "back after your next drive."),
+                           {}, Action::none});
 }
 
 Screen encryptedClipsOnly()
@@ -74,16 +96,16 @@ Screen encryptedClipsOnly()
                        "encrypted clips can be watched anytime at ")
         + TeslaViewer::host()
         + QStringLiteral(". Want future footage to play right here? There's a 30-second setting in your car.");
-    return {QStringLiteral("lock.doc"), QStringLiteral("Your car is encrypting this footage"), message,
-            QStringLiteral("Show Me the 30-Second Fix"), Action::showEncryptionGuide};
+    return withOtherDrive({QStringLiteral("lock.doc"), QStringLiteral("Your car is encrypting this footage"), message,
+                           QStringLiteral("Show Me the 30-Second Fix"), Action::showEncryptionGuide});
 }
 
 Screen driveDisconnected()
 {
-    return {QStringLiteral("eject.circle"), QStringLiteral("Your drive was disconnected"),
-            QStringLiteral("No problem — nothing was lost. Whatever was in progress is paused and will pick back up right "
-                           "where it left off as soon as you plug the drive back in."),
-            {}, Action::none};
+    return withOtherDrive({QStringLiteral("eject.circle"), QStringLiteral("Your drive was disconnected"),
+                           QStringLiteral("No problem — nothing was lost. Whatever was in progress is paused and will "
+                                          "pick back up right where it left off as soon as you plug the drive back in."),
+                           {}, Action::none});
 }
 
 } // namespace FailureScreens

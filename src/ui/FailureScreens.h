@@ -10,7 +10,7 @@
 // What each failure screen says, and which button it offers.
 namespace FailureScreens {
 
-enum class Action { none, reopenWizard, showEncryptionGuide };
+enum class Action { none, reopenWizard, showEncryptionGuide, chooseVaultFolder };
 
 struct Screen {
     QString symbolName;
@@ -18,8 +18,13 @@ struct Screen {
     QString message;
     QString actionTitle; // empty: no button
     Action action = Action::none;
+    // A second way out, so no failure is a dead end: another drive.
+    QString secondaryTitle;
+    Action secondaryAction = Action::none;
 
-    // For QML: symbolName, title, message, actionTitle, action ("", "reopenWizard", "showEncryptionGuide").
+    // For QML: symbolName, title, message, actionTitle, action, secondaryTitle,
+    // secondaryAction (actions by name: "", "reopenWizard", "showEncryptionGuide",
+    // "chooseVaultFolder").
     QVariantMap toVariantMap() const;
 };
 

@@ -28,9 +28,26 @@ QString rowTimestamp(const TeslaEvent &event)
     return event.timestamp.formatLocal(QStringLiteral("ddd h:mm AP"));
 }
 
+QString longDate(const Date &timestamp)
+{
+    // The screens speak English, so the words are English; the order of day,
+    // month and year is the user's.
+    return timestamp.formatLocal(QLocale().dateFormat(QLocale::LongFormat));
+}
+
 QString longTimestamp(const TeslaEvent &event)
 {
-    return event.timestamp.formatLocal(QStringLiteral("dddd h:mm:ss AP"));
+    return longDate(event.timestamp) + QStringLiteral(" at ") + event.timestamp.formatLocal(QStringLiteral("h:mm:ss AP"));
+}
+
+QString dayHeading(const Date &timestamp, const QDate &today)
+{
+    const QDate day = timestamp.toLocalDateTime().date();
+    if (day == today)
+        return QStringLiteral("Today");
+    if (day == today.addDays(-1))
+        return QStringLiteral("Yesterday");
+    return longDate(timestamp);
 }
 
 QString secondLine(const TeslaEvent &event, bool showsFileSize)

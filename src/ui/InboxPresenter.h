@@ -5,6 +5,7 @@
 #include "model/TeslaEvent.h"
 #include "model/TriageState.h"
 
+#include <QDate>
 #include <QString>
 #include <QStringList>
 #include <optional>
@@ -22,7 +23,13 @@ ColumnContent columnContent(bool hasFailure, bool isScanning, bool hasScan, qsiz
 QString byteCount(qint64 bytes);
 
 QString rowTimestamp(const TeslaEvent &event);  // "Mon 2:11 AM"
-QString longTimestamp(const TeslaEvent &event); // "Monday 2:11:05 AM"
+// With the date, which a report to police or an insurer needs:
+// "Monday, 2 June 2025 at 2:11:05 AM" (the date's order by the locale).
+QString longTimestamp(const TeslaEvent &event);
+// The heading of a day's events: "Today", "Yesterday", else the long date.
+QString dayHeading(const Date &timestamp, const QDate &today);
+// "Monday, 2 June 2025": English words, in the order the locale writes dates.
+QString longDate(const Date &timestamp);
 // Never empty: a single space keeps the row's height.
 QString secondLine(const TeslaEvent &event, bool showsFileSize);
 // Empty when the event's details file was written.

@@ -10,7 +10,8 @@
 InboxViewModel::InboxViewModel(AppState *state, QObject *parent)
     : QObject(parent), state_(state), rows_(new EventListModel(state, EventListModel::Source::inbox, this))
 {
-    for (auto sig : {&AppState::currentFailureChanged, &AppState::isScanningChanged, &AppState::driveScanChanged})
+    for (auto sig : {&AppState::currentFailureChanged, &AppState::isScanningChanged, &AppState::driveScanChanged,
+                     &AppState::isSampleModeChanged})
         connect(state, sig, this, &InboxViewModel::contentChanged);
     for (auto sig : {&AppState::filterStateChanged, &AppState::filterReasonChanged, &AppState::filterKindChanged})
         connect(state, sig, this, &InboxViewModel::filtersChanged);
@@ -68,6 +69,7 @@ QVariantMap InboxViewModel::texts() const
         {QStringLiteral("select"), QStringLiteral("Select")},
         {QStringLiteral("selectIcon"), icon("checklist")},
         {QStringLiteral("selectTip"), QStringLiteral("Select multiple events to keep or dismiss them all at once.")},
+        {QStringLiteral("bulkHint"), QStringLiteral("Tick events to keep or dismiss them together.")},
         {QStringLiteral("bulkKeepIcon"), icon("checkmark.shield")},
         {QStringLiteral("bulkKeepTip"), QStringLiteral("Archive the selected events to your Vault.")},
         {QStringLiteral("bulkDismissIcon"), icon("xmark.circle")},
@@ -151,7 +153,11 @@ int InboxViewModel::recentCount() const
     return state_ ? int(InboxPresenter::recentDriving(state_->visibleInboxEvents()).size()) : 0;
 }
 
-bool InboxViewModel::showsSwitchDrive() const { return state_ && state_->driveScan().has_value(); }
+bool InboxViewModel::showsSwitchDrive() const
+{
+    // Wherever a drive, the sample or a failure stands, another drive is one click away.
+    return state_ && (state_->driveScan().has_value() || state_->currentFailure().has_value() || state_->isSampleMode());
+}
 
 QString InboxViewModel::scanCounts() const
 {
@@ -159,6 +165,15 @@ QString InboxViewModel::scanCounts() const
         return {};
     const ScanProgress &p = *state_->scanProgress();
     return OnboardingTexts::scanCountsText(p.eventsFound, p.clipsFound);
+}
+
+void InboxViewModel::ejectSample()
+{
+    if (!state_ || !state_->isSampleMode())
+        return;
+    state_->exitSampleMode();
+    if (!state_->driveScan() && !state_->isScanning() && !state_->currentFailure())
+        state_->setShowOnboarding(true);
 }
 
 void InboxViewModel::clearFilter(const QString &which)
@@ -182,7 +197,7 @@ void InboxViewModel::clearAllFilters()
 void InboxViewModel::keepRecentDriving()
 {
     if (state_)
-        state_->keep(InboxPresenter::recentDriving(state_->visibleInboxEvents()));
+        state_->requestKeep(InboxPresenter::recentDriving(state_->visibleInboxEvents()));
 }
 
 void InboxViewModel::previewRecentDriving()
@@ -207,7 +222,7 @@ void InboxViewModel::keepSelected()
 {
     const int row = rows_->selectedIndex();
     if (state_ && row >= 0)
-        state_->keep({rows_->events()[size_t(row)]});
+        state_->requestKeep({rows_->events()[size_t(row)]});
 }
 
 void InboxViewModel::dismissSelected()

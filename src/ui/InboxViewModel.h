@@ -30,7 +30,7 @@ class InboxViewModel : public QObject {
     // The banner stands while the visible list holds recent driving.
     Q_PROPERTY(bool showsRecentBanner READ showsRecentBanner NOTIFY recentChanged)
     Q_PROPERTY(bool showsTokens READ showsTokens NOTIFY filtersChanged)
-    // "Switch Drive" stands once there is a scan.
+    // "Switch Drive" stands with a scan, the sample or a failure.
     Q_PROPERTY(bool showsSwitchDrive READ showsSwitchDrive NOTIFY contentChanged)
     Q_PROPERTY(QString scanCounts READ scanCounts NOTIFY scanCountsChanged)
     Q_PROPERTY(QVariantMap emptyScreen READ emptyScreen NOTIFY contentChanged)
@@ -62,6 +62,9 @@ public:
     Q_INVOKABLE bool showsBulkActions(bool isBulkSelecting) const;
     Q_INVOKABLE void clearFilter(const QString &which);
     Q_INVOKABLE void clearAllFilters();
+    // "Eject Sample": back to the saved drive, or with none to the wizard,
+    // rather than to a screen that says no TeslaCam folder was found.
+    Q_INVOKABLE void ejectSample();
     Q_INVOKABLE void keepRecentDriving();
     Q_INVOKABLE void previewRecentDriving();
     // Up/Down: one row along the visible list; from nothing, the first row.

@@ -22,7 +22,8 @@ public:
     static inline const QString rootViewUrl = QStringLiteral("qrc:/Keelhold/qml/Main.qml");
     static inline const QString helpWindowUrl = QStringLiteral("qrc:/Keelhold/qml/HelpWindow.qml");
 
-    // Needs a QGuiApplication. Sets the palette and the QML context.
+    // Needs a QApplication (the file dialogs are widgets). Sets the palette
+    // and the QML context.
     explicit KeelholdApp(QObject *parent = nullptr);
     ~KeelholdApp() override;
 

@@ -86,7 +86,9 @@ QVariantMap MapViewModel::texts() const
             {QStringLiteral("emptySymbol"), QStringLiteral("map")},
             {QStringLiteral("emptyTitle"), QString::fromUtf8(EventMapPresenter::emptyTitle)},
             {QStringLiteral("emptyText"), QString::fromUtf8(EventMapPresenter::emptyText)},
-            {QStringLiteral("attribution"), QString::fromUtf8(EventMapPresenter::attribution)}};
+            {QStringLiteral("attribution"), QString::fromUtf8(EventMapPresenter::attribution)},
+            {QStringLiteral("noTiles"), QStringLiteral("Map tiles aren't available — check your internet connection.")},
+            {QStringLiteral("noTilesIcon"), SymbolIcons::iconUrl(QStringLiteral("wifi.slash"))}};
 }
 
 void MapViewModel::select(const QString &eventID)

@@ -39,6 +39,7 @@ QVariantMap texts()
                                                    + QStringLiteral(", where connected USB drives appear.")},
         {QStringLiteral("removableMediaFolder"), PlatformWords::removableMediaFolder()},
         {QStringLiteral("back"), QStringLiteral("Back")},
+        {QStringLiteral("cancel"), QStringLiteral("Cancel")},
         {QStringLiteral("panelTitle"), QStringLiteral("Select Your Tesla's USB Drive")},
         {QStringLiteral("panelMessage"),
          QStringLiteral("Choose the drive itself, or its TeslaCam folder. Look for a plain external drive icon — Tesla "

@@ -36,6 +36,8 @@ const QHash<QString, QString> &table()
         {QStringLiteral("switch.2"), QStringLiteral("categories/preferences-system")},
         {QStringLiteral("checkmark.seal"), QStringLiteral("emblems/emblem-ok")},
         {QStringLiteral("globe"), QStringLiteral("legacy/web-browser")},
+        {QStringLiteral("wifi.slash"), QStringLiteral("status/network-error")},
+        {QStringLiteral("square.grid.2x2"), QStringLiteral("actions/view-grid")},
         {QStringLiteral("hand.thumbsup"), QStringLiteral("emotes/face-smile")},
         // Help
         {QStringLiteral("shield.checkered"), QStringLiteral("status/security-medium")},

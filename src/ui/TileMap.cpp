@@ -17,6 +17,7 @@ TileMap::TileMap(QQuickItem *parent) : QQuickPaintedItem(parent)
     setAntialiasing(false);
     setFillColor(QColor(0xe9, 0xe7, 0xe2));
     connect(TileSource::shared(), &TileSource::tileArrived, this, &TileMap::relayout);
+    connect(TileSource::shared(), &TileSource::availabilityChanged, this, &TileMap::tilesUnavailableChanged);
     connect(this, &QQuickItem::widthChanged, this, &TileMap::relayout);
     connect(this, &QQuickItem::heightChanged, this, &TileMap::relayout);
     connect(this, &QQuickItem::visibleChanged, this, &TileMap::relayout);
@@ -145,3 +146,5 @@ void TileMap::paint(QPainter *painter)
     for (const Placed &p : placed_)
         painter->drawImage(p.rect, p.image);
 }
+
+bool TileMap::tilesUnavailable() const { return TileSource::shared()->isUnavailable(); }

@@ -17,6 +17,8 @@ class TileMap : public QQuickPaintedItem {
     // Rises with every change of the view; pin positions bind to it.
     Q_PROPERTY(int revision READ revision NOTIFY viewChanged)
     Q_PROPERTY(int tilesDrawn READ tilesDrawn NOTIFY tilesDrawnChanged)
+    // The tile server can't be reached: the pins stand on a plain field.
+    Q_PROPERTY(bool tilesUnavailable READ tilesUnavailable NOTIFY tilesUnavailableChanged)
 public:
     static constexpr double minZoom = 1;
     static constexpr double maxZoom = 19;
@@ -31,6 +33,7 @@ public:
     void setZoom(double v);
     int revision() const { return revision_; }
     int tilesDrawn() const { return tilesDrawn_; }
+    bool tilesUnavailable() const;
 
     void paint(QPainter *painter) override;
 
@@ -45,6 +48,7 @@ public:
 Q_SIGNALS:
     void viewChanged();
     void tilesDrawnChanged();
+    void tilesUnavailableChanged();
 
 private:
     void changed();

@@ -8,6 +8,7 @@
 #include <QNetworkRequest>
 #include <QSettings>
 #include <QStandardPaths>
+#include <utility>
 
 #ifndef KEELHOLD_VERSION
 #define KEELHOLD_VERSION "0"
@@ -72,9 +73,13 @@ void TileSource::finished(QNetworkReply *reply, const QString &key)
     if (image.isNull()) {
         // Offline or refused: the map stays plain; no retry storm while it is drawn.
         failedAt_.insert(key, QDateTime::currentMSecsSinceEpoch());
+        if (!std::exchange(unavailable_, true))
+            Q_EMIT availabilityChanged();
         return;
     }
     images_.insert(key, new QImage(std::move(image)));
     ++tilesArrived_;
+    if (std::exchange(unavailable_, false))
+        Q_EMIT availabilityChanged();
     Q_EMIT tileArrived();
 }

@@ -35,9 +35,13 @@ public:
 
     int requestsStarted() const { return requestsStarted_; }
     int tilesArrived() const { return tilesArrived_; }
+    // The last answer was a failure (offline, refused, not a picture); the
+    // next tile that lands clears it.
+    bool isUnavailable() const { return unavailable_; }
 
 Q_SIGNALS:
     void tileArrived();
+    void availabilityChanged();
 
 private:
     void finished(QNetworkReply *reply, const QString &key);
@@ -50,4 +54,5 @@ private:
     QHash<QString, qint64> failedAt_;
     int requestsStarted_ = 0;
     int tilesArrived_ = 0;
+    bool unavailable_ = false;
 };

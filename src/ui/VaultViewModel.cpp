@@ -1,10 +1,12 @@
 #include "VaultViewModel.h"
 
+#include "FileChooser.h"
 #include "InboxPresenter.h"
 #include "SymbolIcons.h"
 #include "model/PlatformWords.h"
 #include "state/AppState.h"
 
+#include <QDir>
 #include <QStorageInfo>
 #include <QUrl>
 
@@ -92,7 +94,8 @@ QVariantMap VaultViewModel::emptyStateFor(bool hasVaultFolder)
             {QStringLiteral("message"),
              QStringLiteral("Nothing has been kept yet. From the Drive tab, select an event and choose \"Keep\" to "
                             "copy it here permanently.")},
-            {QStringLiteral("actionTitle"), QString()}};
+            // Not a dead end: the folder can be changed from here too.
+            {QStringLiteral("actionTitle"), QStringLiteral("Change Vault Folder")}};
 }
 
 QVariantMap VaultViewModel::emptyState() const { return emptyStateFor(state_ && state_->vaultURL()); }
@@ -222,6 +225,22 @@ void VaultViewModel::chooseFolder(const QVariant &url)
     const QString path = u.isLocalFile() ? u.toLocalFile() : url.toString();
     if (!path.isEmpty())
         state_->setVaultURL(path);
+}
+
+void VaultViewModel::presentFolderPicker()
+{
+    const QVariantMap t = texts();
+    FileChooser::Request request;
+    request.mode = FileChooser::Mode::folder;
+    request.title = t.value(QStringLiteral("pickerTitle")).toString();
+    request.message = t.value(QStringLiteral("pickerMessage")).toString();
+    request.acceptLabel = t.value(QStringLiteral("pickerPrompt")).toString();
+    request.startFolder = state_ && state_->vaultURL() ? *state_->vaultURL() : QDir::homePath();
+    QPointer<VaultViewModel> self(this);
+    FileChooser::open(request, [self](std::optional<QString> chosen) {
+        if (self && chosen)
+            self->chooseFolder(*chosen);
+    });
 }
 
 void VaultViewModel::remove(const QString &eventID)

@@ -45,6 +45,9 @@ public:
     // {present, files: [{name, sha256}], archivedLine, …}; present false with no index entry.
     Q_INVOKABLE QVariantMap verification(const QString &eventID) const;
     Q_INVOKABLE QString removalMessage(const QString &eventID) const;
+    // "Choose Folder…", "Change Vault Folder": the folder dialog, whose
+    // answer goes to chooseFolder.
+    Q_INVOKABLE void presentFolderPicker();
     // The folder picker's answer (a file URL or a path).
     Q_INVOKABLE void chooseFolder(const QVariant &url);
     Q_INVOKABLE void remove(const QString &eventID);

@@ -3,7 +3,7 @@
 #include <QQuickWindow>
 #include <QTimer>
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QQmlApplicationEngine>
 #include <QQmlContext>
 #include <QQuickStyle>
@@ -12,7 +12,8 @@
 
 int main(int argc, char *argv[])
 {
-    QGuiApplication app(argc, argv);
+    // A widgets application: the file dialogs fall back to Qt's own widgets.
+    QApplication app(argc, argv);
     QGuiApplication::setOrganizationName(QStringLiteral("Keelhold"));
     QGuiApplication::setApplicationName(QStringLiteral("Keelhold"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Keelhold"));

@@ -146,7 +146,9 @@ private Q_SLOTS:
         QCOMPARE(SyncPlayerController::timeString(59.5), QString("1:00"));
         QCOMPARE(SyncPlayerController::timeString(-1), QString("0:00"));
         QCOMPARE(SyncPlayerController::timeString(0.49), QString("0:00"));
-        QCOMPARE(SyncPlayerController::timeString(75 * 60), QString("75:00"));
+        QCOMPARE(SyncPlayerController::timeString(59 * 60 + 59.4), QString("59:59"));
+        QCOMPARE(SyncPlayerController::timeString(75 * 60), QString("1:15:00"));
+        QCOMPARE(SyncPlayerController::timeString(800 * 60 + 5), QString("13:20:05"));
         QCOMPARE(SyncPlayerController::timeString(61.2), QString("1:01"));
 
         QCOMPARE(SyncPlayerController::cueTarget(4.0, 200), 0.0);
@@ -384,26 +386,35 @@ private Q_SLOTS:
         QCOMPARE(c.primaryPlayer_.data(), c.tiles()[1].player.get());
     }
 
-    void positionFollowsThePrimaryCameraAlone()
+    // A camera whose footage ends early doesn't stop the timeline: it runs
+    // on with the longest camera to the end of the event, where playback
+    // stops; Play there starts over.
+    void playbackRunsToTheEndOfTheLongestCameraAndStops()
     {
-        EventBuilder b(tmp.path() + "/primary");
+        EventBuilder b(tmp.path() + "/ends");
         b.add(Camera::front, 0);
         b.add(Camera::front, 1);
         for (int k = 0; k < 3; ++k)
             b.add(Camera::back, k);
         SyncPlayerController c(b.event);
         QTRY_VERIFY(!c.isLoadingTiles());
+        QCOMPARE(c.duration(), 9.0);
+        // Each tile knows where its footage ends, so it can say so past that point.
+        QCOMPARE(c.tiles()[0].contentEnd, 6.0);
+        QCOMPARE(c.tiles()[1].contentEnd, 9.0);
+        QCOMPARE(c.tilesForQml().at(0).toMap().value("contentEnd").toDouble(), 6.0);
         QTRY_VERIFY(c.isPlaying());
         c.seek(5.5);
         QVERIFY(c.isPlaying());
-        // The front's media ends at 6 s: the position stops there, the back plays on.
-        QTRY_COMPARE_WITH_TIMEOUT(c.currentTime(), 6.0, 5000);
-        QTRY_VERIFY_WITH_TIMEOUT(c.tiles()[1].player->currentSeconds() > 6.5, 5000);
-        QCOMPARE(c.currentTime(), 6.0);
+        QTRY_VERIFY_WITH_TIMEOUT(c.currentTime() > 6.5, 5000);
         QVERIFY(c.isPlaying());
-        // The next command brings them together again.
-        c.pause();
-        QCOMPARE(c.tiles()[1].player->currentSeconds(), 6.0);
+        QTRY_VERIFY_WITH_TIMEOUT(!c.isPlaying(), 10000);
+        QCOMPARE(c.currentTime(), 9.0);
+        for (const Tile &t : c.tiles())
+            QCOMPARE(t.player->rate(), 0.0f);
+        c.play();
+        QVERIFY(c.isPlaying());
+        QVERIFY(c.currentTime() < 0.5);
     }
 
     void switchingEventsMidLoadNeverShowsTheFirst()

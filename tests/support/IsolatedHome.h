@@ -1,6 +1,13 @@
 #pragma once
 
 #include <QString>
+#ifdef QT_WIDGETS_LIB
+#include <QApplication>
+#define KEELHOLD_APP_CLASS QApplication
+#else
+#include <QGuiApplication>
+#define KEELHOLD_APP_CLASS QGuiApplication
+#endif
 
 // Points HOME and the XDG data, config and cache folders at a fresh
 // temporary folder, so that settings and per-user files a test writes are
@@ -23,16 +30,21 @@ QString setUp();
         return QTest::qExec(&tc, argc, argv);                                                                          \
     }
 
-// The same for tests of the application's window: a GUI application named
-// as the app is (its settings land where the app's would). Without a display
-// the offscreen platform lets the process come up to say what it skips.
+// The same for tests of the application's window: an application named as
+// the app is (its settings land where the app's would), with widgets where
+// linked, since the file dialogs are widgets. Without a display the
+// offscreen platform lets the process come up to say what it skips. No
+// desktop's platform theme: the dialogs the tests drive are Qt's own.
 #define KEELHOLD_APP_TEST_MAIN(TestObject)                                                                             \
     int main(int argc, char **argv)                                                                                    \
     {                                                                                                                  \
         IsolatedHome::setUp();                                                                                         \
         if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))                  \
             qputenv("QT_QPA_PLATFORM", "offscreen");                                                                   \
-        QGuiApplication app(argc, argv);                                                                               \
+        qunsetenv("XDG_CURRENT_DESKTOP");                                                                              \
+        qunsetenv("DESKTOP_SESSION");                                                                                  \
+        qunsetenv("QT_QPA_PLATFORMTHEME");                                                                             \
+        KEELHOLD_APP_CLASS app(argc, argv);                                                                            \
         QGuiApplication::setOrganizationName(QStringLiteral("Keelhold"));                                              \
         QGuiApplication::setApplicationName(QStringLiteral("Keelhold"));                                               \
         TestObject tc;                                                                                                 \

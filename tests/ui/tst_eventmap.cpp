@@ -122,6 +122,7 @@ private Q_SLOTS:
         QTRY_VERIFY(map()->zoom() > 8);
         QTRY_VERIFY_WITH_TIMEOUT(map()->tilesDrawn() > 0, 10000);
         QVERIFY(!tiles.paths.isEmpty());
+        QVERIFY(!app->find(QStringLiteral("noTilesText"))->isVisible());
         const QString z = QString::number(int(std::floor(map()->zoom() + 0.5)));
         QVERIFY2(!tiles.paths.filter(QRegularExpression(QStringLiteral("^/") + z + QStringLiteral("/\\d+/\\d+\\.png$"))).isEmpty(),
                  qPrintable(tiles.paths.join(QLatin1Char(' '))));
@@ -210,7 +211,13 @@ private Q_SLOTS:
         QSettings().setValue(TileSource::templateKey, QStringLiteral("http://127.0.0.1:%1/{z}/{x}/{y}.png").arg(port));
         showMap();
         map()->zoomAround(0.5, map()->width() / 2, map()->height() / 2);
-        QTest::qWait(300);
+        // The plain field says why it is plain.
+        QTRY_VERIFY_WITH_TIMEOUT(map()->property("tilesUnavailable").toBool(), 10000);
+        QQuickItem *note = app->find(QStringLiteral("noTilesText"));
+        QTRY_VERIFY(note && note->isVisible());
+        QCOMPARE(note->property("text").toString(),
+                 QStringLiteral("Map tiles aren't available — check your internet connection."));
+        app->shot(QStringLiteral("map-sample-no-tiles"));
         QCOMPARE(map()->tilesDrawn(), 0);
         for (const QString &id : located)
             QVERIFY(app->find(QStringLiteral("pin_") + id)->isVisible());

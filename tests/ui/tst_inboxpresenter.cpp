@@ -75,7 +75,10 @@ private Q_SLOTS:
         TeslaEvent e = event(EventKind::sentry, QStringLiteral("a"));
         e.reason.category = ReasonCategory::impact;
         const QString longTime = longTimestamp(e);
-        QVERIFY(longTime.contains(QRegularExpression(QStringLiteral("^[A-Z][a-z]+day \\d{1,2}:\\d\\d:\\d\\d [AP]M$"))));
+        // The date with its year, then the time to the second.
+        const QString year = QString::number(e.timestamp.toLocalDateTime().date().year());
+        QVERIFY(longTime.contains(year));
+        QVERIFY(longTime.contains(QRegularExpression(QStringLiteral("^[A-Z][a-z]+day.* at \\d{1,2}:\\d\\d:\\d\\d [AP]M$"))));
         QVERIFY(rowTimestamp(e).contains(QRegularExpression(QStringLiteral("^[A-Z][a-z]{2} \\d{1,2}:\\d\\d [AP]M$"))));
         QCOMPARE(accessibilityLabel(e), e.reason.label() + QStringLiteral(", ") + longTime);
         e.city = QStringLiteral("Bergen");
@@ -83,6 +86,22 @@ private Q_SLOTS:
         QCOMPARE(reasonChipAccessibilityLabel(e.reason), QStringLiteral("Reason: ") + e.reason.label());
         QCOMPARE(fallbackSymbol(EventKind::recent), QStringLiteral("road.lanes"));
         QCOMPARE(fallbackSymbol(EventKind::saved), QStringLiteral("video.fill"));
+    }
+
+    void dayHeadingsNameTheDay()
+    {
+        using namespace InboxPresenter;
+        const QDateTime noon(QDate(2025, 6, 16), QTime(12, 0));
+        const QDate today = noon.date();
+        QCOMPARE(dayHeading(Date::fromQDateTime(noon), today), QStringLiteral("Today"));
+        // Just after midnight is still today; just before is yesterday.
+        QCOMPARE(dayHeading(Date::fromQDateTime(QDateTime(today, QTime(0, 0, 1))), today), QStringLiteral("Today"));
+        QCOMPARE(dayHeading(Date::fromQDateTime(QDateTime(today, QTime(0, 0)).addSecs(-1)), today), QStringLiteral("Yesterday"));
+        const QString older = dayHeading(Date::fromQDateTime(noon.addDays(-2)), today);
+        QVERIFY(older.contains(QStringLiteral("Saturday")));
+        QVERIFY(older.contains(QStringLiteral("June")));
+        QVERIFY(older.contains(QStringLiteral("2025")));
+        QVERIFY(older.contains(QStringLiteral("14")));
     }
 
     void pluralsAndCounts()

@@ -261,14 +261,25 @@ private Q_SLOTS:
             if (e.kind == EventKind::sentry && sentry.isEmpty())
                 sentry << e.id();
         }
-        for (const QString &id : saved + sentry) {
+        QVERIFY(rowItem(saved.first()));
+        const QPointF firstRowAt = rowItem(saved.first())->mapToScene(QPointF(0, 0));
+        for (const QString &id : saved) {
             QQuickItem *row = rowItem(id);
             QVERIFY2(row, qPrintable(id));
             QQuickItem *tick = AppWindowHarness::findItem(row, QStringLiteral("tick"));
             QVERIFY(tick && tick->isVisible());
             app->click(tick);
         }
+        QTRY_COMPARE(app->state.selectedEventIDsForBulk().size(), 3);
+        // The bulk bar had its room from the start: the rows didn't move under the pointer.
+        QCOMPARE(rowItem(saved.first())->mapToScene(QPointF(0, 0)), firstRowAt);
+        // In Select mode a tap on the row itself ticks it and opens nothing.
+        const auto openBefore = app->state.selectedEventID();
+        QQuickItem *sentryRow = rowItem(sentry.first());
+        QVERIFY(sentryRow);
+        app->click(AppWindowHarness::findItem(sentryRow, QStringLiteral("firstLine")));
         QTRY_COMPARE(app->state.selectedEventIDsForBulk().size(), 4);
+        QCOMPARE(app->state.selectedEventID(), openBefore);
         QTRY_VERIFY(bulk->isVisible());
         auto *keep = app->find(QStringLiteral("bulkKeep"));
         QCOMPARE(keep->property("text").toString(), QStringLiteral("Keep 4"));
@@ -573,10 +584,19 @@ private Q_SLOTS:
         }
         QVERIFY(pictures > 0);
         app->shot(QStringLiteral("inbox-sample-footage"));
+        // Rows stand under the day they were recorded.
+        QVERIFY(AppWindowHarness::findItem(app->window()->contentItem(),
+                                           QStringLiteral("dayHeading_") + InboxPresenter::dayHeading(events.front().timestamp, QDate::currentDate())));
+        // Another drive is one click away from the sample.
+        QQuickItem *switchDrive = app->find(QStringLiteral("switchDrive"));
+        QVERIFY(switchDrive && switchDrive->isVisible());
 
+        // With no drive of its own to go back to, Eject leads to the wizard.
         QMetaObject::invokeMethod(banner, "eject");
         QTRY_VERIFY(!app->state.isSampleMode());
         QTRY_VERIFY(!banner->isVisible());
+        QTRY_VERIFY(app->state.showOnboarding());
+        app->state.setShowOnboarding(false);
     }
 
     void cleanupTestCase() { app.reset(); }

@@ -2,6 +2,7 @@
 // on the sample footage and on fixture drives, driven by real key presses
 // and mouse clicks, checked by the state it leaves and by the pixels it draws.
 
+#include "FileDialogDriver.h"
 #include "EventPlayerPresenter.h"
 #include "ExportFlow.h"
 #include "KeelholdApp.h"
@@ -342,6 +343,16 @@ private Q_SLOTS:
         QCOMPARE(int(c->tiles().size()), 6);
         verifyAllTilesShowPictures();
         QVERIFY(findItem(window_->contentItem(), QStringLiteral("verifiedBadge")));
+        // K and D act on the event shown, though it is now only in the Vault:
+        // nothing to copy, so the report says it is already there.
+        key(Qt::Key_K);
+        QTRY_VERIFY(state_->showArchiveReport());
+        QCOMPARE(state_->lastArchiveReport()->skippedDuplicates, 1);
+        QVERIFY(state_->lastArchiveReport()->archivedEvents.empty());
+        QVERIFY(!state_->isArchiving());
+        state_->setShowArchiveReport(false);
+        key(Qt::Key_D);
+        QTRY_COMPARE(state_->triageStateFor(sixCameraEvent), QStringLiteral("dismissed"));
 
         // Export & Share: the front camera, then a copy over an existing file.
         click(QStringLiteral("exportButton"));
@@ -375,10 +386,16 @@ private Q_SLOTS:
         const QString destination = work_.filePath(QStringLiteral("Videos/front.mp4"));
         QDir().mkpath(QFileInfo(destination).path());
         TeslaCamFixture::writeFile(destination, "an older file in the way");
-        qputenv("KEELHOLD_SAVE_TO", destination.toLocal8Bit());
+        // The real save dialog: at the Videos folder with the movie's name;
+        // a name typed over it, and the file in the way replaced on request.
         click(QStringLiteral("saveToButton"));
+        QFileDialog *dialog = FileDialogDriver::waitForDialog();
+        QVERIFY(dialog);
+        QCOMPARE(dialog->acceptMode(), QFileDialog::AcceptSave);
+        QCOMPARE(dialog->windowTitle(), QStringLiteral("Save to…"));
+        QVERIFY(FileDialogDriver::typedName(dialog).endsWith(QStringLiteral(".mp4")));
+        QVERIFY(FileDialogDriver::answer(destination, FileDialogDriver::ReplaceExisting::yes));
         QTRY_COMPARE(flow->savedText(), QStringLiteral("Saved as front.mp4"));
-        qunsetenv("KEELHOLD_SAVE_TO");
         QVERIFY(QFileInfo::exists(*flow->exportedPath()));
 
         // The copy plays end to end: every frame decodes, and it lasts as

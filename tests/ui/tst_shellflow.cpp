@@ -1,5 +1,8 @@
+#include "FileDialogDriver.h"
 #include "KeelholdApp.h"
+#include "support/FaultyFs.h"
 #include "support/IsolatedHome.h"
+#include "support/TestClips.h"
 #include "support/TeslaCamFixture.h"
 
 #include <QDir>
@@ -359,6 +362,220 @@ private Q_SLOTS:
         QCOMPARE(std::get<QString>(saved), root);
     }
 
+    // The real folder dialogs, as a user meets them: the drive from the
+    // wizard, then the Vault from its empty state, then a change of Vault.
+    void realDialogsChooseTheDriveAndTheVault()
+    {
+        QTemporaryDir tmp;
+        addOneEvent(tmp.filePath(QStringLiteral("USBSTICK/TeslaCam")));
+        start();
+        AppState &state = app->appState();
+        QTRY_VERIFY(visibleItem(window, QStringLiteral("getStarted")));
+        QVERIFY(click(window, QStringLiteral("getStarted")));
+        QTRY_VERIFY(visibleItem(window, QStringLiteral("chooseManually")));
+        // No drive or sample open yet: nothing to go back to, so no Cancel.
+        QVERIFY(!visibleItem(window, QStringLiteral("wizardCancel")));
+
+        QVERIFY(click(window, QStringLiteral("chooseManually")));
+        QFileDialog *dialog = FileDialogDriver::waitForDialog();
+        QVERIFY(dialog);
+        QCOMPARE(dialog->windowTitle(), QStringLiteral("Select Your Tesla's USB Drive"));
+        QCOMPARE(FileDialogDriver::acceptButton(dialog)->text(), QStringLiteral("Use This Drive"));
+        const QString guidance = QStringLiteral("Choose the drive itself, or its TeslaCam folder.");
+        QVERIFY(FileDialogDriver::message(dialog).startsWith(guidance));
+        QTRY_VERIFY(showingPrefix(guidance)); // the wizard says it too, for dialogs with no room for it
+        QVERIFY(dialog->fileMode() == QFileDialog::Directory);
+        if (const QString dir = qEnvironmentVariable("KEELHOLD_SAVE_SCREENSHOTS"); !dir.isEmpty())
+            dialog->grab().save(dir + QStringLiteral("/wizard-folder-dialog.png"));
+
+        // Cancelled: nothing happens.
+        QVERIFY(FileDialogDriver::cancel());
+        QVERIFY(!state.driveRootURL());
+        QTRY_VERIFY(!showingPrefix(guidance));
+
+        QVERIFY(click(window, QStringLiteral("chooseManually")));
+        QVERIFY(FileDialogDriver::answer(tmp.filePath(QStringLiteral("USBSTICK"))));
+        QTRY_VERIFY_WITH_TIMEOUT(!state.showOnboarding(), 10000);
+        QCOMPARE(state.driveRootURL().value_or(QString()), tmp.filePath(QStringLiteral("USBSTICK/TeslaCam")));
+        QTRY_VERIFY(state.driveScan() && state.driveScan()->events.size() == 1);
+
+        // The Vault: no folder yet, then one chosen in the dialog.
+        state.setSelectedSection(SidebarSection::vault);
+        QTRY_VERIFY(showing(QStringLiteral("Choose a Vault Folder")));
+        QVERIFY(click(window, QStringLiteral("emptyStateAction")));
+        dialog = FileDialogDriver::waitForDialog();
+        QVERIFY(dialog);
+        QCOMPARE(dialog->windowTitle(), QStringLiteral("Choose Your Vault Folder"));
+        QCOMPARE(FileDialogDriver::acceptButton(dialog)->text(), QStringLiteral("Use This Folder"));
+        QVERIFY(FileDialogDriver::message(dialog).startsWith(QStringLiteral("Pick (or create) a folder")));
+        const QString vault = tmp.filePath(QStringLiteral("My Vault"));
+        QVERIFY(QDir().mkpath(vault));
+        QVERIFY(FileDialogDriver::answer(vault));
+        QTRY_COMPARE(state.vaultURL().value_or(QString()), vault);
+
+        // An empty Vault with its folder set can still be pointed elsewhere.
+        QTRY_VERIFY(showing(QStringLiteral("Your Vault is empty so far")));
+        QTRY_VERIFY(showing(QStringLiteral("Change Vault Folder")));
+        QVERIFY(click(window, QStringLiteral("emptyStateAction")));
+        const QString other = tmp.filePath(QStringLiteral("Other Vault"));
+        QVERIFY(QDir().mkpath(other));
+        QVERIFY(FileDialogDriver::answer(other));
+        QTRY_COMPARE(state.vaultURL().value_or(QString()), other);
+        QVERIFY(std::holds_alternative<QString>(state.engine().resolveBookmark(BookmarkKey::vaultFolder)));
+    }
+
+    // While a keep runs, no entry point starts another: the toolbar button,
+    // K in the player and in the list, the row menu, the bulk bar and the
+    // recent-driving banner. Cancel then reaches the one that runs. The keep
+    // is held in place by a drive that stops answering partway through a file.
+    void oneKeepAtATime()
+    {
+        if (!FaultyFs::available())
+            QSKIP("needs FUSE");
+        QTemporaryDir mountPoint, vault;
+        FaultyFs fs(mountPoint.path());
+        QVERIFY(fs.isMounted());
+        QFile source(TestClips::clip());
+        QVERIFY(source.open(QIODevice::ReadOnly));
+        const QByteArray clip = source.readAll();
+        const QByteArray json = TeslaCamFixture::eventJson(QStringLiteral("2026-05-01T10:00:30"), QStringLiteral("user_interaction_honk"));
+        fs.addFile(QStringLiteral("TeslaCam/SavedClips/2026-05-01_10-00-30/event.json"), json);
+        fs.addFile(QStringLiteral("TeslaCam/SavedClips/2026-05-01_10-00-30/2026-05-01_10-00-00-front.mp4"), clip);
+        const QString stuck = QStringLiteral("TeslaCam/SavedClips/2026-05-02_10-00-30/2026-05-02_10-00-00-front.mp4");
+        fs.addFile(QStringLiteral("TeslaCam/SavedClips/2026-05-02_10-00-30/event.json"), json);
+        fs.addFile(stuck, clip);
+        fs.addFile(QStringLiteral("TeslaCam/RecentClips/2026-05-03_10-00-00-front.mp4"), clip);
+        setOnboardingDone(true);
+        start();
+        AppState &state = app->appState();
+        state.setVaultURL(vault.path());
+        state.beginScan(mountPoint.filePath(QStringLiteral("TeslaCam")));
+        QTRY_VERIFY_WITH_TIMEOUT(state.driveScan() && state.driveScan()->events.size() == 3 && !state.isScanning(), 20000);
+        const QString first = QStringLiteral("saved|2026-05-01_10-00-30");
+        const QString second = QStringLiteral("saved|2026-05-02_10-00-30");
+
+        // Both Saved events ticked and kept: the first copies, the second hangs.
+        QVERIFY(click(window, QStringLiteral("selectToggle")));
+        state.toggleBulkSelection(first);
+        state.toggleBulkSelection(second);
+        fs.hangReadsFrom(stuck, clip.size() / 2);
+        QTRY_VERIFY(visibleItem(window, QStringLiteral("bulkKeep")));
+        QVERIFY(click(window, QStringLiteral("bulkKeep")));
+        QVERIFY(state.isArchiving());
+        QTRY_VERIFY_WITH_TIMEOUT(fs.isHanging(), 10000);
+        QTRY_VERIFY(state.archiveProgress() && state.archiveProgress()->bytesCopied > 0);
+
+        // A second keep would start with nothing copied: watch for that.
+        QSignalSpy restarted(&state, &AppState::archiveProgressChanged);
+        QVERIFY(click(window, QStringLiteral("selectToggle")));
+        state.setSelectedEventID(first);
+        QTRY_VERIFY(visibleItem(window, QStringLiteral("keepButton")));
+        for (const char *name : {"keepButton", "keepRecentNow"}) {
+            QQuickItem *button = visibleItem(window, QString::fromLatin1(name));
+            QVERIFY2(button && !button->isEnabled(), name);
+            QVERIFY(click(window, QString::fromLatin1(name)));
+        }
+        QTest::keyClick(window, Qt::Key_K); // the player's key
+        QQuickItem *list = visibleItem(window, QStringLiteral("inboxList"));
+        QVERIFY(list);
+        list->forceActiveFocus();
+        QTest::keyClick(window, Qt::Key_K); // the list's key
+        QObject *menuKeep = anyItem(window, QStringLiteral("menuKeep"));
+        QVERIFY(menuKeep && !menuKeep->property("enabled").toBool());
+        state.keepIDs({first});
+        state.setSelectedEventIDsForBulk({first});
+        state.keepBulkSelection();
+        QCOMPARE(state.selectedEventIDsForBulk().size(), 1); // the tick waits
+        // The keys act one turn later.
+        QCoreApplication::processEvents();
+        QCoreApplication::processEvents();
+        QCOMPARE(restarted.count(), 0);
+        QVERIFY(state.isArchiving());
+
+        // Cancel reaches the keep that runs.
+        QTRY_VERIFY(visibleItem(window, QStringLiteral("cancelArchive")));
+        QVERIFY(click(window, QStringLiteral("cancelArchive")));
+        fs.release();
+        QTRY_VERIFY_WITH_TIMEOUT(!state.isArchiving(), 20000);
+        QVERIFY(state.lastArchiveReport());
+        QVERIFY(state.lastArchiveReport()->cancelled);
+        QCOMPARE(state.triageStateFor(first), QStringLiteral("kept"));
+        QVERIFY(visibleItem(window, QStringLiteral("keepButton"))->isEnabled());
+    }
+
+    // From the least size to full HD, nothing of the inbox and the player is
+    // cut off or on top of another control.
+    void layoutHoldsFromTheLeastSizeUp_data()
+    {
+        QTest::addColumn<QSize>("size");
+        QTest::newRow("least") << QSize(900, 600);
+        QTest::newRow("laptop") << QSize(1280, 800);
+        QTest::newRow("full HD") << QSize(1920, 1080);
+    }
+
+    void layoutHoldsFromTheLeastSizeUp()
+    {
+        QFETCH(QSize, size);
+        if (!AppState::sampleFootageURL())
+            QSKIP("the sample footage is not built (target sample_footage)");
+        setOnboardingDone(true);
+        start();
+        AppState &state = app->appState();
+        state.loadSampleFootage();
+        QTRY_VERIFY_WITH_TIMEOUT(state.isSampleMode() && state.driveScan() && !state.isScanning(), 30000);
+        // The event with the most cameras: the widest grid.
+        // A copy: the probe that follows the scan replaces the list.
+        const std::vector<TeslaEvent> events = state.driveScan()->events;
+        const TeslaEvent widest = *std::max_element(events.begin(), events.end(), [](const TeslaEvent &a, const TeslaEvent &b) {
+            return a.cameras().size() < b.cameras().size();
+        });
+        state.setSelectedEventID(widest.id());
+        window->resize(size);
+        QTRY_COMPARE(window->size(), size);
+        QTRY_VERIFY_WITH_TIMEOUT(visibleItem(window, QStringLiteral("cameraTile_front")), 20000);
+        QTest::qWait(300); // the layouts settle over the next frames
+
+        const QRectF bounds(QPointF(0, 0), QSizeF(window->size()));
+        auto rectOf = [&](const QString &name) {
+            QQuickItem *item = visibleItem(window, name);
+            return item ? item->mapRectToScene(QRectF(0, 0, item->width(), item->height())) : QRectF();
+        };
+        auto inside = [&](const QString &name) {
+            const QRectF r = rectOf(name);
+            QVERIFY2(!r.isEmpty(), qPrintable(name + QStringLiteral(" is not shown")));
+            QVERIFY2(bounds.contains(r.adjusted(1, 1, -1, -1)),
+                     qPrintable(QStringLiteral("%1 at %2,%3 %4×%5 is cut off").arg(name).arg(r.x()).arg(r.y()).arg(r.width()).arg(r.height())));
+        };
+        auto apart = [&](const QStringList &row) {
+            for (int i = 0; i + 1 < row.size(); ++i) {
+                const QRectF a = rectOf(row[i]), b = rectOf(row[i + 1]);
+                QVERIFY2(a.right() <= b.left() + 0.5, qPrintable(row[i] + QStringLiteral(" runs into ") + row[i + 1]));
+            }
+        };
+        const QStringList toolbar{QStringLiteral("keepButton"), QStringLiteral("dismissButton"),
+                                  QStringLiteral("exportButton"), QStringLiteral("focusModeButton")};
+        const QStringList transport{QStringLiteral("stepBackButton"), QStringLiteral("playPauseButton"),
+                                    QStringLiteral("stepForwardButton"), QStringLiteral("speedPicker")};
+        for (const QString &name : toolbar + transport)
+            inside(name);
+        apart(toolbar);
+        apart(transport);
+        inside(QStringLiteral("durationText"));
+        inside(QStringLiteral("currentTimeText"));
+        for (const Camera &camera : widest.cameras())
+            inside(QStringLiteral("cameraTile_") + camera.rawValue());
+        inside(QStringLiteral("switchDrive"));
+        inside(QStringLiteral("selectToggle"));
+        // Room for rows under the banners (which scroll away with the list).
+        QQuickItem *list = visibleItem(window, QStringLiteral("inboxList"));
+        QVERIFY(list);
+        auto *header = list->property("headerItem").value<QQuickItem *>();
+        const double rowsRoom = list->height() - (header ? header->height() : 0);
+        if (size.height() >= 800)
+            QVERIFY2(rowsRoom >= 5 * 64, qPrintable(QString::number(rowsRoom)));
+        shoot(window, QStringLiteral("inbox-player-%1x%2").arg(size.width()).arg(size.height()));
+    }
+
     void lockedGateKeepsThePanelShutButNotTheSample()
     {
         QTemporaryDir tmp;
@@ -459,6 +676,20 @@ private Q_SLOTS:
         QVERIFY(showingPrefix(QStringLiteral("We found a TeslaCam folder, but there's nothing in it yet.")));
         QVERIFY(!visibleItem(window, QStringLiteral("emptyStateAction")));
         shoot(window, QStringLiteral("failure-empty-drive"));
+        // No dead end: the column keeps its title and Switch Drive, and the
+        // screen offers another drive; the wizard that opens can be left.
+        QVERIFY(showing(QStringLiteral("Drive")));
+        QVERIFY(visibleItem(window, QStringLiteral("switchDrive")));
+        QVERIFY(click(window, QStringLiteral("emptyStateSecondary")));
+        QTRY_VERIFY(state.showOnboarding());
+        QTRY_VERIFY(visibleItem(window, QStringLiteral("wizardCancel")));
+        QVERIFY(click(window, QStringLiteral("wizardCancel")));
+        QTRY_VERIFY(!state.showOnboarding());
+        QVERIFY(click(window, QStringLiteral("switchDrive")));
+        QTRY_VERIFY(visibleItem(window, QStringLiteral("wizardView")));
+        QTest::keyClick(window, Qt::Key_Escape);
+        QTRY_VERIFY(!state.showOnboarding());
+        QTRY_VERIFY(!visibleItem(window, QStringLiteral("wizardView")));
 
         TeslaCamFixture encrypted(tmp.filePath(QStringLiteral("ENC/TeslaCam")));
         TeslaCamFixture::makeDir(encrypted.path(QStringLiteral("EncryptedClips")));
@@ -466,6 +697,8 @@ private Q_SLOTS:
         QTRY_VERIFY(showing(QStringLiteral("Your car is encrypting this footage")));
         QVERIFY(showingPrefix(QStringLiteral("Newer Tesla software can encrypt dashcam clips so only your Tesla account "
                                              "can view them.")));
+        QVERIFY(visibleItem(window, QStringLiteral("switchDrive")));
+        QVERIFY(showing(QStringLiteral("Choose a Different Drive")));
         shoot(window, QStringLiteral("failure-encrypted-only"));
         QVERIFY(showing(QStringLiteral("Show Me the 30-Second Fix")));
         QVERIFY(click(window, QStringLiteral("emptyStateAction")));
@@ -498,6 +731,16 @@ private Q_SLOTS:
         QTRY_VERIFY(showing(QStringLiteral("We need you to point us back to your Vault folder")));
         QVERIFY(showing(QStringLiteral("Choose Vault folder")));
         shoot(window, QStringLiteral("failure-stale-vault"));
+        // It asks for a Vault folder, not for a drive; the answer ends the failure.
+        QVERIFY(click(window, QStringLiteral("emptyStateAction")));
+        QFileDialog *dialog = FileDialogDriver::waitForDialog();
+        QVERIFY(dialog);
+        QCOMPARE(dialog->windowTitle(), QStringLiteral("Choose Your Vault Folder"));
+        QVERIFY(!state.showOnboarding());
+        QDir().mkpath(vault);
+        QVERIFY(FileDialogDriver::answer(vault));
+        QTRY_COMPARE(state.vaultURL().value_or(QString()), vault);
+        QTRY_VERIFY(!state.currentFailure());
 
         // A drive in a format the car doesn't write and this computer doesn't own.
         if (geteuid() != 0)

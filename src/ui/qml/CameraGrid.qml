@@ -82,6 +82,7 @@ Item {
                 height: grid.slotHeight
                 small: true
                 isFocused: true
+                mediaTime: grid.controller ? grid.controller.currentTime : 0
                 dimmed: true
                 texts: grid.texts
                 tileData: visible ? grid.tiles[grid.focusedIndex] : ({})
@@ -103,6 +104,7 @@ Item {
                 tileData: present ? grid.tiles[index] : ({})
                 small: inStrip
                 isFocused: isBig
+                mediaTime: grid.controller ? grid.controller.currentTime : 0
                 texts: grid.texts
                 objectName: isBig ? "focusedTile" : (inStrip ? "stripTile_" : "cameraTile_") + (present ? tileData.camera : "")
                 x: isBig ? 0 : inStrip ? index * (grid.slotWidth + grid.spacing)

@@ -16,7 +16,12 @@ Rectangle {
     property var texts: ({})
     signal tapFocus()
 
+    // The timeline's position: past the end of this camera's footage the
+    // tile says so, rather than holding its last frame.
+    property real mediaTime: 0
     readonly property var player: tileData && tileData.player ? tileData.player : null
+    readonly property bool footageEnded: player !== null && tileData.contentEnd > 0 && mediaTime > tileData.contentEnd + 0.05
+    readonly property bool showsVideo: player !== null && !footageEnded
     objectName: (small ? "stripTile_" : "cameraTile_") + (tileData ? tileData.camera : "")
     color: "black"
     clip: true
@@ -32,12 +37,13 @@ Rectangle {
         anchors.fill: parent
         anchors.margins: tile.border.width
         fillMode: VideoOutput.PreserveAspectFit
-        visible: tile.player !== null
+        visible: tile.showsVideo
     }
     VideoMirror { player: tile.player; target: video.videoSink }
 
     Column {
-        visible: tile.player === null
+        objectName: "placeholder"
+        visible: !tile.showsVideo
         anchors.centerIn: parent
         width: parent.width - 24
         spacing: tile.small ? 2 : 8
@@ -54,7 +60,7 @@ Rectangle {
             horizontalAlignment: Text.AlignHCenter
             wrapMode: Text.WordWrap
             color: "#dddddd"
-            text: tile.tileData && tile.tileData.placeholderReason ? tile.tileData.placeholderReason : (tile.texts.noFootage || "")
+            text: !tile.footageEnded && tile.tileData && tile.tileData.placeholderReason ? tile.tileData.placeholderReason : (tile.texts.noFootage || "")
         }
     }
 

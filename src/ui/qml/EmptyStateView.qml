@@ -36,11 +36,16 @@ Item {
             opacity: 0.75
             lineHeight: 1.2
         }
-        RowLayout {
+        // Side by side where they fit, one above the other in a narrow column.
+        GridLayout {
             Layout.alignment: Qt.AlignHCenter
-            spacing: 10
-            Button { objectName: "emptyStateAction"; visible: root.actionTitle.length > 0; text: root.actionTitle; highlighted: true; onClicked: root.action() }
-            Button { objectName: "emptyStateSecondary"; visible: root.secondaryTitle.length > 0; text: root.secondaryTitle; onClicked: root.secondaryAction() }
+            columnSpacing: 10
+            rowSpacing: 8
+            columns: primary.implicitWidth + secondary.implicitWidth + columnSpacing <= parent.width ? 2 : 1
+            Button { id: primary; objectName: "emptyStateAction"; visible: root.actionTitle.length > 0; text: root.actionTitle; highlighted: true
+                     Layout.alignment: Qt.AlignHCenter; onClicked: root.action() }
+            Button { id: secondary; objectName: "emptyStateSecondary"; visible: root.secondaryTitle.length > 0; text: root.secondaryTitle
+                     Layout.alignment: Qt.AlignHCenter; onClicked: root.secondaryAction() }
         }
     }
 }

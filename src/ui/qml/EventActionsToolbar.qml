@@ -9,6 +9,10 @@ RowLayout {
     property var presenter: null
     property var texts: ({})
     property bool focusMode: false
+    // In a narrow pane the labels shorten, then give way to icons (their
+    // tooltips still say everything), so nothing is cut off.
+    readonly property bool narrow: width < 560
+    readonly property bool veryNarrow: width < 400
     signal exportRequested()
     signal focusModeToggled()
     spacing: 6
@@ -26,7 +30,10 @@ RowLayout {
 
     ToolbarButton {
         objectName: "keepButton"
-        text: bar.texts.keep
+        // One keep at a time: the running one is the one Cancel reaches.
+        enabled: !appState.isArchiving
+        text: bar.narrow ? bar.texts.keepShort : bar.texts.keep
+        Accessible.name: bar.texts.keep
         icon.source: bar.texts.keepIcon
         highlighted: bar.presenter ? bar.presenter.keepProminent : false
         flat: !highlighted
@@ -36,6 +43,7 @@ RowLayout {
     ToolbarButton {
         objectName: "dismissButton"
         text: bar.texts.dismiss
+        display: bar.veryNarrow ? AbstractButton.IconOnly : AbstractButton.TextBesideIcon
         icon.source: bar.texts.dismissIcon
         flat: true
         tip: bar.texts.dismissTip
@@ -45,6 +53,8 @@ RowLayout {
     ToolbarButton {
         objectName: "exportButton"
         text: (bar.texts.export || "").replace("&", "&&") // a lone & would underline the next letter
+        display: bar.veryNarrow ? AbstractButton.IconOnly : AbstractButton.TextBesideIcon
+        Accessible.name: bar.texts.export || ""
         icon.source: bar.texts.exportIcon
         flat: true
         tip: bar.texts.exportTip

@@ -31,6 +31,16 @@ ColumnLayout {
     }
     Rectangle { Layout.fillWidth: true; height: 1; color: palette.mid }
 
+    // A failure replaces the list but not the column's title and toolbar,
+    // so "Switch Drive" stays within reach.
+    FailureView {
+        property var s: { appState.currentFailure; return ui.failureScreen() }
+        screen: s
+        visible: inbox.content === "failure" && s.title !== undefined
+        Layout.fillWidth: true
+        Layout.fillHeight: true
+    }
+
     ColumnLayout {
         objectName: "scanningStep"
         visible: inbox.content === "scanning"
@@ -52,7 +62,9 @@ ColumnLayout {
         title: inbox.emptyScreen.title || ""
         message: inbox.emptyScreen.message || ""
         actionTitle: inbox.emptyScreen.actionTitle || ""
+        secondaryTitle: inbox.emptyScreen.secondaryTitle || ""
         onAction: appState.showOnboarding = true
+        onSecondaryAction: appState.showOnboarding = true
     }
 
     ColumnLayout {
@@ -62,23 +74,18 @@ ColumnLayout {
         Layout.fillHeight: true
         spacing: 0
 
-        SampleModeBanner {
-            visible: appState.isSampleMode
+        // The filters and Select stay put; the banners scroll away with the
+        // list, so they don't leave room for only a few rows.
+        TriageToolbar {
             Layout.fillWidth: true
-            onEject: appState.exitSampleMode()
-        }
-        RecentDrivingBanner {
-            visible: inbox.showsRecentBanner
-            hasEvents: inbox.showsRecentBanner
-            Layout.fillWidth: true
-            onKeepAll: inbox.keepRecentDriving()
-            onOpen: inbox.previewRecentDriving()
-        }
-        InboxListHeader {
-            Layout.fillWidth: true
+            Layout.leftMargin: 8
+            Layout.rightMargin: 8
+            Layout.topMargin: 6
+            Layout.bottomMargin: 6
             isBulkSelecting: root.isBulkSelecting
             onBulkSelectingToggled: (on) => root.isBulkSelecting = on
         }
+        Rectangle { Layout.fillWidth: true; height: 1; color: palette.mid }
 
         ListView {
             id: list
@@ -93,6 +100,9 @@ ColumnLayout {
             cacheBuffer: 640
             boundsBehavior: Flickable.StopAtBounds
             ScrollBar.vertical: ScrollBar {}
+            section.property: "dayHeading"
+            section.labelPositioning: ViewSection.InlineLabels | ViewSection.CurrentLabelAtStart
+            section.delegate: DayHeading {}
             // The selection scrolls into view, wherever it was set from (keys, the map, Preview).
             Connections {
                 target: inbox.rows
@@ -108,6 +118,22 @@ ColumnLayout {
                     return
                 if (event.key === Qt.Key_K) { inbox.keepSelected(); event.accepted = true }
                 else if (event.key === Qt.Key_D) { inbox.dismissSelected(); event.accepted = true }
+            }
+            header: Column {
+                width: ListView.view ? ListView.view.width : 0
+                SampleModeBanner {
+                    visible: appState.isSampleMode
+                    width: parent.width
+                    onEject: inbox.ejectSample()
+                }
+                RecentDrivingBanner {
+                    visible: inbox.showsRecentBanner
+                    hasEvents: inbox.showsRecentBanner
+                    width: parent.width
+                    onKeepAll: inbox.keepRecentDriving()
+                    onOpen: inbox.previewRecentDriving()
+                }
+                InboxListHeader { width: parent.width }
             }
             delegate: EventRow {
                 width: ListView.view.width
@@ -125,7 +151,7 @@ ColumnLayout {
     Menu {
         id: rowMenu
         objectName: "rowMenu"
-        MenuItem { objectName: "menuKeep"; text: inbox.texts.keep; onTriggered: appState.keepIDs([root.menuEventID]) }
+        MenuItem { objectName: "menuKeep"; text: inbox.texts.keep; enabled: !appState.isArchiving; onTriggered: appState.keepIDs([root.menuEventID]) }
         MenuItem { objectName: "menuDismiss"; text: inbox.texts.dismiss; onTriggered: appState.dismissIDs([root.menuEventID]) }
     }
 }

@@ -108,6 +108,28 @@ Item {
                 }
             }
 
+            // Without tiles the pins still stand and the list still works; say why the field is plain.
+            Rectangle {
+                objectName: "noTilesNote"
+                visible: map.tilesUnavailable
+                anchors.top: parent.top
+                anchors.horizontalCenter: parent.horizontalCenter
+                anchors.topMargin: 10
+                width: Math.min(parent.width - 20, noTilesRow.implicitWidth + 24)
+                height: noTilesRow.implicitHeight + 14
+                radius: height / 2
+                color: palette.base
+                border.color: palette.mid
+                RowLayout {
+                    id: noTilesRow
+                    anchors.centerIn: parent
+                    width: parent.width - 24
+                    spacing: 6
+                    UrlIcon { source: eventMap.texts.noTilesIcon; size: 14 }
+                    Label { objectName: "noTilesText"; text: eventMap.texts.noTiles; elide: Text.ElideRight; Layout.fillWidth: true }
+                }
+            }
+
             Label {
                 objectName: "mapAttribution"
                 anchors.right: parent.right

@@ -43,7 +43,8 @@ Rectangle {
     Accessible.name: accessibleName
     Accessible.selected: isSelected
 
-    TapHandler { onTapped: row.activated() }
+    // In Select mode a tap ticks the row; it doesn't open it.
+    TapHandler { onTapped: row.bulkMode ? row.toggleBulk() : row.activated() }
     TapHandler {
         acceptedButtons: Qt.RightButton
         onTapped: (point) => row.menuRequested(point.position.x, point.position.y)

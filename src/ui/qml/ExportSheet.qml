@@ -1,6 +1,5 @@
 import QtQuick
 import QtQuick.Controls
-import QtQuick.Dialogs
 import QtQuick.Layouts
 import Keelhold
 
@@ -25,25 +24,6 @@ Popup {
     onClosed: if (flow) flow.stop()
 
     FileHandOff { id: handOff }
-
-    FileDialog {
-        id: saveDialog
-        title: sheet.texts.saveTo || ""
-        fileMode: FileDialog.SaveFile
-        nameFilters: [sheet.texts.movieFilter || ""]
-        onAccepted: sheet.flow.saveTo(selectedFile)
-    }
-
-    function presentSavePanel() {
-        if (flow.automaticSaveDestination.length > 0) {
-            flow.saveTo(flow.automaticSaveDestination)
-            return
-        }
-        const folder = "file://" + flow.suggestedSaveFolder
-        saveDialog.currentFolder = folder
-        saveDialog.selectedFile = folder + "/" + flow.exportedFileName
-        saveDialog.open()
-    }
 
     contentItem: ColumnLayout {
         spacing: 12
@@ -142,7 +122,7 @@ Popup {
                     text: sheet.texts.saveTo || ""
                     ToolTip.visible: hovered
                     ToolTip.text: sheet.texts.saveToTip || ""
-                    onClicked: sheet.presentSavePanel()
+                    onClicked: sheet.flow.presentSavePanel()
                 }
             }
             RowLayout {

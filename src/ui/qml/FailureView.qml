@@ -8,10 +8,15 @@ EmptyStateView {
     title: screen.title || ""
     message: screen.message || ""
     actionTitle: screen.actionTitle || ""
-    onAction: {
-        if (screen.action === "reopenWizard")
+    secondaryTitle: screen.secondaryTitle || ""
+    function run(action) {
+        if (action === "reopenWizard")
             appState.showOnboarding = true
-        else if (screen.action === "showEncryptionGuide")
+        else if (action === "showEncryptionGuide")
             appState.showEncryptionGuide = true
+        else if (action === "chooseVaultFolder")
+            vault.presentFolderPicker()
     }
+    onAction: run(screen.action)
+    onSecondaryAction: run(screen.secondaryAction)
 }

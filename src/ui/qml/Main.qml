@@ -123,15 +123,8 @@ ApplicationWindow {
                     Layout.minimumWidth: detail.listWidth
                     Layout.fillHeight: true
                     spacing: 0
-                    FailureView {
-                        property var s: { appState.currentFailure; return ui.failureScreen() }
-                        screen: s
-                        visible: appState.selectedSection === ui.sections.drive && s.title !== undefined
-                        Layout.fillWidth: true
-                        Layout.fillHeight: true
-                    }
                     EventListView {
-                        visible: appState.selectedSection === ui.sections.drive && !appState.currentFailure
+                        visible: appState.selectedSection === ui.sections.drive
                         Layout.fillWidth: true
                         Layout.fillHeight: true
                     }
@@ -184,14 +177,20 @@ ApplicationWindow {
         id: wizardSheet
         objectName: "wizardSheet"
         modal: true
-        closePolicy: Popup.NoAutoClose
+        focus: true
+        // With a drive or the sample already open the wizard can be left
+        // (Cancel, Esc); on a first start there is nothing behind it.
+        readonly property bool cancellable: appState.isSampleMode || appState.driveRootURL.length > 0
+        closePolicy: cancellable ? Popup.CloseOnEscape : Popup.NoAutoClose
         anchors.centerIn: Overlay.overlay
-        width: 640; height: 480
+        width: Math.min(640, window.width - 40); height: Math.min(480, window.height - 40)
         visible: appState.showOnboarding
+        onClosed: appState.showOnboarding = false
         padding: 0
         contentItem: Loader {
             active: wizardSheet.visible
             sourceComponent: WizardView {
+                cancellable: wizardSheet.cancellable
                 onFinished: { appState.hasCompletedOnboarding = true; appState.showOnboarding = false }
                 onDismissed: appState.showOnboarding = false
             }

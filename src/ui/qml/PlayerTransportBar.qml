@@ -9,6 +9,9 @@ RowLayout {
     property var controller: null
     property var presenter: null
     property var texts: ({})
+    // Narrow panes drop the frame steps (the , and . keys remain) and the
+    // words beside icons; nothing is cut off.
+    readonly property bool narrow: width < 520
     spacing: 4
     PlayerLayout { id: rules }
 
@@ -24,6 +27,7 @@ RowLayout {
 
     TransportButton {
         objectName: "frameBackButton"
+        visible: !bar.narrow
         icon.source: bar.texts.frameBackIcon
         tip: bar.texts.frameBackTip
         onClicked: bar.controller.stepFrame(-1)
@@ -50,6 +54,7 @@ RowLayout {
     }
     TransportButton {
         objectName: "frameForwardButton"
+        visible: !bar.narrow
         icon.source: bar.texts.frameForwardIcon
         tip: bar.texts.frameForwardTip
         onClicked: bar.controller.stepFrame(1)
@@ -58,7 +63,8 @@ RowLayout {
         objectName: "momentButton"
         visible: bar.controller !== null && bar.controller.triggerOffset !== null && bar.controller.triggerOffset !== undefined
         text: bar.texts.moment
-        display: AbstractButton.TextBesideIcon
+        display: bar.narrow ? AbstractButton.IconOnly : AbstractButton.TextBesideIcon
+        Accessible.name: bar.texts.moment || ""
         icon.source: bar.texts.momentIcon
         icon.color: "#e0302a"
         palette.buttonText: "#e0302a"
@@ -66,7 +72,7 @@ RowLayout {
         onClicked: bar.controller.jumpToMoment()
     }
     Item { Layout.fillWidth: true }
-    Label { text: bar.texts.speed; opacity: 0.8 }
+    Label { visible: !bar.narrow; text: bar.texts.speed; opacity: 0.8 }
     ComboBox {
         id: speed
         objectName: "speedPicker"
@@ -85,6 +91,9 @@ RowLayout {
         visible: bar.controller !== null && bar.controller.focusedCamera !== ""
         focusPolicy: Qt.NoFocus
         text: bar.texts.showAll
+        icon.source: bar.texts.showAllIcon
+        display: bar.narrow ? AbstractButton.IconOnly : AbstractButton.TextBesideIcon
+        Accessible.name: bar.texts.showAll || ""
         ToolTip.visible: hovered
         ToolTip.delay: 600
         ToolTip.text: bar.texts.showAllTip

@@ -27,6 +27,7 @@ Rectangle {
             spacing: 8
             Button {
                 objectName: "keepRecentNow"
+                enabled: !appState.isArchiving
                 text: inbox.texts.recentKeep
                 icon.source: inbox.texts.recentKeepIcon
                 icon.color: palette.buttonText

@@ -85,12 +85,32 @@ ColumnLayout {
         }
     }
 
+    // The bar keeps its place for the whole of Select mode, so the first
+    // tick doesn't push the list down under the pointer.
+    Item {
+        objectName: "bulkBar"
+        visible: bar.isBulkSelecting
+        Layout.fillWidth: true
+        implicitHeight: bulkKeepButton.implicitHeight
+        Label {
+            objectName: "bulkHint"
+            visible: !bulkActions.visible
+            anchors.verticalCenter: parent.verticalCenter
+            width: parent.width
+            elide: Text.ElideRight
+            text: inbox.texts.bulkHint
+            opacity: 0.7
+            font.pixelSize: 12
+        }
     RowLayout {
+        id: bulkActions
         objectName: "bulkActions"
         visible: { inbox.bulkCount; return inbox.showsBulkActions(bar.isBulkSelecting) }
         spacing: 6
         Button {
+            id: bulkKeepButton
             objectName: "bulkKeep"
+            enabled: !appState.isArchiving
             text: inbox.bulkKeepTitle
             icon.source: inbox.texts.bulkKeepIcon
             icon.color: palette.buttonText
@@ -106,6 +126,7 @@ ColumnLayout {
             ToolTip.visible: hovered; ToolTip.text: inbox.texts.bulkDismissTip; ToolTip.delay: 500
             onClicked: appState.dismissBulkSelection()
         }
+    }
     }
 
     Flow {

@@ -21,7 +21,6 @@ ColumnLayout {
         title: vault.emptyState.title
         message: vault.emptyState.message
         actionTitle: vault.emptyState.actionTitle
-        onAction: picker.open()
+        onAction: vault.presentFolderPicker()
     }
-    VaultFolderPicker { id: picker }
 }

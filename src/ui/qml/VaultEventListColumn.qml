@@ -19,11 +19,13 @@ ColumnLayout {
         Label { text: vault.texts.title; font.pixelSize: 16; font.weight: Font.DemiBold; Layout.fillWidth: true }
         ToolButton {
             objectName: "changeVaultFolder"
+            text: vault.texts.changeFolder
+            display: AbstractButton.TextBesideIcon
             icon.source: vault.texts.changeFolderIcon
             icon.color: palette.buttonText
             ToolTip.visible: hovered; ToolTip.text: vault.texts.changeFolderTip; ToolTip.delay: 500
             Accessible.name: vault.texts.changeFolder
-            onClicked: picker.open()
+            onClicked: vault.presentFolderPicker()
         }
     }
     Rectangle { Layout.fillWidth: true; height: 1; color: palette.mid }
@@ -48,6 +50,9 @@ ColumnLayout {
         clip: true
         model: vault.rows
         ScrollBar.vertical: ScrollBar {}
+        section.property: "dayHeading"
+        section.labelPositioning: ViewSection.InlineLabels | ViewSection.CurrentLabelAtStart
+        section.delegate: DayHeading {}
         delegate: EventRow {
             id: vrow
             width: ListView.view.width
@@ -96,5 +101,4 @@ ColumnLayout {
         }
     }
 
-    VaultFolderPicker { id: picker }
 }

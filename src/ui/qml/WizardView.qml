@@ -1,6 +1,5 @@
 import QtQuick
 import QtQuick.Controls
-import QtQuick.Dialogs
 import QtQuick.Layouts
 
 // intro → pickDrive → scanning. The sample path leaves the onboarding flag alone.
@@ -8,6 +7,7 @@ Item {
     id: wiz
     objectName: "wizardView"
     property string step: "intro"
+    property bool cancellable: false
     signal finished()
     signal dismissed()
     function runSample() { appState.loadSampleFootage(); dismissed() }
@@ -15,22 +15,24 @@ Item {
 
     Component.onCompleted: appState.refreshVolumeCandidates()
 
-    // The panel rules (licence gate, the "TeslaCam" root, the bookmark) are
-    // the picker's; this only shows the dialog it asks for.
+    // The panel (licence gate, the folder dialog, the "TeslaCam" root, the
+    // bookmark) is the picker's; this follows where it leads.
     Connections {
         target: drivePicker
-        function onOpenPanelRequested(start) { panel.currentFolder = "file://" + start; panel.open() }
         // The step first: a cached scan can end the scanning before
         // beginScan returns, and the step must be there to see it end.
         function onPicked(root) { wiz.step = "scanning"; appState.beginScan(root) }
         function onLicenceWindowRequested() { licenceWindow.open() }
     }
-    FolderDialog {
-        id: panel
-        objectName: "folderDialog"
-        title: ui.texts.panelTitle
-        acceptLabel: ui.texts.panelPrompt
-        onAccepted: drivePicker.panelFinished(true, selectedFolder.toString())
+    Button {
+        objectName: "wizardCancel"
+        visible: wiz.cancellable && wiz.step !== "scanning"
+        anchors.right: parent.right
+        anchors.top: parent.top
+        anchors.margins: 12
+        flat: true
+        text: ui.texts.cancel
+        onClicked: wiz.dismissed()
     }
     Dialog {
         id: licenceWindow
@@ -96,6 +98,16 @@ Item {
             Item { Layout.fillWidth: true }
             Button { objectName: "chooseManually"; text: ui.texts.chooseManually; ToolTip.visible: hovered; ToolTip.text: ui.texts.chooseManuallyTip
                      onClicked: wiz.openPanel(ui.texts.removableMediaFolder) }
+        }
+        // The panel's own guidance, here too: the desktop's dialog may have no room for it.
+        Label {
+            objectName: "panelMessage"
+            visible: drivePicker.isPanelOpen
+            text: ui.texts.panelMessage
+            wrapMode: Text.WordWrap
+            Layout.fillWidth: true
+            font.italic: true
+            opacity: 0.8
         }
     }
 
