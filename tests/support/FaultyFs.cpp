@@ -207,9 +207,12 @@ FaultyFs::FaultyFs(const QString &mountPoint) : state_(std::make_unique<State>()
     state_->mountPoint = mountPoint;
     if (!available())
         return;
+    // It stands for a car's drive, so it mounts as exFAT ("fuse.exfat").
     char name[] = "faultyfs";
-    char *argv[] = {name, nullptr};
-    fuse_args args = FUSE_ARGS_INIT(1, argv);
+    char option[] = "-o";
+    char subtype[] = "subtype=exfat";
+    char *argv[] = {name, option, subtype, nullptr};
+    fuse_args args = FUSE_ARGS_INIT(3, argv);
     state_->handle = fuse_new(&args, &operations(), sizeof(fuse_operations), state_.get());
     fuse_opt_free_args(&args);
     if (!state_->handle)

@@ -10,6 +10,7 @@
 #include <QProcess>
 #include <QQuickItem>
 #include <QQuickWindow>
+#include <QScopeGuard>
 #include <QSet>
 #include <QSettings>
 #include <QTemporaryDir>
@@ -435,6 +436,18 @@ private Q_SLOTS:
         QTemporaryDir mountPoint, vault;
         FaultyFs fs(mountPoint.path());
         QVERIFY(fs.isMounted());
+        // The app lets go of the drive before it is unmounted, however the test ends.
+        const auto teardown = qScopeGuard([&] {
+            fs.release();
+            // The player closes its clips as it goes.
+            if (app) {
+                app->appState().setSelectedEventID(std::nullopt);
+                QTest::qWaitFor([&] { return !visibleItem(window, QStringLiteral("eventPlayerView")); }, 5000);
+                QTest::qWait(600); // players stopped earlier are let go after half a second
+            }
+            window = nullptr;
+            app.reset();
+        });
         QFile source(TestClips::clip());
         QVERIFY(source.open(QIODevice::ReadOnly));
         const QByteArray clip = source.readAll();
