@@ -23,6 +23,7 @@ RowLayout {
         display: AbstractButton.TextBesideIcon
         icon.width: 16
         icon.height: 16
+        icon.color: palette.buttonText
         ToolTip.visible: hovered && tip.length > 0
         ToolTip.delay: 600
         ToolTip.text: tip
@@ -36,6 +37,7 @@ RowLayout {
         Accessible.name: bar.texts.keep
         icon.source: bar.texts.keepIcon
         highlighted: bar.presenter ? bar.presenter.keepProminent : false
+        icon.color: highlighted ? palette.highlightedText : palette.buttonText
         flat: !highlighted
         tip: bar.texts.keepTip
         onClicked: bar.presenter.keep()

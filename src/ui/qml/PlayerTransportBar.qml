@@ -20,6 +20,7 @@ RowLayout {
         focusPolicy: Qt.NoFocus
         icon.width: 20
         icon.height: 20
+        icon.color: palette.buttonText
         ToolTip.visible: hovered && tip.length > 0
         ToolTip.delay: 600
         ToolTip.text: tip
