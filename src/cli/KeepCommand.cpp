@@ -8,6 +8,7 @@
 
 #include <QCommandLineParser>
 #include <QDir>
+#include <cmath>
 #include <QElapsedTimer>
 
 #include <atomic>
@@ -95,9 +96,10 @@ int run(const QStringList &arguments)
     if (parser.isSet(timeoutOption)) {
         bool ok = false;
         const double seconds = parser.value(timeoutOption).toDouble(&ok);
-        if (!ok || seconds < 0 || seconds > 86400) {
-            CliOutput::err(QStringLiteral("The time limit must be a number of seconds."));
-            return CliOutput::usageExit;
+        // NaN and infinity parse as numbers; a day is more than any file needs.
+        if (!ok || !std::isfinite(seconds) || seconds <= 0 || seconds > 86400) {
+            CliOutput::err(QStringLiteral("The time limit must be a number of seconds, more than 0 and at most a day."));
+            return CliOutput::failureExit;
         }
         timeout = std::chrono::milliseconds(qint64(seconds * 1000));
     }

@@ -1,5 +1,7 @@
 #include "drive/ClipProber.h"
 
+#include <QtEndian>
+
 #include "drive/IOWatchdog.h"
 #include "drive/MediaInput.h"
 #include "drive/ReadOnlyFs.h"
@@ -108,30 +110,49 @@ void applyMassRule(std::vector<std::optional<ProbeResult>> &results)
 
 } // namespace
 
-bool sniffFtyp(const QString &path)
+namespace {
+
+// Up to `size` bytes from the start of the file; fewer at its end.
+QByteArray readHead(const QString &path, int size)
 {
     // Non-blocking open: a FIFO would otherwise wait here for a writer,
     // outside any time limit. The car's drives hold only regular files.
     const int fd = ReadOnlyFs::openReadNonBlocking(path);
     if (fd < 0)
-        return false;
+        return {};
+    QByteArray head(size, '\0');
+    int got = 0;
     struct stat st {};
-    bool matches = false;
     if (::fstat(fd, &st) == 0 && S_ISREG(st.st_mode)) {
-        char head[signatureLength];
-        int got = 0;
-        while (got < signatureLength) {
-            const ssize_t n = ::read(fd, head + got, size_t(signatureLength - got));
+        while (got < size) {
+            const ssize_t n = ::read(fd, head.data() + got, size_t(size - got));
             if (n < 0 && errno == EINTR)
                 continue;
             if (n <= 0)
                 break;
             got += int(n);
         }
-        matches = got == signatureLength && std::memcmp(head + 4, "ftyp", 4) == 0;
     }
     ::close(fd);
-    return matches;
+    head.truncate(got);
+    return head;
+}
+
+} // namespace
+
+bool sniffEcryptfs(const QString &path)
+{
+    const QByteArray head = readHead(path, 16);
+    if (head.size() < 16)
+        return false;
+    const auto word = [&](int at) { return qFromBigEndian<quint32>(head.constData() + at); };
+    return (word(8) ^ word(12)) == ecryptfsMarker;
+}
+
+bool sniffFtyp(const QString &path)
+{
+    const QByteArray head = readHead(path, signatureLength);
+    return head.size() == signatureLength && std::memcmp(head.constData() + 4, "ftyp", 4) == 0;
 }
 
 ProbeResult probeDetailed(const ClipRef &clip, std::chrono::milliseconds timeout, std::stop_token stop)
@@ -142,6 +163,9 @@ ProbeResult probeDetailed(const ClipRef &clip, std::chrono::milliseconds timeout
     if (clip.fileSize < minimumBelievableSize)
         return {ClipHealth::truncated, std::nullopt};
 
+    // The eCryptfs marker is a sure sign on its own: no need to open it as a movie.
+    if (sniffEcryptfs(clip.url))
+        return {ClipHealth::encrypted, std::nullopt};
     const bool beginsLikeMp4 = sniffFtyp(clip.url);
     // A file that starts like an MP4 and still won't play is taken to be the
     // car's encryption; one that doesn't even start like one is damage.

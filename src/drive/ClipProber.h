@@ -50,4 +50,10 @@ std::vector<TeslaEvent> probeAll(const std::vector<TeslaEvent> &events, std::chr
 // offset 4, as in every MP4 file. Never blocks on a FIFO or device node.
 bool sniffFtyp(const QString &path);
 
+// True when the file begins as an eCryptfs lower file does: an 8-byte size,
+// then two 32-bit words whose XOR is the eCryptfs marker. The car's
+// encrypted clips look like this and never like an MP4.
+bool sniffEcryptfs(const QString &path);
+inline constexpr quint32 ecryptfsMarker = 0x3C81B7F5;
+
 } // namespace ClipProber

@@ -15,6 +15,14 @@ bool isComputerDisk(const VolumeFormat &format)
     return hostTypes.contains(format.otherName().trimmed().toLower());
 }
 
+bool carCanRecordTo(const VolumeFormat &format)
+{
+    if (format.kind() == VolumeFormat::exFAT || format.kind() == VolumeFormat::fat32)
+        return true;
+    const QString name = format.kind() == VolumeFormat::other ? format.otherName().trimmed().toLower() : QString();
+    return name == QLatin1String("ext3") || name == QLatin1String("ext4");
+}
+
 bool isReadable(const VolumeFormat &format)
 {
     return format.kind() == VolumeFormat::exFAT || format.kind() == VolumeFormat::fat32 || isComputerDisk(format);

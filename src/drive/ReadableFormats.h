@@ -10,6 +10,8 @@ namespace ReadableFormats {
 
 // apfs, or `other` naming one of the computer's own file systems.
 bool isComputerDisk(const VolumeFormat &format);
+// exFAT, FAT32, ext3 and ext4: what the car itself records to.
+bool carCanRecordTo(const VolumeFormat &format);
 // exFAT, FAT32, or the computer's own disk.
 bool isReadable(const VolumeFormat &format);
 // The name to show for a computer-disk format ("APFS", "ext4", …).

@@ -60,6 +60,11 @@ QString formatVerdict(const VolumeFormat &format)
             .arg(PlatformWords::diskUtility());
     case VolumeFormat::apfs:
     case VolumeFormat::other:
+        // The car records to ext3 and ext4 too: no advice to reformat those.
+        if (ReadableFormats::carCanRecordTo(format))
+            return QStringLiteral("Your drive is formatted %1, which your car can record to. exFAT is the most widely "
+                                  "used choice if you also read it on other computers.")
+                .arg(format.otherName());
         // The computer's own disks read as APFS does elsewhere.
         if (ReadableFormats::isComputerDisk(format))
             return QStringLiteral("This drive is formatted %1, which your car cannot record to. Reformat it to "

@@ -69,7 +69,8 @@ private Q_SLOTS:
         QCOMPARE(r.json.value(QStringLiteral("probedClipCount")).toInt(), 0);
         QCOMPARE(r.json.value(QStringLiteral("corruptClipCount")).toInt(), 0);
         QVERIFY(r.json.contains(QStringLiteral("fullnessFraction")));
-        QVERIFY(r.json.value(QStringLiteral("formatVerdict")).toString().startsWith(QLatin1String("This drive is formatted")));
+        // The temporary folder's own file system, whichever it is here.
+        QVERIFY(r.json.value(QStringLiteral("formatVerdict")).toString().contains(QLatin1String(" drive is formatted ")));
         const QJsonObject first = r.json.value(QStringLiteral("recommendations")).toArray().first().toObject();
         QCOMPARE(first.value(QStringLiteral("id")).toString(), QStringLiteral("backup-new"));
         QCOMPARE(first.value(QStringLiteral("title")).toString(), QStringLiteral("Back up 2 new events"));

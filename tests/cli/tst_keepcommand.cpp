@@ -148,8 +148,13 @@ private Q_SLOTS:
 
         r = cli({"keep", drive_.root()});
         QCOMPARE(r.exitCode, 64);
-        r = cli({"keep", drive_.root(), "--vault", vault.path(), "--timeout", "soon"});
-        QCOMPARE(r.exitCode, 64);
+        // Bad time limits are refused in one sentence before anything is written.
+        for (const char *limit : {"soon", "nan", "inf", "-inf", "0", "-1", "1e9", ""}) {
+            r = cli({"keep", drive_.root(), "--vault", vault.filePath("untouched"), "--timeout", limit});
+            QVERIFY2(r.exitCode == 2, limit);
+            QCOMPARE(r.err.count('\n'), 1);
+            QVERIFY(!QFileInfo::exists(vault.filePath("untouched")));
+        }
         r = cli({"vault", "list"});
         QCOMPARE(r.exitCode, 64);
         r = cli({"vault", "list", vault.filePath("missing")});

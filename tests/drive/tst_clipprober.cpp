@@ -6,6 +6,7 @@
 #include "support/TreeSnapshot.h"
 
 #include <QFile>
+#include <QtEndian>
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonArray>
@@ -304,6 +305,32 @@ private Q_SLOTS:
         // Alone in a pass, the mass rule leaves it as it is.
         const auto events = ClipProber::probeAll({eventWith({clipAt(path)})}, 5s, 4);
         QCOMPARE(int(events[0].clips[0].health), expected);
+    }
+
+    // Current firmware's encrypted clips are eCryptfs files: each is known
+    // by itself, not only when half the drive fails alike.
+    void ecryptfsClipIsEncryptedByItself()
+    {
+        QByteArray header(8192 + 512 * 1024, '\0');
+        qToBigEndian<quint64>(512 * 1024, header.data());
+        const quint32 first = 0x12345678;
+        qToBigEndian<quint32>(first, header.data() + 8);
+        qToBigEndian<quint32>(first ^ ClipProber::ecryptfsMarker, header.data() + 12);
+        const QByteArray noise = randomBytes(header.size() - 16, 7);
+        header.replace(16, noise.size(), noise);
+        const QString path = write(header);
+        QVERIFY(ClipProber::sniffEcryptfs(path));
+        QVERIFY(!ClipProber::sniffFtyp(path));
+        QCOMPARE(ClipProber::probe(clipAt(path)), ClipHealth::encrypted);
+        const auto events = ClipProber::probeAll({eventWith({clipAt(path), clipAt(copyOf(h264_))})}, 5s, 2);
+        QCOMPARE(healthsOf(events), (std::vector<ClipHealth>{ClipHealth::encrypted, ClipHealth::ok}));
+
+        // One word off, and it is damage like any other unreadable file.
+        qToBigEndian<quint32>(first ^ ClipProber::ecryptfsMarker ^ 1u, header.data() + 12);
+        const QString near = write(header);
+        QVERIFY(!ClipProber::sniffEcryptfs(near));
+        QCOMPARE(ClipProber::probe(clipAt(near)), ClipHealth::unreadable);
+        QVERIFY(!ClipProber::sniffEcryptfs(copyOf(h264_)));
     }
 
     void sniffNeedsTwelveBytesAndNeverBlocks()

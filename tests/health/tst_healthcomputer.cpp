@@ -273,9 +273,15 @@ void TestHealthComputer::formatVerdicts()
     QCOMPARE(HealthComputer::formatVerdict(VolumeFormat::apfs),
              QStringLiteral("This drive is formatted APFS, which your car cannot record to. Reformat it to exFAT "
                             "before using it as a dashcam drive."));
-    // The computer's own file systems take the APFS sentence with their name.
-    QCOMPARE(HealthComputer::formatVerdict(VolumeFormat::makeOther(QStringLiteral("ext4"))),
-             QStringLiteral("This drive is formatted ext4, which your car cannot record to. Reformat it to exFAT "
+    // The car records to ext3 and ext4: no advice to reformat them.
+    for (const char *name : {"ext3", "ext4"})
+        QCOMPARE(HealthComputer::formatVerdict(VolumeFormat::makeOther(QString::fromLatin1(name))),
+                 QStringLiteral("Your drive is formatted %1, which your car can record to. exFAT is the most widely "
+                                "used choice if you also read it on other computers.")
+                     .arg(QString::fromLatin1(name)));
+    // The computer's other file systems take the APFS sentence with their name.
+    QCOMPARE(HealthComputer::formatVerdict(VolumeFormat::makeOther(QStringLiteral("ext2"))),
+             QStringLiteral("This drive is formatted ext2, which your car cannot record to. Reformat it to exFAT "
                             "before using it as a dashcam drive."));
     QCOMPARE(HealthComputer::formatVerdict(VolumeFormat::makeOther(QStringLiteral("tmpfs"))),
              QStringLiteral("This drive is formatted tmpfs, which your car cannot record to. Reformat it to exFAT "
