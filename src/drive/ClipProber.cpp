@@ -56,7 +56,7 @@ Loaded load(const QString &path, std::stop_token stop)
 {
     // Opened here, under the limit: an open that hangs (a dead drive, a FIFO)
     // is the watchdog's to bound, so non-regular files are not refused early.
-    const auto input = MediaInput::open(path, stop, {.regularFilesOnly = false, .mp4Only = true});
+    const auto input = MediaInput::open(path, stop, {.mp4Only = true});
     if (!input)
         throw LoadFailed();
     AVFormatContext *format = input->context();
@@ -108,30 +108,23 @@ void applyMassRule(std::vector<std::optional<ProbeResult>> &results)
     }
 }
 
-} // namespace
-
-namespace {
-
 // Up to `size` bytes from the start of the file; fewer at its end.
 QByteArray readHead(const QString &path, int size)
 {
-    // Non-blocking open: a FIFO would otherwise wait here for a writer,
-    // outside any time limit. The car's drives hold only regular files.
-    const int fd = ReadOnlyFs::openReadNonBlocking(path);
+    // Regular files only: a FIFO would otherwise wait here for a writer,
+    // outside any time limit.
+    const int fd = ReadOnlyFs::openRead(path);
     if (fd < 0)
         return {};
     QByteArray head(size, '\0');
     int got = 0;
-    struct stat st {};
-    if (::fstat(fd, &st) == 0 && S_ISREG(st.st_mode)) {
-        while (got < size) {
-            const ssize_t n = ::read(fd, head.data() + got, size_t(size - got));
-            if (n < 0 && errno == EINTR)
-                continue;
-            if (n <= 0)
-                break;
-            got += int(n);
-        }
+    while (got < size) {
+        const ssize_t n = ::read(fd, head.data() + got, size_t(size - got));
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n <= 0)
+            break;
+        got += int(n);
     }
     ::close(fd);
     head.truncate(got);
@@ -163,25 +156,37 @@ ProbeResult probeDetailed(const ClipRef &clip, std::chrono::milliseconds timeout
     if (clip.fileSize < minimumBelievableSize)
         return {ClipHealth::truncated, std::nullopt};
 
-    // The eCryptfs marker is a sure sign on its own: no need to open it as a movie.
-    if (sniffEcryptfs(clip.url))
-        return {ClipHealth::encrypted, std::nullopt};
-    const bool beginsLikeMp4 = sniffFtyp(clip.url);
-    // A file that starts like an MP4 and still won't play is taken to be the
-    // car's encryption; one that doesn't even start like one is damage.
-    const ClipHealth refused = beginsLikeMp4 ? ClipHealth::encrypted : ClipHealth::unreadable;
+    // Every read of the file, its first bytes too, is under the limit: a
+    // drive can stop answering at any byte.
     try {
-        const Loaded loaded = IOWatchdog::run(
-            timeout, [path = clip.url](std::stop_token token) { return load(path, token); }, stop);
-        if (loaded.playable)
-            return {ClipHealth::ok, loaded.duration};
-        return {refused, std::nullopt};
+        return IOWatchdog::run(
+            timeout,
+            [path = clip.url](std::stop_token token) -> ProbeResult {
+                // The eCryptfs marker is a sure sign on its own: no need to open it as a movie.
+                if (sniffEcryptfs(path))
+                    return {ClipHealth::encrypted, std::nullopt};
+                // A file that starts like an MP4 and still won't play is taken to be the
+                // car's encryption; one that doesn't even start like one is damage.
+                const ClipHealth refused = sniffFtyp(path) ? ClipHealth::encrypted : ClipHealth::unreadable;
+                if (token.stop_requested())
+                    throw CancellationError();
+                try {
+                    const Loaded loaded = load(path, token);
+                    if (loaded.playable)
+                        return {ClipHealth::ok, loaded.duration};
+                } catch (const LoadFailed &) {
+                }
+                if (token.stop_requested())
+                    throw CancellationError();
+                return {refused, std::nullopt};
+            },
+            stop);
     } catch (const IOWatchdog::TimedOut &) {
         return {ClipHealth::timedOut, std::nullopt};
     } catch (const CancellationError &) {
         throw;
     } catch (...) {
-        return {refused, std::nullopt};
+        return {ClipHealth::unreadable, std::nullopt};
     }
 }
 

@@ -19,10 +19,6 @@ constexpr int ioBufferSize = 256 * 1024;
 
 std::unique_ptr<MediaInput> MediaInput::open(const QString &path, std::function<bool()> shouldStop, Options options)
 {
-    // A FIFO or device named like a clip would block the open; a car's drive
-    // holds only regular files anyway.
-    if (options.regularFilesOnly && !ReadOnlyFs::stat(path).isRegularFile)
-        return nullptr;
     std::unique_ptr<MediaInput> input(new MediaInput);
     input->shouldStop_ = std::move(shouldStop);
     input->fd_ = ReadOnlyFs::openRead(path);

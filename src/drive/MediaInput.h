@@ -16,9 +16,6 @@ struct AVIOContext;
 class MediaInput {
 public:
     struct Options {
-        // Refuse anything but a regular file up front (a FIFO would block the
-        // open). Off where the caller bounds a hanging open itself.
-        bool regularFilesOnly = true;
         // The car writes ISO base media only; naming the demuxer keeps
         // libavformat from guessing some other format out of random bytes.
         bool mp4Only = false;

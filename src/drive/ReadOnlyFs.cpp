@@ -39,12 +39,24 @@ QString decodeName(const char *name)
 
 int openRead(const QString &path)
 {
-    return openWith(QFile::encodeName(path), O_RDONLY);
-}
-
-int openReadNonBlocking(const QString &path)
-{
-    return openWith(QFile::encodeName(path), O_RDONLY | O_NONBLOCK);
+    // Non-blocking so that a FIFO or device answers at once; no links.
+    const int fd = openWith(QFile::encodeName(path), O_RDONLY | O_NOFOLLOW | O_NONBLOCK);
+    if (fd < 0) {
+        if (errno == ELOOP)
+            errno = notRegularFile;
+        return -1;
+    }
+    struct stat st {};
+    if (::fstat(fd, &st) != 0 || !S_ISREG(st.st_mode)) {
+        ::close(fd);
+        errno = notRegularFile;
+        return -1;
+    }
+    // Reads of the file itself wait as usual.
+    const int flags = ::fcntl(fd, F_GETFL);
+    if (flags >= 0)
+        ::fcntl(fd, F_SETFL, flags & ~O_NONBLOCK);
+    return fd;
 }
 
 Listing list(const QString &folder, int fields)
@@ -78,7 +90,7 @@ Listing list(const QString &folder, int fields)
         const bool needStat = (fields & fileSize) || ((fields & directoryFlag) && !typeKnown);
         if (needStat) {
             struct stat st {};
-            if (::fstatat(dirFd, d->d_name, &st, 0) == 0) {
+            if (::fstatat(dirFd, d->d_name, &st, AT_SYMLINK_NOFOLLOW) == 0) {
                 entry.isDirectory = S_ISDIR(st.st_mode);
                 if (fields & fileSize)
                     entry.size = qint64(st.st_size);
@@ -100,11 +112,12 @@ Listing list(const QString &folder, int fields)
     return result;
 }
 
-PathInfo stat(const QString &path)
+PathInfo stat(const QString &path, Links links)
 {
     PathInfo info;
     struct stat st {};
-    if (::stat(QFile::encodeName(path).constData(), &st) != 0)
+    const QByteArray name = QFile::encodeName(path);
+    if ((links == Links::followed ? ::stat(name.constData(), &st) : ::lstat(name.constData(), &st)) != 0)
         return info;
     info.exists = true;
     info.isDirectory = S_ISDIR(st.st_mode);
@@ -115,16 +128,9 @@ PathInfo stat(const QString &path)
 
 std::optional<QByteArray> readFile(const QString &path, qint64 maxBytes)
 {
-    // Non-blocking open so that a FIFO or device node can't stall us;
-    // only regular files are read.
-    const int fd = openWith(QFile::encodeName(path), O_RDONLY | O_NONBLOCK);
+    const int fd = openRead(path);
     if (fd < 0)
         return std::nullopt;
-    struct stat st {};
-    if (::fstat(fd, &st) != 0 || !S_ISREG(st.st_mode)) {
-        ::close(fd);
-        return std::nullopt;
-    }
     QByteArray data;
     char buffer[16384];
     bool failed = false;

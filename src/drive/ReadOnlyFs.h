@@ -1,13 +1,20 @@
 #pragma once
 
 #include <QByteArray>
+#include <cerrno>
 #include <QString>
 #include <optional>
 #include <vector>
 
 // The only way this program touches a drive: read-only opens that ask for
-// O_NOATIME so that even access times stay as they were.
+// O_NOATIME so that even access times stay as they were. A car's drive (FAT,
+// exFAT) holds only folders and regular files: links are never followed and
+// FIFOs and devices are never read, so a crafted stick can't lead a read
+// elsewhere or hold it forever.
 namespace ReadOnlyFs {
+
+// errno of an open refused because the path is not a regular file.
+inline constexpr int notRegularFile = EMEDIUMTYPE;
 
 struct Entry {
     QString name;
@@ -23,14 +30,13 @@ struct Listing {
 
 enum ListFields { namesOnly = 0, directoryFlag = 1, fileSize = 2 };
 
-// Lists a folder, skipping hidden (dot) entries. Sizes follow symlinks.
+// Lists a folder, skipping hidden (dot) entries. Links are not followed: a
+// link is neither a folder nor sized.
 Listing list(const QString &folder, int fields);
 
-// Opens a file for reading only; -1 with errno set on failure.
+// Opens a regular file for reading only; -1 with errno set on failure, and
+// notRegularFile for a link, FIFO, device or folder (found without blocking).
 int openRead(const QString &path);
-// The same without waiting for a partner: a FIFO or device node opens at
-// once instead of blocking. Reads of regular files are unaffected.
-int openReadNonBlocking(const QString &path);
 
 struct PathInfo {
     bool exists = false;
@@ -38,7 +44,10 @@ struct PathInfo {
     bool isRegularFile = false;
     qint64 size = 0;
 };
-PathInfo stat(const QString &path);
+enum class Links { notFollowed, followed };
+// What stands at path. Inside a drive links are not followed; the folder a
+// user chose may itself be reached through one.
+PathInfo stat(const QString &path, Links links = Links::notFollowed);
 
 // Reads a whole small file, refusing anything over maxBytes.
 std::optional<QByteArray> readFile(const QString &path, qint64 maxBytes);

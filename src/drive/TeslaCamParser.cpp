@@ -388,7 +388,8 @@ DriveScan scan(const QString &rootIn, const ScanProgressCallback &progress)
     while (root.size() > 1 && root.endsWith(QLatin1Char('/')))
         root.chop(1);
 
-    const ReadOnlyFs::PathInfo rootInfo = ReadOnlyFs::stat(root);
+    // The chosen folder may be reached through a link; nothing under it is.
+    const ReadOnlyFs::PathInfo rootInfo = ReadOnlyFs::stat(root, ReadOnlyFs::Links::followed);
     if (!rootInfo.exists)
         throw ParserError(ParserError::rootNotFound);
     if (!rootInfo.isDirectory)

@@ -25,7 +25,7 @@ MediaSource::MediaSource(const QString &path, std::function<bool()> shouldStop, 
     try {
         // Not refused up front when it isn't a regular file: a hanging open is
         // the caller's watchdog's to bound.
-        input_ = MediaInput::open(path, std::move(shouldStop), {.regularFilesOnly = false, .mp4Only = false});
+        input_ = MediaInput::open(path, std::move(shouldStop), {.mp4Only = false});
         if (!input_)
             throw Error("The clip is not a readable movie.");
         format_ = input_->context();

@@ -8,7 +8,12 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QScopeGuard>
+#include <QStorageInfo>
 #include <QUuid>
+
+#include <algorithm>
 
 #include <cerrno>
 #include <fcntl.h>
@@ -23,10 +28,15 @@ namespace ArchiveEngine {
 
 ArchiveEngineError::ArchiveEngineError(Case c, const QString &path) : case_(c), path_(path)
 {
-    text_ = (c == sizeMismatch ? QStringLiteral("Size changed while copying: %1")
-                               : QStringLiteral("Couldn't create the file %1"))
-                .arg(path)
-                .toStdString();
+    QString text;
+    switch (c) {
+    case sizeMismatch: text = QStringLiteral("Size changed while copying: %1"); break;
+    case cannotCreateFile: text = QStringLiteral("Couldn't create the file %1"); break;
+    case vaultFull: text = QStringLiteral("No space left for %1"); break;
+    case vaultUnavailable: text = QStringLiteral("The Vault folder has gone: %1"); break;
+    case notRegularFile: text = QStringLiteral("Not a regular file: %1"); break;
+    }
+    text_ = text.arg(path).toStdString();
 }
 
 namespace {
@@ -127,50 +137,80 @@ private:
     bool quit_ = false;
 };
 
-void writeAll(int fd, const char *data, size_t size)
+// A failure on the Vault's side, named for what the user can do about it.
+[[noreturn]] void raiseVaultError(int error, const QString &path)
+{
+    // EFBIG: past the largest file the Vault's disk (or a quota) allows.
+    if (error == ENOSPC || error == EDQUOT || error == EFBIG)
+        throw ArchiveEngineError(ArchiveEngineError::vaultFull, path);
+    if (!QFileInfo(parentPath(path)).isDir())
+        throw ArchiveEngineError(ArchiveEngineError::vaultUnavailable, path);
+    throw ArchiveEngineError(ArchiveEngineError::cannotCreateFile, path);
+}
+
+void writeAll(int fd, const char *data, size_t size, const QString &path)
 {
     while (size > 0) {
         const ssize_t n = ::write(fd, data, size);
         if (n < 0) {
             if (errno == EINTR)
                 continue;
-            raiseErrno("write");
+            raiseVaultError(errno, path);
         }
         data += n;
         size -= size_t(n);
     }
 }
 
+bool syncFolder(const QString &folder)
+{
+    const int fd = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (fd < 0)
+        return false;
+    const bool ok = ::fsync(fd) == 0;
+    ::close(fd);
+    return ok;
+}
+
 // The steps for one file, run under the watchdog. Only the temporary file
-// and the final destination are ever written; the source is only read.
+// and the final destination are ever written; the source is only read. A
+// copy that fails on the Vault's side, or because the file changed, leaves
+// no temporary file; one cut off by the drive keeps what arrived under its
+// hidden name (from a failing drive, part of a clip may be all there is).
+// A kept copy that was there before stays until the new one replaces it whole.
 ArchivedFile copySteps(const QString &from, const QString &to, const std::stop_token &stop)
 {
     if (stop.stop_requested())
         throw CancellationError();
 
-    std::optional<qint64> expectedSize;
-    const ReadOnlyFs::PathInfo info = ReadOnlyFs::stat(from);
-    if (info.exists && info.isRegularFile)
-        expectedSize = info.size;
-
     Fd source(ReadOnlyFs::openRead(from));
-    if (source.get() < 0)
+    if (source.get() < 0) {
+        if (errno == ReadOnlyFs::notRegularFile)
+            throw ArchiveEngineError(ArchiveEngineError::notRegularFile, from);
         raiseErrno("open");
+    }
+    struct stat sourceInfo {};
+    if (::fstat(source.get(), &sourceInfo) != 0)
+        raiseErrno("stat");
+    // Read no further than one byte past the size seen: enough to tell that
+    // the file grew, never a runaway copy.
+    const qint64 expectedSize = qint64(sourceInfo.st_size);
     ::posix_fadvise(source.get(), 0, 0, POSIX_FADV_SEQUENTIAL);
 
     const QString name = lastPathComponent(to);
-    const QString tempPath = parentPath(to) + QStringLiteral("/.tmp-")
+    const QString folder = parentPath(to);
+    const QString tempPath = folder + QStringLiteral("/.tmp-")
         + QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper() + QLatin1Char('-') + name;
     const QByteArray temp = QFile::encodeName(tempPath);
-    {
-        const int created = ::open(temp.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0644);
-        if (created < 0)
-            throw ArchiveEngineError(ArchiveEngineError::cannotCreateFile, tempPath);
-        ::close(created);
-    }
-    Fd out(::open(temp.constData(), O_WRONLY | O_CLOEXEC));
+    Fd out(::open(temp.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0644));
     if (out.get() < 0)
-        raiseErrno("open for writing");
+        raiseVaultError(errno, tempPath);
+    bool placed = false;
+    bool cutOffByDrive = false;
+    const auto removeTemp = qScopeGuard([&] {
+        if (!placed && !cutOffByDrive)
+            ::unlink(temp.constData());
+    });
 
     Sha256 hash;
     qint64 count = 0;
@@ -178,15 +218,25 @@ ArchivedFile copySteps(const QString &from, const QString &to, const std::stop_t
     // so reading costs no time of its own. The hasher is declared after
     // them, so it is done with a block before the blocks go.
     const std::unique_ptr<char[]> blocks(new char[size_t(chunkSize) * 2]);
+    qint64 readSoFar = 0;
     const auto readBlock = [&](char *into) -> size_t {
+        const qint64 room = expectedSize + 1 - readSoFar;
+        if (room <= 0)
+            return 0;
         for (;;) {
-            if (stop.stop_requested())
+            if (stop.stop_requested()) {
+                cutOffByDrive = true; // a stop, or the watchdog giving up on the drive
                 throw CancellationError();
-            const ssize_t n = ::read(source.get(), into, size_t(chunkSize));
-            if (n >= 0)
+            }
+            const ssize_t n = ::read(source.get(), into, size_t(std::min<qint64>(chunkSize, room)));
+            if (n >= 0) {
+                readSoFar += n;
                 return size_t(n);
-            if (errno != EINTR)
+            }
+            if (errno != EINTR) {
+                cutOffByDrive = true;
                 raiseErrno("read");
+            }
         }
     };
     {
@@ -196,7 +246,7 @@ ArchivedFile copySteps(const QString &from, const QString &to, const std::stop_t
         size_t n = readBlock(current);
         while (n > 0) {
             hasher.begin(current, n);
-            writeAll(out.get(), current, n);
+            writeAll(out.get(), current, n, tempPath);
             count += qint64(n);
             const size_t following = readBlock(next);
             hasher.wait();
@@ -204,20 +254,21 @@ ArchivedFile copySteps(const QString &from, const QString &to, const std::stop_t
             n = following;
         }
     }
-    if (::close(out.release()) != 0)
-        raiseErrno("close");
-
-    if (expectedSize && *expectedSize != count) {
-        ::unlink(temp.constData());
+    if (count != expectedSize)
         throw ArchiveEngineError(ArchiveEngineError::sizeMismatch, from);
-    }
+    // On the disk before it counts as kept: a power cut after the record
+    // must find these bytes.
+    if (::fsync(out.get()) != 0)
+        raiseVaultError(errno, tempPath);
+    if (::close(out.release()) != 0)
+        raiseVaultError(errno, tempPath);
 
-    const QByteArray destination = QFile::encodeName(to);
-    struct stat existing {};
-    if (::lstat(destination.constData(), &existing) == 0 && ::unlink(destination.constData()) != 0)
-        raiseErrno("remove the old copy");
-    if (::rename(temp.constData(), destination.constData()) != 0)
-        raiseErrno("move into place");
+    // Over the old copy in one step: there is never a moment without one.
+    if (::rename(temp.constData(), QFile::encodeName(to).constData()) != 0)
+        raiseVaultError(errno, to);
+    placed = true;
+    if (!syncFolder(folder))
+        raiseVaultError(errno, to);
 
     return ArchivedFile{name, count, hash.finishHex()};
 }
@@ -233,6 +284,15 @@ QString volumeName(const QString &folder)
     if (info && info->name && !info->name->isEmpty())
         return *info->name;
     return ArchivedEvent::unknownDrive;
+}
+
+// What a commit cut off earlier (a kill, a power cut) left beside the
+// manifest. Partial copies from a failing drive stay: they may be all there is.
+void removeLeftovers(const QString &vaultURL)
+{
+    QDir root(vaultURL);
+    for (const QString &name : root.entryList({QStringLiteral("manifest.json.*")}, QDir::Files | QDir::Hidden))
+        root.remove(name);
 }
 
 } // namespace
@@ -295,8 +355,14 @@ QString friendlyReason(const std::exception_ptr &error)
     } catch (const IOWatchdog::TimedOut &) {
         return QString::fromUtf16(Reason::timedOut);
     } catch (const ArchiveEngineError &e) {
-        return QString::fromUtf16(e.errorCase() == ArchiveEngineError::cannotCreateFile ? Reason::cannotCreateFile
-                                                                                         : Reason::sizeMismatch);
+        switch (e.errorCase()) {
+        case ArchiveEngineError::cannotCreateFile: return QString::fromUtf16(Reason::cannotCreateFile);
+        case ArchiveEngineError::sizeMismatch: return QString::fromUtf16(Reason::sizeMismatch);
+        case ArchiveEngineError::vaultFull: return QString::fromUtf16(Reason::vaultFull);
+        case ArchiveEngineError::vaultUnavailable: return QString::fromUtf16(Reason::vaultUnavailable);
+        case ArchiveEngineError::notRegularFile: return QString::fromUtf16(Reason::notRegularFile);
+        }
+        return QString::fromUtf16(Reason::unreadable);
     } catch (...) {
         return QString::fromUtf16(Reason::unreadable);
     }
@@ -328,6 +394,7 @@ ArchiveReport run(const ArchivePlan &plan, const QString &vaultURL, const Archiv
 
     // A failure shows up below as a failure of each event's folder.
     QDir().mkpath(vaultURL);
+    removeLeftovers(vaultURL);
 
     for (int i = 0; i < totalEvents && !report.cancelled; ++i) {
         if (stop.stop_requested()) {
@@ -337,9 +404,19 @@ ArchiveReport run(const ArchivePlan &plan, const QString &vaultURL, const Archiv
         const TeslaEvent &event = items[size_t(i)].event;
         const QString relative = relativePath(event);
         const QString folder = QDir(vaultURL).filePath(relative);
+        // A Vault that has gone (an unplugged drive) is never made again on
+        // the computer's own disk in its place.
+        if (!QFileInfo(vaultURL).isDir()) {
+            report.failedFiles.push_back({folder, QString::fromUtf16(Reason::vaultUnavailable)});
+            continue;
+        }
         if (!QDir().mkpath(folder)) {
+            const int error = errno;
             report.failedFiles.push_back(
-                {folder, friendlyReason(std::make_exception_ptr(std::system_error(EIO, std::generic_category())))});
+                {folder, friendlyReason(std::make_exception_ptr(ArchiveEngineError(
+                             error == ENOSPC || error == EDQUOT ? ArchiveEngineError::vaultFull
+                                                                : ArchiveEngineError::cannotCreateFile,
+                             folder)))});
             continue;
         }
 
@@ -384,13 +461,25 @@ ArchiveReport run(const ArchivePlan &plan, const QString &vaultURL, const Archiv
     }
 
     // Always merged, also after a cancel or when nothing was copied. An
-    // unreadable manifest counts as empty and is replaced; a failed write
-    // is dropped: the files are on disk and the report says so.
+    // unreadable manifest counts as empty and is replaced. A failed write
+    // means nothing of this run is on record: the report says so, and no
+    // event of it counts as kept.
     VaultIndex merged = VaultIndex::loadOrEmpty(vaultURL);
     merged.events.insert(merged.events.end(), report.archivedEvents.begin(), report.archivedEvents.end());
-    try {
-        merged.save(vaultURL);
-    } catch (...) {
+    QString failure;
+    if (!QFileInfo(vaultURL).isDir()) {
+        failure = QString::fromUtf16(Reason::vaultUnavailable);
+    } else {
+        try {
+            merged.save(vaultURL);
+        } catch (...) {
+            const qint64 free = QStorageInfo(vaultURL).bytesAvailable();
+            failure = QString::fromUtf16(free >= 0 && free < 64 * 1024 ? Reason::vaultFull : Reason::indexNotSaved);
+        }
+    }
+    if (!failure.isEmpty() && !report.archivedEvents.empty()) {
+        report.failedFiles.push_back({VaultIndex::manifestPath(vaultURL), failure});
+        report.archivedEvents.clear();
     }
     return report;
 }

@@ -22,10 +22,19 @@ namespace ArchiveEngine {
 
 class ArchiveEngineError : public std::exception {
 public:
-    enum Case { sizeMismatch, cannotCreateFile };
+    enum Case {
+        sizeMismatch,
+        cannotCreateFile,
+        // The Vault's side: its disk is full, or the folder has gone (an
+        // unplugged Vault drive).
+        vaultFull,
+        vaultUnavailable,
+        // A link, FIFO or device where the car writes only files.
+        notRegularFile,
+    };
     ArchiveEngineError(Case c, const QString &path);
     Case errorCase() const { return case_; }
-    // The source path (sizeMismatch) or the temporary file's path (cannotCreateFile).
+    // The source path (sizeMismatch, notRegularFile) or the Vault side's path.
     const QString &path() const { return path_; }
     const char *what() const noexcept override { return text_.c_str(); }
 
@@ -70,6 +79,12 @@ inline constexpr const char16_t *cannotCreateFile = u"Couldn't create a file in 
 inline constexpr const char16_t *sizeMismatch =
     u"This file changed size while copying \u2014 the drive may have been disconnected.";
 inline constexpr const char16_t *unreadable = u"This file couldn't be read.";
+inline constexpr const char16_t *vaultFull = u"There isn't enough space in your Vault folder.";
+inline constexpr const char16_t *vaultUnavailable = u"The Vault folder is no longer available.";
+inline constexpr const char16_t *notRegularFile =
+    u"This isn't an ordinary file (it is a link or a special file), so it was left alone.";
+inline constexpr const char16_t *indexNotSaved =
+    u"The Vault's list of kept events couldn't be saved, so nothing from this run is recorded as kept.";
 } // namespace Reason
 
 } // namespace ArchiveEngine

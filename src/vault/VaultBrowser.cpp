@@ -45,7 +45,7 @@ std::optional<TeslaEvent> recentEvent(const QString &folder, const QString &name
 
 std::vector<TeslaEvent> scanVault(const QString &url)
 {
-    const ReadOnlyFs::PathInfo root = ReadOnlyFs::stat(url);
+    const ReadOnlyFs::PathInfo root = ReadOnlyFs::stat(url, ReadOnlyFs::Links::followed);
     if (!root.exists || !root.isDirectory)
         throw VaultBrowserError(VaultBrowserError::vaultNotFound);
 

@@ -1,6 +1,7 @@
 #include "drive/ClipProber.h"
 #include "drive/TeslaCamParser.h"
 #include "model/CancellationError.h"
+#include "support/FaultyFs.h"
 #include "support/TeslaCamFixture.h"
 #include "support/TestClips.h"
 #include "support/TreeSnapshot.h"
@@ -36,56 +37,54 @@ using Clock = std::chrono::steady_clock;
 
 namespace {
 
-// Plays a dead drive that answers late. From its own time on, any reader
-// waiting in open() on a FIFO gets a writer that closes at once (end of
-// file); before that it waits. It also watches how many threads of this
-// process wait on a FIFO at once, which is how many probes are in flight.
-class FifoReleaser {
+// A dead drive that answers late: every read of its clips waits until
+// released. From its own time after the first held read on, it lets go of
+// all of them. It also notes the most reads it held at once, which is how
+// many probes were in flight.
+class HeldDrive {
 public:
-    FifoReleaser(const QStringList &fifos, std::vector<std::chrono::milliseconds> from)
-        : thread_([this, fifos, from](std::stop_token stop) {
-              const auto start = Clock::now();
-              while (!stop.stop_requested()) {
-                  most_ = std::max(most_.load(), waitingReaders());
-                  for (qsizetype i = 0; i < fifos.size(); ++i) {
-                      if (Clock::now() - start >= from[size_t(i)])
-                          release(fifos[i]);
-                  }
-                  std::this_thread::sleep_for(5ms);
-              }
-          })
+    HeldDrive() : fs_(mount_.path()) {}
+    ~HeldDrive()
     {
+        watcher_ = {};
+        fs_.release();
     }
-    FifoReleaser(const QStringList &fifos, std::chrono::milliseconds from)
-        : FifoReleaser(fifos, std::vector<std::chrono::milliseconds>(size_t(fifos.size()), from))
+    bool ok() const { return fs_.isMounted(); }
+
+    // A clip whose every read is held, as a path on the drive.
+    QString clip()
     {
+        const QString name = QStringLiteral("2026-07-21_02-11-05-front-%1.mp4").arg(++count_);
+        return fs_.addHeldFile(name, QByteArray(128 * 1024, 'x'));
     }
 
-    int mostWaiting() const { return most_; }
+    // Watches from now on; lets go `after` the first held read.
+    void releaseAfter(std::chrono::milliseconds after)
+    {
+        watcher_ = std::jthread([this, after](std::stop_token stop) {
+            std::optional<Clock::time_point> firstHeld;
+            while (!stop.stop_requested()) {
+                const int held = fs_.heldRequests();
+                most_ = std::max(most_.load(), held);
+                if (held > 0 && !firstHeld)
+                    firstHeld = Clock::now();
+                if (firstHeld && Clock::now() - *firstHeld >= after) {
+                    fs_.release();
+                    return;
+                }
+                std::this_thread::sleep_for(2ms);
+            }
+        });
+    }
+
+    int mostHeld() const { return most_; }
 
 private:
-    static void release(const QString &fifo)
-    {
-        // Fails at once (ENXIO) when no reader waits.
-        const int fd = ::open(QFile::encodeName(fifo).constData(), O_WRONLY | O_NONBLOCK | O_CLOEXEC);
-        if (fd >= 0)
-            ::close(fd);
-    }
-
-    static int waitingReaders()
-    {
-        int waiting = 0;
-        const QDir tasks(QStringLiteral("/proc/self/task"));
-        for (const QString &task : tasks.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-            QFile wchan(tasks.filePath(task + QStringLiteral("/wchan")));
-            if (wchan.open(QIODevice::ReadOnly) && wchan.readAll() == "wait_for_partner")
-                ++waiting;
-        }
-        return waiting;
-    }
-
+    QTemporaryDir mount_;
+    FaultyFs fs_;
+    int count_ = 0;
     std::atomic<int> most_{0};
-    std::jthread thread_;
+    std::jthread watcher_;
 };
 
 double secondsSince(Clock::time_point start)
@@ -354,11 +353,14 @@ private Q_SLOTS:
 
     void hangingClipTimesOut()
     {
-        const QString hanging = fifo();
+        if (!FaultyFs::available())
+            QSKIP("needs root and /dev/fuse");
+        HeldDrive drive;
+        QVERIFY(drive.ok());
         // The scan saw a full-sized clip; the drive stopped answering since.
-        const ClipRef clip = clipAt(hanging, 30'000'000);
-        // Let go well after the limit: a busy machine may start the probe late.
-        FifoReleaser releaser({hanging}, 900ms);
+        const ClipRef clip = clipAt(drive.clip(), 30'000'000);
+        // Let go well after the limit.
+        drive.releaseAfter(900ms);
         const auto start = Clock::now();
         const ClipProber::ProbeResult result = ClipProber::probeDetailed(clip, 500ms);
         const double elapsed = secondsSince(start);
@@ -369,10 +371,13 @@ private Q_SLOTS:
 
     void passGoesOnPastAHangingClip()
     {
-        const QString hanging = fifo();
-        std::vector<ClipRef> clips{clipAt(hanging, 30'000'000), clipAt(copyOf(h264_)), clipAt(randomClip()),
+        if (!FaultyFs::available())
+            QSKIP("needs root and /dev/fuse");
+        HeldDrive drive;
+        QVERIFY(drive.ok());
+        std::vector<ClipRef> clips{clipAt(drive.clip(), 30'000'000), clipAt(copyOf(h264_)), clipAt(randomClip()),
                                    clipAt(copyOf(h265_))};
-        FifoReleaser releaser({hanging}, 1500ms);
+        drive.releaseAfter(1500ms);
         const auto start = Clock::now();
         const auto events = ClipProber::probeAll({eventWith(clips)}, 1s, 2);
         const double elapsed = secondsSince(start);
@@ -479,35 +484,39 @@ private Q_SLOTS:
 
     void capLargerThanCountStartsAllAtOnce()
     {
-        QStringList fifos;
+        if (!FaultyFs::available())
+            QSKIP("needs root and /dev/fuse");
+        HeldDrive drive;
+        QVERIFY(drive.ok());
         std::vector<ClipRef> clips;
-        for (int i = 0; i < 4; ++i) {
-            fifos << fifo();
-            clips.push_back(clipAt(fifos.last(), 30'000'000));
-        }
-        FifoReleaser releaser(fifos, 900ms);
+        for (int i = 0; i < 4; ++i)
+            clips.push_back(clipAt(drive.clip(), 30'000'000));
+        drive.releaseAfter(900ms);
         const auto start = Clock::now();
         const auto events = ClipProber::probeAll({eventWith(clips)}, 300ms, 10);
         const double elapsed = secondsSince(start);
         QCOMPARE(healthsOf(events), std::vector<ClipHealth>(4, ClipHealth::timedOut));
-        QCOMPARE(releaser.mostWaiting(), 4);
+        QCOMPARE(drive.mostHeld(), 4);
         // One round of hanging, not two or four.
         QVERIFY2(elapsed < 1.7, qPrintable(QString::number(elapsed)));
     }
 
     void capBoundsProbesInFlight()
     {
-        QStringList fifos;
+        if (!FaultyFs::available())
+            QSKIP("needs root and /dev/fuse");
+        HeldDrive drive;
+        QVERIFY(drive.ok());
         std::vector<ClipRef> clips;
-        for (int i = 0; i < 4; ++i) {
-            fifos << fifo();
-            clips.push_back(clipAt(fifos.last(), 30'000'000));
-        }
-        // The second pair can only begin once the first pair was let go.
-        FifoReleaser releaser(fifos, {900ms, 900ms, 1800ms, 1800ms});
+        for (int i = 0; i < 4; ++i)
+            clips.push_back(clipAt(drive.clip(), 30'000'000));
+        // Two at a time: the second pair begins only once the first pair's
+        // reads came back, by which time the drive answers again.
+        drive.releaseAfter(900ms);
         const auto events = ClipProber::probeAll({eventWith(clips)}, 300ms, 2);
-        QCOMPARE(healthsOf(events), std::vector<ClipHealth>(4, ClipHealth::timedOut));
-        QCOMPARE(releaser.mostWaiting(), 2);
+        QCOMPARE(healthsOf(events), (std::vector<ClipHealth>{ClipHealth::timedOut, ClipHealth::timedOut,
+                                                             ClipHealth::unreadable, ClipHealth::unreadable}));
+        QCOMPARE(drive.mostHeld(), 2);
     }
 
     void capZeroAndNoClipsChangeNothing()
@@ -545,15 +554,16 @@ private Q_SLOTS:
 
     void stopRequestEndsThePass()
     {
-        QStringList fifos;
+        if (!FaultyFs::available())
+            QSKIP("needs root and /dev/fuse");
+        HeldDrive drive;
+        QVERIFY(drive.ok());
         std::vector<ClipRef> clips;
-        for (int i = 0; i < 6; ++i) {
-            fifos << fifo();
-            clips.push_back(clipAt(fifos.last(), 30'000'000));
-        }
-        // The hanging opens are let go late, as a dead drive answers; the
+        for (int i = 0; i < 6; ++i)
+            clips.push_back(clipAt(drive.clip(), 30'000'000));
+        // The held reads are let go late, as a dead drive answers; the
         // pass must end then, not after each clip's own 10 seconds.
-        FifoReleaser releaser(fifos, 500ms);
+        drive.releaseAfter(500ms);
         std::stop_source stop;
         std::jthread stopper([&] {
             std::this_thread::sleep_for(200ms);

@@ -1,6 +1,7 @@
 #include "PlaybackClips.h"
 
 #include "playback/SyncPlayerController.h"
+#include "support/FaultyFs.h"
 #include "support/TreeSnapshot.h"
 
 #include <QSignalSpy>
@@ -50,23 +51,22 @@ struct EventBuilder {
     }
 };
 
-void releaseFifo(const QString &path)
-{
-    const int w = ::open(QFile::encodeName(path).constData(), O_WRONLY | O_NONBLOCK);
-    if (w >= 0)
-        ::close(w);
-}
-
-// Keeps releasing a FIFO for a while, so that every waiting reader gets EOF.
-void drainFifo(const QString &path, int ms)
-{
-    QElapsedTimer t;
-    t.start();
-    while (t.elapsed() < ms) {
-        releaseFifo(path);
-        QTest::qWait(20);
+// A clip on a dead drive: every read of it waits until released.
+struct HeldClip {
+    explicit HeldClip(const QString &name)
+    {
+        path = fs.addHeldFile(name, QByteArray(64 * 1024, 'x'));
     }
-}
+    // Lets the held reads answer, and waits until none is held.
+    void release()
+    {
+        fs.release();
+        QTRY_VERIFY(!fs.isHanging());
+    }
+    QTemporaryDir mount;
+    FaultyFs fs{mount.path()};
+    QString path;
+};
 } // namespace
 
 class TestSyncPlayerController : public QObject {
@@ -422,10 +422,11 @@ private Q_SLOTS:
         const QString dir = tmp.path() + "/switch";
         EventBuilder a(dir + "/a");
         a.add(Camera::front, 0);
-        QDir().mkpath(dir + "/a");
-        const QString fifo = dir + "/a/1-back.mp4";
-        QCOMPARE(::mkfifo(QFile::encodeName(fifo).constData(), 0600), 0);
-        a.event.clips.push_back(clipRef(fifo, Camera::back, origin.addingTimeInterval(3), ClipHealth::ok));
+        if (!FaultyFs::available())
+            QSKIP("needs root and /dev/fuse");
+        HeldClip held(QStringLiteral("1-back.mp4"));
+        QVERIFY(held.fs.isMounted());
+        a.event.clips.push_back(clipRef(held.path, Camera::back, origin.addingTimeInterval(3), ClipHealth::ok));
 
         EventBuilder b(dir + "/b", 2.0);
         b.add(Camera::leftPillar, 0);
@@ -433,13 +434,13 @@ private Q_SLOTS:
         SyncPlayerController c(a.event);
         std::vector<size_t> seen;
         connect(&c, &SyncPlayerController::tilesChanged, &c, [&] { seen.push_back(c.tiles().size()); });
-        QTest::qWait(200); // the first load now hangs on the FIFO
+        QTRY_VERIFY(held.fs.isHanging()); // the first load now hangs on the drive
         c.loadEvent(b.event);
         QCOMPARE(c.triggerOffset(), std::optional<double>(2.0));
         QTRY_VERIFY(!c.isLoadingTiles());
         QCOMPARE(c.tiles().size(), size_t(1));
         QCOMPARE(c.tiles()[0].camera, Camera(Camera::leftPillar));
-        drainFifo(fifo, 500); // the cancelled load ends; its result is dropped
+        held.release(); // the cancelled load ends; its result is dropped
         QTest::qWait(200);
         QCOMPARE(c.tiles().size(), size_t(1));
         QCOMPARE(c.tiles()[0].camera, Camera(Camera::leftPillar));
@@ -454,9 +455,11 @@ private Q_SLOTS:
         EventBuilder b(dir);
         b.add(Camera::back, 0);
         b.add(Camera::back, 2);
-        const QString fifo = dir + "/1-back.mp4";
-        QCOMPARE(::mkfifo(QFile::encodeName(fifo).constData(), 0600), 0);
-        b.event.clips.push_back(clipRef(fifo, Camera::back, origin.addingTimeInterval(3), ClipHealth::unknown));
+        if (!FaultyFs::available())
+            QSKIP("needs root and /dev/fuse");
+        HeldClip held(QStringLiteral("1-back.mp4"));
+        QVERIFY(held.fs.isMounted());
+        b.event.clips.push_back(clipRef(held.path, Camera::back, origin.addingTimeInterval(3), ClipHealth::unknown));
         ClipOrder::sort(b.event.clips);
 
         QElapsedTimer timer;
@@ -467,10 +470,8 @@ private Q_SLOTS:
         // it must; a dead drive answers late, so release the reader then.
         QTest::qWait(8300);
         QVERIFY(!future.isFinished());
-        while (!future.isFinished()) {
-            releaseFifo(fifo);
-            QTest::qWait(20);
-        }
+        held.release();
+        QTRY_VERIFY(future.isFinished());
         const auto outcomes = future.result();
         QVERIFY2(timer.elapsed() < 11000, qPrintable(QString::number(timer.elapsed())));
         QCOMPARE(outcomes.size(), size_t(1));
@@ -486,15 +487,17 @@ private Q_SLOTS:
     {
         const QString dir = tmp.path() + "/notready";
         QDir().mkpath(dir);
-        const QString fifo = dir + "/0-back.mp4";
-        QCOMPARE(::mkfifo(QFile::encodeName(fifo).constData(), 0600), 0);
+        if (!FaultyFs::available())
+            QSKIP("needs root and /dev/fuse");
+        HeldClip held(QStringLiteral("0-back.mp4"));
+        QVERIFY(held.fs.isMounted());
         Composition good;
         good.addMutableTrack();
         good.track(0).insertTimeRange(place(frameClip(0, 0), dir, "0-front.mp4"), MediaTime::zero(),
                                       MediaTime::fromSeconds(3), MediaTime::zero());
         Composition stuck;
         stuck.addMutableTrack();
-        stuck.track(0).insertTimeRange(fifo, MediaTime::zero(), MediaTime::fromSeconds(3), MediaTime::zero());
+        stuck.track(0).insertTimeRange(held.path, MediaTime::zero(), MediaTime::fromSeconds(3), MediaTime::zero());
         {
             TeslaEvent empty;
             SyncPlayerController c(empty);
@@ -517,7 +520,7 @@ private Q_SLOTS:
             QTest::qWait(4000);
             QCOMPARE(playing.count(), 1);
         }
-        drainFifo(fifo, 1500);
+        held.release();
     }
 };
 

@@ -2,6 +2,7 @@
 
 #include "playback/HostClock.h"
 #include "playback/TrackPlayer.h"
+#include "support/FaultyFs.h"
 
 #include <QTemporaryDir>
 #include <QVideoSink>
@@ -241,14 +242,18 @@ private Q_SLOTS:
 
     void playerOnAHangingFileIsNeverReady()
     {
-        const QString fifo = dir.path() + "/hang.mp4";
-        QCOMPARE(::mkfifo(QFile::encodeName(fifo).constData(), 0600), 0);
+        if (!FaultyFs::available())
+            QSKIP("needs root and /dev/fuse");
+        QTemporaryDir mountPoint;
+        FaultyFs fs(mountPoint.path());
+        QVERIFY(fs.isMounted());
+        const QString held = fs.addHeldFile(QStringLiteral("hang.mp4"), QByteArray(64 * 1024, 'x'));
         {
             Composition c;
             c.addMutableTrack();
-            c.track(0).insertTimeRange(fifo, MediaTime::zero(), s(3), MediaTime::zero());
+            c.track(0).insertTimeRange(held, MediaTime::zero(), s(3), MediaTime::zero());
             TrackPlayer player(c);
-            QTest::qWait(300);
+            QTRY_VERIFY(fs.isHanging());
             QCOMPARE(player.status(), TrackPlayer::Unknown);
             bool answered = false;
             bool finished = true;
@@ -258,13 +263,9 @@ private Q_SLOTS:
             });
             QVERIFY(answered); // a player that is not ready answers at once
             QVERIFY(!finished);
-            // Release the reader, as a dead drive answers late.
-            QTRY_VERIFY([&] {
-                const int w = ::open(QFile::encodeName(fifo).constData(), O_WRONLY | O_NONBLOCK);
-                if (w >= 0)
-                    ::close(w);
-                return player.status() == TrackPlayer::ReadyToPlay;
-            }());
+            // The drive answers late.
+            fs.release();
+            QTRY_COMPARE(player.status(), TrackPlayer::ReadyToPlay);
             QVERIFY(!player.hasPicture());
         }
     }
@@ -274,25 +275,26 @@ private Q_SLOTS:
     // waits for the stuck worker, which ends by itself once the read does.
     void stoppedPlayerOnAHangingFileGoesAtOnce()
     {
-        const QString fifo = dir.path() + "/hang-stopped.mp4";
-        QCOMPARE(::mkfifo(QFile::encodeName(fifo).constData(), 0600), 0);
+        if (!FaultyFs::available())
+            QSKIP("needs root and /dev/fuse");
+        QTemporaryDir mountPoint;
+        FaultyFs fs(mountPoint.path());
+        QVERIFY(fs.isMounted());
+        const QString held = fs.addHeldFile(QStringLiteral("hang-stopped.mp4"), QByteArray(64 * 1024, 'x'));
         Composition c;
         c.addMutableTrack();
-        c.track(0).insertTimeRange(fifo, MediaTime::zero(), s(3), MediaTime::zero());
+        c.track(0).insertTimeRange(held, MediaTime::zero(), s(3), MediaTime::zero());
         auto *player = new TrackPlayer(c);
-        QTest::qWait(300);
+        QTRY_VERIFY(fs.isHanging());
         QCOMPARE(player->status(), TrackPlayer::Unknown); // stuck opening
         player->requestStop();
         QElapsedTimer timer;
         timer.start();
         delete player;
         QVERIFY2(timer.elapsed() < 200, qPrintable(QString::number(timer.elapsed())));
-        // Let the worker's open end, so it finishes before the test does.
-        const int w = ::open(QFile::encodeName(fifo).constData(), O_WRONLY | O_NONBLOCK);
-        QTest::qWait(50);
-        if (w >= 0)
-            ::close(w);
-        QTest::qWait(200);
+        // Let the worker's read end, so it finishes before the drive goes.
+        fs.release();
+        QTRY_VERIFY(!fs.isHanging());
     }
 };
 

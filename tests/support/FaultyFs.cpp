@@ -32,7 +32,7 @@ struct FaultyFs::State {
     };
     std::condition_variable released;
     bool releasing = false;
-    std::atomic<bool> hanging{false};
+    std::atomic<int> hanging{0}; // requests held right now
     bool hangStatfs = false;
     std::map<std::string, File> files; // "/TeslaCam/…"
     std::set<std::string> folders{"/"};
@@ -51,9 +51,9 @@ FaultyFs::State &state()
 // Waits while the test holds the drive still; false if it vanished meanwhile.
 bool waitWhileHeld(FaultyFs::State &s, std::unique_lock<std::mutex> &lock)
 {
-    s.hanging = true;
+    ++s.hanging;
     s.released.wait(lock, [&] { return s.releasing; });
-    s.hanging = false;
+    --s.hanging;
     return !s.vanished;
 }
 
@@ -223,7 +223,14 @@ FaultyFs::FaultyFs(const QString &mountPoint) : state_(std::make_unique<State>()
         return;
     }
     state_->mounted = true;
-    state_->loop = std::thread([h = state_->handle] { fuse_loop(h); });
+    // Several threads, so that several held reads wait at once while the
+    // rest of the drive still answers.
+    state_->loop = std::thread([h = state_->handle] {
+        fuse_loop_config *config = fuse_loop_cfg_create();
+        fuse_loop_cfg_set_max_threads(config, 32);
+        fuse_loop_mt(h, config);
+        fuse_loop_cfg_destroy(config);
+    });
 }
 
 FaultyFs::~FaultyFs()
@@ -291,6 +298,13 @@ void FaultyFs::hangReadsFrom(const QString &relativePath, qint64 offset)
     state_->releasing = false;
 }
 
+QString FaultyFs::addHeldFile(const QString &relativePath, const QByteArray &content)
+{
+    addFile(relativePath, content);
+    hangReadsFrom(relativePath, 0);
+    return state_->mountPoint + QLatin1Char('/') + relativePath;
+}
+
 void FaultyFs::hangStatfs()
 {
     std::lock_guard lock(state_->mutex);
@@ -307,7 +321,12 @@ void FaultyFs::release()
     state_->released.notify_all();
 }
 
-bool FaultyFs::isHanging() const
+int FaultyFs::heldRequests() const
 {
     return state_->hanging;
+}
+
+bool FaultyFs::isHanging() const
+{
+    return state_->hanging > 0;
 }

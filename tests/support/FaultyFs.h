@@ -33,11 +33,15 @@ public:
     // Reads that reach offset don't answer until release(): a drive that
     // stops responding mid-file.
     void hangReadsFrom(const QString &relativePath, qint64 offset);
+    // A file no read of which answers until release(): its path on the drive.
+    QString addHeldFile(const QString &relativePath, const QByteArray &content);
     // Asking the drive for its size and free space doesn't answer until
     // release().
     void hangStatfs();
     void release();
     bool isHanging() const;
+    // How many reads (or size queries) the drive holds right now.
+    int heldRequests() const;
     void vanish();
     qint64 bytesServed() const;
 

@@ -9,6 +9,7 @@
 #include "playback/SyncPlayerController.h"
 #include "playback/TrackPlayer.h"
 #include "state/AppState.h"
+#include "support/FaultyFs.h"
 #include "support/IsolatedHome.h"
 #include "support/MovieFacts.h"
 #include "support/TeslaCamFixture.h"
@@ -22,6 +23,7 @@
 #include <QQuickItem>
 #include <QQuickStyle>
 #include <QQuickWindow>
+#include <QScopeGuard>
 #include <QSet>
 #include <QSettings>
 #include <QTemporaryDir>
@@ -480,28 +482,40 @@ private Q_SLOTS:
     // that one tile, and the main thread never stalls while the event loads.
     void hangingClipCostsOnlyItsTile()
     {
+        // The drive stops answering for one clip: every read of it is held.
+        if (!FaultyFs::available())
+            QSKIP("needs root and /dev/fuse");
         QTemporaryDir drive;
-        TeslaCamFixture fx(drive.filePath(QStringLiteral("TeslaCam")));
-        const QString dir = fx.addEvent(
-            QStringLiteral("SavedClips"), QStringLiteral("2026-03-04_10-00-30"),
-            TeslaCamFixture::eventJson(QStringLiteral("2026-03-04T10:00:20"), QStringLiteral("user_interaction_honk")));
+        FaultyFs fs(drive.path());
+        QVERIFY(fs.isMounted());
+        // The players let go of the drive before it is unmounted.
+        const auto teardown = qScopeGuard([&] {
+            fs.release();
+            state_->setSelectedEventID(std::nullopt);
+            QTest::qWaitFor([&] { return controller() == nullptr; }, 5000);
+            QTest::qWait(600); // players stopped earlier are let go after half a second
+        });
         TestClips::ClipOptions options;
         options.seconds = 4;
-        const QString source = TestClips::clip(options);
-        for (const char *camera : {"front", "back", "left_repeater"})
-            fx.addClip(dir, QStringLiteral("2026-03-04_10-00-00"), QString::fromLatin1(camera), 0, source);
-        const QString fifo = dir + QStringLiteral("/2026-03-04_10-00-00-right_repeater.mp4");
-        QCOMPARE(::mkfifo(QFile::encodeName(fifo).constData(), 0644), 0);
+        QFile sourceFile(TestClips::clip(options));
+        QVERIFY(sourceFile.open(QIODevice::ReadOnly));
+        const QByteArray clip = sourceFile.readAll();
+        const QString later = QStringLiteral("TeslaCam/SavedClips/2026-03-04_10-00-30/");
+        fs.addFile(later + "event.json",
+                   TeslaCamFixture::eventJson(QStringLiteral("2026-03-04T10:00:20"), QStringLiteral("user_interaction_honk")));
+        for (const char *camera : {"front", "back", "left_repeater", "right_repeater"})
+            fs.addFile(later + "2026-03-04_10-00-00-" + camera + ".mp4", clip);
+        const QString held = later + "2026-03-04_10-00-00-right_repeater.mp4";
         // An earlier event, opened first: the screen is up before the load
         // that is measured.
-        const QString earlier = fx.addEvent(
-            QStringLiteral("SavedClips"), QStringLiteral("2026-03-03_10-00-30"),
-            TeslaCamFixture::eventJson(QStringLiteral("2026-03-03T10:00:20"), QStringLiteral("user_interaction_honk")));
+        const QString earlier = QStringLiteral("TeslaCam/SavedClips/2026-03-03_10-00-30/");
+        fs.addFile(earlier + "event.json",
+                   TeslaCamFixture::eventJson(QStringLiteral("2026-03-03T10:00:20"), QStringLiteral("user_interaction_honk")));
         for (const char *camera : {"front", "back"})
-            fx.addClip(earlier, QStringLiteral("2026-03-03_10-00-00"), QString::fromLatin1(camera), 0, source);
+            fs.addFile(earlier + "2026-03-03_10-00-00-" + camera + ".mp4", clip);
 
         state_->setSelectedSection(SidebarSection::drive);
-        state_->beginScan(fx.root());
+        state_->beginScan(drive.filePath(QStringLiteral("TeslaCam")));
         QTRY_VERIFY_WITH_TIMEOUT(state_->driveScan() && state_->driveScan()->events.size() == 2 && !state_->isScanning(),
                                  30000);
         const QString id = QStringLiteral("saved|2026-03-04_10-00-30");
@@ -532,18 +546,16 @@ private Q_SLOTS:
         });
         sinceTick.start();
         ticker.start();
+        fs.hangReadsFrom(held, 0);
         state_->setSelectedEventID(id);
-        // The FIFO stands for a drive that stops answering: the player's
-        // watchdog gives up on it after 8 s, and then waits for the read to
-        // end, which a dead drive does late. So the reader is let go then.
+        // The player's watchdog gives up on the held clip after 8 s, and then
+        // waits for the read to end, which a dead drive does late. So the
+        // drive answers then.
         QTimer releaser;
         releaser.setInterval(20);
         connect(&releaser, &QTimer::timeout, this, [&] {
-            if (total.elapsed() < 8300)
-                return;
-            const int w = ::open(QFile::encodeName(fifo).constData(), O_WRONLY | O_NONBLOCK);
-            if (w >= 0)
-                ::close(w);
+            if (total.elapsed() >= 8300)
+                fs.release();
         });
         releaser.start();
         QTRY_VERIFY_WITH_TIMEOUT(controller() && !controller()->isLoadingTiles(), 20000);
