@@ -8,6 +8,7 @@
 
 #include <QCommandLineParser>
 #include <QDir>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -58,6 +59,18 @@ int remove(const QString &vault, const QString &eventID)
 
 int verify(const QString &vault)
 {
+    // Kept folders with no manifest: nothing vouches for them, which is no pass.
+    if (!QFileInfo::exists(VaultIndex::manifestPath(vault))) {
+        bool keptFolders = false;
+        try {
+            keptFolders = !VaultBrowser::scanVault(vault).empty();
+        } catch (...) {
+        }
+        if (keptFolders) {
+            CliOutput::err(QStringLiteral("The Vault's manifest.json is missing, so the kept events can't be checked."));
+            return CliOutput::failureExit;
+        }
+    }
     std::vector<VaultVerifier::EventResult> results;
     try {
         results = VaultVerifier::verify(vault);

@@ -265,6 +265,17 @@ private Q_SLOTS:
         QVERIFY(bad.contains("changed " + clips[0].toUtf8()));
         QVERIFY(bad.contains("missing " + clips[2].toUtf8()));
 
+        // Kept folders with no manifest to vouch for them don't pass.
+        QTemporaryDir bare;
+        QVERIFY(QDir().mkpath(bare.filePath("2026/saved")));
+        QVERIFY(QProcess::execute("cp", {"-r", vault.filePath("2026/saved/2026-07-19_10-00-00"), bare.filePath("2026/saved/")}) == 0);
+        r = cli({"vault", "verify", bare.path()});
+        QCOMPARE(r.exitCode, 2);
+        QCOMPARE(r.err.count('\n'), 1);
+        QVERIFY(r.err.contains("manifest.json is missing"));
+        QTemporaryDir empty;
+        QCOMPARE(cli({"vault", "verify", empty.path()}).exitCode, 0);
+
         // Removal goes to the Trash of this (throwaway) home.
         QTemporaryDir home;
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
