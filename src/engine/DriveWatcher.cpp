@@ -105,6 +105,10 @@ void DriveWatcher::tableChanged()
 {
     std::vector<MountTable::Entry> now = MountTable::removableMounts(MountTable::read());
     std::vector<MountTable::Change> changes = MountTable::diff(known_, now);
+    // A change elsewhere in the table (a mount outside the removable-media
+    // folders) says nothing about a drive held back: it keeps its moment.
+    if (changes.empty())
+        return;
     std::vector<MountTable::Change> out;
 
     // Held unmounts come first, in order: as renames when their device
