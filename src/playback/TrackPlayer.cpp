@@ -18,6 +18,7 @@ extern "C" {
 #include <thread>
 
 namespace {
+std::atomic<int> workersRunning{0};
 constexpr size_t queueLimit = 4;
 constexpr double epsilon = 1e-6;
 constexpr int presentIntervalMs = 4;
@@ -467,7 +468,16 @@ TrackPlayer::TrackPlayer(const Composition &composition, QObject *parent)
     shared_->seekTarget = 0;
     auto shared = shared_;
     const int threads = decoderThreads;
-    std::thread([shared, track, threads] { Worker(shared, track, threads).run(); }).detach();
+    ++workersRunning;
+    std::thread([shared, track, threads] {
+        Worker(shared, track, threads).run();
+        --workersRunning;
+    }).detach();
+}
+
+int TrackPlayer::runningWorkers()
+{
+    return workersRunning;
 }
 
 TrackPlayer::~TrackPlayer()

@@ -43,6 +43,9 @@ public:
     // Skipping ahead to a keyframe when decoding falls behind the clock; off
     // only to measure raw decoding speed.
     static void setCatchUpEnabled(bool enabled);
+    // Workers not yet ended, stopped players' included: each holds its clip
+    // open until it ends, so a drive can be let go only after.
+    static int runningWorkers();
 
     Status status() const { return status_; }
     MediaTime trackDuration() const { return MediaTime::fromSeconds(trackEnd_); }

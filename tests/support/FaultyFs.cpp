@@ -13,6 +13,8 @@
 #include <mutex>
 #include <set>
 #include <string>
+#include <sys/sysmacros.h>
+#include <sys/mount.h>
 #include <sys/stat.h>
 #include <sys/statvfs.h>
 #include <thread>
@@ -33,6 +35,8 @@ struct FaultyFs::State {
     std::condition_variable released;
     bool releasing = false;
     std::atomic<int> hanging{0}; // requests held right now
+    std::atomic<int> mostHeld{0};
+    std::condition_variable held; // a request began to be held
     bool hangStatfs = false;
     std::map<std::string, File> files; // "/TeslaCam/…"
     std::set<std::string> folders{"/"};
@@ -51,7 +55,10 @@ FaultyFs::State &state()
 // Waits while the test holds the drive still; false if it vanished meanwhile.
 bool waitWhileHeld(FaultyFs::State &s, std::unique_lock<std::mutex> &lock)
 {
-    ++s.hanging;
+    const int now = ++s.hanging;
+    if (now > s.mostHeld)
+        s.mostHeld = now;
+    s.held.notify_all();
     s.released.wait(lock, [&] { return s.releasing; });
     --s.hanging;
     return !s.vanished;
@@ -207,6 +214,13 @@ FaultyFs::FaultyFs(const QString &mountPoint) : state_(std::make_unique<State>()
     state_->mountPoint = mountPoint;
     if (!available())
         return;
+    // The kernel's FUSE control folder, through which a teardown can abort
+    // the connection; mounted once if the system hasn't.
+    {
+        QFile mounts(QStringLiteral("/proc/self/mounts"));
+        if (mounts.open(QIODevice::ReadOnly) && !mounts.readAll().contains(" fusectl "))
+            ::mount("none", "/sys/fs/fuse/connections", "fusectl", 0, nullptr);
+    }
     // It stands for a car's drive, so it mounts as exFAT ("fuse.exfat").
     char name[] = "faultyfs";
     char option[] = "-o";
@@ -240,9 +254,19 @@ FaultyFs::~FaultyFs()
     // A hung read must answer before the file system can go.
     release();
     // Unmounting ends the loop: its read of /dev/fuse fails once the
-    // kernel drops the connection.
+    // kernel drops the connection. A file something of the test still holds
+    // open would keep the connection up, and the loop with it: the
+    // connection is aborted then, so the test ends whatever it left open.
+    struct stat mounted {};
+    const bool known = ::stat(QFile::encodeName(state_->mountPoint).constData(), &mounted) == 0;
     fuse_exit(state_->handle);
     fuse_unmount(state_->handle);
+    if (known) {
+        const QString abort = QStringLiteral("/sys/fs/fuse/connections/%1/abort").arg(minor(mounted.st_dev));
+        QFile control(abort);
+        if (control.open(QIODevice::WriteOnly))
+            control.write("1");
+    }
     if (state_->loop.joinable())
         state_->loop.join();
     fuse_destroy(state_->handle);
@@ -319,11 +343,25 @@ void FaultyFs::release()
         state_->releasing = true;
     }
     state_->released.notify_all();
+    state_->held.notify_all();
 }
 
 int FaultyFs::heldRequests() const
 {
     return state_->hanging;
+}
+
+int FaultyFs::mostHeldRequests() const
+{
+    return state_->mostHeld;
+}
+
+bool FaultyFs::waitUntilHeld(int count, std::chrono::milliseconds limit)
+{
+    std::unique_lock lock(state_->mutex);
+    // A release ends the wait too: nothing more will be held.
+    state_->held.wait_for(lock, limit, [&] { return state_->hanging >= count || state_->releasing; });
+    return state_->hanging >= count;
 }
 
 bool FaultyFs::isHanging() const

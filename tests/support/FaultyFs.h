@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <chrono>
 #include <memory>
 
 // A small FUSE file system served from memory on a thread of the test
@@ -40,8 +41,12 @@ public:
     void hangStatfs();
     void release();
     bool isHanging() const;
-    // How many reads (or size queries) the drive holds right now.
+    // How many reads (or size queries) the drive holds right now, and the
+    // most it held at once.
     int heldRequests() const;
+    int mostHeldRequests() const;
+    // Until at least `count` requests are held at once; false past the limit.
+    bool waitUntilHeld(int count = 1, std::chrono::milliseconds limit = std::chrono::seconds(20));
     void vanish();
     qint64 bytesServed() const;
 

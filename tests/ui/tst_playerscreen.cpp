@@ -492,8 +492,8 @@ private Q_SLOTS:
         const auto teardown = qScopeGuard([&] {
             fs.release();
             state_->setSelectedEventID(std::nullopt);
-            QTest::qWaitFor([&] { return controller() == nullptr; }, 5000);
-            QTest::qWait(600); // players stopped earlier are let go after half a second
+            (void)QTest::qWaitFor([&] { return controller() == nullptr; }, 5000);
+            (void)QTest::qWaitFor([] { return TrackPlayer::runningWorkers() == 0; }, 10000); // stopped players go a little later
         });
         TestClips::ClipOptions options;
         options.seconds = 4;

@@ -1,5 +1,6 @@
 #include "FileDialogDriver.h"
 #include "KeelholdApp.h"
+#include "playback/TrackPlayer.h"
 #include "support/FaultyFs.h"
 #include "support/IsolatedHome.h"
 #include "support/TestClips.h"
@@ -442,8 +443,8 @@ private Q_SLOTS:
             // The player closes its clips as it goes.
             if (app) {
                 app->appState().setSelectedEventID(std::nullopt);
-                QTest::qWaitFor([&] { return !visibleItem(window, QStringLiteral("eventPlayerView")); }, 5000);
-                QTest::qWait(600); // players stopped earlier are let go after half a second
+                (void)QTest::qWaitFor([&] { return !visibleItem(window, QStringLiteral("eventPlayerView")); }, 5000);
+                (void)QTest::qWaitFor([] { return TrackPlayer::runningWorkers() == 0; }, 10000); // stopped players go a little later
             }
             window = nullptr;
             app.reset();
@@ -546,7 +547,6 @@ private Q_SLOTS:
         window->resize(size);
         QTRY_COMPARE(window->size(), size);
         QTRY_VERIFY_WITH_TIMEOUT(visibleItem(window, QStringLiteral("cameraTile_front")), 20000);
-        QTest::qWait(300); // the layouts settle over the next frames
 
         const QRectF bounds(QPointF(0, 0), QSizeF(window->size()));
         auto rectOf = [&](const QString &name) {
@@ -569,6 +569,20 @@ private Q_SLOTS:
                                   QStringLiteral("exportButton"), QStringLiteral("focusModeButton")};
         const QStringList transport{QStringLiteral("stepBackButton"), QStringLiteral("playPauseButton"),
                                     QStringLiteral("stepForwardButton"), QStringLiteral("speedPicker")};
+        // The layouts settle over the next frames: wait until nothing moves.
+        const QStringList watched = toolbar + transport + QStringList{QStringLiteral("durationText"), QStringLiteral("cameraTile_front")};
+        QString last;
+        auto settled = [&] {
+            QString now;
+            for (const QString &name : watched) {
+                const QRectF r = rectOf(name);
+                now += QStringLiteral("%1,%2,%3,%4;").arg(r.x()).arg(r.y()).arg(r.width()).arg(r.height());
+            }
+            const bool same = now == last;
+            last = now;
+            return same;
+        };
+        QTRY_VERIFY(settled());
         for (const QString &name : toolbar + transport)
             inside(name);
         apart(toolbar);

@@ -403,8 +403,7 @@ private Q_SLOTS:
 
         QTemporaryDir vault;
         std::thread release([&] {
-            for (int i = 0; i < 1000 && !fs.isHanging(); ++i)
-                std::this_thread::sleep_for(10ms);
+            fs.waitUntilHeld();
             std::this_thread::sleep_for(600ms);
             fs.release();
         });
@@ -482,8 +481,7 @@ private Q_SLOTS:
         std::stop_source stop;
         // Stopped while the drive holds the read, which answers afterwards.
         std::thread canceller([&] {
-            for (int i = 0; i < 1000 && !fs.isHanging(); ++i)
-                std::this_thread::sleep_for(10ms);
+            fs.waitUntilHeld();
             stop.request_stop();
             fs.release();
         });
@@ -684,8 +682,7 @@ private Q_SLOTS:
         QTemporaryDir vault;
         std::stop_source stop;
         std::thread answerLate([&] {
-            for (int i = 0; i < 1000 && !fs.isHanging(); ++i)
-                std::this_thread::sleep_for(10ms);
+            fs.waitUntilHeld();
             if (cancel)
                 stop.request_stop();
             std::this_thread::sleep_for(700ms);
