@@ -715,16 +715,21 @@ std::optional<TeslaEvent> AppState::findEvent(const QString &id) const
     return std::nullopt;
 }
 
+std::optional<TeslaEvent> AppState::findVaultEvent(const QString &id) const
+{
+    for (const TeslaEvent &e : vaultEvents_)
+        if (e.id() == id)
+            return e;
+    return std::nullopt;
+}
+
 std::vector<TeslaEvent> AppState::eventsForIDs(const QStringList &ids) const
 {
     std::vector<TeslaEvent> out;
     for (const QString &id : ids) {
-        if (auto e = findEvent(id)) {
+        if (auto e = findEvent(id))
             out.push_back(*e);
-            continue;
-        }
-        const auto kept = std::find_if(vaultEvents_.begin(), vaultEvents_.end(), [&](const TeslaEvent &v) { return v.id() == id; });
-        if (kept != vaultEvents_.end())
+        else if (auto kept = findVaultEvent(id))
             out.push_back(*kept);
     }
     return out;
@@ -740,7 +745,7 @@ void AppState::requestKeep(const std::vector<TeslaEvent> &events)
         // The drive's own files are what a keep copies, never the Vault's.
         if (auto onDrive = findEvent(e.id()))
             toCopy.push_back(*onDrive);
-        else if (std::any_of(vaultEvents_.begin(), vaultEvents_.end(), [&](const TeslaEvent &v) { return v.id() == e.id(); }))
+        else if (findVaultEvent(e.id()))
             ++alreadyKept;
         else
             toCopy.push_back(e);

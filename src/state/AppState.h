@@ -274,6 +274,7 @@ private:
     void handleDriveEvent(const DriveEvent &event);
     void onWindowWillExitFullScreen();
     std::optional<TeslaEvent> findEvent(const QString &id) const;
+    std::optional<TeslaEvent> findVaultEvent(const QString &id) const;
     std::vector<TeslaEvent> eventsForIDs(const QStringList &ids) const;
     void takeBulkSelection(bool keepThem);
 
