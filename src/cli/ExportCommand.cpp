@@ -1,6 +1,7 @@
 #include "cli/ExportCommand.h"
 
 #include "cli/CliOutput.h"
+#include "drive/DriveBoundary.h"
 #include "drive/TeslaCamParser.h"
 #include "export/Exporter.h"
 #include "model/CancellationError.h"
@@ -144,6 +145,8 @@ int run(const QStringList &arguments)
 
     const QString root = QDir::cleanPath(QDir::current().absoluteFilePath(positional.first()));
     const QString eventId = parser.value(eventOption);
+    if (DriveBoundary::writesInto(root, parser.value(outputOption)).value_or(false))
+        return fail(DriveBoundary::exportRefusal);
     // FFmpeg's own messages about damaged clips would drown the progress.
     av_log_set_level(AV_LOG_QUIET);
 

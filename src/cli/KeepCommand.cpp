@@ -1,6 +1,7 @@
 #include "cli/KeepCommand.h"
 
 #include "cli/CliOutput.h"
+#include "drive/DriveBoundary.h"
 #include "drive/TeslaCamParser.h"
 #include "model/JsonCoding.h"
 #include "vault/ArchiveEngine.h"
@@ -107,9 +108,9 @@ int run(const QStringList &arguments)
     const QString vault = QDir::cleanPath(QDir::current().absoluteFilePath(parser.value(vaultOption)));
 
     // Nothing on the car's drive is ever written, the Vault included.
-    if (vault == root || vault.startsWith(root + QLatin1Char('/'))) {
-        CliOutput::err(QStringLiteral("The Vault folder can't be inside the TeslaCam folder: Keelhold never writes "
-                                      "to the car's drive."));
+    if (vault == root || vault.startsWith(root + QLatin1Char('/'))
+        || DriveBoundary::writesInto(root, vault).value_or(false)) {
+        CliOutput::err(DriveBoundary::vaultRefusal);
         return CliOutput::failureExit;
     }
 

@@ -2,11 +2,6 @@
 
 #include "model/CancellationError.h"
 
-#include <QFuture>
-#include <QPromise>
-#include <QThreadPool>
-#include <QtConcurrent/QtConcurrentRun>
-
 #include <chrono>
 #include <condition_variable>
 #include <exception>
@@ -16,9 +11,12 @@
 #include <optional>
 #include <stop_token>
 
-// A time limit on one piece of drive work. The work gets a stop token; when
-// the limit passes, stop is requested and the watchdog waits for the work to
-// end before throwing TimedOut, so no abandoned read ever outlives the call.
+// A time limit on one piece of drive work. The work runs on a thread of its
+// own with a stop token. When the limit passes (or the caller cancels), stop
+// is requested and the work gets a short grace to end; work still stuck in
+// the kernel after that is abandoned on its thread and the caller moves on.
+// The thread owns the work and everything it captured, so an abandoned read
+// touches nothing the caller frees: capture by value, never by reference.
 namespace IOWatchdog {
 
 class TimedOut : public std::exception {
@@ -28,20 +26,34 @@ public:
 
 using Clock = std::chrono::steady_clock;
 
-// Watched work gets its own pool: callers block on the general pool while
-// they wait, and must not starve the work they are waiting for.
-QThreadPool &pool();
+// How long work that was asked to stop may take to end before it is left behind.
+inline constexpr std::chrono::milliseconds grace{500};
+
+// Threads whose work was left behind and has not ended yet: a dead drive
+// costs one each until the kernel gives up on the read.
+int abandonedThreads();
 
 namespace detail {
-template <typename T>
-struct Race {
+struct RaceState {
     std::mutex mutex;
     std::condition_variable changed;
     bool done = false;
-    std::optional<T> value;
+    bool abandoned = false;
     std::exception_ptr error;
     std::stop_source stop;
 };
+
+template <typename T>
+struct Race : RaceState {
+    std::optional<T> value;
+};
+
+// Runs body on a new detached thread; throws std::system_error when none can be had.
+void startThread(std::function<void()> body);
+// Marks the race as left behind by its caller (the mutex is held).
+void abandon(RaceState &race);
+// Called by the work's thread when it ends (the mutex is held).
+void finished(RaceState &race);
 
 // Waits for the work, the deadline or the caller's cancellation, whichever
 // comes first. isCancelled is polled only when given.
@@ -61,14 +73,14 @@ T await(const std::shared_ptr<Race<T>> &race, Clock::time_point deadline, const 
             timedOut = true;
             break;
         }
-        auto until = deadline;
-        if (isCancelled)
-            until = std::min(deadline, now + std::chrono::milliseconds(20));
-        race->changed.wait_until(lock, until);
+        // Short steps while a caller's cancellation has to be looked for.
+        const auto step = isCancelled ? Clock::duration(std::chrono::milliseconds(20)) : Clock::duration(std::chrono::hours(1));
+        race->changed.wait_until(lock, deadline - now < step ? deadline : now + step);
     }
     if (timedOut || cancelled) {
         race->stop.request_stop();
-        race->changed.wait(lock, [&] { return race->done; });
+        if (!race->changed.wait_for(lock, grace, [&] { return race->done; }))
+            abandon(*race);
         if (cancelled)
             throw CancellationError();
         throw TimedOut();
@@ -82,12 +94,12 @@ template <typename T, typename Op>
 std::shared_ptr<Race<T>> launch(Op &&operation)
 {
     auto race = std::make_shared<Race<T>>();
-    pool().start([race, op = std::forward<Op>(operation)]() mutable {
+    startThread([race, op = std::forward<Op>(operation)]() mutable {
         std::optional<T> value;
         std::exception_ptr error;
         try {
             // The work and everything it captured are gone before the
-            // caller is released: nothing of it outlives run().
+            // caller hears the outcome.
             auto work = std::move(op);
             value.emplace(work(race->stop.get_token()));
         } catch (...) {
@@ -96,8 +108,7 @@ std::shared_ptr<Race<T>> launch(Op &&operation)
         std::lock_guard lock(race->mutex);
         race->value = std::move(value);
         race->error = error;
-        race->done = true;
-        race->changed.notify_all();
+        finished(*race);
     });
     return race;
 }
@@ -106,10 +117,16 @@ std::shared_ptr<Race<T>> launch(Op &&operation)
 // Runs operation(stopToken) with a limit, blocking the calling thread.
 // Returns its value or rethrows its error; throws TimedOut when the limit
 // passed first, CancellationError when the caller's token asked to stop.
+// Either way the call returns within the grace of the limit or the stop.
 template <typename Op, typename T = std::invoke_result_t<Op, std::stop_token>>
 T run(std::chrono::milliseconds timeout, Op &&operation, std::stop_token caller = {})
 {
-    const auto deadline = Clock::now() + timeout;
+    if (caller.stop_requested())
+        throw CancellationError();
+    const auto now = Clock::now();
+    const auto deadline = timeout >= std::chrono::duration_cast<std::chrono::milliseconds>(Clock::time_point::max() - now)
+        ? Clock::time_point::max()
+        : now + timeout;
     auto race = detail::launch<T>(std::forward<Op>(operation));
     std::function<bool()> isCancelled;
     if (caller.stop_possible())
@@ -122,20 +139,12 @@ T run(std::chrono::milliseconds timeout, Op &&operation, std::stop_token caller 
     return detail::await<T>(race, deadline, isCancelled);
 }
 
-// The same, without blocking: the future ends when the work has ended.
-// Cancelling the future cancels the work (CancellationError).
+// The same with no time limit: only the caller's stop ends the wait, and
+// work that doesn't end within the grace of it is left behind.
 template <typename Op, typename T = std::invoke_result_t<Op, std::stop_token>>
-QFuture<T> start(std::chrono::milliseconds timeout, Op &&operation)
+T runUntilStopped(Op &&operation, std::stop_token caller)
 {
-    return QtConcurrent::run(&pool(), [timeout, op = std::forward<Op>(operation)](QPromise<T> &promise) mutable {
-        const auto deadline = Clock::now() + timeout;
-        auto race = detail::launch<T>(std::move(op));
-        try {
-            promise.addResult(detail::await<T>(race, deadline, [&promise] { return promise.isCanceled(); }));
-        } catch (...) {
-            promise.setException(std::current_exception());
-        }
-    });
+    return run(std::chrono::milliseconds::max(), std::forward<Op>(operation), caller);
 }
 
 } // namespace IOWatchdog

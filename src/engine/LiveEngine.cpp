@@ -5,17 +5,12 @@
 #include "engine/AsyncRun.h"
 #include "engine/BookmarkStore.h"
 #include "engine/DriveWatcher.h"
+#include "engine/EnginePools.h"
 #include "engine/ScanCache.h"
 #include "engine/TriageStore.h"
 #include "export/Exporter.h"
 #include "vault/ArchiveEngine.h"
 #include "vault/VaultBrowser.h"
-
-#include <QThreadPool>
-
-namespace {
-QThreadPool &generalPool() { return *QThreadPool::globalInstance(); }
-} // namespace
 
 // Building the watcher starts no observation; that waits for driveEvents().
 LiveEngine::LiveEngine() : driveWatcher_(std::make_unique<DriveWatcher>()) {}
@@ -24,7 +19,7 @@ LiveEngine::~LiveEngine() = default;
 
 QFuture<DriveScan> LiveEngine::scanDrive(const QString &root, ScanProgressCallback progress)
 {
-    return AsyncRun::onPool(generalPool(), [root, progress] { return TeslaCamParser::scan(root, progress); });
+    return AsyncRun::onPool(EnginePools::driveRuns(), [root, progress] { return TeslaCamParser::scan(root, progress); });
 }
 
 QFuture<std::optional<DriveScan>> LiveEngine::cachedScan(const QString &key)
@@ -39,7 +34,7 @@ QFuture<void> LiveEngine::storeScanInCache(const DriveScan &scan, const QString 
 
 QFuture<std::vector<TeslaEvent>> LiveEngine::probeAll(const std::vector<TeslaEvent> &events)
 {
-    return AsyncRun::cancellable(generalPool(), [events](std::stop_token stop) {
+    return AsyncRun::cancellable(EnginePools::driveRuns(), [events](std::stop_token stop) {
         return ClipProber::probeAll(events, probeTimeoutPerClip, probeConcurrencyCap, {}, stop);
     });
 }
@@ -61,7 +56,7 @@ QFuture<ArchiveReport> LiveEngine::runArchive(const ArchivePlan &plan, const QSt
                                               ArchiveProgressCallback progress, std::stop_token stop)
 {
     return AsyncRun::cancellable(
-        generalPool(),
+        EnginePools::driveRuns(),
         [plan, vaultURL, progress](std::stop_token token) {
             return ArchiveEngine::run(plan, vaultURL, progress, ArchiveEngine::defaultTimeoutPerFile, token);
         },
@@ -77,7 +72,7 @@ bool LiveEngine::removeFromVault(const QString &eventID, const QString &vaultURL
 
 QFuture<std::vector<TeslaEvent>> LiveEngine::scanVault(const QString &url)
 {
-    return AsyncRun::onPool(generalPool(), [url] { return VaultBrowser::scanVault(url); });
+    return AsyncRun::onPool(EnginePools::quick(), [url] { return VaultBrowser::scanVault(url); });
 }
 
 TriageState LiveEngine::triageState(const QString &) { return TriageState::new_; }
@@ -92,7 +87,7 @@ QFuture<EngineFacade::TriageStates> LiveEngine::loadAllTriageStates() { return T
 QFuture<void> LiveEngine::exportFootage(Camera camera, const TeslaEvent &event, std::optional<SecondsRange> range,
                                         const QString &to, FractionCallback progress)
 {
-    return AsyncRun::cancellable(generalPool(), [camera, event, range, to, progress](std::stop_token stop) {
+    return AsyncRun::cancellable(EnginePools::driveRuns(), [camera, event, range, to, progress](std::stop_token stop) {
         Exporter::exportFootage(camera, event, range, to, progress, stop);
     });
 }

@@ -84,6 +84,21 @@ std::optional<std::pair<double, double>> mediaExtent(const AVFormatContext *form
     return std::make_pair(start, start + double(format->duration) / AV_TIME_BASE);
 }
 
+// How long the clip's own pictures last, from the container's index of its
+// samples (nothing more is read). A damaged header can claim far more.
+std::optional<double> indexedLength(AVStream *stream)
+{
+    const int count = avformat_index_get_entries_count(stream);
+    if (count < 2)
+        return std::nullopt;
+    const AVIndexEntry *first = avformat_index_get_entry(stream, 0);
+    const AVIndexEntry *last = avformat_index_get_entry(stream, count - 1);
+    if (!first || !last || last->timestamp <= first->timestamp)
+        return std::nullopt;
+    const double span = double(last->timestamp - first->timestamp) * av_q2d(stream->time_base);
+    return span + span / (count - 1); // the last picture lasts one frame too
+}
+
 std::optional<ExportSegment> judge(const QString &path, std::stop_token stop)
 {
     const auto input = MediaInput::open(path, stop);
@@ -109,9 +124,16 @@ std::optional<ExportSegment> judge(const QString &path, std::stop_token stop)
     const std::optional<std::pair<double, double>> extent = mediaExtent(format, {video, audio});
     if (!extent)
         return std::nullopt;
-    const double seconds = extent->second - extent->first;
+    double seconds = extent->second - extent->first;
     if (!std::isfinite(seconds) || seconds <= 0.0)
         return std::nullopt;
+    if (audio < 0) {
+        // Trusted only as far as the pictures go.
+        AVStream *stream = format->streams[video];
+        const auto indexed = indexedLength(stream);
+        if (indexed && seconds - *indexed > *indexed / avformat_index_get_entries_count(stream))
+            seconds = *indexed;
+    }
 
     ExportSegment segment;
     segment.path = path;

@@ -106,14 +106,19 @@ void ExportSession::run()
     }
     if (stop_.stop_requested())
         cancel();
-    if (reencoder_)
-        reencoder_->finish([this](AVPacket *packet) {
-            // Draining the encoder's look-ahead takes a while on large pictures.
-            report(lastFraction_);
-            av_packet_rescale_ts(packet, reencoder_->timeBase(), video_->timeBase);
-            packet->stream_index = video_->index;
-            writer_->write(packet);
-        });
+    if (reencoder_) {
+        try {
+            reencoder_->finish([this](AVPacket *packet) {
+                // Draining the encoder's look-ahead takes a while on large pictures.
+                report(lastFraction_);
+                av_packet_rescale_ts(packet, reencoder_->timeBase(), video_->timeBase);
+                packet->stream_index = video_->index;
+                writer_->write(packet);
+            });
+        } catch (const Mp4Writer::PacketRefused &) {
+            throw ExportError::failed(QStringLiteral("The movie couldn't be written."));
+        }
+    }
 
     const int64_t written = std::max<int64_t>(writer_->bytesWritten(), 1);
     writer_->setByteObserver([this, written](int64_t bytes) {
@@ -136,7 +141,9 @@ void ExportSession::copyClip(const ExportSegment &segment)
         return;
     const int audioIn = audio_ && composition_.audioMatches(segment) ? input->bestStream(AVMEDIA_TYPE_AUDIO) : -1;
     const double span = upper_ - lower_;
-    const double clipOffset = segment.start - lower_; // output time of the clip's time zero
+    // Output time of the clip's time zero: what earlier clips failed to fill
+    // is closed up, so the movie has no hole where footage was promised.
+    const double clipOffset = segment.start - lower_ - closedUp_;
     const double localLower = lower_ - segment.start;
     const double localUpper = upper_ - segment.start;
     if (localLower > 0.0)
@@ -172,64 +179,92 @@ void ExportSession::copyClip(const ExportSegment &segment)
     std::unique_ptr<AVPacket, PacketDeleter> packet(av_packet_alloc());
     if (!packet)
         throw ExportError::failed(QStringLiteral("There wasn't enough memory to export the footage."));
-    while (!(videoDone && audioDone)) {
-        if (stop_.stop_requested())
-            cancel();
-        // The end of the clip, or a read error that loses the rest of it.
-        if (av_read_frame(format, packet.get()) < 0)
-            break;
-        const bool isVideo = packet->stream_index == videoIn && !videoDone;
-        const bool isAudio = packet->stream_index == audioIn && !audioDone;
-        const int64_t dts = packet->dts != AV_NOPTS_VALUE ? packet->dts : packet->pts;
-        if ((!isVideo && !isAudio) || dts == AV_NOPTS_VALUE) {
-            av_packet_unref(packet.get());
-            continue;
-        }
-        const AVRational inBase = format->streams[packet->stream_index]->time_base;
-        const int64_t originIn = std::llround(segment.origin / av_q2d(inBase));
-        const double local = clipTime(dts, inBase);
-        if (local >= localUpper) {
-            (isVideo ? videoDone : audioDone) = true;
-            av_packet_unref(packet.get());
-            continue;
-        }
-        report(writingShare * (clipOffset + local) / span);
+    // How far into the clip its pictures and sound really went.
+    double reached = std::max(0.0, localLower);
+    // One picture's time; a damaged table's rate says nothing useful.
+    const double rate = segment.frameRate.num > 0 && segment.frameRate.den > 0 ? av_q2d(segment.frameRate) : 0.0;
+    const double frame = rate >= 4.0 && rate <= 240.0 ? 1.0 / rate : 0.05;
+    const auto copyPackets = [&] {
+        while (!(videoDone && audioDone)) {
+            if (stop_.stop_requested())
+                cancel();
+            // The end of the clip, or a read error that loses the rest of it.
+            if (av_read_frame(format, packet.get()) < 0)
+                break;
+            const bool isVideo = packet->stream_index == videoIn && !videoDone;
+            const bool isAudio = packet->stream_index == audioIn && !audioDone;
+            const int64_t dts = packet->dts != AV_NOPTS_VALUE ? packet->dts : packet->pts;
+            if ((!isVideo && !isAudio) || dts == AV_NOPTS_VALUE) {
+                av_packet_unref(packet.get());
+                continue;
+            }
+            const AVRational inBase = format->streams[packet->stream_index]->time_base;
+            const int64_t originIn = std::llround(segment.origin / av_q2d(inBase));
+            const double local = clipTime(dts, inBase);
+            if (local >= localUpper) {
+                (isVideo ? videoDone : audioDone) = true;
+                av_packet_unref(packet.get());
+                continue;
+            }
+            report(writingShare * (clipOffset + local) / span);
+            // No sample lasts past what the clip's pictures span, and no
+            // picture for more than a few frames' time: a damaged table can
+            // give one seconds or days.
+            const int64_t shown = packet->pts != AV_NOPTS_VALUE ? packet->pts : dts;
+            const double shownFrom = clipTime(shown, inBase);
+            if (isVideo && double(packet->duration) * av_q2d(inBase) > 4 * frame)
+                packet->duration = std::llround(frame / av_q2d(inBase));
+            const double trustedEnd = std::min(localUpper, segment.duration);
+            if (shownFrom + double(packet->duration) * av_q2d(inBase) > trustedEnd)
+                packet->duration = std::max<int64_t>(0, std::llround((trustedEnd - shownFrom) / av_q2d(inBase)));
+            const double shownUntil = std::min(trustedEnd, shownFrom + double(packet->duration) * av_q2d(inBase));
 
-        if (isVideo && reencoder_) {
-            reencoder_->decode(packet.get(), place, sink);
-            av_packet_unref(packet.get());
-            continue;
+            if (isVideo && reencoder_) {
+                reencoder_->decode(packet.get(), place, sink);
+                av_packet_unref(packet.get());
+                reached = std::max(reached, shownUntil);
+                continue;
+            }
+            // Sound before the stretch is simply left out; pictures before it
+            // back to the last key frame are kept, and the container's edit list
+            // starts the movie at the stretch's first moment.
+            if (isAudio && local + double(packet->duration) * av_q2d(inBase) <= localLower) {
+                av_packet_unref(packet.get());
+                continue;
+            }
+            OutputStream &out = isVideo ? *video_ : *audio_;
+            if (packet->pts != AV_NOPTS_VALUE)
+                packet->pts = av_rescale_q(packet->pts - originIn, inBase, out.timeBase);
+            packet->dts = av_rescale_q(dts - originIn, inBase, out.timeBase);
+            packet->duration = av_rescale_q(packet->duration, inBase, out.timeBase);
+            // The clip goes at the running cursor, but never over the end of
+            // what the clip before it wrote on this stream.
+            std::optional<int64_t> &shift = isVideo ? videoShift : audioShift;
+            if (!shift) {
+                int64_t at = std::llround(clipOffset / av_q2d(out.timeBase));
+                if (out.end != AV_NOPTS_VALUE && packet->dts + at < out.end)
+                    at = out.end - packet->dts;
+                shift = at;
+            }
+            packet->dts += *shift;
+            if (packet->pts != AV_NOPTS_VALUE)
+                packet->pts += *shift;
+            packet->stream_index = out.index;
+            out.end = packet->dts + std::max<int64_t>(packet->duration, 1);
+            writer_->write(packet.get());
+            reached = std::max(reached, shownUntil);
         }
-        // Sound before the stretch is simply left out; pictures before it
-        // back to the last key frame are kept, and the container's edit list
-        // starts the movie at the stretch's first moment.
-        if (isAudio && local + double(packet->duration) * av_q2d(inBase) <= localLower) {
-            av_packet_unref(packet.get());
-            continue;
-        }
-        OutputStream &out = isVideo ? *video_ : *audio_;
-        if (packet->pts != AV_NOPTS_VALUE)
-            packet->pts = av_rescale_q(packet->pts - originIn, inBase, out.timeBase);
-        packet->dts = av_rescale_q(dts - originIn, inBase, out.timeBase);
-        packet->duration = av_rescale_q(packet->duration, inBase, out.timeBase);
-        // The clip goes at the running cursor, but never over the end of
-        // what the clip before it wrote on this stream.
-        std::optional<int64_t> &shift = isVideo ? videoShift : audioShift;
-        if (!shift) {
-            int64_t at = std::llround(clipOffset / av_q2d(out.timeBase));
-            if (out.end != AV_NOPTS_VALUE && packet->dts + at < out.end)
-                at = out.end - packet->dts;
-            shift = at;
-        }
-        packet->dts += *shift;
-        if (packet->pts != AV_NOPTS_VALUE)
-            packet->pts += *shift;
-        packet->stream_index = out.index;
-        out.end = packet->dts + std::max<int64_t>(packet->duration, 1);
-        writer_->write(packet.get());
+    };
+    try {
+        copyPackets();
+    } catch (const Mp4Writer::PacketRefused &) {
+        // Skipped like a damaged clip; the rest of the movie goes on.
     }
     if (reencoder_)
         reencoder_->endClip(place, sink);
+    const double promised = std::min(segment.duration, localUpper);
+    if (reached + frame < promised)
+        closedUp_ += promised - reached;
 }
 
 void ExportSession::report(double fraction, bool force)

@@ -45,4 +45,5 @@ private:
     std::unique_ptr<OutputStream> audio_;
     std::chrono::steady_clock::time_point lastReport_{};
     double lastFraction_ = -1.0;
+    double closedUp_ = 0.0; // seconds of the joined footage that clips didn't fill
 };

@@ -1,9 +1,15 @@
 #include "export/Exporter.h"
 
 #include "export/ExportComposition.h"
+#include "drive/IOWatchdog.h"
 #include "export/ExportSession.h"
+#include "model/CancellationError.h"
+
+#include <QScopeGuard>
 
 #include <algorithm>
+#include <memory>
+#include <mutex>
 #include <vector>
 
 namespace Exporter {
@@ -27,21 +33,50 @@ void exportFootage(Camera camera, const TeslaEvent &event, std::optional<std::pa
     std::stable_sort(clips.begin(), clips.end(),
                      [](const ClipRef &a, const ClipRef &b) { return a.startDate < b.startDate; });
 
-    const ExportComposition composition = ExportComposition::build(clips, stop);
-    if (composition.duration <= 0.0)
+    auto composition = std::make_shared<const ExportComposition>(ExportComposition::build(clips, stop));
+    if (composition->duration <= 0.0)
         throw ExportError(ExportError::noClipsForCamera);
 
     double lower = 0.0;
-    double upper = composition.duration;
+    double upper = composition->duration;
     if (range) {
         lower = std::max(0.0, range->first);
-        upper = std::min(range->second, composition.duration);
+        upper = std::min(range->second, composition->duration);
     }
     if (!(upper > lower))
         throw ExportError::failed(QStringLiteral("The chosen stretch lies outside this camera's footage."));
 
-    ExportSession session(composition, lower, upper, destination, std::move(progress), stop);
-    session.run();
+    // A read stuck in the kernel must not hold a stopped export: the session
+    // runs on a thread of its own, left behind if it can't end when asked.
+    // It owns what it uses, and its progress goes quiet once it is left.
+    struct Relay {
+        std::mutex mutex;
+        std::function<void(double)> progress;
+    };
+    if (stop.stop_requested())
+        throw CancellationError();
+    auto relay = std::make_shared<Relay>();
+    relay->progress = std::move(progress);
+    const auto silence = qScopeGuard([relay] {
+        std::lock_guard lock(relay->mutex);
+        relay->progress = nullptr;
+    });
+    try {
+        IOWatchdog::runUntilStopped(
+            [composition, lower, upper, destination, relay](std::stop_token sessionStop) {
+                const auto report = [relay](double fraction) {
+                    std::lock_guard lock(relay->mutex);
+                    if (relay->progress)
+                        relay->progress(fraction);
+                };
+                ExportSession session(*composition, lower, upper, destination, report, sessionStop);
+                session.run();
+                return true;
+            },
+            stop);
+    } catch (const CancellationError &) {
+        throw ExportError(ExportError::cancelled);
+    }
 }
 
 } // namespace Exporter

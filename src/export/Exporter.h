@@ -21,10 +21,10 @@ QString suggestedFileName(const TeslaEvent &event, Camera camera);
 // Blocking; call it off the main thread. The camera's clips are joined back
 // to back, whatever their start dates say. range: seconds of the joined
 // footage, clamped to it. destination: a new file in an existing folder.
-// progress: 0 to 1, on the calling thread.
+// progress: 0 to 1, from the thread doing the writing.
 // Throws CancellationError when stopped before writing began, ExportError
-// otherwise (cancelled when stopped while writing). A partial file is left
-// for the caller.
+// otherwise (cancelled when stopped while writing, within a second even when
+// a read is stuck). A partial file is left for the caller.
 void exportFootage(Camera camera, const TeslaEvent &event, std::optional<std::pair<double, double>> range,
                    const QString &destination, std::function<void(double)> progress, std::stop_token stop = {});
 

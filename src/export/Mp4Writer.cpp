@@ -114,6 +114,8 @@ void Mp4Writer::write(AVPacket *packet)
         last = packet->dts;
     packet->pos = -1;
     const int result = av_interleaved_write_frame(format_, packet);
+    if (result < 0 && !fileFailed_ && !stop_.stop_requested())
+        throw PacketRefused();
     if (result < 0)
         fail(QStringLiteral("The movie couldn't be written"), result);
 }
@@ -146,6 +148,7 @@ int Mp4Writer::writeBytes(void *opaque, uint8_t *buffer, int size)
         if (n < 0) {
             if (errno == EINTR)
                 continue;
+            self->fileFailed_ = true;
             return AVERROR(errno);
         }
         done += int(n);

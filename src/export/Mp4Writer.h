@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <cstdint>
+#include <exception>
 #include <functional>
 #include <stop_token>
 #include <vector>
@@ -21,6 +22,13 @@ struct AVPacket;
 // Whatever was written stays on disk if the writer is dropped unfinished.
 class Mp4Writer {
 public:
+    // The muxer turned down a packet (timestamps or data it can't take) while
+    // the file itself is fine: the clip it came from is at fault, not the movie.
+    class PacketRefused : public std::exception {
+    public:
+        const char *what() const noexcept override { return "packet refused"; }
+    };
+
     // Throws Exporter::ExportError (exportFailed) when the file can't be made.
     Mp4Writer(const QString &path, std::stop_token stop);
     ~Mp4Writer();
@@ -33,7 +41,8 @@ public:
     // Writes the header; stream time bases may change here.
     void begin();
     AVRational timeBase(int stream) const;
-    // Takes the packet's data; timestamps in the stream's time base.
+    // Takes the packet's data; timestamps in the stream's time base. Throws
+    // PacketRefused, or ExportError when the file can't be written.
     void write(AVPacket *packet);
     // Writes the index and moves it to the front.
     void finish();
@@ -54,5 +63,6 @@ private:
     AVFormatContext *format_ = nullptr;
     std::vector<int64_t> lastDts_;
     int64_t bytesWritten_ = 0;
+    bool fileFailed_ = false;
     std::function<void(int64_t)> observer_;
 };

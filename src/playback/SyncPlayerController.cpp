@@ -2,6 +2,7 @@
 
 #include "drive/IOWatchdog.h"
 #include "drive/ReadOnlyFs.h"
+#include "engine/EnginePools.h"
 #include "model/CancellationError.h"
 #include "playback/HostClock.h"
 #include "playback/MediaSource.h"
@@ -87,7 +88,7 @@ QCoro::Task<void> SyncPlayerController::runBuild(QPointer<SyncPlayerController> 
                                                  std::stop_token stop)
 {
     QFuture<std::vector<TileOutcome>> future = QtConcurrent::run(
-        QThreadPool::globalInstance(), [event, stop] { return buildTileData(event, stop); });
+        &EnginePools::media(), [event, stop] { return buildTileData(event, stop); });
     const std::vector<TileOutcome> outcomes = co_await future;
     if (!self || stop.stop_requested())
         co_return;

@@ -1,6 +1,7 @@
 #include "playback/ThumbnailLoader.h"
 
 #include "drive/ReadOnlyFs.h"
+#include "engine/EnginePools.h"
 
 #include <QCache>
 #include <QFile>
@@ -76,7 +77,7 @@ QFuture<std::optional<QImage>> load(const QString &path)
         promise.finish();
         return promise.future();
     }
-    return QtConcurrent::run(QThreadPool::globalInstance(), [path] { return loadNow(path); });
+    return QtConcurrent::run(&EnginePools::media(), [path] { return loadNow(path); });
 }
 
 int cachedCount()

@@ -1,8 +1,10 @@
 #include "state/AppState.h"
 
+#include "drive/DriveBoundary.h"
 #include "drive/ReadableFormats.h"
-#include "engine/AsyncRun.h"
 #include "drive/TeslaCamParser.h"
+#include "engine/AsyncRun.h"
+#include "engine/EnginePools.h"
 #include "health/HealthComputer.h"
 #include "playback/SyncPlayerController.h"
 
@@ -188,7 +190,7 @@ QCoro::Task<void> AppState::scanTask(QPointer<AppState> self, QString root)
     // The key asks the drive for its size, and a failing drive can take
     // minutes to answer that: never on this thread.
     QFuture<QString> keyFuture =
-        AsyncRun::onPool(*QThreadPool::globalInstance(), [root] { return scanCacheKey(root); });
+        AsyncRun::onPool(EnginePools::driveRuns(), [root] { return scanCacheKey(root); });
     const QString key = co_await keyFuture;
     if (!self)
         co_return;
@@ -576,13 +578,26 @@ QCoro::Task<void> AppState::keepTask(QPointer<AppState> self, ArchivePlan plan, 
 {
     auto progress = onMainThread<ArchiveProgress>(self, [](AppState &state, const ArchiveProgress &p) { state.setArchiveProgress(p); });
     ArchiveReport report;
-    try {
-        report = co_await self->engine_.runArchive(plan, vaultURL, progress, task->get_token());
-    } catch (...) {
-        report.cancelled = task->stop_requested();
+    // The Vault may have been chosen before this drive was opened.
+    std::optional<bool> intoDrive;
+    if (const auto root = self->driveRootURL_) {
+        intoDrive = co_await AsyncRun::onPool(EnginePools::quick(), [root = *root, vaultURL] {
+            return DriveBoundary::writesInto(root, vaultURL);
+        });
+        if (!self)
+            co_return;
     }
-    if (!self)
-        co_return;
+    if (intoDrive.value_or(false)) {
+        report.failedFiles.push_back({vaultURL, DriveBoundary::vaultRefusal});
+    } else {
+        try {
+            report = co_await self->engine_.runArchive(plan, vaultURL, progress, task->get_token());
+        } catch (...) {
+            report.cancelled = task->stop_requested();
+        }
+        if (!self)
+            co_return;
+    }
     // One stretch, no await between the steps.
     self->setIsArchiving(false);
     self->setArchiveProgress(std::nullopt);
@@ -626,7 +641,7 @@ void AppState::setVaultURL(const QString &url)
     QPointer<AppState> self(this);
     EngineFacade *engine = &engine_;
     // Detached: the index load runs off the main thread and hops back.
-    detachedLoads_.addFuture(QtConcurrent::run([self, engine, url] {
+    detachedLoads_.addFuture(QtConcurrent::run(&EnginePools::quick(), [self, engine, url] {
         VaultIndex index = engine->loadVaultIndex(url);
         QMetaObject::invokeMethod(
             self.data(),

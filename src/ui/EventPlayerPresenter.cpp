@@ -254,5 +254,6 @@ ExportFlow *EventPlayerPresenter::newExportFlow()
         exportFlow_->deleteLater();
     }
     exportFlow_ = new ExportFlow(appState_->engine(), *event_, this);
+    exportFlow_->setDriveRoot(appState_->driveRootURL());
     return exportFlow_;
 }

@@ -6,6 +6,8 @@
 #include "export/Exporter.h"
 #include "model/CancellationError.h"
 #include "model/PlatformWords.h"
+#include "drive/DriveBoundary.h"
+#include "engine/EnginePools.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -211,17 +213,22 @@ bool ExportFlow::saveTo(const QString &destination)
     isSaving_ = true;
     Q_EMIT changed();
     const QString source = *exportedPath_;
-    const QFuture<bool> copy = AsyncRun::onPool(*QThreadPool::globalInstance(),
-                                                [source, path] { return copyReplacing(source, path); });
-    auto *watcher = new QFutureWatcher<bool>(this);
-    connect(watcher, &QFutureWatcher<bool>::finished, this, [this, watcher, path] {
+    // The failure's sentence; empty when the copy is in place.
+    const QFuture<QString> copy = AsyncRun::onPool(EnginePools::quick(), [source, path, drive = driveRoot_] {
+        if (drive && DriveBoundary::writesInto(*drive, path).value_or(false))
+            return DriveBoundary::exportRefusal;
+        return copyReplacing(source, path) ? QString() : saveFailureMessage;
+    });
+    auto *watcher = new QFutureWatcher<QString>(this);
+    connect(watcher, &QFutureWatcher<QString>::finished, this, [this, watcher, path] {
         watcher->deleteLater();
-        const bool ok = watcher->future().result();
+        const QString failure = watcher->future().result();
+        const bool ok = failure.isEmpty();
         isSaving_ = false;
         if (ok)
             savedFileName_ = QFileInfo(path).fileName();
         else
-            saveErrorMessage_ = saveFailureMessage;
+            saveErrorMessage_ = failure;
         Q_EMIT changed();
         Q_EMIT saveFinished(ok);
     });

@@ -73,6 +73,9 @@ public:
     // The dialog's fixed words: title, explanation, buttons, tooltips.
     static QVariantMap texts();
 
+    // The car's drive, where no copy may be saved.
+    void setDriveRoot(const std::optional<QString> &root) { driveRoot_ = root; }
+
     Q_INVOKABLE void startExport();
     Q_INVOKABLE void stop();
     // Copies the finished file to destination (a path or file:// URL),
@@ -114,5 +117,6 @@ private:
     std::optional<QString> savedFileName_;
     std::optional<QString> saveErrorMessage_;
     bool isSaving_ = false;
+    std::optional<QString> driveRoot_;
     std::unique_ptr<QFutureWatcher<void>> watcher_;
 };

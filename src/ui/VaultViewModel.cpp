@@ -3,10 +3,14 @@
 #include "FileChooser.h"
 #include "InboxPresenter.h"
 #include "SymbolIcons.h"
+#include "drive/DriveBoundary.h"
+#include "engine/AsyncRun.h"
+#include "engine/EnginePools.h"
 #include "model/PlatformWords.h"
 #include "state/AppState.h"
 
 #include <QDir>
+#include <QFutureWatcher>
 #include <QStorageInfo>
 #include <QUrl>
 
@@ -67,6 +71,8 @@ QVariantMap VaultViewModel::texts() const
         {QStringLiteral("removalTitle"), QStringLiteral("Move this event to the Trash?")},
         {QStringLiteral("moveToTrash"), QStringLiteral("Move to Trash")},
         {QStringLiteral("cancel"), QStringLiteral("Cancel")},
+        {QStringLiteral("refusalTitle"), QStringLiteral("Choose a Different Folder")},
+        {QStringLiteral("chooseAnother"), QStringLiteral("Choose Another Folder…")},
         {QStringLiteral("overlayIcon"), icon("checkmark.shield")},
         {QStringLiteral("overlayTitle"), QStringLiteral("Keeping footage safe…")},
         {QStringLiteral("overlayCancelTip"),
@@ -223,8 +229,36 @@ void VaultViewModel::chooseFolder(const QVariant &url)
         return;
     const QUrl u = url.toUrl();
     const QString path = u.isLocalFile() ? u.toLocalFile() : url.toString();
-    if (!path.isEmpty())
+    if (path.isEmpty())
+        return;
+    dismissChoiceRefusal();
+    const std::optional<QString> drive = state_->driveRootURL();
+    if (!drive) {
         state_->setVaultURL(path);
+        return;
+    }
+    // Resolving the folder asks the disks, and the car's may not answer.
+    auto *watcher = new QFutureWatcher<std::optional<bool>>(this);
+    connect(watcher, &QFutureWatcher<std::optional<bool>>::finished, this, [this, watcher, path] {
+        watcher->deleteLater();
+        if (watcher->future().result().value_or(false)) {
+            choiceRefusal_ = DriveBoundary::vaultRefusal;
+            Q_EMIT choiceRefusalChanged();
+        } else if (state_) {
+            state_->setVaultURL(path);
+        }
+    });
+    watcher->setFuture(AsyncRun::onPool(EnginePools::quick(), [root = *drive, path] {
+        return DriveBoundary::writesInto(root, path);
+    }));
+}
+
+void VaultViewModel::dismissChoiceRefusal()
+{
+    if (choiceRefusal_.isEmpty())
+        return;
+    choiceRefusal_.clear();
+    Q_EMIT choiceRefusalChanged();
 }
 
 void VaultViewModel::presentFolderPicker()

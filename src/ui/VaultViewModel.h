@@ -27,6 +27,7 @@ class VaultViewModel : public QObject {
     Q_PROPERTY(double progressFraction READ progressFraction NOTIFY progressChanged)
     Q_PROPERTY(QString progressLine READ progressLine NOTIFY progressChanged)
     Q_PROPERTY(QVariantMap report READ report NOTIFY reportChanged)
+    Q_PROPERTY(QString choiceRefusal READ choiceRefusal NOTIFY choiceRefusalChanged)
 public:
     explicit VaultViewModel(AppState *state, QObject *parent = nullptr);
 
@@ -41,6 +42,8 @@ public:
     QString progressLine() const;
     // heading, headingIcon, lines: [{icon, text}]; empty without a report.
     QVariantMap report() const;
+    // Why the folder just chosen can't be the Vault; empty when it could.
+    QString choiceRefusal() const { return choiceRefusal_; }
 
     // {present, files: [{name, sha256}], archivedLine, …}; present false with no index entry.
     Q_INVOKABLE QVariantMap verification(const QString &eventID) const;
@@ -48,8 +51,10 @@ public:
     // "Choose Folder…", "Change Vault Folder": the folder dialog, whose
     // answer goes to chooseFolder.
     Q_INVOKABLE void presentFolderPicker();
-    // The folder picker's answer (a file URL or a path).
+    // The folder picker's answer (a file URL or a path). A folder on the car's
+    // drive is refused (choiceRefusal); the check runs off this thread.
     Q_INVOKABLE void chooseFolder(const QVariant &url);
+    Q_INVOKABLE void dismissChoiceRefusal();
     Q_INVOKABLE void remove(const QString &eventID);
     Q_INVOKABLE void cancelArchive();
 
@@ -69,6 +74,7 @@ Q_SIGNALS:
     void summaryChanged();
     void progressChanged();
     void reportChanged();
+    void choiceRefusalChanged();
 
 private:
     void refreshFreeSpace();
@@ -76,4 +82,5 @@ private:
     QPointer<AppState> state_;
     EventListModel *rows_;
     std::optional<qint64> freeBytes_;
+    QString choiceRefusal_;
 };

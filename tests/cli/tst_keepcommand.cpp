@@ -10,6 +10,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QProcess>
+#include <QScopeGuard>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
@@ -49,6 +50,15 @@ Result cli(const QStringList &arguments, const QProcessEnvironment &env = QProce
     process.setProcessEnvironment(env);
     process.start(QStringLiteral(KEELHOLD_CLI_PATH), arguments);
     return finish(process);
+}
+
+// Standard output up to the whole report, read while the program runs.
+QByteArray reportFrom(QProcess &process)
+{
+    QByteArray out;
+    while (QJsonDocument::fromJson(out).isNull() && process.waitForReadyRead(60000))
+        out += process.readAllStandardOutput();
+    return out;
 }
 
 ArchiveReport parseReport(const QByteArray &out)
@@ -185,18 +195,86 @@ private Q_SLOTS:
         QVERIFY(process.waitForStarted());
         QTRY_VERIFY_WITH_TIMEOUT(fs.isHanging(), 20000);
         ::kill(pid_t(process.processId()), SIGINT);
-        // The stop is asked for first; the dead drive answers late, and the
-        // run then stops instead of going on.
-        QByteArray said;
-        QTRY_VERIFY_WITH_TIMEOUT((said += process.readAllStandardError()).contains("Stopping"), 10000);
+        // The drive doesn't answer: the read is left behind and the run
+        // stops all the same. The kernel holds the process itself until
+        // the read ends, so the drive lets go once the report is out.
+        const QByteArray printed = reportFrom(process);
         fs.release();
-        const Result r = finish(process);
+        Result r = finish(process);
+        r.out = printed + r.out;
+        QVERIFY2(r.err.contains("Stopping"), qPrintable(r.err));
         QCOMPARE(r.exitCode, 130);
         const ArchiveReport report = parseReport(r.out);
         QVERIFY(report.cancelled);
         QVERIFY(report.failedFiles.empty());
         QCOMPARE(report.archivedEvents.size(), size_t(1));
         QCOMPARE(VaultIndex::load(vault).events, report.archivedEvents);
+    }
+
+    // A clip whose read never comes back costs that clip, after its limit;
+    // the rest is kept and the program ends.
+    void deadReadCostsOnlyItsFile()
+    {
+        if (!FaultyFs::available())
+            QSKIP("needs root and /dev/fuse");
+        QTemporaryDir mountPoint, dir;
+        FaultyFs fs(mountPoint.path());
+        QVERIFY(fs.isMounted());
+        const QString folder = "TeslaCam/SentryClips/2026-07-18_09-15-32/";
+        fs.addFile(folder + "2026-07-18_09-14-32-front.mp4", DriveBuilder::randomBytes(1000, 1));
+        fs.addHeldFile(folder + "2026-07-18_09-14-32-back.mp4", DriveBuilder::randomBytes(1000, 2));
+        fs.addFile(folder + "2026-07-18_09-15-32-front.mp4", DriveBuilder::randomBytes(1000, 3));
+        const QString vault = dir.filePath("Vault");
+
+        QProcess process;
+        process.start(QStringLiteral(KEELHOLD_CLI_PATH),
+                      {"keep", mountPoint.filePath("TeslaCam"), "--vault", vault, "--timeout", "1"});
+        const QByteArray printed = reportFrom(process);
+        fs.release();
+        Result r = finish(process);
+        r.out = printed + r.out;
+        QCOMPARE(r.exitCode, 1);
+        const ArchiveReport report = parseReport(r.out);
+        QCOMPARE(report.failedFiles.size(), size_t(1));
+        QVERIFY(report.failedFiles[0].path.endsWith("09-14-32-back.mp4"));
+        QVERIFY2(report.failedFiles[0].reason.contains("took too long"), qPrintable(report.failedFiles[0].reason));
+        QCOMPARE(report.archivedEvents.size(), size_t(1));
+        QCOMPARE(report.archivedEvents[0].files.size(), size_t(2));
+    }
+
+    // Nothing of ours is written on the car's drive: not a Vault elsewhere on
+    // it, not one reached through a link, not an exported movie.
+    void writesOntoTheDriveAreRefused()
+    {
+        if (::geteuid() != 0)
+            QSKIP("needs root to mount a drive");
+        QTemporaryDir dir;
+        const QString mount = dir.filePath("USB");
+        QDir().mkpath(mount);
+        QProcess mounting;
+        mounting.start("mount", {"-t", "tmpfs", "-o", "size=64m", "tmpfs", mount});
+        QVERIFY(mounting.waitForFinished() && mounting.exitCode() == 0);
+        const auto unmount = qScopeGuard([&] { QProcess::execute("umount", {"-l", mount}); });
+        DriveBuilder drive(mount + "/TeslaCam");
+        drive.addEvent("SentryClips", "2026-07-18_09-15-32", 1, 1000);
+        const TreeSnapshot before = TreeSnapshot::take(mount);
+        QVERIFY(QFile::link(mount + "/TeslaCam/SentryClips", dir.filePath("link")));
+
+        for (const QString &vault : {mount + "/Vault", dir.filePath("link") + "/Vault", mount + "/TeslaCam/../Vault"}) {
+            const Result r = cli({"keep", drive.root(), "--vault", vault});
+            QCOMPARE(r.exitCode, 2);
+            QCOMPARE(r.err.trimmed(), QStringLiteral("Keelhold never writes to your Tesla drive, so your Vault has to "
+                                                     "be a folder somewhere else."));
+        }
+        const Result exported = cli({"export", drive.root(), "--event", "sentry|2026-07-18_09-15-32", "--camera",
+                                     "front", "-o", mount + "/movie.mp4"});
+        QCOMPARE(exported.exitCode, 2);
+        QVERIFY2(exported.err.contains("never writes to your Tesla drive"), qPrintable(exported.err));
+        QCOMPARE(before.differences(TreeSnapshot::take(mount), true), QString());
+
+        // A Vault beside the drive is fine.
+        const Result kept = cli({"keep", drive.root(), "--vault", dir.filePath("Vault")});
+        QCOMPARE(kept.exitCode, 0);
     }
 
     void fullDiskWithoutRoot()

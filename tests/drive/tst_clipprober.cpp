@@ -37,17 +37,13 @@ using Clock = std::chrono::steady_clock;
 
 namespace {
 
-// A dead drive that answers late: every read of its clips waits until
-// released. From its own time after the first held read on, it lets go of
-// all of them. It also notes the most reads it held at once, which is how
-// many probes were in flight.
+// A dead drive: no read of its clips ever answers (until the test ends).
+// It notes the most reads it held at once, which is how many probes were
+// waiting on it.
 class HeldDrive {
 public:
     HeldDrive() : fs_(mount_.path()) {}
-    ~HeldDrive()
-    {
-        fs_.release();
-    }
+    ~HeldDrive() { fs_.release(); }
     bool ok() const { return fs_.isMounted(); }
 
     // A clip whose every read is held, as a path on the drive.
@@ -57,24 +53,14 @@ public:
         return fs_.addHeldFile(name, QByteArray(128 * 1024, 'x'));
     }
 
-    // Lets go `after` the first held read: well past the probes' own limit,
-    // which a dead drive's late answer must not beat.
-    void releaseAfter(std::chrono::milliseconds after)
-    {
-        watcher_ = std::jthread([this, after] {
-            if (fs_.waitUntilHeld())
-                std::this_thread::sleep_for(after);
-            fs_.release();
-        });
-    }
-
+    bool waitUntilHeld(int count, std::chrono::milliseconds limit = 20s) { return fs_.waitUntilHeld(count, limit); }
+    int held() const { return fs_.heldRequests(); }
     int mostHeld() const { return fs_.mostHeldRequests(); }
 
 private:
     QTemporaryDir mount_;
     FaultyFs fs_;
     int count_ = 0;
-    std::jthread watcher_;
 };
 
 double secondsSince(Clock::time_point start)
@@ -349,8 +335,6 @@ private Q_SLOTS:
         QVERIFY(drive.ok());
         // The scan saw a full-sized clip; the drive stopped answering since.
         const ClipRef clip = clipAt(drive.clip(), 30'000'000);
-        // Let go well after the limit.
-        drive.releaseAfter(900ms);
         const auto start = Clock::now();
         const ClipProber::ProbeResult result = ClipProber::probeDetailed(clip, 500ms);
         const double elapsed = secondsSince(start);
@@ -367,7 +351,6 @@ private Q_SLOTS:
         QVERIFY(drive.ok());
         std::vector<ClipRef> clips{clipAt(drive.clip(), 30'000'000), clipAt(copyOf(h264_)), clipAt(randomClip()),
                                    clipAt(copyOf(h265_))};
-        drive.releaseAfter(1500ms);
         const auto start = Clock::now();
         const auto events = ClipProber::probeAll({eventWith(clips)}, 1s, 2);
         const double elapsed = secondsSince(start);
@@ -481,14 +464,20 @@ private Q_SLOTS:
         std::vector<ClipRef> clips;
         for (int i = 0; i < 4; ++i)
             clips.push_back(clipAt(drive.clip(), 30'000'000));
-        drive.releaseAfter(900ms);
-        const auto start = Clock::now();
-        const auto events = ClipProber::probeAll({eventWith(clips)}, 300ms, 10);
-        const double elapsed = secondsSince(start);
-        QCOMPARE(healthsOf(events), std::vector<ClipHealth>(4, ClipHealth::timedOut));
-        QCOMPARE(drive.mostHeld(), 4);
-        // One round of hanging, not two or four.
-        QVERIFY2(elapsed < 1.7, qPrintable(QString::number(elapsed)));
+        // All four wait on the drive at once, long before any limit passes.
+        std::stop_source stop;
+        bool cancelled = false;
+        std::jthread pass([&] {
+            try {
+                ClipProber::probeAll({eventWith(clips)}, 60s, 10, {}, stop.get_token());
+            } catch (const CancellationError &) {
+                cancelled = true;
+            }
+        });
+        QVERIFY(drive.waitUntilHeld(4, 30s));
+        stop.request_stop();
+        pass.join();
+        QVERIFY(cancelled);
     }
 
     void capBoundsProbesInFlight()
@@ -500,13 +489,15 @@ private Q_SLOTS:
         std::vector<ClipRef> clips;
         for (int i = 0; i < 4; ++i)
             clips.push_back(clipAt(drive.clip(), 30'000'000));
-        // Two at a time: the second pair begins only once the first pair's
-        // reads came back, by which time the drive answers again.
-        drive.releaseAfter(900ms);
-        const auto events = ClipProber::probeAll({eventWith(clips)}, 300ms, 2);
-        QCOMPARE(healthsOf(events), (std::vector<ClipHealth>{ClipHealth::timedOut, ClipHealth::timedOut,
-                                                             ClipHealth::unreadable, ClipHealth::unreadable}));
-        QCOMPARE(drive.mostHeld(), 2);
+        // Two at a time: the second pair begins only once the first pair
+        // was given up on, its reads left behind.
+        std::vector<TeslaEvent> events;
+        std::jthread pass([&] { events = ClipProber::probeAll({eventWith(clips)}, 1s, 2); });
+        QVERIFY(drive.waitUntilHeld(2));
+        QCOMPARE(drive.held(), 2);
+        pass.join();
+        QCOMPARE(healthsOf(events), std::vector<ClipHealth>(4, ClipHealth::timedOut));
+        QCOMPARE(drive.mostHeld(), 4);
     }
 
     void capZeroAndNoClipsChangeNothing()
@@ -551,12 +542,11 @@ private Q_SLOTS:
         std::vector<ClipRef> clips;
         for (int i = 0; i < 6; ++i)
             clips.push_back(clipAt(drive.clip(), 30'000'000));
-        // The held reads are let go late, as a dead drive answers; the
-        // pass must end then, not after each clip's own 10 seconds.
-        drive.releaseAfter(500ms);
+        // The reads never answer; the pass must end soon after the stop,
+        // not after each clip's own 10 seconds.
         std::stop_source stop;
         std::jthread stopper([&] {
-            std::this_thread::sleep_for(200ms);
+            drive.waitUntilHeld(2);
             stop.request_stop();
         });
         int progressCalls = 0;

@@ -8,6 +8,9 @@
 #include "engine/ScanCache.h"
 #include "engine/TriageStore.h"
 #include "export/ExportError.h"
+#include "playback/SyncPlayerController.h"
+#include "support/DriveBuilder.h"
+#include "support/FaultyFs.h"
 #include "support/IsolatedHome.h"
 #include "support/TeslaCamFixture.h"
 #include "support/TestClips.h"
@@ -63,6 +66,7 @@ private Q_SLOTS:
     void exportErrorsKeepTheirType();
     void driveEventsIsOneStream();
     void theDriveIsNeverWritten();
+    void stuckDriveWorkStarvesNothingElse();
 
 private:
     QString drivePath() const { return dir_.filePath(QStringLiteral("drive/TeslaCam")); }
@@ -339,6 +343,54 @@ void TestLiveEngine::theDriveIsNeverWritten()
 {
     const QString differences = before_.differences(TreeSnapshot::take(drivePath()));
     QVERIFY2(differences.isEmpty(), qPrintable(differences));
+}
+
+// A probe pass and a keep each stuck on clips the drive never answers for
+// leave the rest free: the Vault lists, a player builds and an export from
+// the Vault finishes while they wait, and both stop when asked.
+void TestLiveEngine::stuckDriveWorkStarvesNothingElse()
+{
+    if (!FaultyFs::available())
+        QSKIP("needs root and /dev/fuse");
+    const QString vault = dir_.filePath(QStringLiteral("vault-beside-a-dead-drive"));
+    const DriveScan scan = engine_.scanDrive(drivePath(), {}).result();
+    const TeslaEvent *sentry = findEvent(scan.events, QStringLiteral("sentry|2024-06-01_15-05-30"));
+    QVERIFY(sentry);
+    QVERIFY(engine_.runArchive(engine_.planArchive({*sentry}, VaultIndex()), vault, {}).result().failedFiles.empty());
+    const std::vector<TeslaEvent> kept = engine_.scanVault(vault).result();
+    QCOMPARE(kept.size(), size_t(1));
+
+    QTemporaryDir mountPoint;
+    FaultyFs fs(mountPoint.path());
+    QVERIFY(fs.isMounted());
+    for (const char *camera : {"front", "back", "left_repeater", "right_repeater", "left_pillar", "right_pillar"})
+        fs.addHeldFile(QStringLiteral("TeslaCam/SentryClips/2024-06-05_10-00-00/2024-06-05_09-59-00-%1.mp4").arg(camera),
+                       DriveBuilder::randomBytes(100000, 7));
+    const std::vector<TeslaEvent> dead =
+        engine_.scanDrive(mountPoint.filePath(QStringLiteral("TeslaCam")), {}).result().events;
+    QCOMPARE(dead.size(), size_t(1));
+    QFuture<std::vector<TeslaEvent>> probe = engine_.probeAll(dead);
+    std::stop_source stopKeep;
+    QFuture<ArchiveReport> keep = engine_.runArchive(engine_.planArchive(dead, VaultIndex()),
+                                                     dir_.filePath(QStringLiteral("vault-dead")), {}, stopKeep.get_token());
+    QVERIFY(fs.waitUntilHeld(5)); // four probes and one copy
+
+    // Each limit is far below the ten seconds the stuck work holds on for.
+    QFuture<std::vector<TeslaEvent>> listing = engine_.scanVault(vault);
+    QTRY_VERIFY_WITH_TIMEOUT(listing.isFinished(), 3000);
+    QCOMPARE(listing.result().size(), size_t(1));
+    SyncPlayerController player(kept.front());
+    QTRY_VERIFY_WITH_TIMEOUT(!player.isLoadingTiles() && !player.tiles().empty() && player.tiles().front().player, 3000);
+    const QString movie = dir_.filePath(QStringLiteral("from-the-vault.mp4"));
+    QFuture<void> exported = engine_.exportFootage(Camera::front, kept.front(), std::nullopt, movie, {});
+    QTRY_VERIFY_WITH_TIMEOUT(exported.isFinished(), 5000);
+    QVERIFY(QFileInfo(movie).size() > 1000);
+
+    QVERIFY(!probe.isFinished() && !keep.isFinished());
+    probe.cancel();
+    stopKeep.request_stop();
+    QTRY_VERIFY_WITH_TIMEOUT(probe.isFinished() && keep.isFinished(), 3000);
+    QVERIFY(keep.result().cancelled);
 }
 
 KEELHOLD_ISOLATED_TEST_MAIN(TestLiveEngine)

@@ -4,7 +4,9 @@
 #include "PlayerKeyActions.h"
 #include "PlayerLayout.h"
 #include "EventPlayerPresenter.h"
+#include "VaultViewModel.h"
 #include "VideoMirror.h"
+#include "drive/DriveBoundary.h"
 #include "engine/LiveEngine.h"
 #include "engine/MockEngine.h"
 #include "playback/TrackPlayer.h"
@@ -12,6 +14,7 @@
 #include "support/MovieFacts.h"
 #include "support/TeslaCamFixture.h"
 #include "support/TestClips.h"
+#include "support/TreeSnapshot.h"
 
 #include <QFile>
 #include <QScopeGuard>
@@ -300,6 +303,58 @@ private Q_SLOTS:
         again.startExport();
         QTRY_COMPARE_WITH_TIMEOUT(again.stateName(), QStringLiteral("ready"), 30000);
         QVERIFY(QFileInfo(*again.exportedPath()).path() != QFileInfo(first).path());
+    }
+
+    // Nothing of ours lands on the car's drive: a Vault chosen there is
+    // refused, a keep into one chosen before the drive was opened fails with
+    // the reason, and a movie can't be saved there.
+    void nothingOfOursLandsOnTheDrive()
+    {
+        if (::geteuid() != 0)
+            QSKIP("needs root to mount a drive");
+        QTemporaryDir mountPoint, dir;
+        if (QProcess::execute(QStringLiteral("mount"), {QStringLiteral("-t"), QStringLiteral("tmpfs"), QStringLiteral("-o"),
+                                                        QStringLiteral("size=64m"), QStringLiteral("tmpfs"), mountPoint.path()}) != 0)
+            QSKIP("tmpfs mount not available");
+        const auto unmount = qScopeGuard([&] { QProcess::execute(QStringLiteral("umount"), {QStringLiteral("-l"), mountPoint.path()}); });
+        TeslaCamFixture fx(mountPoint.filePath(QStringLiteral("TeslaCam")));
+        const QString id = realEvent(fx, QStringLiteral("2026-02-01_10-00-40"), QStringLiteral("2026-02-01T10:00:30"), 1);
+        LiveEngine engine;
+        AppState state(engine);
+        scan(state, fx.root(), 1);
+        const TreeSnapshot before = TreeSnapshot::take(mountPoint.path());
+        const QString onDrive = mountPoint.filePath(QStringLiteral("Vault"));
+
+        VaultViewModel vault(&state);
+        vault.chooseFolder(QUrl::fromLocalFile(onDrive));
+        QTRY_COMPARE_WITH_TIMEOUT(vault.choiceRefusal(), DriveBoundary::vaultRefusal, 10000);
+        QVERIFY(!state.vaultURL());
+        vault.chooseFolder(QUrl::fromLocalFile(dir.filePath(QStringLiteral("Vault"))));
+        QCOMPARE(vault.choiceRefusal(), QString());
+        QTRY_VERIFY_WITH_TIMEOUT(state.vaultURL() == dir.filePath(QStringLiteral("Vault")), 10000);
+
+        // As if remembered from before this drive was plugged in.
+        state.setVaultURL(onDrive);
+        state.keep({state.driveScan()->events.front()});
+        QTRY_VERIFY_WITH_TIMEOUT(state.lastArchiveReport() && !state.isArchiving(), 10000);
+        QCOMPARE(state.lastArchiveReport()->archivedEvents.size(), size_t(0));
+        QCOMPARE(state.lastArchiveReport()->failedFiles.size(), size_t(1));
+        QCOMPARE(state.lastArchiveReport()->failedFiles.front().reason, DriveBoundary::vaultRefusal);
+
+        EventPlayerPresenter presenter;
+        presenter.setAppState(&state);
+        presenter.setEventID(id);
+        ExportFlow *flow = presenter.newExportFlow();
+        QVERIFY(flow);
+        flow->startExport();
+        QTRY_COMPARE_WITH_TIMEOUT(flow->stateName(), QStringLiteral("ready"), 30000);
+        QSignalSpy saved(flow, &ExportFlow::saveFinished);
+        QVERIFY(flow->saveTo(mountPoint.filePath(QStringLiteral("TeslaCam/movie.mp4"))));
+        QTRY_COMPARE_WITH_TIMEOUT(saved.count(), 1, 10000);
+        QCOMPARE(saved.takeFirst().at(0).toBool(), false);
+        QCOMPARE(flow->saveErrorMessage(), std::optional<QString>(DriveBoundary::exportRefusal));
+
+        QCOMPARE(before.differences(TreeSnapshot::take(mountPoint.path()), true), QString());
     }
 
     // A copy that can't finish leaves what was at the destination, and no

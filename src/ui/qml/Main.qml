@@ -206,6 +206,30 @@ ApplicationWindow {
         onClosed: appState.showEncryptionGuide = false
         contentItem: EncryptionGuideView { onDismissed: appState.showEncryptionGuide = false }
     }
+    Dialog {
+        objectName: "vaultChoiceRefusal"
+        parent: Overlay.overlay
+        anchors.centerIn: parent
+        modal: true
+        width: Math.min(440, window.width - 40)
+        visible: vault.choiceRefusal !== ""
+        title: vault.texts.refusalTitle
+        onClosed: vault.dismissChoiceRefusal()
+        contentItem: Label { text: vault.choiceRefusal; wrapMode: Text.WordWrap }
+        footer: DialogButtonBox {
+            Button {
+                objectName: "chooseAnotherVaultFolder"
+                text: vault.texts.chooseAnother
+                DialogButtonBox.buttonRole: DialogButtonBox.AcceptRole
+                onClicked: { vault.dismissChoiceRefusal(); vault.presentFolderPicker() }
+            }
+            Button {
+                text: vault.texts.cancel
+                DialogButtonBox.buttonRole: DialogButtonBox.RejectRole
+                onClicked: vault.dismissChoiceRefusal()
+            }
+        }
+    }
     Popup {
         id: reportSheet
         modal: true

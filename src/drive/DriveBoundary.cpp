@@ -1,0 +1,82 @@
+#include "drive/DriveBoundary.h"
+
+#include "drive/IOWatchdog.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <climits>
+#include <cstdlib>
+#include <sys/stat.h>
+
+namespace DriveBoundary {
+
+namespace {
+
+struct Resolved {
+    QString path;
+    dev_t device = 0;
+};
+
+std::optional<Resolved> resolve(const QString &path)
+{
+    char buffer[PATH_MAX];
+    if (!::realpath(QFile::encodeName(path).constData(), buffer))
+        return std::nullopt;
+    struct stat info {};
+    if (::stat(buffer, &info) != 0)
+        return std::nullopt;
+    return Resolved{QFile::decodeName(buffer), info.st_dev};
+}
+
+// The nearest part of the path that is there: where a new file would land.
+std::optional<Resolved> resolveNearest(QString path)
+{
+    path = QDir::cleanPath(QDir::current().absoluteFilePath(path));
+    for (;;) {
+        if (auto resolved = resolve(path))
+            return resolved;
+        const qsizetype slash = path.lastIndexOf(QLatin1Char('/'));
+        if (slash <= 0)
+            return resolve(QStringLiteral("/"));
+        path.truncate(slash);
+    }
+}
+
+bool onComputerDisk(dev_t device)
+{
+    for (const QString &own : {QStringLiteral("/"), QDir::homePath(), QDir::tempPath()})
+        if (auto resolved = resolve(own); resolved && resolved->device == device)
+            return true;
+    return false;
+}
+
+bool decide(const QString &driveRoot, const QString &destination)
+{
+    const auto drive = resolve(driveRoot);
+    if (!drive)
+        return false; // nothing there to protect
+    const auto target = resolveNearest(destination);
+    if (!target)
+        return false;
+    if (target->device != drive->device)
+        return false;
+    if (!onComputerDisk(drive->device))
+        return true;
+    return target->path == drive->path || target->path.startsWith(drive->path + QLatin1Char('/'));
+}
+
+} // namespace
+
+std::optional<bool> writesInto(const QString &driveRoot, const QString &destination)
+{
+    try {
+        return IOWatchdog::run(std::chrono::seconds(3), [driveRoot, destination](std::stop_token) {
+            return decide(driveRoot, destination);
+        });
+    } catch (...) {
+        return std::nullopt;
+    }
+}
+
+} // namespace DriveBoundary
