@@ -98,7 +98,8 @@ _keelhold_cli()
             return
             ;;
         --camera)
-            COMPREPLY=($(compgen -W "$(sed -n 's/.*One of: \([^.]*\)\..*/\1/p' <<<"$help" | tr -d ,)" -- "$cur"))
+            # "One of: front, back, …." may run over several lines.
+            COMPREPLY=($(compgen -W "$(sed -n '/One of: /{:a;/\.$/!{N;ba};s/\n */ /g;s/.*One of: \(.*\)\./\1/p}' <<<"$help" | tr -d ,)" -- "$cur"))
             return
             ;;
         --vault)

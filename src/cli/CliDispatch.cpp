@@ -62,7 +62,7 @@ const std::vector<Command> &commands()
 QString helpText()
 {
     QString text = QStringLiteral(
-        "Usage: keelhold-cli COMMAND FOLDER [OPTIONS]\n"
+        "Usage: keelhold-cli COMMAND [ARGUMENTS]\n"
         "  or:  keelhold-cli help COMMAND\n"
         "  or:  keelhold-cli --help | --version\n"
         "\n"

@@ -111,11 +111,12 @@ private Q_SLOTS:
 
     void nothingAndNoNoiseWhereThereIsNoDrive()
     {
-        for (const QString &line : {QStringLiteral("keelhold-cli export %1/nowhere --event "),
-                                    QStringLiteral("keelhold-cli vault remove %1/nowhere "),
+        const QString nowhere = tmp_.filePath(QStringLiteral("nowhere"));
+        for (const QString &line : {QStringLiteral("keelhold-cli export ") + nowhere + QStringLiteral(" --event "),
+                                    QStringLiteral("keelhold-cli vault remove ") + nowhere + QLatin1Char(' '),
                                     QStringLiteral("keelhold-cli export --event "),
                                     QStringLiteral("keelhold-cli nosuch --")}) {
-            const Completion c = complete(line.arg(tmp_.path()));
+            const Completion c = complete(line);
             QVERIFY2(c.err.isEmpty(), qPrintable(c.err));
             QCOMPARE(c.words, QStringList());
         }
