@@ -6,7 +6,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -109,7 +108,7 @@ private Q_SLOTS:
     void manPagesCarryTheHelp()
     {
         const QByteArray app = gunzip(at("share/man/man1/keelhold.1.gz"));
-        QVERIFY(app.startsWith(".\\\"") || app.contains("\n.TH KEELHOLD \"1\""));
+        QVERIFY(app.contains("\n.TH KEELHOLD \"1\""));
         QVERIFY(app.contains("\\-\\-sample"));
         QVERIFY(app.contains("Exit status"));
         const QByteArray cli = gunzip(at("share/man/man1/keelhold-cli.1.gz"));
@@ -132,15 +131,14 @@ private Q_SLOTS:
         if (!QFileInfo(QStringLiteral(KEELHOLD_BUILD_DIR "/resources/SampleTeslaCam/TeslaCam")).isDir())
             QSKIP("this build makes no sample footage");
         QVERIFY(QFileInfo(at("share/keelhold/SampleTeslaCam/TeslaCam")).isDir());
-        const QString xvfbRun = QStandardPaths::findExecutable(QStringLiteral("xvfb-run"));
-        if (xvfbRun.isEmpty())
-            QSKIP("xvfb-run is not installed (scripts/setup installs it)");
+        if (qEnvironmentVariableIsEmpty("DISPLAY"))
+            QSKIP("needs a display (run the suite under xvfb-run)");
         const QString shot = prefix_.filePath(QStringLiteral("window.png"));
-        QProcessEnvironment env = withoutDisplay();
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        for (const char *name : {"QT_QPA_PLATFORM", "LD_LIBRARY_PATH", "KEELHOLD_SAMPLE_FOOTAGE"})
+            env.remove(QString::fromLatin1(name));
         env.insert(QStringLiteral("KEELHOLD_SCREENSHOT"), shot);
-        env.remove(QStringLiteral("KEELHOLD_SAMPLE_FOOTAGE"));
-        const ProgramRun::Result r = ProgramRun::run(
-            xvfbRun, {"-a", "-s", "-screen 0 1280x900x24", at("bin/keelhold"), "--sample"}, env, 120000);
+        const ProgramRun::Result r = ProgramRun::run(at("bin/keelhold"), {"--sample"}, env, 120000);
         QVERIFY2(r.exitCode == 0, qPrintable(r.err));
         QVERIFY2(!r.err.contains(QLatin1String("sample footage is not installed")), qPrintable(r.err));
         QVERIFY2(!r.err.contains(QLatin1String("qrc:/")), qPrintable(r.err));
