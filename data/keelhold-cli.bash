@@ -2,14 +2,20 @@
 # ids of the drive or Vault folder named on the line. Commands and options are
 # read from keelhold-cli's own help, so they follow the installed version.
 
-# The help of keelhold-cli ($1), or of one of its commands ($2).
+# The help of keelhold-cli ($1), or of one of its commands ($2). Kept for the
+# shell's life: every Tab would otherwise start the program once more.
+declare -gA _keelhold_cli_help_cache
 _keelhold_cli_help()
 {
-    if [[ $2 ]]; then
-        "$1" help "$2" 2>/dev/null
-    else
-        "$1" --help 2>/dev/null
+    local key="$1 $2"
+    if [[ ! -v _keelhold_cli_help_cache[$key] ]]; then
+        if [[ $2 ]]; then
+            _keelhold_cli_help_cache[$key]=$("$1" help "$2" 2>/dev/null) || return
+        else
+            _keelhold_cli_help_cache[$key]=$("$1" --help 2>/dev/null) || return
+        fi
     fi
+    printf '%s\n' "${_keelhold_cli_help_cache[$key]}"
 }
 
 _keelhold_cli_commands()
