@@ -3,6 +3,7 @@
 #include "model/JsonCoding.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
 
 #include <cstdio>
 #include <unistd.h>
@@ -53,14 +54,28 @@ void endStatus()
     }
 }
 
+QString commandHelp(const QCommandLineParser &parser, const QString &name)
+{
+    QStringList lines = parser.helpText().split(QLatin1Char('\n'));
+    // Qt names the executable's path, and offers Qt's own options, which a
+    // command-line tool has none of.
+    const QString qtUsage = QStringLiteral("Usage: ") + QCoreApplication::arguments().value(0);
+    if (!lines.isEmpty() && lines[0].startsWith(qtUsage + QLatin1Char(' ')))
+        lines[0] = QStringLiteral("Usage: ") + name + lines[0].mid(qtUsage.size());
+    lines.removeIf([](const QString &line) { return line.trimmed().startsWith(QLatin1String("--help-all ")); });
+    for (QString &line : lines)
+        line.replace(QLatin1String("Displays help on commandline options."), QLatin1String("Show this help."));
+    return lines.join(QLatin1Char('\n'));
+}
+
 std::optional<int> parseArguments(QCommandLineParser &parser, const QStringList &arguments)
 {
     if (!parser.parse(arguments)) {
         err(parser.errorText());
         return usageExit;
     }
-    if (parser.isSet(QStringLiteral("help"))) {
-        out(parser.helpText().toUtf8());
+    if (parser.isSet(QStringLiteral("help")) || parser.isSet(QStringLiteral("help-all"))) {
+        out(commandHelp(parser, arguments.value(0)).toUtf8());
         return 0;
     }
     return std::nullopt;

@@ -16,6 +16,8 @@ void err(const QString &line);
 void status(const QString &line);
 void endStatus();
 bool stderrIsTerminal();
+// A subcommand's --help: its usage names it as typed ("keelhold-cli scan").
+QString commandHelp(const QCommandLineParser &parser, const QString &name);
 // Parses a subcommand's arguments. Answers the exit code when the command
 // is done already (a usage error, or --help printed), nothing otherwise.
 std::optional<int> parseArguments(QCommandLineParser &parser, const QStringList &arguments);

@@ -1,29 +1,46 @@
+#include "AppCommandLine.h"
 #include "KeelholdApp.h"
 
 #include <QQuickWindow>
 #include <QTimer>
 
 #include <QApplication>
+#include <QIcon>
 #include <QQmlApplicationEngine>
 #include <QQmlContext>
 #include <QQuickStyle>
 #include <QUrl>
 #include <QtQml>
 
+#include <cstdio>
+
 int main(int argc, char *argv[])
 {
+    if (const auto answered = AppCommandLine::answerWithoutDisplay(argc, argv))
+        return *answered;
     // A widgets application: the file dialogs fall back to Qt's own widgets.
     QApplication app(argc, argv);
     QGuiApplication::setOrganizationName(QStringLiteral("Keelhold"));
     QGuiApplication::setApplicationName(QStringLiteral("Keelhold"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Keelhold"));
+    QGuiApplication::setApplicationVersion(QStringLiteral(KEELHOLD_VERSION));
+    // Wayland's app id and the task bar's match with the installed .desktop file.
+    QGuiApplication::setDesktopFileName(QStringLiteral(KEELHOLD_APP_ID));
+    QGuiApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral(KEELHOLD_APP_ID),
+                                                    QIcon(QStringLiteral(":/keelhold/" KEELHOLD_APP_ID ".svg"))));
+    const AppCommandLine::Choice choice = AppCommandLine::parse(QCoreApplication::arguments());
+    if (choice.exitCode)
+        return *choice.exitCode;
 
     KeelholdApp keelhold;
     AppState &appState = keelhold.appState();
     [[maybe_unused]] UiBridge &ui = keelhold.ui();
     // --sample: straight into the bundled footage, past the wizard.
-    if (QCoreApplication::arguments().contains(QStringLiteral("--sample")))
+    if (choice.sample) {
+        if (!AppState::sampleFootageURL())
+            std::fputs("keelhold: the sample footage is not installed, so Keelhold starts without it.\n", stderr);
         appState.loadSampleFootage();
+    }
 
     QQmlApplicationEngine &engine = keelhold.qmlEngine();
     QObject::connect(&engine, &QQmlApplicationEngine::objectCreationFailed, &app,

@@ -1,0 +1,130 @@
+#include "cli/CliDispatch.h"
+
+#include "cli/CliOutput.h"
+#include "cli/ExportCommand.h"
+#include "cli/HealthCommand.h"
+#include "cli/KeepCommand.h"
+#include "cli/ScanCommand.h"
+#include "cli/VaultCommand.h"
+
+#include <algorithm>
+
+#ifndef KEELHOLD_VERSION
+#define KEELHOLD_VERSION "0"
+#endif
+
+namespace CliDispatch {
+
+namespace {
+
+const Command *find(const QString &name)
+{
+    const auto &all = commands();
+    const auto it = std::find_if(all.begin(), all.end(), [&](const Command &c) { return c.name == name; });
+    return it == all.end() ? nullptr : &*it;
+}
+
+int unknownCommand(const QString &name)
+{
+    if (name.startsWith(QLatin1Char('-')))
+        CliOutput::err(QStringLiteral("keelhold-cli has no option \u201c%1\u201d before a command. "
+                                      "Run \u201ckeelhold-cli --help\u201d to see the commands and their options.")
+                           .arg(name));
+    else
+        CliOutput::err(QStringLiteral("There is no command \u201c%1\u201d. Run \u201ckeelhold-cli --help\u201d to see them all.")
+                           .arg(name));
+    return CliOutput::usageExit;
+}
+
+// Every command prints its own options with --help.
+int commandHelp(const Command &command)
+{
+    return command.run({QStringLiteral("keelhold-cli ") + command.name, QStringLiteral("--help")});
+}
+
+} // namespace
+
+const std::vector<Command> &commands()
+{
+    static const std::vector<Command> table{
+        {QStringLiteral("scan"), QStringLiteral("Read a TeslaCam folder and print its events as JSON."), ScanCommand::run},
+        {QStringLiteral("health"), QStringLiteral("Print the health report of a TeslaCam folder as JSON."),
+         HealthCommand::run},
+        {QStringLiteral("export"), QStringLiteral("Write one camera of one event as one MP4 movie."), ExportCommand::run},
+        {QStringLiteral("keep"), QStringLiteral("Copy events into a Vault folder, checking every file."),
+         KeepCommand::run},
+        {QStringLiteral("vault"), QStringLiteral("List, remove or re-check the events kept in a Vault folder."),
+         VaultCommand::run},
+    };
+    return table;
+}
+
+QString helpText()
+{
+    QString text = QStringLiteral(
+        "Usage: keelhold-cli COMMAND [ARGUMENTS]\n"
+        "  or:  keelhold-cli help COMMAND\n"
+        "  or:  keelhold-cli --help | --version\n"
+        "\n"
+        "Reads the TeslaCam folder of a Tesla's USB drive without ever writing to it, and keeps chosen events "
+        "in a Vault folder as verified copies.\n"
+        "\n"
+        "Commands:\n");
+    for (const Command &c : commands())
+        text += QStringLiteral("  %1%2\n").arg(c.name, -8).arg(c.summary);
+    text += QStringLiteral("  %1%2\n").arg(QStringLiteral("help"), -8).arg(QStringLiteral("Show the options of a command."));
+    text += QStringLiteral(
+        "\n"
+        "Exit status:\n"
+        "  0    Done.\n"
+        "  1    Done in part: keep could not keep some files, or vault verify found a file changed or missing.\n"
+        "  2    The work could not be done, for example because the folder is missing or can't be read.\n"
+        "  64   The command line was wrong.\n"
+        "  130  keep was stopped with Ctrl-C.\n"
+        "\n"
+        "Progress and messages go to standard error, results to standard output.\n"
+        "\n"
+        "Options:\n"
+        "  -h, --help     Show this help.\n"
+        "  -v, --version  Show the version.\n");
+    return text;
+}
+
+QString versionText() { return QStringLiteral("keelhold-cli " KEELHOLD_VERSION "\n"); }
+
+int run(QStringList arguments)
+{
+    if (arguments.size() < 2) {
+        CliOutput::err(helpText());
+        return CliOutput::usageExit;
+    }
+    const QString name = arguments.takeAt(1);
+    if (name == QLatin1String("--help") || name == QLatin1String("-h")) {
+        CliOutput::out(helpText().toUtf8());
+        return 0;
+    }
+    if (name == QLatin1String("--version") || name == QLatin1String("-v")) {
+        CliOutput::out(versionText().toUtf8());
+        return 0;
+    }
+    if (name == QLatin1String("help")) {
+        if (arguments.size() < 2) {
+            CliOutput::out(helpText().toUtf8());
+            return 0;
+        }
+        if (arguments.size() > 2) {
+            CliOutput::err(QStringLiteral("help takes one command, such as \u201ckeelhold-cli help scan\u201d."));
+            return CliOutput::usageExit;
+        }
+        const Command *command = find(arguments[1]);
+        return command ? commandHelp(*command) : unknownCommand(arguments[1]);
+    }
+    const Command *command = find(name);
+    if (!command)
+        return unknownCommand(name);
+    // QCommandLineParser expects the program name first.
+    arguments[0] = QStringLiteral("keelhold-cli ") + name;
+    return command->run(arguments);
+}
+
+} // namespace CliDispatch

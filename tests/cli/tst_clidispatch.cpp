@@ -1,0 +1,138 @@
+#include "support/DriveBuilder.h"
+#include "support/IsolatedHome.h"
+#include "support/ProgramRun.h"
+
+#include <QDirIterator>
+#include <QFile>
+#include <QRegularExpression>
+#include <QSet>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+ProgramRun::Result cli(const QStringList &arguments)
+{
+    return ProgramRun::run(QStringLiteral(KEELHOLD_CLI_PATH), arguments);
+}
+
+// The indented "  name  text" lines of one "Heading:" paragraph of a help text.
+QStringList firstWords(const QString &help, const QString &heading)
+{
+    QStringList words;
+    const QStringList lines = help.split(QLatin1Char('\n'));
+    qsizetype i = lines.indexOf(heading);
+    if (i < 0)
+        return words;
+    for (++i; i < lines.size() && lines[i].startsWith(QLatin1String("  ")); ++i)
+        words << lines[i].trimmed().section(QLatin1Char(' '), 0, 0);
+    return words;
+}
+
+QSet<int> documentedExitCodes()
+{
+    QSet<int> codes;
+    for (const QString &word : firstWords(QString::fromUtf8(cli({"--help"}).out), QStringLiteral("Exit status:")))
+        codes.insert(word.toInt());
+    return codes;
+}
+
+} // namespace
+
+class CliDispatchTest : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir tmp_;
+    DriveBuilder drive_{tmp_.filePath(QStringLiteral("TeslaCam"))};
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        drive_.addEvent("SentryClips", "2026-07-18_09-15-32", 2, 4096);
+        drive_.addEvent("SavedClips", "2026-07-19_10-00-00", 1, 4096);
+    }
+
+    void helpListsEveryCommandAndEachAnswersForItself()
+    {
+        const ProgramRun::Result help = cli({"--help"});
+        QCOMPARE(help.exitCode, 0);
+        QVERIFY2(help.err.isEmpty(), qPrintable(help.err));
+        const QString text = QString::fromUtf8(help.out);
+        QVERIFY(text.startsWith(QLatin1String("Usage: keelhold-cli ")));
+        QStringList listed = firstWords(text, QStringLiteral("Commands:"));
+        listed.sort();
+        QCOMPARE(listed, QStringList({"export", "health", "help", "keep", "scan", "vault"}));
+        QCOMPARE(cli({"-h"}).out, help.out);
+        QCOMPARE(cli({"help"}).out, help.out);
+
+        for (const QString &name : std::as_const(listed)) {
+            if (name == QLatin1String("help"))
+                continue;
+            const ProgramRun::Result viaHelp = cli({"help", name});
+            QCOMPARE(viaHelp.exitCode, 0);
+            QVERIFY2(viaHelp.out.startsWith("Usage: keelhold-cli " + name.toUtf8() + ' '), viaHelp.out.constData());
+            const ProgramRun::Result direct = cli({name, "--help"});
+            QCOMPARE(direct.exitCode, 0);
+            QCOMPARE(direct.out, viaHelp.out);
+        }
+    }
+
+    void versionIsTheProjectVersion()
+    {
+        for (const char *option : {"--version", "-v"}) {
+            const ProgramRun::Result r = cli({option});
+            QCOMPARE(r.exitCode, 0);
+            QCOMPARE(r.out, QByteArray("keelhold-cli " KEELHOLD_VERSION "\n"));
+        }
+    }
+
+    void wrongCommandLinesSayWhatToDo_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QString>("said");
+        QTest::newRow("nothing") << QStringList() << QStringLiteral("Usage: keelhold-cli");
+        QTest::newRow("unknown command") << QStringList{"scna", "x"} << QStringLiteral("\u201cscna\u201d");
+        QTest::newRow("unknown option first") << QStringList{"--pretty"} << QStringLiteral("\u201c--pretty\u201d");
+        QTest::newRow("help of an unknown command") << QStringList{"help", "sacn"} << QStringLiteral("\u201csacn\u201d");
+        QTest::newRow("help of two commands") << QStringList{"help", "scan", "keep"} << QStringLiteral("one command");
+        QTest::newRow("unknown option of a command") << QStringList{"scan", "--prety", "x"} << QStringLiteral("prety");
+    }
+
+    void wrongCommandLinesSayWhatToDo()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QString, said);
+        const ProgramRun::Result r = cli(arguments);
+        QCOMPARE(r.exitCode, 64);
+        QVERIFY(r.out.isEmpty());
+        QVERIFY2(r.err.contains(said), qPrintable(r.err));
+        QVERIFY(documentedExitCodes().contains(r.exitCode));
+    }
+
+    // Each outcome a script can meet ends with a code the help explains.
+    void everyOutcomeHasADocumentedExitCode()
+    {
+        const QSet<int> documented = documentedExitCodes();
+        QVERIFY(!documented.isEmpty());
+
+        QCOMPARE(cli({"scan", drive_.root()}).exitCode, 0);
+        QCOMPARE(cli({"scan", tmp_.filePath(QStringLiteral("nowhere"))}).exitCode, 2);
+
+        const QString vault = tmp_.filePath(QStringLiteral("Vault"));
+        QCOMPARE(cli({"keep", drive_.root(), "--vault", vault}).exitCode, 0);
+        QCOMPARE(cli({"vault", "verify", vault}).exitCode, 0);
+        QDirIterator kept(vault, {QStringLiteral("*.mp4")}, QDir::Files, QDirIterator::Subdirectories);
+        QVERIFY(kept.hasNext());
+        QFile changed(kept.next());
+        QVERIFY(changed.open(QIODevice::Append));
+        changed.write("x");
+        changed.close();
+        QCOMPARE(cli({"vault", "verify", vault}).exitCode, 1);
+
+        for (int code : {0, 1, 2, 64, 130})
+            QVERIFY2(documented.contains(code), qPrintable(QString::number(code)));
+    }
+};
+
+KEELHOLD_ISOLATED_TEST_MAIN(CliDispatchTest)
+#include "tst_clidispatch.moc"

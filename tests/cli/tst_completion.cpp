@@ -1,0 +1,127 @@
+#include "support/DriveBuilder.h"
+#include "support/IsolatedHome.h"
+#include "support/ProgramRun.h"
+
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+// Completes `line` the way bash does at the end of it, with the completion
+// the package installs, and answers the offered words.
+struct Completion {
+    QStringList words;
+    QString err;
+};
+
+Completion complete(const QString &line)
+{
+    static const QString script = QStringLiteral(R"(
+source /usr/share/bash-completion/bash_completion
+source "$1"
+line=$2
+COMP_LINE=$line
+COMP_POINT=${#line}
+read -ra COMP_WORDS <<<"$line"
+[[ $line == *' ' ]] && COMP_WORDS+=('')
+COMP_CWORD=$((${#COMP_WORDS[@]} - 1))
+_keelhold_cli
+printf '%s\n' "${COMPREPLY[@]}"
+)");
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.insert(QStringLiteral("PATH"), QFileInfo(QStringLiteral(KEELHOLD_CLI_PATH)).absolutePath()
+                                           + QLatin1Char(':') + env.value(QStringLiteral("PATH")));
+    const ProgramRun::Result r = ProgramRun::run(
+        QStringLiteral("bash"),
+        {QStringLiteral("-c"), script, QStringLiteral("bash"), QStringLiteral(KEELHOLD_SOURCE_DIR "/data/keelhold-cli.bash"), line},
+        env, 30000);
+    if (r.exitCode != 0)
+        return {{}, QStringLiteral("bash ended with %1: %2").arg(r.exitCode).arg(r.err)};
+    QStringList words = QString::fromUtf8(r.out).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    words.sort();
+    return {words, r.err};
+}
+
+} // namespace
+
+class CompletionTest : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir tmp_;
+    DriveBuilder drive_{tmp_.filePath(QStringLiteral("TeslaCam"))};
+    QString vault_ = tmp_.filePath(QStringLiteral("Vault"));
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        if (!QFileInfo::exists(QStringLiteral("/usr/share/bash-completion/bash_completion")))
+            QSKIP("bash-completion is not installed (scripts/setup installs it)");
+        drive_.addEvent("SentryClips", "2026-07-18_09-15-32", 1, 4096);
+        drive_.addEvent("SavedClips", "2026-07-19_10-00-00", 1, 4096);
+        const ProgramRun::Result kept = ProgramRun::run(
+            QStringLiteral(KEELHOLD_CLI_PATH),
+            {"keep", drive_.root(), "--vault", vault_, "--event", "saved|2026-07-19_10-00-00"});
+        QVERIFY2(kept.exitCode == 0, qPrintable(kept.err));
+    }
+
+    void commandsAndOptions_data()
+    {
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<QStringList>("offered");
+        QTest::newRow("commands") << "keelhold-cli " << QStringList{"export", "health", "help", "keep", "scan", "vault"};
+        QTest::newRow("a command begun") << "keelhold-cli he" << QStringList{"health", "help"};
+        QTest::newRow("top-level options") << "keelhold-cli --" << QStringList{"--help", "--version"};
+        QTest::newRow("help of a command") << "keelhold-cli help ke" << QStringList{"keep"};
+        QTest::newRow("a command's options") << "keelhold-cli scan /x --p" << QStringList{"--pretty", "--probe"};
+        QTest::newRow("options after a valued one")
+            << "keelhold-cli export /x --camera front --f" << QStringList{"--from"};
+        QTest::newRow("cameras") << "keelhold-cli export /x --camera left" << QStringList{"left_pillar", "left_repeater"};
+        QTest::newRow("no guess for a number") << "keelhold-cli export /x --from " << QStringList{};
+        QTest::newRow("vault actions") << "keelhold-cli vault " << QStringList{"list", "remove", "verify"};
+    }
+
+    void commandsAndOptions()
+    {
+        QFETCH(QString, line);
+        QFETCH(QStringList, offered);
+        const Completion c = complete(line);
+        QVERIFY2(c.err.isEmpty(), qPrintable(c.err));
+        QCOMPARE(c.words, offered);
+    }
+
+    void eventIdsOfTheDriveOnTheLine()
+    {
+        // A "|" on a command line must be escaped or quoted.
+        Completion c = complete(QStringLiteral("keelhold-cli export %1 --event ").arg(drive_.root()));
+        QCOMPARE(c.words, QStringList({"saved\\|2026-07-19_10-00-00", "sentry\\|2026-07-18_09-15-32"}));
+        c = complete(QStringLiteral("keelhold-cli keep %1 --vault %2 --event se").arg(drive_.root(), vault_));
+        QCOMPARE(c.words, QStringList({"sentry\\|2026-07-18_09-15-32"}));
+        c = complete(QStringLiteral("keelhold-cli keep --vault %2 %1 --event 'sa").arg(drive_.root(), vault_));
+        QCOMPARE(c.words, QStringList({"saved|2026-07-19_10-00-00"}));
+        c = complete(QStringLiteral("keelhold-cli keep --event=sen --vault=%2 %1 --event=sa").arg(drive_.root(), vault_));
+        QCOMPARE(c.words, QStringList({"saved\\|2026-07-19_10-00-00"}));
+    }
+
+    void eventIdsOfTheVault()
+    {
+        const Completion c = complete(QStringLiteral("keelhold-cli vault remove %1 ").arg(vault_));
+        QCOMPARE(c.words, QStringList({"saved\\|2026-07-19_10-00-00"}));
+    }
+
+    void nothingAndNoNoiseWhereThereIsNoDrive()
+    {
+        const QString nowhere = tmp_.filePath(QStringLiteral("nowhere"));
+        for (const QString &line : {QStringLiteral("keelhold-cli export ") + nowhere + QStringLiteral(" --event "),
+                                    QStringLiteral("keelhold-cli vault remove ") + nowhere + QLatin1Char(' '),
+                                    QStringLiteral("keelhold-cli export --event "),
+                                    QStringLiteral("keelhold-cli nosuch --")}) {
+            const Completion c = complete(line);
+            QVERIFY2(c.err.isEmpty(), qPrintable(c.err));
+            QCOMPARE(c.words, QStringList());
+        }
+    }
+};
+
+KEELHOLD_ISOLATED_TEST_MAIN(CompletionTest)
+#include "tst_completion.moc"
