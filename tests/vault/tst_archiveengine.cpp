@@ -401,16 +401,11 @@ private Q_SLOTS:
         event.clips.insert(event.clips.begin(), clipAt(fifo, 4096));
         drive.freeze();
 
+        // It never answers: the read is left behind and the run goes on.
         QTemporaryDir vault;
-        std::thread release([&] {
-            fs.waitUntilHeld();
-            std::this_thread::sleep_for(600ms);
-            fs.release();
-        });
         QElapsedTimer timer;
         timer.start();
         const ArchiveReport report = ArchiveEngine::run(ArchiveEngine::plan({event}, VaultIndex{}), vault.path(), {}, 300ms);
-        release.join();
         QVERIFY(!report.cancelled);
         QCOMPARE(report.failedFiles.size(), size_t(1));
         QCOMPARE(report.failedFiles[0].path, fifo);
