@@ -579,11 +579,13 @@ QCoro::Task<void> AppState::keepTask(QPointer<AppState> self, ArchivePlan plan, 
     auto progress = onMainThread<ArchiveProgress>(self, [](AppState &state, const ArchiveProgress &p) { state.setArchiveProgress(p); });
     ArchiveReport report;
     // The Vault may have been chosen before this drive was opened.
+    // (No temporaries inside the awaits: GCC 12 frees them twice.)
     std::optional<bool> intoDrive;
-    if (const auto root = self->driveRootURL_) {
-        intoDrive = co_await AsyncRun::onPool(EnginePools::quick(), [root = *root, vaultURL] {
-            return DriveBoundary::writesInto(root, vaultURL);
-        });
+    const std::optional<QString> root = self->driveRootURL_;
+    if (root) {
+        QFuture<std::optional<bool>> check = AsyncRun::onPool(
+            EnginePools::quick(), [drive = *root, vaultURL] { return DriveBoundary::writesInto(drive, vaultURL); });
+        intoDrive = co_await check;
         if (!self)
             co_return;
     }
