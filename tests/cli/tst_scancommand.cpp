@@ -129,12 +129,18 @@ private Q_SLOTS:
             flagged |= i.kind == ScanIssue::Kind::unreadableFolder && i.path == event;
         QVERIFY(flagged);
 
-        // A refused SentryClips stops the scan, naming that folder.
+        // A refused SentryClips is an issue of its own, and the other folders are read.
         QFile::setPermissions(root + "/SentryClips", QFileDevice::ReadOwner | QFileDevice::ExeOwner);
         r = runCli({"scan", root}, asNobody());
-        QCOMPARE(r.exitCode, 2);
-        QVERIFY(r.out.isEmpty());
-        QVERIFY2(r.err.contains("isn't allowed to read") && r.err.contains(root + "/SentryClips"), qPrintable(r.err));
+        QCOMPARE(r.exitCode, 0);
+        const DriveScan withoutSentry = DriveScan::fromJson(JsonCoding::parseObject(r.out));
+        QCOMPARE(withoutSentry.issues.size(), size_t(1));
+        QCOMPARE(withoutSentry.issues[0].kind, ScanIssue::Kind(ScanIssue::Kind::unreadableFolder));
+        QCOMPARE(withoutSentry.issues[0].path, root + "/SentryClips");
+        QStringList ids;
+        for (const auto &e : withoutSentry.events)
+            ids << e.id();
+        QCOMPARE(ids, (QStringList{"recent|recent_2024-06-03_08-00-00", "saved|2024-06-02_09-00-00"}));
 
         // And so does a refused root.
         QFile::setPermissions(root, QFileDevice::ReadOwner | QFileDevice::ExeOwner);

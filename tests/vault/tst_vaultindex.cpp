@@ -1,4 +1,5 @@
 #include "model/JsonCoding.h"
+#include "support/TmpfsMount.h"
 #include "vault/ArchivedEvent.h"
 #include "vault/VaultIndex.h"
 
@@ -12,7 +13,9 @@
 #include <QTest>
 
 #include <cmath>
+#include <optional>
 #include <cstring>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -285,6 +288,87 @@ private Q_SLOTS:
 
         QVERIFY(!VaultIndex::removeEvent(partial.eventID, vault.path()));
         QCOMPARE(VaultIndex::load(vault.path()).events.size(), size_t(1));
+    }
+
+    void removeEventMakesTheTrashOfAFreshHome()
+    {
+        // No ~/.local/share at all, as in a new account; the working folder
+        // must not become the Trash.
+        QTemporaryDir freshHome, cwd, vault;
+        const QString oldCwd = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(cwd.path()));
+        qputenv("HOME", freshHome.path().toUtf8());
+        qunsetenv("XDG_DATA_HOME");
+        const auto restore = qScopeGuard([&] {
+            QDir::setCurrent(oldCwd);
+            qputenv("HOME", home_.path().toUtf8());
+            qputenv("XDG_DATA_HOME", (home_.path() + "/data").toUtf8());
+        });
+        const auto kept = makeEvent(QStringLiteral("2026-07-18_09-15-32"), {{QStringLiteral("a-front.mp4"), 3, {}}});
+        VaultIndex index;
+        index.events = {kept};
+        index.save(vault.path());
+        QDir().mkpath(vault.filePath(kept.relativePath));
+        writeAll(vault.filePath(kept.relativePath + "/a-front.mp4"), "abc");
+
+        QVERIFY(VaultIndex::removeEvent(kept.eventID, vault.path()));
+        const QString trash = freshHome.path() + "/.local/share/Trash";
+        QCOMPARE(readAll(trash + "/files/2026-07-18_09-15-32/a-front.mp4"), QByteArray("abc"));
+        QVERIFY(QFileInfo::exists(trash + "/info/2026-07-18_09-15-32.trashinfo"));
+        struct stat st {};
+        QCOMPARE(::stat(QFile::encodeName(trash).constData(), &st), 0);
+        QCOMPARE(st.st_mode & 07777, mode_t(0700));
+        QCOMPARE(QDir(cwd.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden), QStringList());
+        QVERIFY(VaultIndex::load(vault.path()).events.empty());
+    }
+
+    void removeEventWithATrashThatCannotBeMadeSaysSoAndKeepsTheEvent_data()
+    {
+        QTest::addColumn<bool>("readOnlyMount");
+        QTest::newRow("a file where its folder should be") << false;
+        QTest::newRow("a read-only parent") << true;
+    }
+
+    void removeEventWithATrashThatCannotBeMadeSaysSoAndKeepsTheEvent()
+    {
+        QFETCH(bool, readOnlyMount);
+        QTemporaryDir dir, cwd, vault;
+        std::optional<TmpfsMount> readOnly;
+        QString dataHome = dir.filePath("file/share");
+        if (readOnlyMount) {
+            readOnly.emplace(dir.path(), QStringLiteral("ro-XXXXXX"), QStringLiteral("ro,size=1m"));
+            if (!readOnly->ok())
+                QSKIP("needs root to mount a read-only tmpfs");
+            dataHome = readOnly->path() + "/share";
+        } else {
+            writeAll(dir.filePath("file"), "not a folder");
+        }
+        const QString oldCwd = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(cwd.path()));
+        qputenv("XDG_DATA_HOME", dataHome.toUtf8());
+        const auto restore = qScopeGuard([&] {
+            QDir::setCurrent(oldCwd);
+            qputenv("XDG_DATA_HOME", (home_.path() + "/data").toUtf8());
+        });
+        const auto kept = makeEvent(QStringLiteral("2026-07-18_09-15-32"), {{QStringLiteral("a-front.mp4"), 3, {}}});
+        VaultIndex index;
+        index.events = {kept};
+        index.save(vault.path());
+        QDir().mkpath(vault.filePath(kept.relativePath));
+        writeAll(vault.filePath(kept.relativePath + "/a-front.mp4"), "abc");
+
+        try {
+            VaultIndex::removeEvent(kept.eventID, vault.path());
+            QFAIL("expected a failure");
+        } catch (const VaultIndex::FileError &e) {
+            // One plain sentence.
+            QCOMPARE(e.message(), QStringLiteral("There is no Trash folder at %1/Trash and it can't be made, so "
+                                                 "nothing was removed.")
+                                      .arg(dataHome));
+        }
+        QCOMPARE(readAll(vault.filePath(kept.relativePath + "/a-front.mp4")), QByteArray("abc"));
+        QCOMPARE(VaultIndex::load(vault.path()).events.size(), size_t(1));
+        QCOMPARE(QDir(cwd.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden), QStringList());
     }
 
     void removeEventNeverReachesOutsideTheVault_data()
