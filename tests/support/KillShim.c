@@ -127,66 +127,36 @@ static void track(int fd, int on)
         atomic_store(&tracked[fd], on);
 }
 
-static mode_t modeArgument(int flags, va_list args)
+// Counts an open of a watched path and follows the descriptor it gives; a
+// number reused after a close that didn't pass here starts afresh. All four
+// opens go to the next openat: open(path) is openat(AT_FDCWD, path).
+static int openWatched(const char *call, int dirfd, const char *path, int flags, mode_t mode)
 {
-    return (flags & O_CREAT) || (flags & __O_TMPFILE) == __O_TMPFILE ? (mode_t)va_arg(args, int) : 0;
-}
-
-// Counts an open of a watched path, and follows the descriptor it gives.
-static int opened(int fd, int isWatched)
-{
-    // A number reused after a close that didn't pass here starts afresh.
+    const int isWatched = watched(dirfd, path);
+    if (isWatched)
+        countCall(call, path);
+    const int fd = REAL(openat)(dirfd, path, flags, mode);
     track(fd, isWatched);
     return fd;
 }
 
-int open(const char *path, int flags, ...)
-{
-    va_list args;
-    va_start(args, flags);
-    const mode_t mode = modeArgument(flags, args);
-    va_end(args);
-    const int isWatched = watched(AT_FDCWD, path);
-    if (isWatched)
-        countCall("open", path);
-    return opened(REAL(open)(path, flags, mode), isWatched);
-}
+// The mode argument is there only with O_CREAT or O_TMPFILE.
+#define OPEN_WRAPPER(name, dirfd)                                                                                      \
+    {                                                                                                                  \
+        mode_t mode = 0;                                                                                               \
+        if ((flags & O_CREAT) || (flags & __O_TMPFILE) == __O_TMPFILE) {                                               \
+            va_list args;                                                                                              \
+            va_start(args, flags);                                                                                     \
+            mode = (mode_t)va_arg(args, int);                                                                          \
+            va_end(args);                                                                                              \
+        }                                                                                                              \
+        return openWatched(#name, dirfd, path, flags, mode);                                                           \
+    }
 
-int open64(const char *path, int flags, ...)
-{
-    va_list args;
-    va_start(args, flags);
-    const mode_t mode = modeArgument(flags, args);
-    va_end(args);
-    const int isWatched = watched(AT_FDCWD, path);
-    if (isWatched)
-        countCall("open64", path);
-    return opened(REAL(open64)(path, flags, mode), isWatched);
-}
-
-int openat(int dirfd, const char *path, int flags, ...)
-{
-    va_list args;
-    va_start(args, flags);
-    const mode_t mode = modeArgument(flags, args);
-    va_end(args);
-    const int isWatched = watched(dirfd, path);
-    if (isWatched)
-        countCall("openat", path);
-    return opened(REAL(openat)(dirfd, path, flags, mode), isWatched);
-}
-
-int openat64(int dirfd, const char *path, int flags, ...)
-{
-    va_list args;
-    va_start(args, flags);
-    const mode_t mode = modeArgument(flags, args);
-    va_end(args);
-    const int isWatched = watched(dirfd, path);
-    if (isWatched)
-        countCall("openat64", path);
-    return opened(REAL(openat64)(dirfd, path, flags, mode), isWatched);
-}
+int open(const char *path, int flags, ...) OPEN_WRAPPER(open, AT_FDCWD)
+int open64(const char *path, int flags, ...) OPEN_WRAPPER(open64, AT_FDCWD)
+int openat(int dirfd, const char *path, int flags, ...) OPEN_WRAPPER(openat, dirfd)
+int openat64(int dirfd, const char *path, int flags, ...) OPEN_WRAPPER(openat64, dirfd)
 
 int close(int fd)
 {
@@ -197,149 +167,46 @@ int close(int fd)
     return REAL(close)(fd);
 }
 
-ssize_t write(int fd, const void *data, size_t size)
-{
-    if (isTracked(fd))
-        countCall("write", NULL);
-    return REAL(write)(fd, data, size);
-}
+// A call on a descriptor opened in the watched folder.
+#define ON_TRACKED_FD(name, ...)                                                                                       \
+    {                                                                                                                  \
+        if (isTracked(fd))                                                                                             \
+            countCall(#name, NULL);                                                                                    \
+        return REAL(name)(fd, ##__VA_ARGS__);                                                                          \
+    }
 
-ssize_t pwrite(int fd, const void *data, size_t size, off_t offset)
-{
-    if (isTracked(fd))
-        countCall("pwrite", NULL);
-    return REAL(pwrite)(fd, data, size, offset);
-}
+ssize_t write(int fd, const void *data, size_t size) ON_TRACKED_FD(write, data, size)
+ssize_t pwrite(int fd, const void *data, size_t size, off_t at) ON_TRACKED_FD(pwrite, data, size, at)
+ssize_t pwrite64(int fd, const void *data, size_t size, off64_t at) ON_TRACKED_FD(pwrite64, data, size, at)
+ssize_t writev(int fd, const struct iovec *iov, int count) ON_TRACKED_FD(writev, iov, count)
+int ftruncate(int fd, off_t length) ON_TRACKED_FD(ftruncate, length)
+int ftruncate64(int fd, off64_t length) ON_TRACKED_FD(ftruncate64, length)
+int fallocate(int fd, int mode, off_t offset, off_t length) ON_TRACKED_FD(fallocate, mode, offset, length)
+int fchmod(int fd, mode_t mode) ON_TRACKED_FD(fchmod, mode)
 
-ssize_t pwrite64(int fd, const void *data, size_t size, off64_t offset)
-{
-    if (isTracked(fd))
-        countCall("pwrite64", NULL);
-    return REAL(pwrite64)(fd, data, size, offset);
-}
+int fsync(int fd) ON_TRACKED_FD(fsync)
+int fdatasync(int fd) ON_TRACKED_FD(fdatasync)
 
-ssize_t writev(int fd, const struct iovec *iov, int count)
-{
-    if (isTracked(fd))
-        countCall("writev", NULL);
-    return REAL(writev)(fd, iov, count);
-}
+// A call that names a path, or two: counted when one lies in the watched folder.
+#define ON_WATCHED_PATHS(name, fromDir, from, toDir, to, ...)                                                         \
+    {                                                                                                                  \
+        if (watched(fromDir, from) || watched(toDir, to))                                                              \
+            countCall(#name, to);                                                                                      \
+        return REAL(name)(__VA_ARGS__);                                                                                \
+    }
 
-int fsync(int fd)
-{
-    if (isTracked(fd))
-        countCall("fsync", NULL);
-    return REAL(fsync)(fd);
-}
-
-int fdatasync(int fd)
-{
-    if (isTracked(fd))
-        countCall("fdatasync", NULL);
-    return REAL(fdatasync)(fd);
-}
-
-int ftruncate(int fd, off_t length)
-{
-    if (isTracked(fd))
-        countCall("ftruncate", NULL);
-    return REAL(ftruncate)(fd, length);
-}
-
-int ftruncate64(int fd, off64_t length)
-{
-    if (isTracked(fd))
-        countCall("ftruncate64", NULL);
-    return REAL(ftruncate64)(fd, length);
-}
-
-int fallocate(int fd, int mode, off_t offset, off_t length)
-{
-    if (isTracked(fd))
-        countCall("fallocate", NULL);
-    return REAL(fallocate)(fd, mode, offset, length);
-}
-
-int fchmod(int fd, mode_t mode)
-{
-    if (isTracked(fd))
-        countCall("fchmod", NULL);
-    return REAL(fchmod)(fd, mode);
-}
-
-int rename(const char *from, const char *to)
-{
-    if (watched(AT_FDCWD, from) || watched(AT_FDCWD, to))
-        countCall("rename", to);
-    return REAL(rename)(from, to);
-}
-
+int rename(const char *from, const char *to) ON_WATCHED_PATHS(rename, AT_FDCWD, from, AT_FDCWD, to, from, to)
 int renameat(int fromDir, const char *from, int toDir, const char *to)
-{
-    if (watched(fromDir, from) || watched(toDir, to))
-        countCall("renameat", to);
-    return REAL(renameat)(fromDir, from, toDir, to);
-}
-
+    ON_WATCHED_PATHS(renameat, fromDir, from, toDir, to, fromDir, from, toDir, to)
 int renameat2(int fromDir, const char *from, int toDir, const char *to, unsigned flags)
-{
-    if (watched(fromDir, from) || watched(toDir, to))
-        countCall("renameat2", to);
-    return REAL(renameat2)(fromDir, from, toDir, to, flags);
-}
-
-int link(const char *from, const char *to)
-{
-    if (watched(AT_FDCWD, to))
-        countCall("link", to);
-    return REAL(link)(from, to);
-}
-
+    ON_WATCHED_PATHS(renameat2, fromDir, from, toDir, to, fromDir, from, toDir, to, flags)
+// A link made outside from inside changes nothing here.
+int link(const char *from, const char *to) ON_WATCHED_PATHS(link, AT_FDCWD, NULL, AT_FDCWD, to, from, to)
 int linkat(int fromDir, const char *from, int toDir, const char *to, int flags)
-{
-    if (watched(toDir, to))
-        countCall("linkat", to);
-    return REAL(linkat)(fromDir, from, toDir, to, flags);
-}
-
-int unlink(const char *path)
-{
-    if (watched(AT_FDCWD, path))
-        countCall("unlink", path);
-    return REAL(unlink)(path);
-}
-
-int unlinkat(int dirfd, const char *path, int flags)
-{
-    if (watched(dirfd, path))
-        countCall("unlinkat", path);
-    return REAL(unlinkat)(dirfd, path, flags);
-}
-
-int remove(const char *path)
-{
-    if (watched(AT_FDCWD, path))
-        countCall("remove", path);
-    return REAL(remove)(path);
-}
-
-int rmdir(const char *path)
-{
-    if (watched(AT_FDCWD, path))
-        countCall("rmdir", path);
-    return REAL(rmdir)(path);
-}
-
-int mkdir(const char *path, mode_t mode)
-{
-    if (watched(AT_FDCWD, path))
-        countCall("mkdir", path);
-    return REAL(mkdir)(path, mode);
-}
-
-int mkdirat(int dirfd, const char *path, mode_t mode)
-{
-    if (watched(dirfd, path))
-        countCall("mkdirat", path);
-    return REAL(mkdirat)(dirfd, path, mode);
-}
+    ON_WATCHED_PATHS(linkat, fromDir, NULL, toDir, to, fromDir, from, toDir, to, flags)
+int unlink(const char *path) ON_WATCHED_PATHS(unlink, AT_FDCWD, NULL, AT_FDCWD, path, path)
+int unlinkat(int dirfd, const char *path, int flags) ON_WATCHED_PATHS(unlinkat, dirfd, NULL, dirfd, path, dirfd, path, flags)
+int remove(const char *path) ON_WATCHED_PATHS(remove, AT_FDCWD, NULL, AT_FDCWD, path, path)
+int rmdir(const char *path) ON_WATCHED_PATHS(rmdir, AT_FDCWD, NULL, AT_FDCWD, path, path)
+int mkdir(const char *path, mode_t mode) ON_WATCHED_PATHS(mkdir, AT_FDCWD, NULL, AT_FDCWD, path, path, mode)
+int mkdirat(int dirfd, const char *path, mode_t mode) ON_WATCHED_PATHS(mkdirat, dirfd, NULL, dirfd, path, dirfd, path, mode)

@@ -397,8 +397,8 @@ private Q_SLOTS:
         QVERIFY(fs.isMounted());
         fs.addFile(QStringLiteral("2026-07-18_09-13-32-front.mp4"), QByteArray(4096, 'x'));
         fs.hangReadsFrom(QStringLiteral("2026-07-18_09-13-32-front.mp4"), 0);
-        const QString fifo = mountPoint.filePath(QStringLiteral("2026-07-18_09-13-32-front.mp4"));
-        event.clips.insert(event.clips.begin(), clipAt(fifo, 4096));
+        const QString held = mountPoint.filePath(QStringLiteral("2026-07-18_09-13-32-front.mp4"));
+        event.clips.insert(event.clips.begin(), clipAt(held, 4096));
         drive.freeze();
 
         QTemporaryDir vault;
@@ -413,7 +413,7 @@ private Q_SLOTS:
         release.join();
         QVERIFY(!report.cancelled);
         QCOMPARE(report.failedFiles.size(), size_t(1));
-        QCOMPARE(report.failedFiles[0].path, fifo);
+        QCOMPARE(report.failedFiles[0].path, held);
         QCOMPARE(report.failedFiles[0].reason,
                  QStringLiteral("This file took too long to read \u2014 the drive may be failing."));
         QCOMPARE(report.archivedEvents.size(), size_t(1));

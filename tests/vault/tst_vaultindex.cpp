@@ -290,15 +290,38 @@ private Q_SLOTS:
         QCOMPARE(VaultIndex::load(vault.path()).events.size(), size_t(1));
     }
 
-    void removeEventMakesTheTrashOfAFreshHome()
+    void removeEventLandsInTheDesktopTrashOrSaysWhy_data()
     {
-        // No ~/.local/share at all, as in a new account; the working folder
-        // must not become the Trash.
-        QTemporaryDir freshHome, cwd, vault;
+        QTest::addColumn<QString>("dataHome");
+        QTest::newRow("a fresh home with no ~/.local/share") << QString();
+        QTest::newRow("a file where the Trash's folder should be") << QStringLiteral("file");
+        QTest::newRow("a read-only parent") << QStringLiteral("read-only");
+    }
+
+    void removeEventLandsInTheDesktopTrashOrSaysWhy()
+    {
+        QFETCH(QString, dataHome);
+        QTemporaryDir dir, cwd, vault;
+        const QString freshHome = dir.filePath("home");
+        QDir().mkpath(freshHome);
+        std::optional<TmpfsMount> readOnly;
+        if (dataHome == "file") {
+            writeAll(dir.filePath("file"), "not a folder");
+            dataHome = dir.filePath("file/share");
+        } else if (dataHome == "read-only") {
+            readOnly.emplace(dir.path(), QStringLiteral("ro-XXXXXX"), QStringLiteral("ro,size=1m"));
+            if (!readOnly->ok())
+                QSKIP("needs root to mount a read-only tmpfs");
+            dataHome = readOnly->path() + "/share";
+        }
+        // Whatever happens, the working folder must not become the Trash.
         const QString oldCwd = QDir::currentPath();
         QVERIFY(QDir::setCurrent(cwd.path()));
-        qputenv("HOME", freshHome.path().toUtf8());
-        qunsetenv("XDG_DATA_HOME");
+        qputenv("HOME", freshHome.toUtf8());
+        if (dataHome.isEmpty())
+            qunsetenv("XDG_DATA_HOME");
+        else
+            qputenv("XDG_DATA_HOME", dataHome.toUtf8());
         const auto restore = qScopeGuard([&] {
             QDir::setCurrent(oldCwd);
             qputenv("HOME", home_.path().toUtf8());
@@ -308,66 +331,31 @@ private Q_SLOTS:
         VaultIndex index;
         index.events = {kept};
         index.save(vault.path());
+        const QString clip = vault.filePath(kept.relativePath + "/a-front.mp4");
         QDir().mkpath(vault.filePath(kept.relativePath));
-        writeAll(vault.filePath(kept.relativePath + "/a-front.mp4"), "abc");
+        writeAll(clip, "abc");
 
-        QVERIFY(VaultIndex::removeEvent(kept.eventID, vault.path()));
-        const QString trash = freshHome.path() + "/.local/share/Trash";
-        QCOMPARE(readAll(trash + "/files/2026-07-18_09-15-32/a-front.mp4"), QByteArray("abc"));
-        QVERIFY(QFileInfo::exists(trash + "/info/2026-07-18_09-15-32.trashinfo"));
-        struct stat st {};
-        QCOMPARE(::stat(QFile::encodeName(trash).constData(), &st), 0);
-        QCOMPARE(st.st_mode & 07777, mode_t(0700));
-        QCOMPARE(QDir(cwd.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden), QStringList());
-        QVERIFY(VaultIndex::load(vault.path()).events.empty());
-    }
-
-    void removeEventWithATrashThatCannotBeMadeSaysSoAndKeepsTheEvent_data()
-    {
-        QTest::addColumn<bool>("readOnlyMount");
-        QTest::newRow("a file where its folder should be") << false;
-        QTest::newRow("a read-only parent") << true;
-    }
-
-    void removeEventWithATrashThatCannotBeMadeSaysSoAndKeepsTheEvent()
-    {
-        QFETCH(bool, readOnlyMount);
-        QTemporaryDir dir, cwd, vault;
-        std::optional<TmpfsMount> readOnly;
-        QString dataHome = dir.filePath("file/share");
-        if (readOnlyMount) {
-            readOnly.emplace(dir.path(), QStringLiteral("ro-XXXXXX"), QStringLiteral("ro,size=1m"));
-            if (!readOnly->ok())
-                QSKIP("needs root to mount a read-only tmpfs");
-            dataHome = readOnly->path() + "/share";
+        if (dataHome.isEmpty()) {
+            QVERIFY(VaultIndex::removeEvent(kept.eventID, vault.path()));
+            const QString trash = freshHome + "/.local/share/Trash";
+            QCOMPARE(readAll(trash + "/files/2026-07-18_09-15-32/a-front.mp4"), QByteArray("abc"));
+            QVERIFY(QFileInfo::exists(trash + "/info/2026-07-18_09-15-32.trashinfo"));
+            struct stat st {};
+            QCOMPARE(::stat(QFile::encodeName(trash).constData(), &st), 0);
+            QCOMPARE(st.st_mode & 07777, mode_t(0700));
+            QVERIFY(VaultIndex::load(vault.path()).events.empty());
         } else {
-            writeAll(dir.filePath("file"), "not a folder");
+            try {
+                VaultIndex::removeEvent(kept.eventID, vault.path());
+                QFAIL("expected a failure");
+            } catch (const VaultIndex::FileError &e) {
+                QCOMPARE(e.message(), QStringLiteral("There is no Trash folder at %1/Trash and it can't be made, so "
+                                                     "nothing was removed.")
+                                          .arg(dataHome));
+            }
+            QCOMPARE(readAll(clip), QByteArray("abc"));
+            QCOMPARE(VaultIndex::load(vault.path()).events.size(), size_t(1));
         }
-        const QString oldCwd = QDir::currentPath();
-        QVERIFY(QDir::setCurrent(cwd.path()));
-        qputenv("XDG_DATA_HOME", dataHome.toUtf8());
-        const auto restore = qScopeGuard([&] {
-            QDir::setCurrent(oldCwd);
-            qputenv("XDG_DATA_HOME", (home_.path() + "/data").toUtf8());
-        });
-        const auto kept = makeEvent(QStringLiteral("2026-07-18_09-15-32"), {{QStringLiteral("a-front.mp4"), 3, {}}});
-        VaultIndex index;
-        index.events = {kept};
-        index.save(vault.path());
-        QDir().mkpath(vault.filePath(kept.relativePath));
-        writeAll(vault.filePath(kept.relativePath + "/a-front.mp4"), "abc");
-
-        try {
-            VaultIndex::removeEvent(kept.eventID, vault.path());
-            QFAIL("expected a failure");
-        } catch (const VaultIndex::FileError &e) {
-            // One plain sentence.
-            QCOMPARE(e.message(), QStringLiteral("There is no Trash folder at %1/Trash and it can't be made, so "
-                                                 "nothing was removed.")
-                                      .arg(dataHome));
-        }
-        QCOMPARE(readAll(vault.filePath(kept.relativePath + "/a-front.mp4")), QByteArray("abc"));
-        QCOMPARE(VaultIndex::load(vault.path()).events.size(), size_t(1));
         QCOMPARE(QDir(cwd.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden), QStringList());
     }
 
