@@ -1,10 +1,11 @@
 // keelhold-cli keep killed at every call that changes the Vault: after each
-// kill the Vault still verifies against its manifest, and a second keep
-// completes. The kill comes from a preloaded shim (support/KillShim.c).
+// kill `vault verify` agrees with the manifest, and a second keep completes
+// and verifies. The kill comes from a preloaded shim (support/KillShim.c).
 
 #include "support/CliRun.h"
 #include "support/DriveBuilder.h"
 #include "support/TreeSnapshot.h"
+#include "vault/ArchiveEngine.h"
 #include "vault/VaultIndex.h"
 #include "vault/VaultVerifier.h"
 
@@ -160,9 +161,11 @@ private Q_SLOTS:
             const CliRun::Result verified = CliRun::run({"vault", "verify", vault});
             QVERIFY2(verified.exitCode == 0, qPrintable(where + QLatin1Char('\n') + verified.out + verified.err));
 
-            const CliRun::Result second = CliRun::run(keep);
-            QVERIFY2(second.exitCode == 0, qPrintable(where + QLatin1Char('\n') + second.err));
-            // The same check as the tool's, in this process: a process costs more than the check.
+            // The second keep and its check run in this process, as the tool
+            // runs them: a process costs more than either.
+            const ArchiveReport second =
+                ArchiveEngine::run(ArchiveEngine::plan(drive.scan(), VaultIndex::loadOrEmpty(vault)), vault);
+            QVERIFY2(second.failedFiles.empty() && !second.cancelled, qPrintable(where));
             for (const VaultVerifier::EventResult &result : VaultVerifier::verify(vault))
                 QVERIFY2(result.ok(), qPrintable(where + QStringLiteral(": after the second keep ") + result.eventID));
             const QString missing = missingFromIndex(vault, expected);
