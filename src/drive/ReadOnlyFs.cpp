@@ -117,8 +117,10 @@ PathInfo stat(const QString &path, Links links)
     PathInfo info;
     struct stat st {};
     const QByteArray name = QFile::encodeName(path);
-    if ((links == Links::followed ? ::stat(name.constData(), &st) : ::lstat(name.constData(), &st)) != 0)
+    if ((links == Links::followed ? ::stat(name.constData(), &st) : ::lstat(name.constData(), &st)) != 0) {
+        info.error = errno;
         return info;
+    }
     info.exists = true;
     info.isDirectory = S_ISDIR(st.st_mode);
     info.isRegularFile = S_ISREG(st.st_mode);

@@ -7,7 +7,8 @@
 #include <vector>
 
 // The only way this program touches a drive: read-only opens that ask for
-// O_NOATIME so that even access times stay as they were. A car's drive (FAT,
+// O_NOATIME, so access times stay as they were where the file system honours
+// it (exfat-fuse doesn't: it records them itself). A car's drive (FAT,
 // exFAT) holds only folders and regular files: links are never followed and
 // FIFOs and devices are never read, so a crafted stick can't lead a read
 // elsewhere or hold it forever.
@@ -43,6 +44,7 @@ struct PathInfo {
     bool isDirectory = false;
     bool isRegularFile = false;
     qint64 size = 0;
+    int error = 0; // errno when nothing could be seen, ENOENT for nothing there
 };
 enum class Links { notFollowed, followed };
 // What stands at path. Inside a drive links are not followed; the folder a

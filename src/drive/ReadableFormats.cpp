@@ -4,15 +4,18 @@
 
 namespace ReadableFormats {
 
+bool isComputerFileSystem(const QString &type)
+{
+    static const QStringList hostTypes{"ext2", "ext3", "ext4", "btrfs", "xfs", "f2fs", "zfs", "bcachefs", "tmpfs",
+                                       "overlay", "overlayfs"};
+    return hostTypes.contains(type.trimmed().toLower());
+}
+
 bool isComputerDisk(const VolumeFormat &format)
 {
     if (format.kind() == VolumeFormat::apfs)
         return true;
-    if (format.kind() != VolumeFormat::other)
-        return false;
-    static const QStringList hostTypes{"ext2", "ext3", "ext4", "btrfs", "xfs", "f2fs", "zfs", "bcachefs", "tmpfs",
-                                       "overlay", "overlayfs"};
-    return hostTypes.contains(format.otherName().trimmed().toLower());
+    return format.kind() == VolumeFormat::other && isComputerFileSystem(format.otherName());
 }
 
 bool carCanRecordTo(const VolumeFormat &format)

@@ -10,6 +10,8 @@ namespace ReadableFormats {
 
 // apfs, or `other` naming one of the computer's own file systems.
 bool isComputerDisk(const VolumeFormat &format);
+// A kernel file-system type ("ext4", "btrfs", "tmpfs", …) of the computer's own disks.
+bool isComputerFileSystem(const QString &type);
 // exFAT, FAT32, ext3 and ext4: what the car itself records to.
 bool carCanRecordTo(const VolumeFormat &format);
 // exFAT, FAT32, or the computer's own disk.

@@ -8,6 +8,7 @@
 
 #include <QChar>
 #include <algorithm>
+#include <cerrno>
 #include <climits>
 #include <set>
 
@@ -214,6 +215,14 @@ bool exists(const QString &path)
     return ReadOnlyFs::stat(path).exists;
 }
 
+// A top folder that is there, or that can't even be looked at (a failing
+// drive), in which case only its listing can tell more.
+bool present(const QString &path)
+{
+    const ReadOnlyFs::PathInfo info = ReadOnlyFs::stat(path);
+    return info.exists || info.error != ENOENT;
+}
+
 } // namespace
 
 std::optional<NameGroups> matchFolderName(QStringView name)
@@ -409,10 +418,12 @@ DriveScan scan(const QString &rootIn, const ScanProgressCallback &progress)
     for (const EventFolder &f : {EventFolder{"SentryClips", EventKind::sentry, Phase::sentry},
                                  EventFolder{"SavedClips", EventKind::saved, Phase::saved}}) {
         const QString folder = childPath(root, QLatin1String(f.name));
-        if (!exists(folder))
+        if (!present(folder))
             continue;
         assertReadable(folder);
         report(progress, f.phase, foldersScanned, int(events.size()), 0);
+        // A folder that fails its listing for any other reason than a
+        // refusal (a failing drive) costs itself only.
         const ReadOnlyFs::Listing listing = ReadOnlyFs::list(folder, ReadOnlyFs::directoryFlag);
         if (!listing.ok()) {
             issues.push_back(ScanIssue{ScanIssue::Kind::unreadableFolder, folder});
@@ -443,7 +454,7 @@ DriveScan scan(const QString &rootIn, const ScanProgressCallback &progress)
     }
 
     const QString recentFolder = childPath(root, QStringLiteral("RecentClips"));
-    if (exists(recentFolder)) {
+    if (present(recentFolder)) {
         assertReadable(recentFolder);
         report(progress, Phase::recent, foldersScanned, int(events.size()), 0);
         if (auto clips = parseFlatClipsDirectory(recentFolder, issues)) {
@@ -470,6 +481,7 @@ DriveScan scan(const QString &rootIn, const ScanProgressCallback &progress)
     if (volume) {
         result.capacityBytes = volume->capacityBytes;
         result.freeBytes = volume->freeBytes;
+        result.onSystemDisk = volume->onSystemDisk;
     }
     result.events = std::move(events);
     result.encryptedClipsPresent = encryptedClipsPresent;

@@ -32,7 +32,8 @@ private:
 
 class ScanError : public std::exception {
 public:
-    // accessDenied(path:) is the only case.
+    // accessDenied(path:), the only case: the chosen folder itself refuses
+    // listing. Any folder below it that does becomes a ScanIssue instead.
     explicit ScanError(const QString &path) : path_(path), text_(message().toStdString()) {}
     const QString &path() const { return path_; }
     QString message() const;

@@ -1,5 +1,8 @@
 #include "drive/VolumeInfo.h"
 
+#include "drive/ReadableFormats.h"
+
+#include <QDir>
 #include <QFile>
 #include <QStorageInfo>
 #include <blkid/blkid.h>
@@ -52,7 +55,37 @@ DeviceProbe fromBlkid(const QString &device)
     return result;
 }
 
+bool isBelow(const QString &path, QLatin1String folder)
+{
+    return path.size() > folder.size() + 1 && path.startsWith(folder) && path[folder.size()] == QLatin1Char('/');
+}
+
+bool sameDevice(const struct stat &st, const QString &other)
+{
+    struct stat o {};
+    return ::stat(QFile::encodeName(other).constData(), &o) == 0 && o.st_dev == st.st_dev;
+}
+
+// The disk the system or the user's home lives on, or a file system only a
+// computer uses (a second internal disk, a sandbox's tmpfs) mounted where
+// no plugged-in drive would be.
+bool isSystemDisk(const QString &path, const QString &mountPoint, const QString &type)
+{
+    struct stat st {};
+    if (::stat(QFile::encodeName(path).constData(), &st) != 0)
+        return false;
+    if (sameDevice(st, QStringLiteral("/")) || sameDevice(st, QDir::homePath()))
+        return true;
+    return !isRemovableMediaPath(mountPoint) && ReadableFormats::isComputerFileSystem(type);
+}
+
 } // namespace
+
+bool isRemovableMediaPath(const QString &mountPoint)
+{
+    return isBelow(mountPoint, QLatin1String("/media")) || isBelow(mountPoint, QLatin1String("/run/media"))
+        || isBelow(mountPoint, QLatin1String("/mnt"));
+}
 
 DeviceProbe probeDevice(const QString &device)
 {
@@ -96,6 +129,7 @@ std::optional<Info> query(const QString &path)
     }
     if (!type.isEmpty())
         info.formatDescription = type;
+    info.onSystemDisk = isSystemDisk(path, info.mountPoint, type);
     if (!label.isEmpty()) {
         info.name = label;
     } else {

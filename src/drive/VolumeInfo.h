@@ -13,10 +13,15 @@ struct Info {
     std::optional<qint64> capacityBytes;
     std::optional<qint64> freeBytes;
     std::optional<QString> formatDescription; // the real file-system type, e.g. "exfat", "ext4"
+    bool onSystemDisk = false;                // the computer's own disk, not a drive plugged into it
 };
 
 // Nothing when the volume can't be queried.
 std::optional<Info> query(const QString &path);
+
+// A mount point below the removable-media folders (/media, /run/media, /mnt),
+// where a plugged-in drive appears.
+bool isRemovableMediaPath(const QString &mountPoint);
 
 // Label and type straight from the block device (udev data, else libblkid).
 struct DeviceProbe {

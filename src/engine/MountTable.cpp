@@ -1,5 +1,7 @@
 #include "engine/MountTable.h"
 
+#include "drive/VolumeInfo.h"
+
 #include <QFile>
 #include <QHash>
 #include <QList>
@@ -29,11 +31,6 @@ QString unescape(const QByteArray &field)
         out.append(c);
     }
     return QString::fromUtf8(out);
-}
-
-bool isBelow(const QString &path, QLatin1String folder)
-{
-    return path.size() > folder.size() + 1 && path.startsWith(folder) && path[folder.size()] == QLatin1Char('/');
 }
 
 bool hasHiddenComponent(const QString &path)
@@ -87,9 +84,7 @@ std::vector<Entry> removableMounts(const std::vector<Entry> &table)
     QHash<QString, size_t> indexByMountPoint;
     for (const Entry &e : table) {
         const QString &p = e.mountPoint;
-        const bool removable = isBelow(p, QLatin1String("/media")) || isBelow(p, QLatin1String("/run/media"))
-            || isBelow(p, QLatin1String("/mnt"));
-        if (!removable || hasHiddenComponent(p))
+        if (!VolumeInfo::isRemovableMediaPath(p) || hasHiddenComponent(p))
             continue;
         // A later mount over the same point hides the earlier one.
         const auto it = indexByMountPoint.constFind(p);

@@ -48,8 +48,12 @@ QString percentText(double fraction)
     return QString::number(qint64(std::round(fraction * 100.0)));
 }
 
-QString formatVerdict(const VolumeFormat &format)
+QString formatVerdict(const VolumeFormat &format, bool onSystemDisk)
 {
+    if (onSystemDisk)
+        return QStringLiteral("These clips are in a folder on this %1, not on your car's drive, so there's nothing "
+                              "to reformat.")
+            .arg(PlatformWords::computer());
     switch (format.kind()) {
     case VolumeFormat::exFAT:
         return QStringLiteral("Your drive is formatted exFAT \u2014 exactly what your Tesla expects. No action needed.");
@@ -93,7 +97,7 @@ HealthReport compute(const DriveScan &scan, const VaultIndex &vaultIndex)
     }
     if (scan.capacityBytes && scan.freeBytes && *scan.capacityBytes > 0)
         report.fullnessFraction = double(*scan.capacityBytes - *scan.freeBytes) / double(*scan.capacityBytes);
-    report.formatVerdict = formatVerdict(scan.format);
+    report.formatVerdict = formatVerdict(scan.format, scan.onSystemDisk);
     report.encryptedClipsPresent = scan.encryptedClipsPresent;
     report.unarchivedEventCount = unarchivedCount(scan, vaultIndex);
 

@@ -14,8 +14,9 @@ namespace HealthComputer {
 
 HealthReport compute(const DriveScan &scan, const VaultIndex &vaultIndex);
 
-// The one sentence on a drive's format.
-QString formatVerdict(const VolumeFormat &format);
+// The one sentence on a drive's format. A folder on the computer's own disk
+// is no car drive: it gets no advice to reformat.
+QString formatVerdict(const VolumeFormat &format, bool onSystemDisk = false);
 
 // A fraction as a whole percentage, halves away from zero: 0.8504 gives "85".
 QString percentText(double fraction);

@@ -23,6 +23,7 @@ QJsonObject DriveScan::toJson() const
     o.insert(QStringLiteral("format"), format.toJson());
     insertOptional(o, "capacityBytes", capacityBytes);
     insertOptional(o, "freeBytes", freeBytes);
+    o.insert(QStringLiteral("onSystemDisk"), onSystemDisk);
     o.insert(QStringLiteral("events"), encodeArray(events));
     o.insert(QStringLiteral("encryptedClipsPresent"), encryptedClipsPresent);
     o.insert(QStringLiteral("issues"), encodeArray(issues));
@@ -40,6 +41,9 @@ DriveScan DriveScan::fromJson(const QJsonValue &value)
     s.format = VolumeFormat::fromJson(require(o, "format"));
     s.capacityBytes = optionalInt64(o, "capacityBytes");
     s.freeBytes = optionalInt64(o, "freeBytes");
+    // Absent in scans stored before it was known.
+    if (o.contains(QStringLiteral("onSystemDisk")))
+        s.onSystemDisk = requireBool(o, "onSystemDisk");
     s.events = decodeArray<TeslaEvent>(requireArray(o, "events"));
     s.encryptedClipsPresent = requireBool(o, "encryptedClipsPresent");
     s.issues = decodeArray<ScanIssue>(requireArray(o, "issues"));

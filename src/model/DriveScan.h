@@ -17,6 +17,9 @@ struct DriveScan {
     VolumeFormat format;
     std::optional<qint64> capacityBytes;
     std::optional<qint64> freeBytes;
+    // The folder lies on the computer's own disk (the sample footage, footage
+    // copied off the car), not on a drive the car records to.
+    bool onSystemDisk = false;
     std::vector<TeslaEvent> events; // newest first
     bool encryptedClipsPresent = false;
     std::vector<ScanIssue> issues; // in order of discovery

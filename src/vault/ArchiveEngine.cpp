@@ -395,6 +395,16 @@ ArchiveReport run(const ArchivePlan &plan, const QString &vaultURL, const Archiv
     // A failure shows up below as a failure of each event's folder.
     QDir().mkpath(vaultURL);
     removeLeftovers(vaultURL);
+    // An index before the first copy: a run cut off before its end (a kill,
+    // a power cut) leaves kept folders beside an index that vouches for what
+    // it lists, never kept folders with no index at all.
+    if (QFileInfo(vaultURL).isDir() && !QFileInfo::exists(VaultIndex::manifestPath(vaultURL))) {
+        try {
+            VaultIndex().save(vaultURL);
+        } catch (const VaultIndex::FileError &) {
+            // Said by the merge at the end, which tries again.
+        }
+    }
 
     for (int i = 0; i < totalEvents && !report.cancelled; ++i) {
         if (stop.stop_requested()) {

@@ -7,7 +7,76 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QStandardPaths>
+#include <QStorageInfo>
 #include <algorithm>
+
+#include <cstdio>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+// The user's own Trash and its two folders, made as the freedesktop trash
+// specification asks when they are missing (a fresh home has no
+// ~/.local/share). Without them Qt would fall back on the working folder.
+bool makeHomeTrash(const QString &trash)
+{
+    for (const QString &folder : {trash, trash + QStringLiteral("/files"), trash + QStringLiteral("/info")}) {
+        if (QFileInfo(folder).isDir())
+            continue;
+        if (!QDir().mkpath(folder) || ::chmod(QFile::encodeName(folder).constData(), 0700) != 0)
+            return false;
+    }
+    return true;
+}
+
+bool isBelow(const QString &path, const QString &folder)
+{
+    return path.startsWith(QDir::cleanPath(folder) + QLatin1Char('/'));
+}
+
+// Where the specification lets a trashed item land: the home Trash, or the
+// Trash at the top of the item's own volume.
+bool isInATrash(const QString &path, const QString &homeTrash, const QString &volumeRoot)
+{
+    const QString uid = QString::number(::getuid());
+    const QDir top(volumeRoot);
+    return isBelow(path, homeTrash + QStringLiteral("/files"))
+        || isBelow(path, top.filePath(QStringLiteral(".Trash-") + uid + QStringLiteral("/files")))
+        || isBelow(path, top.filePath(QStringLiteral(".Trash/") + uid + QStringLiteral("/files")));
+}
+
+bool present(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.exists() || info.isSymLink();
+}
+
+// Moves a kept folder to the Trash, so the user can undo it from the
+// desktop, or raises with one sentence and leaves it where it was.
+void moveToTrash(const QString &folder)
+{
+    const QString dataHome = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    const QString homeTrash = QDir::cleanPath(dataHome + QStringLiteral("/Trash"));
+    if (dataHome.isEmpty() || !makeHomeTrash(homeTrash))
+        throw VaultIndex::FileError(
+            QStringLiteral("There is no Trash folder at %1 and it can't be made, so nothing was removed.").arg(homeTrash));
+    const QString notMoved = QStringLiteral("Couldn't move %1 to the Trash, so nothing was removed.").arg(folder);
+    QString landed;
+    if (!QFile::moveToTrash(folder, &landed))
+        throw VaultIndex::FileError(notMoved);
+    landed = QDir::cleanPath(landed);
+    if (isInATrash(landed, homeTrash, QStorageInfo(QFileInfo(folder).absolutePath()).rootPath()) && present(landed)
+        && !present(folder))
+        return;
+    // Anywhere else is no Trash the user can find: it goes back.
+    if (present(landed) && !present(folder))
+        std::rename(QFile::encodeName(landed).constData(), QFile::encodeName(folder).constData());
+    throw VaultIndex::FileError(notMoved);
+}
+
+} // namespace
 
 QString VaultIndex::manifestPath(const QString &vaultURL)
 {
@@ -80,12 +149,8 @@ bool VaultIndex::removeEvent(const QString &eventID, const QString &vaultURL)
                             .arg(first->relativePath));
     const QFileInfo info(folder);
     // A folder that is already gone is no error: the record goes all the same.
-    if (info.exists() || info.isSymLink()) {
-        // The freedesktop Trash, so the user can undo it from the desktop.
-        QString trashed = folder;
-        if (!QFile::moveToTrash(trashed))
-            throw FileError(QStringLiteral("Couldn't move %1 to the Trash.").arg(folder));
-    }
+    if (info.exists() || info.isSymLink())
+        moveToTrash(folder);
 
     std::erase_if(index.events, [&](const ArchivedEvent &e) { return e.eventID == eventID; });
     index.save(vaultURL);

@@ -1,4 +1,5 @@
 #include "model/ArchiveReport.h"
+#include "support/CliRun.h"
 #include "support/DriveBuilder.h"
 #include "support/FaultyFs.h"
 #include "support/TreeSnapshot.h"
@@ -25,32 +26,8 @@ using namespace std::chrono_literals;
 
 namespace {
 
-struct Result {
-    int exitCode = -1;
-    QByteArray out;
-    QString err;
-};
-
-Result finish(QProcess &process)
-{
-    if (!process.waitForFinished(60000)) {
-        process.kill();
-        process.waitForFinished();
-    }
-    Result r;
-    r.exitCode = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
-    r.out = process.readAllStandardOutput();
-    r.err = QString::fromUtf8(process.readAllStandardError());
-    return r;
-}
-
-Result cli(const QStringList &arguments, const QProcessEnvironment &env = QProcessEnvironment::systemEnvironment())
-{
-    QProcess process;
-    process.setProcessEnvironment(env);
-    process.start(QStringLiteral(KEELHOLD_CLI_PATH), arguments);
-    return finish(process);
-}
+using CliRun::finish;
+using Result = CliRun::Result;
 
 // Standard output up to the whole report, read while the program runs.
 QByteArray reportFrom(QProcess &process)
@@ -65,7 +42,6 @@ ArchiveReport parseReport(const QByteArray &out)
 {
     return ArchiveReport::fromJson(QJsonDocument::fromJson(out).object());
 }
-
 
 } // namespace
 
@@ -94,7 +70,7 @@ private Q_SLOTS:
     void keepsEveryEventAndPrintsTheReport()
     {
         QTemporaryDir vault;
-        const Result r = cli({"keep", drive_.root(), "--vault", vault.path()});
+        const Result r = CliRun::run({"keep", drive_.root(), "--vault", vault.path()});
         QCOMPARE(r.exitCode, 0);
         const ArchiveReport report = parseReport(r.out);
         QCOMPARE(report.archivedEvents.size(), size_t(3));
@@ -104,7 +80,7 @@ private Q_SLOTS:
         // Not a terminal: no progress line.
         QVERIFY2(r.err.isEmpty(), qPrintable(r.err));
 
-        const Result again = cli({"keep", drive_.root(), "--vault", vault.path(), "--pretty"});
+        const Result again = CliRun::run({"keep", drive_.root(), "--vault", vault.path(), "--pretty"});
         QCOMPARE(again.exitCode, 0);
         QVERIFY(again.out.contains("\n    "));
         const ArchiveReport second = parseReport(again.out);
@@ -130,7 +106,7 @@ private Q_SLOTS:
     void keepsOnlyTheChosenEvents()
     {
         QTemporaryDir vault;
-        const Result r = cli({"keep", drive_.root(), "--vault", vault.path(), "--event", "saved|2026-07-19_10-00-00",
+        const Result r = CliRun::run({"keep", drive_.root(), "--vault", vault.path(), "--event", "saved|2026-07-19_10-00-00",
                               "--event", "sentry|2026-07-17_08-00-00"});
         QCOMPARE(r.exitCode, 0);
         const ArchiveReport report = parseReport(r.out);
@@ -142,33 +118,33 @@ private Q_SLOTS:
     void badInputGetsOnePlainSentence()
     {
         QTemporaryDir vault;
-        Result r = cli({"keep", drive_.root(), "--vault", vault.path(), "--event", "sentry|1999-01-01_00-00-00"});
+        Result r = CliRun::run({"keep", drive_.root(), "--vault", vault.path(), "--event", "sentry|1999-01-01_00-00-00"});
         QCOMPARE(r.exitCode, 2);
         QVERIFY(r.err.contains("no event"));
         QVERIFY(r.out.isEmpty());
         QVERIFY(!QFile::exists(vault.filePath("manifest.json")));
 
-        r = cli({"keep", driveDir_.filePath("nothing-here"), "--vault", vault.path()});
+        r = CliRun::run({"keep", driveDir_.filePath("nothing-here"), "--vault", vault.path()});
         QCOMPARE(r.exitCode, 2);
         QCOMPARE(r.err.count('\n'), 1);
 
-        r = cli({"keep", drive_.root(), "--vault", drive_.root() + "/SentryClips/../Vault"});
+        r = CliRun::run({"keep", drive_.root(), "--vault", drive_.root() + "/SentryClips/../Vault"});
         QCOMPARE(r.exitCode, 2);
         QVERIFY(r.err.contains("never writes"));
         QVERIFY(!QFileInfo::exists(drive_.root() + "/Vault"));
 
-        r = cli({"keep", drive_.root()});
+        r = CliRun::run({"keep", drive_.root()});
         QCOMPARE(r.exitCode, 64);
         // Bad time limits are refused in one sentence before anything is written.
         for (const char *limit : {"soon", "nan", "inf", "-inf", "0", "-1", "1e9", ""}) {
-            r = cli({"keep", drive_.root(), "--vault", vault.filePath("untouched"), "--timeout", limit});
+            r = CliRun::run({"keep", drive_.root(), "--vault", vault.filePath("untouched"), "--timeout", limit});
             QVERIFY2(r.exitCode == 2, limit);
             QCOMPARE(r.err.count('\n'), 1);
             QVERIFY(!QFileInfo::exists(vault.filePath("untouched")));
         }
-        r = cli({"vault", "list"});
+        r = CliRun::run({"vault", "list"});
         QCOMPARE(r.exitCode, 64);
-        r = cli({"vault", "list", vault.filePath("missing")});
+        r = CliRun::run({"vault", "list", vault.filePath("missing")});
         QCOMPARE(r.exitCode, 2);
         QVERIFY(r.err.contains("no Vault folder"));
     }
@@ -307,15 +283,15 @@ private Q_SLOTS:
     void vaultListVerifyAndRemove()
     {
         QTemporaryDir vault;
-        QCOMPARE(cli({"keep", drive_.root(), "--vault", vault.path()}).exitCode, 0);
+        QCOMPARE(CliRun::run({"keep", drive_.root(), "--vault", vault.path()}).exitCode, 0);
 
-        Result r = cli({"vault", "list", vault.path()});
+        Result r = CliRun::run({"vault", "list", vault.path()});
         QCOMPARE(r.exitCode, 0);
         const QJsonArray listed = QJsonDocument::fromJson(r.out).array();
         QCOMPARE(listed.size(), 3);
         QCOMPARE(TeslaEvent::fromJson(listed[0]).id(), QStringLiteral("saved|2026-07-19_10-00-00"));
 
-        r = cli({"vault", "verify", vault.path()});
+        r = CliRun::run({"vault", "verify", vault.path()});
         QCOMPARE(r.exitCode, 0);
         QCOMPARE(r.out.count('\n'), 3);
         QVERIFY(!r.out.contains("DIFFERS"));
@@ -332,7 +308,7 @@ private Q_SLOTS:
             f.write(QByteArray(1, char(c ^ 1)));
         }
         QVERIFY(QFile::remove(sentry + "/" + clips[2]));
-        r = cli({"vault", "verify", vault.path()});
+        r = CliRun::run({"vault", "verify", vault.path()});
         QCOMPARE(r.exitCode, 1);
         const QList<QByteArray> lines = r.out.trimmed().split('\n');
         QCOMPARE(lines.size(), 3);
@@ -347,12 +323,12 @@ private Q_SLOTS:
         QTemporaryDir bare;
         QVERIFY(QDir().mkpath(bare.filePath("2026/saved")));
         QVERIFY(QProcess::execute("cp", {"-r", vault.filePath("2026/saved/2026-07-19_10-00-00"), bare.filePath("2026/saved/")}) == 0);
-        r = cli({"vault", "verify", bare.path()});
+        r = CliRun::run({"vault", "verify", bare.path()});
         QCOMPARE(r.exitCode, 2);
         QCOMPARE(r.err.count('\n'), 1);
         QVERIFY(r.err.contains("manifest.json is missing"));
         QTemporaryDir empty;
-        QCOMPARE(cli({"vault", "verify", empty.path()}).exitCode, 0);
+        QCOMPARE(CliRun::run({"vault", "verify", empty.path()}).exitCode, 0);
 
         // Removal goes to the Trash of this (throwaway) home.
         QTemporaryDir home;
@@ -360,17 +336,17 @@ private Q_SLOTS:
         env.insert("HOME", home.path());
         env.insert("XDG_DATA_HOME", home.filePath("data"));
         QDir().mkpath(home.filePath("data"));
-        r = cli({"vault", "remove", vault.path(), "sentry|2026-07-18_09-15-32"}, env);
+        r = CliRun::run({"vault", "remove", vault.path(), "sentry|2026-07-18_09-15-32"}, env);
         QCOMPARE(r.exitCode, 0);
         QVERIFY(QFileInfo::exists(home.filePath("data/Trash/files/2026-07-18_09-15-32")));
-        r = cli({"vault", "remove", vault.path(), "sentry|2026-07-18_09-15-32"}, env);
+        r = CliRun::run({"vault", "remove", vault.path(), "sentry|2026-07-18_09-15-32"}, env);
         QCOMPARE(r.exitCode, 2);
         QVERIFY(r.err.contains("no event"));
-        QCOMPARE(QJsonDocument::fromJson(cli({"vault", "list", vault.path()}).out).array().size(), 2);
-        QCOMPARE(cli({"vault", "verify", vault.path()}).exitCode, 0);
+        QCOMPARE(QJsonDocument::fromJson(CliRun::run({"vault", "list", vault.path()}).out).array().size(), 2);
+        QCOMPARE(CliRun::run({"vault", "verify", vault.path()}).exitCode, 0);
 
         TeslaCamFixture::writeFile(vault.filePath("manifest.json"), "{");
-        r = cli({"vault", "verify", vault.path()});
+        r = CliRun::run({"vault", "verify", vault.path()});
         QCOMPARE(r.exitCode, 2);
         QVERIFY(r.err.contains("manifest.json"));
     }

@@ -1,11 +1,14 @@
 #include "drive/ClipCalendar.h"
 #include "drive/ReadableFormats.h"
 #include "drive/TeslaCamParser.h"
+#include "support/FaultyFs.h"
 #include "support/TeslaCamFixture.h"
+#include "support/TmpfsMount.h"
 #include "support/TreeSnapshot.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
+#include <cerrno>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -262,6 +265,52 @@ private Q_SLOTS:
         QCOMPARE(scan.issues[0].path, fx.path("SavedClips"));
     }
 
+    void unreadableTopFolder_data()
+    {
+        QTest::addColumn<QString>("folder");
+        QTest::addColumn<int>("error");
+        QTest::addColumn<bool>("lookupsToo");
+        for (const char *folder : {"SentryClips", "SavedClips", "RecentClips"}) {
+            QTest::addRow("%s refused", folder) << QString::fromLatin1(folder) << EACCES << false;
+            QTest::addRow("%s failing", folder) << QString::fromLatin1(folder) << EIO << false;
+            QTest::addRow("%s unreachable", folder) << QString::fromLatin1(folder) << EIO << true;
+        }
+    }
+
+    void unreadableTopFolder()
+    {
+        QFETCH(QString, folder);
+        QFETCH(int, error);
+        QFETCH(bool, lookupsToo);
+        if (!FaultyFs::available())
+            QSKIP("needs root and /dev/fuse");
+        QTemporaryDir mountPoint;
+        FaultyFs fs(mountPoint.path());
+        QVERIFY(fs.isMounted());
+        const QByteArray clip(1000, 'x');
+        fs.addFile("TeslaCam/SentryClips/2024-06-01_15-05-00/2024-06-01_15-04-00-front.mp4", clip);
+        fs.addFile("TeslaCam/SavedClips/2024-06-02_09-00-00/2024-06-02_08-59-00-front.mp4", clip);
+        fs.addFile("TeslaCam/RecentClips/2024-06-03_08-00-00-front.mp4", clip);
+        fs.failFolder("TeslaCam/" + folder, error, lookupsToo);
+        const QString root = mountPoint.filePath("TeslaCam");
+
+        // A refusal stops the scan; a failing drive costs the folder only.
+        if (error == EACCES) {
+            QVERIFY_THROWS_EXCEPTION(TeslaCamParser::ScanError, TeslaCamParser::scan(root));
+            return;
+        }
+        const DriveScan scan = TeslaCamParser::scan(root);
+        QCOMPARE(issueList(scan), QStringList{"unreadableFolder TeslaCam/" + folder});
+        QCOMPARE(scan.issues[0].path, root + "/" + folder);
+        QStringList kinds;
+        for (const auto &e : scan.events)
+            kinds << e.kind.rawValue();
+        kinds.sort();
+        QStringList expected{"recent", "saved", "sentry"};
+        expected.removeOne(folder == "SentryClips" ? "sentry" : folder == "SavedClips" ? "saved" : "recent");
+        QCOMPARE(kinds, expected);
+    }
+
     void hangingEntriesDontHangTheScan()
     {
         // A FIFO called event.json must not block the read.
@@ -359,6 +408,33 @@ private Q_SLOTS:
         QVERIFY(scan.format.kind() == VolumeFormat::other); // the host's own file system, by name
         QVERIFY(!scan.format.otherName().isEmpty());
         QVERIFY(qAbs(scan.scannedAt.timeIntervalSince(Date::now())) < 60);
+    }
+
+    void computersOwnDiskOrAPluggedInDrive()
+    {
+        // A folder of the computer's own: where the tests' temporary folders live.
+        QTemporaryDir tmp;
+        QVERIFY(TeslaCamParser::scan(TeslaCamFixture(tmp.path() + "/TeslaCam").root()).onSystemDisk);
+        if (::geteuid() != 0)
+            QSKIP("needs root to mount drives");
+
+        // A tmpfs where plugged-in drives are mounted is one of them; the dot
+        // keeps it out of the drive lists of other tests running beside this one.
+        const TmpfsMount plugged(QStringLiteral("/media"), QStringLiteral(".keelhold-drive-XXXXXX"));
+        QVERIFY(plugged.ok());
+        QVERIFY(!TeslaCamParser::scan(TeslaCamFixture(plugged.path() + "/TeslaCam").root()).onSystemDisk);
+        // Elsewhere a tmpfs is the computer's own, as a sandbox's is.
+        const TmpfsMount own(tmp.path(), QStringLiteral("own-XXXXXX"));
+        QVERIFY(own.ok());
+        QVERIFY(TeslaCamParser::scan(TeslaCamFixture(own.path() + "/TeslaCam").root()).onSystemDisk);
+        // A car's exFAT drive is never the computer's, wherever it is mounted.
+        if (!FaultyFs::available())
+            QSKIP("needs /dev/fuse");
+        QTemporaryDir mountPoint;
+        FaultyFs exfat(mountPoint.path());
+        QVERIFY(exfat.isMounted());
+        exfat.addFile("TeslaCam/RecentClips/2024-06-03_08-00-00-front.mp4", QByteArray(1000, 'x'));
+        QVERIFY(!TeslaCamParser::scan(mountPoint.filePath("TeslaCam")).onSystemDisk);
     }
 
     void driveTreeIsUntouched()

@@ -291,6 +291,12 @@ void TestHealthComputer::formatVerdicts()
                             "safest choice."));
     QCOMPARE(HealthComputer::formatVerdict(VolumeFormat::unknown),
              QStringLiteral("We couldn't determine how this drive is formatted."));
+    // A folder on the computer's own disk is no car drive: no advice to reformat it.
+    DriveScan onComputer = scan({}, VolumeFormat::makeOther(QStringLiteral("btrfs")));
+    onComputer.onSystemDisk = true;
+    QCOMPARE(HealthComputer::compute(onComputer, {}).formatVerdict,
+             QStringLiteral("These clips are in a folder on this computer, not on your car's drive, so there's "
+                            "nothing to reformat."));
 }
 
 void TestHealthComputer::reportAsJson()

@@ -295,6 +295,7 @@ private Q_SLOTS:
         empty.folderName = "2024-01-01_00-00-00";
         scan.events = {e, empty};
         scan.encryptedClipsPresent = true;
+        scan.onSystemDisk = true;
         scan.issues = {ScanIssue{ScanIssue::Kind::badEventJSON, "/a/event.json"},
                        ScanIssue{ScanIssue::Kind::unknownFile, "/a/b c"}};
         scan.scannedAt = Date(816971552.9364347);
@@ -303,6 +304,10 @@ private Q_SLOTS:
         QCOMPARE(*back.freeBytes, 9'007'199'254'740'993LL);
         QCOMPARE(back.unknownFileCount(), 1);
         QCOMPARE(back.unknownCameraSuffixCount(), 0);
+        // A scan stored before the computer's own disk was told apart reads as a drive.
+        QJsonObject stored = scan.toJson();
+        stored.remove("onSystemDisk");
+        QVERIFY(!DriveScan::fromJson(stored).onSystemDisk);
 
         DriveScan noVolume = scan;
         noVolume.capacityBytes.reset();

@@ -40,6 +40,11 @@ struct FaultyFs::State {
     bool hangStatfs = false;
     std::map<std::string, File> files; // "/TeslaCam/…"
     std::set<std::string> folders{"/"};
+    struct FolderFault {
+        int error = 0;
+        bool lookupsToo = false;
+    };
+    std::map<std::string, FolderFault> failingFolders;
     std::atomic<qint64> served{0};
     std::atomic<qint64> vanishAfter{-1};
     std::atomic<bool> vanished{false};
@@ -83,6 +88,8 @@ int onGetattr(const char *path, struct stat *st, fuse_file_info *)
     std::lock_guard lock(s.mutex);
     if (s.vanished && std::strcmp(path, "/") != 0)
         return -ENOENT;
+    if (const auto fault = s.failingFolders.find(path); fault != s.failingFolders.end() && fault->second.lookupsToo)
+        return -fault->second.error;
     if (s.folders.count(path)) {
         st->st_mode = S_IFDIR | 0755;
         st->st_nlink = 2;
@@ -124,6 +131,15 @@ int onReaddir(const char *path, void *buffer, fuse_fill_dir_t fill, off_t, fuse_
         collect(p);
     for (const auto &n : names)
         fill(buffer, n.c_str(), nullptr, 0, fuse_fill_dir_flags(0));
+    return 0;
+}
+
+int onOpendir(const char *path, fuse_file_info *)
+{
+    auto &s = state();
+    std::lock_guard lock(s.mutex);
+    if (const auto fault = s.failingFolders.find(path); fault != s.failingFolders.end())
+        return -fault->second.error;
     return 0;
 }
 
@@ -189,6 +205,7 @@ const fuse_operations &operations()
         o.init = onInit;
         o.getattr = onGetattr;
         o.readdir = onReaddir;
+        o.opendir = onOpendir;
         o.open = onOpen;
         o.read = onRead;
         o.statfs = onStatfs;
@@ -200,6 +217,13 @@ const fuse_operations &operations()
 std::string key(const QString &relativePath)
 {
     return (QLatin1Char('/') + QDir::cleanPath(relativePath)).toStdString();
+}
+
+// Every folder above path; the caller holds the lock.
+void addParentFolders(FaultyFs::State &s, const std::string &path)
+{
+    for (size_t slash = path.find('/', 1); slash != std::string::npos; slash = path.find('/', slash + 1))
+        s.folders.insert(path.substr(0, slash));
 }
 
 } // namespace
@@ -287,8 +311,22 @@ void FaultyFs::addFile(const QString &relativePath, const QByteArray &content)
     std::lock_guard lock(state_->mutex);
     const std::string path = key(relativePath);
     state_->files[path].content = content;
-    for (size_t slash = path.find('/', 1); slash != std::string::npos; slash = path.find('/', slash + 1))
-        state_->folders.insert(path.substr(0, slash));
+    addParentFolders(*state_, path);
+}
+
+void FaultyFs::appendToFile(const QString &relativePath, const QByteArray &more)
+{
+    std::lock_guard lock(state_->mutex);
+    state_->files[key(relativePath)].content += more;
+}
+
+void FaultyFs::failFolder(const QString &relativePath, int error, bool lookupsToo)
+{
+    std::lock_guard lock(state_->mutex);
+    const std::string path = key(relativePath);
+    addParentFolders(*state_, path);
+    state_->folders.insert(path);
+    state_->failingFolders[path] = {error, lookupsToo};
 }
 
 void FaultyFs::failReadsFrom(const QString &relativePath, qint64 offset)

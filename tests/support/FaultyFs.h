@@ -26,6 +26,11 @@ public:
 
     // relativePath like "TeslaCam/SentryClips/<event>/<clip>"; folders are implied.
     void addFile(const QString &relativePath, const QByteArray &content);
+    // More bytes at the end of a file, as when the car is still writing it.
+    void appendToFile(const QString &relativePath, const QByteArray &more);
+    // Opening the folder to list it fails with error (EIO, EACCES, …); with
+    // lookupsToo, so does any look at the folder itself.
+    void failFolder(const QString &relativePath, int error, bool lookupsToo = false);
     // Reads that reach offset fail with EIO from then on.
     void failReadsFrom(const QString &relativePath, qint64 offset);
     // Once this many bytes have been served in all, every file and folder is

@@ -397,8 +397,8 @@ private Q_SLOTS:
         QVERIFY(fs.isMounted());
         fs.addFile(QStringLiteral("2026-07-18_09-13-32-front.mp4"), QByteArray(4096, 'x'));
         fs.hangReadsFrom(QStringLiteral("2026-07-18_09-13-32-front.mp4"), 0);
-        const QString fifo = mountPoint.filePath(QStringLiteral("2026-07-18_09-13-32-front.mp4"));
-        event.clips.insert(event.clips.begin(), clipAt(fifo, 4096));
+        const QString held = mountPoint.filePath(QStringLiteral("2026-07-18_09-13-32-front.mp4"));
+        event.clips.insert(event.clips.begin(), clipAt(held, 4096));
         drive.freeze();
 
         // It never answers: the read is left behind and the run goes on.
@@ -408,7 +408,7 @@ private Q_SLOTS:
         const ArchiveReport report = ArchiveEngine::run(ArchiveEngine::plan({event}, VaultIndex{}), vault.path(), {}, 300ms);
         QVERIFY(!report.cancelled);
         QCOMPARE(report.failedFiles.size(), size_t(1));
-        QCOMPARE(report.failedFiles[0].path, fifo);
+        QCOMPARE(report.failedFiles[0].path, held);
         QCOMPARE(report.failedFiles[0].reason,
                  QStringLiteral("This file took too long to read \u2014 the drive may be failing."));
         QCOMPARE(report.archivedEvents.size(), size_t(1));
@@ -496,40 +496,40 @@ private Q_SLOTS:
 
     void sourceThatGrowsDuringTheCopyFailsWithoutLeftovers()
     {
-        QTemporaryDir dir;
-        const QString folder = dir.filePath("TeslaCam/SentryClips/2026-07-18_09-15-32");
-        QDir().mkpath(folder);
-        const QString clip = folder + "/2026-07-18_09-14-32-front.mp4";
-        TeslaCamFixture::makeSparseFile(clip, 96 << 20);
-        TeslaEvent event;
-        event.folderURL = folder;
-        event.folderName = QStringLiteral("2026-07-18_09-15-32");
-        event.timestamp = *TeslaCamParser::parseTimestamp(u"2026-07-18", u"09-15-32");
-        event.clips = {clipAt(clip, 96 << 20)};
+        if (!FaultyFs::available())
+            QSKIP("needs root and /dev/fuse");
+        QTemporaryDir mountPoint;
+        FaultyFs fs(mountPoint.path());
+        QVERIFY(fs.isMounted());
+        const QString name = QStringLiteral("2026-07-18_09-15-32");
+        const QString clip = "TeslaCam/SentryClips/" + name + "/" + DriveBuilder::clipNames(name, 1)[0];
+        fs.addFile(clip, DriveBuilder::randomBytes(3 << 20, 7));
+        // Held after its first block: the copy has taken the size and begun.
+        fs.hangReadsFrom(clip, 1 << 20);
+        const auto events = TeslaCamParser::scan(mountPoint.filePath("TeslaCam")).events;
+        QCOMPARE(events.size(), size_t(1));
 
-        // The car is still writing: the file grows all through the copy.
-        std::atomic<bool> done{false};
-        std::thread writer([&] {
-            QFile f(clip);
-            if (!f.open(QIODevice::Append))
-                return;
-            while (!done) {
-                f.write(QByteArray(512, 'x'));
-                f.flush();
-                std::this_thread::sleep_for(1ms);
-            }
-        });
         QTemporaryDir vault;
-        const ArchiveReport report = ArchiveEngine::run(ArchiveEngine::plan({event}, VaultIndex{}), vault.path());
-        done = true;
-        writer.join();
+        ArchiveReport report;
+        std::thread run([&] { report = ArchiveEngine::run(ArchiveEngine::plan(events, VaultIndex{}), vault.path()); });
+        const auto finish = qScopeGuard([&] {
+            fs.release();
+            if (run.joinable())
+                run.join();
+        });
+        QVERIFY(fs.waitUntilHeld());
+        QCOMPARE(DriveBuilder::temporaryFiles(vault.path()).size(), 1);
+        // The car was still writing: the file grows while the copy waits.
+        fs.appendToFile(clip, QByteArray(4096, 'x'));
+        fs.release();
+        run.join();
+
         QCOMPARE(report.failedFiles.size(), size_t(1));
-        QCOMPARE(report.failedFiles[0].path, clip);
-        QCOMPARE(report.failedFiles[0].reason,
-                 QStringLiteral("This file changed size while copying \u2014 the drive may have been disconnected."));
+        QCOMPARE(report.failedFiles[0].path, mountPoint.filePath(clip));
+        QCOMPARE(report.failedFiles[0].reason, reason(ArchiveEngine::Reason::sizeMismatch));
         QVERIFY(report.archivedEvents.empty());
-        QVERIFY(DriveBuilder::temporaryFiles(vault.path()).isEmpty());
-        QVERIFY(!QFileInfo::exists(vault.filePath("2026/sentry/2026-07-18_09-15-32/2026-07-18_09-14-32-front.mp4")));
+        QCOMPARE(DriveBuilder::temporaryFiles(vault.path()), QStringList());
+        QVERIFY(!QFileInfo::exists(vault.filePath("2026/sentry/" + name + "/" + DriveBuilder::clipNames(name, 1)[0])));
     }
 
     void fullVaultDiskFailsTheFileAndKeepsEarlierRecords()
@@ -707,7 +707,7 @@ private Q_SLOTS:
         }
     }
 
-    void oldCopyThatCannotBeRemovedFailsTheFile()
+    void destinationThatCannotBeReplacedFailsTheFile()
     {
         Drive drive;
         drive.builder.addEvent("SentryClips", "2026-07-18_09-15-32", 2, 5000);

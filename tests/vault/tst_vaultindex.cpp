@@ -1,4 +1,5 @@
 #include "model/JsonCoding.h"
+#include "support/TmpfsMount.h"
 #include "vault/ArchivedEvent.h"
 #include "vault/VaultIndex.h"
 
@@ -12,7 +13,9 @@
 #include <QTest>
 
 #include <cmath>
+#include <optional>
 #include <cstring>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -285,6 +288,75 @@ private Q_SLOTS:
 
         QVERIFY(!VaultIndex::removeEvent(partial.eventID, vault.path()));
         QCOMPARE(VaultIndex::load(vault.path()).events.size(), size_t(1));
+    }
+
+    void removeEventLandsInTheDesktopTrashOrSaysWhy_data()
+    {
+        QTest::addColumn<QString>("dataHome");
+        QTest::newRow("a fresh home with no ~/.local/share") << QString();
+        QTest::newRow("a file where the Trash's folder should be") << QStringLiteral("file");
+        QTest::newRow("a read-only parent") << QStringLiteral("read-only");
+    }
+
+    void removeEventLandsInTheDesktopTrashOrSaysWhy()
+    {
+        QFETCH(QString, dataHome);
+        QTemporaryDir dir, cwd, vault;
+        const QString freshHome = dir.filePath("home");
+        QDir().mkpath(freshHome);
+        std::optional<TmpfsMount> readOnly;
+        if (dataHome == "file") {
+            writeAll(dir.filePath("file"), "not a folder");
+            dataHome = dir.filePath("file/share");
+        } else if (dataHome == "read-only") {
+            readOnly.emplace(dir.path(), QStringLiteral("ro-XXXXXX"), QStringLiteral("ro,size=1m"));
+            if (!readOnly->ok())
+                QSKIP("needs root to mount a read-only tmpfs");
+            dataHome = readOnly->path() + "/share";
+        }
+        // Whatever happens, the working folder must not become the Trash.
+        const QString oldCwd = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(cwd.path()));
+        qputenv("HOME", freshHome.toUtf8());
+        if (dataHome.isEmpty())
+            qunsetenv("XDG_DATA_HOME");
+        else
+            qputenv("XDG_DATA_HOME", dataHome.toUtf8());
+        const auto restore = qScopeGuard([&] {
+            QDir::setCurrent(oldCwd);
+            qputenv("HOME", home_.path().toUtf8());
+            qputenv("XDG_DATA_HOME", (home_.path() + "/data").toUtf8());
+        });
+        const auto kept = makeEvent(QStringLiteral("2026-07-18_09-15-32"), {{QStringLiteral("a-front.mp4"), 3, {}}});
+        VaultIndex index;
+        index.events = {kept};
+        index.save(vault.path());
+        const QString clip = vault.filePath(kept.relativePath + "/a-front.mp4");
+        QDir().mkpath(vault.filePath(kept.relativePath));
+        writeAll(clip, "abc");
+
+        if (dataHome.isEmpty()) {
+            QVERIFY(VaultIndex::removeEvent(kept.eventID, vault.path()));
+            const QString trash = freshHome + "/.local/share/Trash";
+            QCOMPARE(readAll(trash + "/files/2026-07-18_09-15-32/a-front.mp4"), QByteArray("abc"));
+            QVERIFY(QFileInfo::exists(trash + "/info/2026-07-18_09-15-32.trashinfo"));
+            struct stat st {};
+            QCOMPARE(::stat(QFile::encodeName(trash).constData(), &st), 0);
+            QCOMPARE(st.st_mode & 07777, mode_t(0700));
+            QVERIFY(VaultIndex::load(vault.path()).events.empty());
+        } else {
+            try {
+                VaultIndex::removeEvent(kept.eventID, vault.path());
+                QFAIL("expected a failure");
+            } catch (const VaultIndex::FileError &e) {
+                QCOMPARE(e.message(), QStringLiteral("There is no Trash folder at %1/Trash and it can't be made, so "
+                                                     "nothing was removed.")
+                                          .arg(dataHome));
+            }
+            QCOMPARE(readAll(clip), QByteArray("abc"));
+            QCOMPARE(VaultIndex::load(vault.path()).events.size(), size_t(1));
+        }
+        QCOMPARE(QDir(cwd.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden), QStringList());
     }
 
     void removeEventNeverReachesOutsideTheVault_data()
