@@ -237,19 +237,19 @@ private Q_SLOTS:
         QVERIFY(QFile::link(mount + "/TeslaCam/SentryClips", dir.filePath("link")));
 
         for (const QString &vault : {mount + "/Vault", dir.filePath("link") + "/Vault", mount + "/TeslaCam/../Vault"}) {
-            const Result r = cli({"keep", drive.root(), "--vault", vault});
+            const Result r = CliRun::run({"keep", drive.root(), "--vault", vault});
             QCOMPARE(r.exitCode, 2);
             QCOMPARE(r.err.trimmed(), QStringLiteral("Keelhold never writes to your Tesla drive, so your Vault has to "
                                                      "be a folder somewhere else."));
         }
-        const Result exported = cli({"export", drive.root(), "--event", "sentry|2026-07-18_09-15-32", "--camera",
+        const Result exported = CliRun::run({"export", drive.root(), "--event", "sentry|2026-07-18_09-15-32", "--camera",
                                      "front", "-o", mount + "/movie.mp4"});
         QCOMPARE(exported.exitCode, 2);
         QVERIFY2(exported.err.contains("never writes to your Tesla drive"), qPrintable(exported.err));
         QCOMPARE(before.differences(TreeSnapshot::take(mount), true), QString());
 
         // A Vault beside the drive is fine.
-        const Result kept = cli({"keep", drive.root(), "--vault", dir.filePath("Vault")});
+        const Result kept = CliRun::run({"keep", drive.root(), "--vault", dir.filePath("Vault")});
         QCOMPARE(kept.exitCode, 0);
     }
 
