@@ -126,6 +126,9 @@ void ExportSession::run()
     });
     writer_->finish();
     writer_->setByteObserver({});
+    // A stop asked while the last bytes went out still counts.
+    if (stop_.stop_requested())
+        cancel();
     report(1.0, true);
 }
 

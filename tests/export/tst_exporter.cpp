@@ -110,6 +110,17 @@ struct ProgressLog {
     bool monotonic() const { return std::is_sorted(values.begin(), values.end()); }
 };
 
+// The clip's samples copied into a new file by the ffmpeg tool, with its options.
+bool remuxed(const QString &source, const QString &destination, const QStringList &options)
+{
+    QProcess ffmpeg;
+    ffmpeg.start(QStringLiteral("ffmpeg"), QStringList{QStringLiteral("-loglevel"), QStringLiteral("error"),
+                                                       QStringLiteral("-i"), source, QStringLiteral("-c"),
+                                                       QStringLiteral("copy")}
+                                               + options + QStringList{destination});
+    return ffmpeg.waitForFinished(60000) && ffmpeg.exitStatus() == QProcess::NormalExit && ffmpeg.exitCode() == 0;
+}
+
 // A copy of a clip with one 32-bit field of one of its sample tables
 // changed, as one flipped byte on a failing drive would.
 QByteArray withTableField(const QString &source, const char *box, int fieldOffset, quint32 value)
@@ -305,11 +316,7 @@ private Q_SLOTS:
         const QString source = TestClips::clip(clipOptions(2.0));
         footage.addClip(source, 2);
         const QString late = footage.output(QStringLiteral("late.mp4"));
-        QProcess ffmpeg;
-        ffmpeg.start(QStringLiteral("ffmpeg"), {QStringLiteral("-loglevel"), QStringLiteral("error"), QStringLiteral("-i"),
-                                                source, QStringLiteral("-c"), QStringLiteral("copy"),
-                                                QStringLiteral("-output_ts_offset"), QStringLiteral("5"), late});
-        QVERIFY(ffmpeg.waitForFinished(60000) && ffmpeg.exitCode() == 0);
+        QVERIFY(remuxed(source, late, {QStringLiteral("-output_ts_offset"), QStringLiteral("5")}));
         footage.addClip(late, 3);
 
         Exporter::exportFootage(Camera::front, footage.event, std::nullopt, footage.output(), {});
@@ -552,11 +559,7 @@ private Q_SLOTS:
         // Index first, so that the clip is judged whole before its pictures
         // are read; the hold lies past the reader's first 256 KiB.
         const QString indexFirst = footage.output(QStringLiteral("index-first.mp4"));
-        QProcess ffmpeg;
-        ffmpeg.start(QStringLiteral("ffmpeg"), {QStringLiteral("-loglevel"), QStringLiteral("error"), QStringLiteral("-i"),
-                                                source, QStringLiteral("-c"), QStringLiteral("copy"),
-                                                QStringLiteral("-movflags"), QStringLiteral("+faststart"), indexFirst});
-        QVERIFY(ffmpeg.waitForFinished(60000) && ffmpeg.exitCode() == 0);
+        QVERIFY(remuxed(source, indexFirst, {QStringLiteral("-movflags"), QStringLiteral("+faststart")}));
         QFile clip(indexFirst);
         QVERIFY(clip.open(QIODevice::ReadOnly));
         const QByteArray bytes = clip.readAll();
