@@ -113,7 +113,11 @@ void ExportSession::run()
             av_packet_rescale_ts(packet, reencoder_->timeBase(), video_->timeBase);
             packet->stream_index = video_->index;
             writer_->write(packet);
+            videoWritten_ = true;
         });
+    // Clips that open but give up no picture in the stretch make no movie.
+    if (!videoWritten_)
+        throw ExportError(ExportError::noClipsForCamera);
 
     const int64_t written = std::max<int64_t>(writer_->bytesWritten(), 1);
     writer_->setByteObserver([this, written](int64_t bytes) {
@@ -162,6 +166,7 @@ void ExportSession::copyClip(const ExportSegment &segment)
             av_packet_rescale_ts(packet, reencoder_->timeBase(), video_->timeBase);
             packet->stream_index = video_->index;
             writer_->write(packet);
+            videoWritten_ = true;
         };
         videoDone = !reencoder_->beginClip(videoStream->codecpar, videoStream->time_base);
     }
@@ -227,6 +232,7 @@ void ExportSession::copyClip(const ExportSegment &segment)
         packet->stream_index = out.index;
         out.end = packet->dts + std::max<int64_t>(packet->duration, 1);
         writer_->write(packet.get());
+        videoWritten_ = videoWritten_ || isVideo;
     }
     if (reencoder_)
         reencoder_->endClip(place, sink);

@@ -45,4 +45,5 @@ private:
     std::unique_ptr<OutputStream> audio_;
     std::chrono::steady_clock::time_point lastReport_{};
     double lastFraction_ = -1.0;
+    bool videoWritten_ = false;
 };

@@ -6,6 +6,7 @@
 #include "drive/ReadOnlyFs.h"
 #include "drive/ReasonMapper.h"
 #include "drive/TeslaCamParser.h"
+#include "export/ExportComposition.h"
 #include "export/ExportError.h"
 #include "export/Exporter.h"
 
@@ -152,8 +153,11 @@ QString exportClip(const QByteArray &input)
             return QStringLiteral("an export failed without a sentence to show (case %1)").arg(int(e.errorCase()));
         return {};
     }
-    if (QFile(destination).size() <= 0)
-        return QStringLiteral("an export succeeded but wrote no movie");
+    // What the export wrote must read back as footage, as the user's player
+    // would read it.
+    ClipRef written = clipAt(destination, QFile(destination).size());
+    if (ExportComposition::build({written}, {}).segments.size() != 1)
+        return QStringLiteral("an export succeeded but its movie holds no footage");
     return {};
 }
 
