@@ -4,11 +4,19 @@
 
 #include <QDir>
 #include <QtTest>
+#include <sys/resource.h>
 
 class FuzzCorpusTest : public QObject {
     Q_OBJECT
 
 private:
+    static long peakMegabytes()
+    {
+        rusage usage{};
+        getrusage(RUSAGE_SELF, &usage);
+        return usage.ru_maxrss / 1024;
+    }
+
     static QDir corpus() { return QDir(QStringLiteral(KEELHOLD_FUZZ_DIR)); }
 
     static QStringList inputsOf(const QString &folder)
@@ -54,8 +62,14 @@ private Q_SLOTS:
         QFETCH(QString, path);
         QFile file(path);
         QVERIFY(file.open(QIODevice::ReadOnly));
-        const QString broken = FuzzEntries::target(target)->run(file.readAll());
+        const QByteArray input = file.readAll();
+        const long before = peakMegabytes();
+        const QString broken = FuzzEntries::target(target)->run(input);
         QVERIFY2(broken.isEmpty(), qPrintable(broken));
+        // What the fuzzers' memory limit catches, checked here too: no input
+        // of a few kilobytes may cost half a gigabyte.
+        const long grown = peakMegabytes() - before;
+        QVERIFY2(grown < 512, qPrintable(QStringLiteral("the peak memory grew by %1 MB").arg(grown)));
     }
 };
 
