@@ -31,6 +31,16 @@ std::optional<double> decodeFlexibleDouble(const QJsonObject &o, const char *key
     return std::nullopt;
 }
 
+// A coordinate off the globe, "nan" among them, costs its field like any
+// other odd value: the map would otherwise place the event by it.
+std::optional<double> decodeCoordinate(const QJsonObject &o, const char *key, double limit)
+{
+    const auto v = decodeFlexibleDouble(o, key);
+    if (v && !(std::fabs(*v) <= limit))
+        return std::nullopt;
+    return v;
+}
+
 // An integer's decimal digits, or a string as it stands.
 std::optional<QString> decodeCamera(const QJsonObject &o)
 {
@@ -108,8 +118,8 @@ std::optional<EventJSONPayload> EventJSONPayload::decode(const QByteArray &data)
     EventJSONPayload p;
     p.timestampRaw = stringField(o, "timestamp");
     p.city = stringField(o, "city");
-    p.estLat = decodeFlexibleDouble(o, "est_lat");
-    p.estLon = decodeFlexibleDouble(o, "est_lon");
+    p.estLat = decodeCoordinate(o, "est_lat", 90.0);
+    p.estLon = decodeCoordinate(o, "est_lon", 180.0);
     p.reason = stringField(o, "reason");
     p.cameraRaw = decodeCamera(o);
     return p;

@@ -9,16 +9,23 @@ extern "C" {
 
 #include <QFile>
 #include <cerrno>
+#include <mutex>
 #include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
 // Large enough that a one-minute clip is read in few system calls.
 constexpr int ioBufferSize = 256 * 1024;
+// The most FFmpeg may take in one allocation, for every file of the process.
+// A crafted index can make the demuxer ask for gigabytes; the largest buffer
+// real footage needs, a decoded picture, is some ten megabytes.
+constexpr size_t largestAllocation = size_t(64) << 20;
 } // namespace
 
 std::unique_ptr<MediaInput> MediaInput::open(const QString &path, std::function<bool()> shouldStop, Options options)
 {
+    static std::once_flag capped;
+    std::call_once(capped, [] { av_max_alloc(largestAllocation); });
     std::unique_ptr<MediaInput> input(new MediaInput);
     input->shouldStop_ = std::move(shouldStop);
     input->fd_ = ReadOnlyFs::openRead(path);

@@ -26,16 +26,17 @@ int openWith(const QByteArray &path, int flags)
     }
     return fd;
 }
-// Car drives hold ASCII names; skip the UTF-8 decoder for those.
+} // namespace
+
 QString decodeName(const char *name)
 {
+    // Car drives hold ASCII names; skip the UTF-8 decoder for those.
     const size_t length = std::strlen(name);
     for (size_t i = 0; i < length; ++i)
         if (static_cast<unsigned char>(name[i]) >= 0x80)
             return QFile::decodeName(QByteArray(name, qsizetype(length)));
     return QString::fromLatin1(name, qsizetype(length));
 }
-} // namespace
 
 int openRead(const QString &path)
 {

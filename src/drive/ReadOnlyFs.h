@@ -35,6 +35,10 @@ enum ListFields { namesOnly = 0, directoryFlag = 1, fileSize = 2 };
 // link is neither a folder nor sized.
 Listing list(const QString &folder, int fields);
 
+// A name as a listing holds it: the bytes of one directory entry, decoded
+// as the system decodes file names.
+QString decodeName(const char *name);
+
 // Opens a regular file for reading only; -1 with errno set on failure, and
 // notRegularFile for a link, FIFO, device or folder (found without blocking).
 int openRead(const QString &path);

@@ -114,11 +114,15 @@ void ExportSession::run()
                 av_packet_rescale_ts(packet, reencoder_->timeBase(), video_->timeBase);
                 packet->stream_index = video_->index;
                 writer_->write(packet);
+                videoWritten_ = true;
             });
         } catch (const Mp4Writer::PacketRefused &) {
             throw ExportError::failed(QStringLiteral("The movie couldn't be written."));
         }
     }
+    // Clips that open but give up no picture in the stretch make no movie.
+    if (!videoWritten_)
+        throw ExportError(ExportError::noClipsForCamera);
 
     const int64_t written = std::max<int64_t>(writer_->bytesWritten(), 1);
     writer_->setByteObserver([this, written](int64_t bytes) {
@@ -172,6 +176,7 @@ void ExportSession::copyClip(const ExportSegment &segment)
             av_packet_rescale_ts(packet, reencoder_->timeBase(), video_->timeBase);
             packet->stream_index = video_->index;
             writer_->write(packet);
+            videoWritten_ = true;
         };
         videoDone = !reencoder_->beginClip(videoStream->codecpar, videoStream->time_base);
     }
@@ -256,6 +261,7 @@ void ExportSession::copyClip(const ExportSegment &segment)
             out.end = packet->dts + std::max<int64_t>(packet->duration, 1);
             writer_->write(packet.get());
             reached = std::max(reached, shownUntil);
+            videoWritten_ = videoWritten_ || isVideo;
         }
     };
     try {

@@ -46,4 +46,5 @@ private:
     std::chrono::steady_clock::time_point lastReport_{};
     double lastFraction_ = -1.0;
     double closedUp_ = 0.0; // seconds of the joined footage that clips didn't fill
+    bool videoWritten_ = false;
 };

@@ -104,27 +104,6 @@ std::vector<ClipHealth> healthsOf(const std::vector<TeslaEvent> &events)
     return healths;
 }
 
-// The offset of the first top-level box of the given type, or -1.
-qint64 topLevelBoxOffset(const QByteArray &file, const char *type)
-{
-    qint64 at = 0;
-    while (at + 8 <= file.size()) {
-        quint64 size = quint32(quint8(file[at]) << 24 | quint8(file[at + 1]) << 16 | quint8(file[at + 2]) << 8
-                               | quint8(file[at + 3]));
-        if (file.mid(at + 4, 4) == type)
-            return at;
-        if (size == 1) {
-            size = 0;
-            for (int i = 0; i < 8; ++i)
-                size = size << 8 | quint8(file[at + 8 + i]);
-        }
-        if (size < 8)
-            return -1;
-        at += qint64(size);
-    }
-    return -1;
-}
-
 } // namespace
 
 class TestClipProber : public QObject {
@@ -179,8 +158,8 @@ private:
         if (!source.open(QIODevice::ReadOnly))
             qFatal("cannot read the source clip");
         const QByteArray bytes = source.readAll();
-        const qint64 moov = topLevelBoxOffset(bytes, "moov");
-        const qint64 mdat = topLevelBoxOffset(bytes, "mdat");
+        const qint64 moov = TestClips::topLevelBoxOffset(bytes, "moov");
+        const qint64 mdat = TestClips::topLevelBoxOffset(bytes, "mdat");
         if (moov < 0 || mdat < 0 || moov < mdat)
             qFatal("the generated clip does not end with its moov box");
         return write(bytes.left(moov));

@@ -46,6 +46,18 @@ private Q_SLOTS:
             QVERIFY2(!decode(bad).estLat, bad);
     }
 
+    void coordinatesOffTheGlobeAreAbsent()
+    {
+        const auto p = decode(R"({"est_lat":"90","est_lon":-180})");
+        QCOMPARE(p.estLat, std::optional<double>(90.0));
+        QCOMPARE(p.estLon, std::optional<double>(-180.0));
+        for (const char *bad : {R"({"est_lat":"-97.4812","est_lon":"181"})", R"({"est_lat":"nan","est_lon":"-inf"})",
+                                R"({"est_lat":1e300,"est_lon":-1e300})", R"({"est_lat":"NaN","est_lon":"infinity"})"}) {
+            const auto q = decode(bad);
+            QVERIFY2(!q.estLat && !q.estLon, bad);
+        }
+    }
+
     void cameraAsIntegerOrString()
     {
         QCOMPARE(decode(R"({"camera":0})").cameraRaw, std::optional<QString>("0"));

@@ -487,6 +487,27 @@ private Q_SLOTS:
         QCOMPARE(before.differences(TreeSnapshot::take(footage.root())), QString());
     }
 
+    // Its index promises a second of pictures; the samples are gone. No
+    // empty movie is made of it.
+    void clipWithoutSamplesFails()
+    {
+        Footage footage;
+        TestClips::ClipOptions options = clipOptions(1.0);
+        options.faststart = true;
+        QFile source(TestClips::clip(options));
+        QVERIFY(source.open(QIODevice::ReadOnly));
+        const QByteArray bytes = source.readAll();
+        const qint64 moov = TestClips::topLevelBoxOffset(bytes, "moov");
+        const qint64 mdat = TestClips::topLevelBoxOffset(bytes, "mdat");
+        QVERIFY(moov >= 0 && mdat > moov);
+        footage.addBytes(bytes.left(mdat), 2);
+
+        const auto error = exportErrorOf([&] {
+            Exporter::exportFootage(Camera::front, footage.event, std::nullopt, footage.output(), {});
+        });
+        QCOMPARE(error, std::optional(ExportError::noClipsForCamera));
+    }
+
     void cancelledBeforeWritingIsACancellation()
     {
         Footage footage;

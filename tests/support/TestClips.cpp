@@ -28,7 +28,7 @@ QString key(const ClipOptions &s)
                              .arg(s.audio)
                              .arg(s.gop)
                              .arg(s.pattern)
-        + QStringLiteral("|%1|%2").arg(s.filter).arg(s.lossless);
+        + QStringLiteral("|%1|%2|%3").arg(s.filter).arg(s.lossless).arg(s.faststart);
     return QString::fromLatin1(QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Md5).toHex());
 }
 } // namespace
@@ -60,6 +60,8 @@ void generate(const ClipOptions &s, const QString &dest)
         args << QStringLiteral("-c:a") << QStringLiteral("aac") << QStringLiteral("-shortest");
     else
         args << QStringLiteral("-an");
+    if (s.faststart)
+        args << QStringLiteral("-movflags") << QStringLiteral("+faststart");
     args << dest;
     QProcess p;
     p.start(QStringLiteral("ffmpeg"), args);
@@ -73,6 +75,26 @@ QString clip(const ClipOptions &options)
     if (!QFile::exists(path))
         generate(options, path);
     return path;
+}
+
+qint64 topLevelBoxOffset(const QByteArray &file, const char *type)
+{
+    qint64 at = 0;
+    while (at + 8 <= file.size()) {
+        quint64 size = quint32(quint8(file[at]) << 24 | quint8(file[at + 1]) << 16 | quint8(file[at + 2]) << 8
+                               | quint8(file[at + 3]));
+        if (file.mid(at + 4, 4) == type)
+            return at;
+        if (size == 1) {
+            size = 0;
+            for (int i = 0; i < 8; ++i)
+                size = size << 8 | quint8(file[at + 8 + i]);
+        }
+        if (size < 8)
+            return -1;
+        at += qint64(size);
+    }
+    return -1;
 }
 
 } // namespace TestClips

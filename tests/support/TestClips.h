@@ -18,6 +18,7 @@ struct ClipOptions {
     QString pattern = QStringLiteral("testsrc2"); // lavfi source
     QString filter;        // video filters after the source, e.g. "geq=lum='N'"
     bool lossless = false; // H.264 at qp 0, so pixel values survive exactly
+    bool faststart = false; // the index (moov) before the samples (mdat)
 };
 
 // Path of a generated clip matching options (do not modify it; copy it).
@@ -25,5 +26,8 @@ QString clip(const ClipOptions &options = ClipOptions());
 // Generates into dest directly.
 void generate(const ClipOptions &options, const QString &dest);
 bool ffmpegAvailable();
+
+// Where the top-level box of a type starts in a movie file's bytes; -1 if none.
+qint64 topLevelBoxOffset(const QByteArray &file, const char *type);
 
 } // namespace TestClips
