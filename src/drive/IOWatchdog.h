@@ -131,8 +131,9 @@ T run(std::chrono::milliseconds timeout, Op &&operation, std::stop_token caller 
     std::function<bool()> isCancelled;
     if (caller.stop_possible())
         isCancelled = [caller] { return caller.stop_requested(); };
-    // Wakes the wait at once when the caller cancels.
+    // The caller's stop reaches the work at once, and wakes the wait.
     std::stop_callback wake(caller, [race] {
+        race->stop.request_stop();
         std::lock_guard lock(race->mutex);
         race->changed.notify_all();
     });
