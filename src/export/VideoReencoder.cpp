@@ -15,6 +15,12 @@ using Exporter::ExportError;
 
 namespace {
 
+// H.264 level 5.2's largest picture (4096x2304 and the like). The cars'
+// cameras stay far within it; a clip whose header claims more is damaged,
+// and encoding pictures of that size would take the machine's memory.
+constexpr int64_t largestMacroblocks = 36864;
+constexpr int largestSide = 8192;
+
 // Best first: x264 at a visually lossless quality, any other H.264
 // encoder, MPEG-4 Part 2 at its finest quantiser as the last resort.
 const AVCodec *bestEncoder()
@@ -53,7 +59,8 @@ bool isFullRange(const AVFrame *frame)
 std::unique_ptr<VideoReencoder> VideoReencoder::create(int width, int height, AVRational frameRate, bool globalHeader)
 {
     const AVCodec *codec = bestEncoder();
-    if (!codec || width < 2 || height < 2)
+    if (!codec || width < 2 || height < 2 || width > largestSide || height > largestSide
+        || int64_t((width + 15) / 16) * ((height + 15) / 16) > largestMacroblocks)
         return nullptr;
     std::unique_ptr<VideoReencoder> self(new VideoReencoder);
     self->encoder_ = avcodec_alloc_context3(codec);

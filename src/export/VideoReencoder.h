@@ -26,7 +26,8 @@ public:
     using Placement = std::function<std::optional<int64_t>(int64_t)>;
     using PacketSink = std::function<void(AVPacket *)>;
 
-    // Null when no suitable encoder is present.
+    // Null when no suitable encoder is present, or the picture is larger
+    // than any camera footage.
     static std::unique_ptr<VideoReencoder> create(int width, int height, AVRational frameRate, bool globalHeader);
     ~VideoReencoder();
 

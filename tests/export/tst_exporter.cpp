@@ -508,6 +508,31 @@ private Q_SLOTS:
         QCOMPARE(error, std::optional(ExportError::noClipsForCamera));
     }
 
+    // A header that claims a picture larger than any camera's is not
+    // re-encoded at that size.
+    void pictureBeyondAnyCameraIsNotReencoded()
+    {
+        Footage footage;
+        const QString source = TestClips::clip(clipOptions(1.0));
+        QFile file(source);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QByteArray bytes = file.readAll();
+        // avc1 sample entry: 8 bytes of box header, then 24 before width and height.
+        const qint64 entry = bytes.lastIndexOf("avc1") - 4;
+        QVERIFY(entry > TestClips::topLevelBoxOffset(bytes, "moov"));
+        for (const int at : {32, 34}) {
+            bytes[entry + at] = char(16000 >> 8);
+            bytes[entry + at + 1] = char(16000 & 0xff);
+        }
+        footage.addClip(source, 2);
+        footage.addBytes(bytes, 3);
+
+        const auto error = exportErrorOf([&] {
+            Exporter::exportFootage(Camera::front, footage.event, std::nullopt, footage.output(), {});
+        });
+        QCOMPARE(error, std::optional(ExportError::exportSessionUnavailable));
+    }
+
     void cancelledBeforeWritingIsACancellation()
     {
         Footage footage;
