@@ -18,9 +18,6 @@ extern "C" {
 
 namespace {
 
-// As long as a probe of one clip may take.
-constexpr std::chrono::seconds clipTimeout{10};
-
 std::shared_ptr<const AVCodecParameters> copyParameters(const AVCodecParameters *source)
 {
     AVCodecParameters *copy = avcodec_parameters_alloc();
@@ -153,7 +150,8 @@ std::optional<ExportSegment> judge(const QString &path, std::stop_token stop)
 
 } // namespace
 
-ExportComposition ExportComposition::build(const std::vector<ClipRef> &clips, std::stop_token stop)
+ExportComposition ExportComposition::build(const std::vector<ClipRef> &clips, std::stop_token stop,
+                                             std::chrono::milliseconds clipLimit)
 {
     ExportComposition composition;
     for (const ClipRef &clip : clips) {
@@ -164,7 +162,7 @@ ExportComposition ExportComposition::build(const std::vector<ClipRef> &clips, st
         std::optional<ExportSegment> segment;
         try {
             segment = IOWatchdog::run(
-                clipTimeout, [path = clip.url](std::stop_token clipStop) { return judge(path, clipStop); }, stop);
+                clipLimit, [path = clip.url](std::stop_token clipStop) { return judge(path, clipStop); }, stop);
         } catch (const IOWatchdog::TimedOut &) {
             continue;
         }

@@ -9,6 +9,7 @@ extern "C" {
 #include <QString>
 #include <memory>
 #include <stop_token>
+#include <chrono>
 #include <vector>
 
 struct AVCodecParameters;
@@ -37,7 +38,8 @@ struct ExportComposition {
     // Opens each clip in order, one at a time, and keeps those that open,
     // have video and a finite positive length. Throws CancellationError
     // when stop is requested before the next clip.
-    static ExportComposition build(const std::vector<ClipRef> &clips, std::stop_token stop);
+    static ExportComposition build(const std::vector<ClipRef> &clips, std::stop_token stop,
+                                   std::chrono::milliseconds clipLimit);
 
     // True when every clip's video has the same codec, size and decoder
     // configuration, so the samples can be joined as they are.

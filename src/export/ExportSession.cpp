@@ -1,6 +1,6 @@
 #include "export/ExportSession.h"
 
-#include "drive/MediaInput.h"
+#include "export/ClipPacketReader.h"
 #include "export/ExportError.h"
 #include "export/Mp4Writer.h"
 #include "export/VideoReencoder.h"
@@ -34,9 +34,10 @@ struct ExportSession::OutputStream {
 };
 
 ExportSession::ExportSession(const ExportComposition &composition, double lower, double upper,
-                             const QString &destination, std::function<void(double)> progress, std::stop_token stop)
+                             const QString &destination, std::function<void(double)> progress, std::stop_token stop,
+                             std::chrono::milliseconds readLimit)
     : composition_(composition), lower_(lower), upper_(upper), destination_(destination),
-      progress_(std::move(progress)), stop_(stop)
+      progress_(std::move(progress)), stop_(stop), readLimit_(readLimit)
 {
 }
 
@@ -138,36 +139,36 @@ void ExportSession::run()
 
 void ExportSession::copyClip(const ExportSegment &segment)
 {
-    // A clip that can no longer be read only shortens the movie.
-    const auto input = MediaInput::open(segment.path, stop_);
-    if (!input)
+    // A clip that can no longer be read, or that the drive stops answering
+    // for, only shortens the movie.
+    const double localLower = lower_ - segment.start;
+    const double localUpper = upper_ - segment.start;
+    std::optional<int64_t> seekTo;
+    if (localLower > 0.0)
+        seekTo = std::llround((segment.origin + localLower) * AV_TIME_BASE);
+    ClipPacketReader reader(segment.path, seekTo, readLimit_, stop_);
+    const auto streams = reader.open();
+    if (!streams)
         return;
-    AVFormatContext *format = input->context();
-    const int videoIn = input->bestStream(AVMEDIA_TYPE_VIDEO);
-    if (videoIn < 0)
-        return;
-    const int audioIn = audio_ && composition_.audioMatches(segment) ? input->bestStream(AVMEDIA_TYPE_AUDIO) : -1;
+    const int videoIn = streams->video;
+    const int audioIn = audio_ && composition_.audioMatches(segment) ? streams->audio : -1;
     const double span = upper_ - lower_;
     // Output time of the clip's time zero: what earlier clips failed to fill
     // is closed up, so the movie has no hole where footage was promised.
     const double clipOffset = segment.start - lower_ - closedUp_;
-    const double localLower = lower_ - segment.start;
-    const double localUpper = upper_ - segment.start;
-    if (localLower > 0.0)
-        av_seek_frame(format, -1, std::llround((segment.origin + localLower) * AV_TIME_BASE), AVSEEK_FLAG_BACKWARD);
     // Clip time of a timestamp, in seconds from the clip's first moment.
     const auto clipTime = [&](int64_t timestamp, AVRational base) {
         return double(timestamp) * av_q2d(base) - segment.origin;
     };
 
-    const AVStream *videoStream = format->streams[videoIn];
+    const AVRational videoBase = streams->timeBases[size_t(videoIn)];
     VideoReencoder::Placement place;
     VideoReencoder::PacketSink sink;
     bool videoDone = false;
     if (reencoder_) {
         place = [&](int64_t timestamp) -> std::optional<int64_t> {
             // Pictures before the clip's first moment are decoder lead-in.
-            const double local = clipTime(timestamp, videoStream->time_base);
+            const double local = clipTime(timestamp, videoBase);
             if (local < std::max(0.0, localLower) || local >= localUpper)
                 return std::nullopt;
             return std::llround((clipOffset + local) / av_q2d(reencoder_->timeBase()));
@@ -178,7 +179,7 @@ void ExportSession::copyClip(const ExportSegment &segment)
             writer_->write(packet);
             videoWritten_ = true;
         };
-        videoDone = !reencoder_->beginClip(videoStream->codecpar, videoStream->time_base);
+        videoDone = !reencoder_->beginClip(streams->videoParameters.get(), videoBase);
     }
     bool audioDone = audioIn < 0;
     std::optional<int64_t> videoShift;
@@ -196,8 +197,9 @@ void ExportSession::copyClip(const ExportSegment &segment)
         while (!(videoDone && audioDone)) {
             if (stop_.stop_requested())
                 cancel();
-            // The end of the clip, or a read error that loses the rest of it.
-            if (av_read_frame(format, packet.get()) < 0)
+            // The end of the clip, a read error that loses the rest of it, or
+            // a read that never answered.
+            if (reader.next(packet.get()) != ClipPacketReader::Read::packet)
                 break;
             const bool isVideo = packet->stream_index == videoIn && !videoDone;
             const bool isAudio = packet->stream_index == audioIn && !audioDone;
@@ -206,7 +208,7 @@ void ExportSession::copyClip(const ExportSegment &segment)
                 av_packet_unref(packet.get());
                 continue;
             }
-            const AVRational inBase = format->streams[packet->stream_index]->time_base;
+            const AVRational inBase = streams->timeBases[size_t(packet->stream_index)];
             const int64_t originIn = std::llround(segment.origin / av_q2d(inBase));
             const double local = clipTime(dts, inBase);
             if (local >= localUpper) {

@@ -17,9 +17,10 @@ struct AVPacket;
 class ExportSession {
 public:
     // lower/upper: the stretch of the joined footage to write, in seconds,
-    // already clamped to the footage.
+    // already clamped to the footage. readLimit: how long one read of a clip
+    // may take before the rest of that clip is given up.
     ExportSession(const ExportComposition &composition, double lower, double upper, const QString &destination,
-                  std::function<void(double)> progress, std::stop_token stop);
+                  std::function<void(double)> progress, std::stop_token stop, std::chrono::milliseconds readLimit);
     ~ExportSession();
 
     // Throws ExportError: exportSessionUnavailable before the file is made,
@@ -38,6 +39,7 @@ private:
     QString destination_;
     std::function<void(double)> progress_;
     std::stop_token stop_;
+    std::chrono::milliseconds readLimit_;
 
     std::unique_ptr<Mp4Writer> writer_;
     std::unique_ptr<VideoReencoder> reencoder_;

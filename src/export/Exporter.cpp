@@ -22,7 +22,8 @@ QString suggestedFileName(const TeslaEvent &event, Camera camera)
 }
 
 void exportFootage(Camera camera, const TeslaEvent &event, std::optional<std::pair<double, double>> range,
-                   const QString &destination, std::function<void(double)> progress, std::stop_token stop)
+                   const QString &destination, std::function<void(double)> progress, std::stop_token stop,
+                   std::chrono::milliseconds readLimit)
 {
     std::vector<ClipRef> clips;
     for (const ClipRef &clip : event.clips)
@@ -33,7 +34,7 @@ void exportFootage(Camera camera, const TeslaEvent &event, std::optional<std::pa
     std::stable_sort(clips.begin(), clips.end(),
                      [](const ClipRef &a, const ClipRef &b) { return a.startDate < b.startDate; });
 
-    auto composition = std::make_shared<const ExportComposition>(ExportComposition::build(clips, stop));
+    auto composition = std::make_shared<const ExportComposition>(ExportComposition::build(clips, stop, readLimit));
     if (composition->duration <= 0.0)
         throw ExportError(ExportError::noClipsForCamera);
 
@@ -63,13 +64,13 @@ void exportFootage(Camera camera, const TeslaEvent &event, std::optional<std::pa
     });
     try {
         IOWatchdog::runUntilStopped(
-            [composition, lower, upper, destination, relay](std::stop_token sessionStop) {
+            [composition, lower, upper, destination, relay, readLimit](std::stop_token sessionStop) {
                 const auto report = [relay](double fraction) {
                     std::lock_guard lock(relay->mutex);
                     if (relay->progress)
                         relay->progress(fraction);
                 };
-                ExportSession session(*composition, lower, upper, destination, report, sessionStop);
+                ExportSession session(*composition, lower, upper, destination, report, sessionStop, readLimit);
                 session.run();
                 return true;
             },

@@ -5,6 +5,7 @@
 #include "model/TeslaEvent.h"
 
 #include <QString>
+#include <chrono>
 #include <functional>
 #include <optional>
 #include <stop_token>
@@ -25,7 +26,11 @@ QString suggestedFileName(const TeslaEvent &event, Camera camera);
 // Throws CancellationError when stopped before writing began, ExportError
 // otherwise (cancelled when stopped while writing, within a second even when
 // a read is stuck). A partial file is left for the caller.
+// readLimit: a clip whose read doesn't answer within it loses the rest of its
+// footage, as a damaged one does, and the export goes on.
+inline constexpr std::chrono::milliseconds defaultReadLimit{10000};
 void exportFootage(Camera camera, const TeslaEvent &event, std::optional<std::pair<double, double>> range,
-                   const QString &destination, std::function<void(double)> progress, std::stop_token stop = {});
+                   const QString &destination, std::function<void(double)> progress, std::stop_token stop = {},
+                   std::chrono::milliseconds readLimit = defaultReadLimit);
 
 } // namespace Exporter

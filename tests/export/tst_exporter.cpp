@@ -121,6 +121,32 @@ bool remuxed(const QString &source, const QString &destination, const QStringLis
     return ffmpeg.waitForFinished(60000) && ffmpeg.exitStatus() == QProcess::NormalExit && ffmpeg.exitCode() == 0;
 }
 
+// A copy of source on the test drive that starts `minute` minutes in and
+// whose reads hang past its first 512 KiB. Index first, so that it is judged
+// whole before its pictures are read; the hold lies past the reader's first
+// 256 KiB.
+bool addClipHeldMidway(FaultyFs &fs, const QTemporaryDir &mountPoint, Footage &footage, const QString &source,
+                       int minute)
+{
+    const QString indexFirst = footage.output(QStringLiteral("index-first.mp4"));
+    if (!remuxed(source, indexFirst, {QStringLiteral("-movflags"), QStringLiteral("+faststart")}))
+        return false;
+    QFile clip(indexFirst);
+    if (!clip.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray bytes = clip.readAll();
+    if (bytes.size() <= 600 * 1024)
+        return false;
+    fs.addFile(QStringLiteral("stuck.mp4"), bytes);
+    fs.hangReadsFrom(QStringLiteral("stuck.mp4"), 512 * 1024);
+    ClipRef stuck = footage.event.clips.front();
+    stuck.url = mountPoint.filePath(QStringLiteral("stuck.mp4"));
+    stuck.startDate = footage.event.clips.front().startDate.addingTimeInterval(60.0 * minute);
+    stuck.fileSize = bytes.size();
+    footage.event.clips.push_back(stuck);
+    return true;
+}
+
 // A copy of a clip with one 32-bit field of one of its sample tables
 // changed, as one flipped byte on a failing drive would.
 QByteArray withTableField(const QString &source, const char *box, int fieldOffset, quint32 value)
@@ -602,20 +628,7 @@ private Q_SLOTS:
         Footage footage;
         const QString source = TestClips::clip(clipOptions(8.0, 640, 480));
         footage.addClip(source, 0);
-        // Index first, so that the clip is judged whole before its pictures
-        // are read; the hold lies past the reader's first 256 KiB.
-        const QString indexFirst = footage.output(QStringLiteral("index-first.mp4"));
-        QVERIFY(remuxed(source, indexFirst, {QStringLiteral("-movflags"), QStringLiteral("+faststart")}));
-        QFile clip(indexFirst);
-        QVERIFY(clip.open(QIODevice::ReadOnly));
-        const QByteArray bytes = clip.readAll();
-        fs.addFile(QStringLiteral("stuck.mp4"), bytes);
-        QVERIFY(bytes.size() > 600 * 1024);
-        fs.hangReadsFrom(QStringLiteral("stuck.mp4"), 512 * 1024);
-        ClipRef stuck = footage.event.clips.front();
-        stuck.url = mountPoint.filePath(QStringLiteral("stuck.mp4"));
-        stuck.startDate = stuck.startDate.addingTimeInterval(60);
-        footage.event.clips.push_back(stuck);
+        QVERIFY(addClipHeldMidway(fs, mountPoint, footage, source, 1));
 
         std::stop_source stop;
         std::atomic<bool> ended{false};
@@ -635,6 +648,34 @@ private Q_SLOTS:
         worker.join();
         QVERIFY(error);
         QCOMPARE(exportErrorOf([&] { std::rethrow_exception(error); }), std::optional(ExportError::cancelled));
+    }
+
+    // Nobody stops it: after the read limit the held clip loses the rest of
+    // its footage like a damaged one, and the clip after it closes up.
+    void aReadThatNeverAnswersCostsOnlyItsClip()
+    {
+        if (!FaultyFs::available())
+            QSKIP("needs FUSE");
+        QTemporaryDir mountPoint;
+        FaultyFs fs(mountPoint.path());
+        QVERIFY(fs.isMounted());
+        Footage footage;
+        const QString source = TestClips::clip(clipOptions(8.0, 640, 480));
+        footage.addClip(source, 0);
+        QVERIFY(addClipHeldMidway(fs, mountPoint, footage, source, 1));
+        footage.addClip(source, 2);
+
+        Exporter::exportFootage(Camera::front, footage.event, std::nullopt, footage.output(), {}, {},
+                                std::chrono::milliseconds(1000));
+        QCOMPARE(fs.heldRequests(), 1); // still not answered: the export went on without it
+        const MovieFacts facts = MovieFacts::read(footage.output());
+        QVERIFY(facts.opened);
+        const MovieFacts::Stream *video = facts.firstOf(QStringLiteral("video"));
+        QVERIFY(video);
+        QVERIFY2(facts.duration > 16.0 && facts.duration < 23.5, qPrintable(QString::number(facts.duration)));
+        QVERIFY(video->dtsStrictlyIncreasing);
+        QVERIFY2(video->largestDtsStep < 1.5 / 36, "a gap where the held clip stopped");
+        QCOMPARE(video->extradata, extradataOf(source));
     }
 
     // Stopped while samples are written, or while the index moves to the

@@ -1,4 +1,5 @@
 #include "FileDialogDriver.h"
+#include "drive/DriveBoundary.h"
 #include "KeelholdApp.h"
 #include "playback/TrackPlayer.h"
 #include "support/FaultyFs.h"
@@ -418,7 +419,15 @@ private Q_SLOTS:
         // An empty Vault with its folder set can still be pointed elsewhere.
         QTRY_VERIFY(showing(QStringLiteral("Your Vault is empty so far")));
         QTRY_VERIFY(showing(QStringLiteral("Change Vault Folder")));
+
+        // The car's drive itself is refused with the reason, and the dialog
+        // opens again from there.
         QVERIFY(click(window, QStringLiteral("emptyStateAction")));
+        QVERIFY(FileDialogDriver::answer(tmp.filePath(QStringLiteral("USBSTICK/TeslaCam"))));
+        QTRY_VERIFY_WITH_TIMEOUT(showing(DriveBoundary::vaultRefusal), 10000);
+        QCOMPARE(state.vaultURL().value_or(QString()), vault);
+        shoot(window, QStringLiteral("vault-choice-refused"));
+        QVERIFY(click(window, QStringLiteral("chooseAnotherVaultFolder")));
         const QString other = tmp.filePath(QStringLiteral("Other Vault"));
         QVERIFY(QDir().mkpath(other));
         QVERIFY(FileDialogDriver::answer(other));

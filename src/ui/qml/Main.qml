@@ -206,20 +206,17 @@ ApplicationWindow {
         onClosed: appState.showEncryptionGuide = false
         contentItem: EncryptionGuideView { onDismissed: appState.showEncryptionGuide = false }
     }
-    Dialog {
+    AlertDialog {
         objectName: "vaultChoiceRefusal"
-        parent: Overlay.overlay
-        anchors.centerIn: parent
-        modal: true
-        width: Math.min(440, window.width - 40)
         visible: vault.choiceRefusal !== ""
         title: vault.texts.refusalTitle
+        message: vault.choiceRefusal
         onClosed: vault.dismissChoiceRefusal()
-        contentItem: Label { text: vault.choiceRefusal; wrapMode: Text.WordWrap }
         footer: DialogButtonBox {
             Button {
                 objectName: "chooseAnotherVaultFolder"
                 text: vault.texts.chooseAnother
+                highlighted: true
                 DialogButtonBox.buttonRole: DialogButtonBox.AcceptRole
                 onClicked: { vault.dismissChoiceRefusal(); vault.presentFolderPicker() }
             }

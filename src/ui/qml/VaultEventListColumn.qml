@@ -69,21 +69,15 @@ ColumnLayout {
         MenuItem { objectName: "menuMoveToTrash"; text: vault.texts.moveToTrashItem; onTriggered: root.pendingRemoval = rowMenu.eventID }
     }
 
-    Dialog {
+    AlertDialog {
         id: confirm
         objectName: "trashConfirmation"
-        parent: Overlay.overlay
-        anchors.centerIn: parent
-        modal: true
         width: 420
         visible: root.pendingRemoval !== ""
         title: vault.texts.removalTitle
         onClosed: root.pendingRemoval = ""
-        contentItem: Label {
-            objectName: "removalMessage"
-            text: root.pendingRemoval !== "" ? vault.removalMessage(root.pendingRemoval) : ""
-            wrapMode: Text.WordWrap
-        }
+        messageObjectName: "removalMessage"
+        message: root.pendingRemoval !== "" ? vault.removalMessage(root.pendingRemoval) : ""
         footer: DialogButtonBox {
             Button {
                 objectName: "confirmMoveToTrash"

@@ -1,0 +1,152 @@
+#include "export/ClipPacketReader.h"
+
+#include "drive/IOWatchdog.h"
+#include "drive/MediaInput.h"
+
+extern "C" {
+#include <libavcodec/avcodec.h>
+#include <libavformat/avformat.h>
+}
+
+#include <condition_variable>
+#include <deque>
+#include <mutex>
+#include <system_error>
+
+namespace {
+// Enough to keep the writer fed across a slow read, little enough to stay
+// small at the largest pictures.
+constexpr size_t readAhead = 32;
+} // namespace
+
+struct ClipPacketReader::State {
+    std::mutex mutex;
+    std::condition_variable changed;
+    std::stop_source stop;
+    bool opened = false;
+    bool ended = false;
+    std::optional<Streams> streams;
+    std::deque<AVPacket *> packets;
+
+    ~State()
+    {
+        for (AVPacket *packet : packets)
+            av_packet_free(&packet);
+    }
+
+    void end()
+    {
+        std::lock_guard lock(mutex);
+        opened = true;
+        ended = true;
+        changed.notify_all();
+    }
+};
+
+void ClipPacketReader::readClip(const std::shared_ptr<State> &state, const QString &path,
+                                std::optional<int64_t> seekTo)
+{
+    const std::stop_token stop = state->stop.get_token();
+    const auto input = MediaInput::open(path, stop);
+    if (!input) {
+        state->end();
+        return;
+    }
+    AVFormatContext *format = input->context();
+    Streams streams;
+    streams.video = input->bestStream(AVMEDIA_TYPE_VIDEO);
+    streams.audio = input->bestStream(AVMEDIA_TYPE_AUDIO);
+    if (streams.video < 0) {
+        state->end();
+        return;
+    }
+    for (unsigned i = 0; i < format->nb_streams; ++i)
+        streams.timeBases.push_back(format->streams[i]->time_base);
+    AVCodecParameters *parameters = avcodec_parameters_alloc();
+    if (!parameters || avcodec_parameters_copy(parameters, format->streams[streams.video]->codecpar) < 0) {
+        avcodec_parameters_free(&parameters);
+        state->end();
+        return;
+    }
+    streams.videoParameters = std::shared_ptr<const AVCodecParameters>(parameters, [](const AVCodecParameters *p) {
+        auto *owned = const_cast<AVCodecParameters *>(p);
+        avcodec_parameters_free(&owned);
+    });
+    if (seekTo)
+        av_seek_frame(format, -1, *seekTo, AVSEEK_FLAG_BACKWARD);
+    {
+        std::lock_guard lock(state->mutex);
+        state->streams = std::move(streams);
+        state->opened = true;
+        state->changed.notify_all();
+    }
+    while (!stop.stop_requested()) {
+        AVPacket *packet = av_packet_alloc();
+        if (!packet || av_read_frame(format, packet) < 0) {
+            av_packet_free(&packet);
+            break;
+        }
+        std::unique_lock lock(state->mutex);
+        state->changed.wait(lock, [&] { return state->packets.size() < readAhead || stop.stop_requested(); });
+        if (stop.stop_requested()) {
+            av_packet_free(&packet);
+            break;
+        }
+        state->packets.push_back(packet);
+        state->changed.notify_all();
+    }
+    state->end();
+}
+
+ClipPacketReader::ClipPacketReader(const QString &path, std::optional<int64_t> seekTo,
+                                   std::chrono::milliseconds limit, std::stop_token stop)
+    : state_(std::make_shared<State>()), limit_(limit),
+      forwardStop_(stop, [state = state_] {
+          state->stop.request_stop();
+          std::lock_guard lock(state->mutex);
+          state->changed.notify_all();
+      })
+{
+    try {
+        IOWatchdog::detail::startThread([state = state_, path, seekTo] { readClip(state, path, seekTo); });
+    } catch (const std::system_error &) {
+        state_->end();
+    }
+}
+
+ClipPacketReader::~ClipPacketReader()
+{
+    // Not joined: a thread stuck on the drive ends on its own when the read does.
+    state_->stop.request_stop();
+    std::lock_guard lock(state_->mutex);
+    state_->changed.notify_all();
+}
+
+std::optional<ClipPacketReader::Streams> ClipPacketReader::open()
+{
+    std::unique_lock lock(state_->mutex);
+    if (!state_->changed.wait_for(lock, limit_, [&] { return state_->opened || state_->stop.stop_requested(); }))
+        return std::nullopt;
+    return state_->streams;
+}
+
+ClipPacketReader::Read ClipPacketReader::next(AVPacket *into)
+{
+    std::unique_lock lock(state_->mutex);
+    const bool answered = state_->changed.wait_for(lock, limit_, [&] {
+        return !state_->packets.empty() || state_->ended || state_->stop.stop_requested();
+    });
+    if (!state_->packets.empty()) {
+        AVPacket *packet = state_->packets.front();
+        state_->packets.pop_front();
+        state_->changed.notify_all();
+        av_packet_move_ref(into, packet);
+        av_packet_free(&packet);
+        return Read::packet;
+    }
+    if (!answered) {
+        state_->stop.request_stop();
+        return Read::stuck;
+    }
+    return Read::end;
+}
