@@ -56,6 +56,7 @@ void SyncPlayerController::loadEvent(const TeslaEvent &event)
     setFocusedCamera(std::nullopt);
     // The old players stop at once and go a little later: each one's
     // destructor waits for its worker, which would stall the GUI thread.
+    group_.clear();
     std::vector<std::shared_ptr<TrackPlayer>> retired;
     for (Tile &tile : tiles_)
         if (tile.player) {
@@ -193,6 +194,10 @@ void SyncPlayerController::applyTileOutcomes(const std::vector<TileOutcome> &out
             tiles.push_back(Tile{o.camera, nullptr, o.placeholderReason, 0});
     }
     tiles_ = std::move(tiles);
+    group_.clear();
+    for (const Tile &t : tiles_)
+        if (t.player)
+            group_.add(t.player.get());
     tilesForQml_.clear();
     for (const Tile &t : tiles_) {
         QVariantMap m;

@@ -3,6 +3,7 @@
 #include "model/Camera.h"
 #include "model/TeslaEvent.h"
 #include "playback/Composition.h"
+#include "playback/PlaybackGroup.h"
 #include "playback/TrackPlayer.h"
 
 #include <QObject>
@@ -132,6 +133,8 @@ private:
     static QVariantList allowedRatesForQml();
 
     std::vector<Tile> tiles_;
+    // Presents every camera's frames from one clock.
+    PlaybackGroup group_;
     QVariantList tilesForQml_;
     bool isLoadingTiles_ = true;
     bool isPlaying_ = false;

@@ -3,6 +3,7 @@
 #include "playback/FrameConverter.h"
 #include "playback/HostClock.h"
 #include "playback/MediaSource.h"
+#include "playback/PlaybackGroup.h"
 
 extern "C" {
 #include <libavutil/frame.h>
@@ -47,7 +48,13 @@ struct TrackPlayer::Shared {
     std::condition_variable changed;
     std::atomic<bool> stop{false};
     std::atomic<quint64> decoded{0};
+    std::atomic<int> decodeDelayMs{0};
     bool finished = false;
+    // In a group the clock waits for the slowest camera, so no camera drops
+    // or skips frames on its own.
+    bool grouped = false;
+    // The generation whose frames have all been queued: nothing more comes.
+    quint64 endedGeneration = 0;
     TrackPlayer *owner = nullptr; // cleared under mutex when the player goes
 
     quint64 generation = 0;
@@ -204,6 +211,24 @@ private:
 
     void pushGap(double time) { push(time, QVideoFrame(), false); }
 
+    void markEnd()
+    {
+        atEnd_ = true;
+        std::lock_guard lock(s_->mutex);
+        if (generation_ == s_->generation) {
+            s_->endedGeneration = generation_;
+            s_->post(&TrackPlayer::present);
+        }
+    }
+
+    // Slows decoding down on purpose, to show how the group copes.
+    void decodedOne()
+    {
+        ++s_->decoded;
+        if (const int delay = s_->decodeDelayMs.load())
+            std::this_thread::sleep_for(std::chrono::milliseconds(delay));
+    }
+
     // A drag of the scrubber seeks many times: drop a seek that is already stale.
     bool newerSeekWaiting()
     {
@@ -216,7 +241,7 @@ private:
         atEnd_ = false;
         if (segs_.empty()) {
             pushGap(target);
-            atEnd_ = true;
+            markEnd();
             return;
         }
         int i = -1;
@@ -315,7 +340,7 @@ private:
                 double st = 0;
                 const AVFrame *f = cur_->nextFrame(&st);
                 if (f) {
-                    ++s_->decoded;
+                    decodedOne();
                     lastDecoded_ = toTimeline(seg, st);
                 }
                 const bool ended = !f || st >= sourceEnd(seg) - epsilon;
@@ -369,7 +394,7 @@ private:
     {
         const int next = curSeg_ + 1;
         if (curSeg_ < 0 || size_t(next) >= segs_.size()) {
-            atEnd_ = true;
+            markEnd();
             return;
         }
         const auto &here = segs_[size_t(curSeg_)];
@@ -393,12 +418,17 @@ private:
             nextSegment();
             return;
         }
-        ++s_->decoded;
+        decodedOne();
         lastDecoded_ = toTimeline(seg, st);
         if (st < seg.sourceStart.seconds() - epsilon)
             return;
         const double time = toTimeline(seg, st);
-        if (!firstOfGeneration_) {
+        bool grouped;
+        {
+            std::lock_guard lock(s_->mutex);
+            grouped = s_->grouped;
+        }
+        if (!firstOfGeneration_ && !grouped) {
             double now;
             {
                 std::lock_guard lock(s_->mutex);
@@ -603,9 +633,11 @@ void TrackPlayer::seek(MediaTime time, std::function<void(bool)> completion)
 void TrackPlayer::updateTimers()
 {
     const bool needed = playing_ || presentedGeneration_ != generation_;
-    if (needed && !presentTimer_.isActive())
+    if (group_) {
+        group_->clockChanged(this);
+    } else if (needed && !presentTimer_.isActive())
         presentTimer_.start();
-    else if (!needed)
+    else if (!needed && !group_)
         presentTimer_.stop();
     for (auto &[token, o] : observers_) {
         if (playing_ && !o.timer->isActive())
@@ -617,7 +649,30 @@ void TrackPlayer::updateTimers()
 
 void TrackPlayer::present()
 {
-    const double t = currentSeconds();
+    if (group_) {
+        group_->wake();
+        return;
+    }
+    presentFor(currentSeconds());
+    if (!playing_ && presentedGeneration_ == generation_)
+        presentTimer_.stop();
+}
+
+bool TrackPlayer::preparedFor(double t)
+{
+    std::lock_guard lock(shared_->mutex);
+    auto &q = shared_->queue;
+    while (!q.empty() && q.front().generation != generation_)
+        q.pop_front();
+    // Nothing is dropped here: the group may yet hold the clock back to
+    // before t, and every frame after its last presented time may be needed.
+    if (shared_->endedGeneration == generation_)
+        return true;
+    return std::any_of(q.begin(), q.end(), [t](const Shared::Entry &e) { return e.time > t + epsilon; });
+}
+
+void TrackPlayer::presentFor(double t)
+{
     std::optional<Shared::Entry> chosen;
     {
         std::lock_guard lock(shared_->mutex);
@@ -631,29 +686,52 @@ void TrackPlayer::present()
         if (chosen)
             shared_->changed.notify_all();
     }
-    if (chosen) {
-        currentFrame_ = chosen->frame;
-        presentedTime_ = chosen->picture ? std::optional<double>(chosen->time) : std::nullopt;
-        presentedGeneration_ = chosen->generation;
-        ++presentedCount_;
-        if (sink_)
-            sink_->setVideoFrame(currentFrame_);
-        std::vector<Pending> done;
-        for (auto it = pending_.begin(); it != pending_.end();) {
-            if (it->generation <= presentedGeneration_) {
-                done.push_back(std::move(*it));
-                it = pending_.erase(it);
-            } else {
-                ++it;
-            }
+    if (!chosen)
+        return;
+    currentFrame_ = chosen->frame;
+    presentedTime_ = chosen->picture ? std::optional<double>(chosen->time) : std::nullopt;
+    presentedGeneration_ = chosen->generation;
+    ++presentedCount_;
+    if (sink_)
+        sink_->setVideoFrame(currentFrame_);
+    std::vector<Pending> done;
+    for (auto it = pending_.begin(); it != pending_.end();) {
+        if (it->generation <= presentedGeneration_) {
+            done.push_back(std::move(*it));
+            it = pending_.erase(it);
+        } else {
+            ++it;
         }
-        Q_EMIT framePresented();
-        for (auto &p : done)
-            if (p.completion)
-                p.completion(true);
     }
-    if (!playing_ && presentedGeneration_ == generation_)
-        presentTimer_.stop();
+    Q_EMIT framePresented();
+    for (auto &p : done)
+        if (p.completion)
+            p.completion(true);
+}
+
+void TrackPlayer::holdClock(double media, double host)
+{
+    if (!playing_ || host <= anchorHost_)
+        return;
+    anchorMedia_ = media;
+    anchorHost_ = host;
+    syncClock();
+}
+
+void TrackPlayer::setGroup(PlaybackGroup *group)
+{
+    group_ = group;
+    presentTimer_.stop();
+    {
+        std::lock_guard lock(shared_->mutex);
+        shared_->grouped = group != nullptr;
+    }
+    updateTimers();
+}
+
+void TrackPlayer::setDecodeDelay(std::chrono::milliseconds delay)
+{
+    shared_->decodeDelayMs = int(delay.count());
 }
 
 quint64 TrackPlayer::decodedFrameCount() const

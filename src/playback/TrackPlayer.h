@@ -2,6 +2,7 @@
 
 #include "playback/Composition.h"
 #include "playback/MediaTime.h"
+#include "playback/PlaybackGroup.h"
 
 #include <QObject>
 #include <QPointer>
@@ -9,6 +10,7 @@
 #include <QVideoFrame>
 #include <QVideoSink>
 
+#include <chrono>
 #include <functional>
 #include <map>
 #include <memory>
@@ -77,6 +79,22 @@ public:
     // Time of the next decoded frame after the one shown, if already queued.
     std::optional<double> nextFrameTime() const;
 
+    // Joins a group that presents its members' frames from one clock (null
+    // to leave); alone, the player presents on its own timer.
+    void setGroup(PlaybackGroup *group);
+    PlaybackGroup *group() const { return group_; }
+    bool isPlaying() const { return playing_; }
+    // For the group: true when the frame for time t is known (a later frame
+    // is queued, or nothing more will come).
+    bool preparedFor(double t);
+    // Shows the newest queued frame not after t, if there is one.
+    void presentFor(double t);
+    // Moves the clock back to media at host instant: the group waits for a
+    // camera that is behind. No effect before the start instant.
+    void holdClock(double media, double host);
+    // Makes every decoded frame take at least this long (measurements and tests).
+    void setDecodeDelay(std::chrono::milliseconds delay);
+
     // Calls back on the GUI thread every interval while playing.
     int addPeriodicTimeObserver(MediaTime interval, std::function<void(MediaTime)> callback);
     void removeTimeObserver(int token);
@@ -114,6 +132,7 @@ private:
     std::vector<Pending> pending_;
     QTimer presentTimer_;
     QPointer<QVideoSink> sink_;
+    QPointer<PlaybackGroup> group_;
     QVideoFrame currentFrame_;
     std::optional<double> presentedTime_;
     quint64 presentedCount_ = 0;

@@ -522,6 +522,52 @@ private Q_SLOTS:
         }
         held.release();
     }
+
+    // One camera decodes slower than real time (at 4x, far slower): the
+    // pictures handed to the sinks still belong to one moment, across a
+    // clip boundary, because the clock waits for the slow camera.
+    void aSlowCameraHoldsTheOthersInStep()
+    {
+        const QString dir = tmp.path() + "/slow";
+        EventBuilder b(dir);
+        b.full(fourCameras);
+        SyncPlayerController c(b.event);
+        QTRY_VERIFY(!c.isLoadingTiles());
+        attachSinks(c);
+        QTRY_VERIFY(c.isPlaying());
+        c.pause();
+        c.tiles()[3].player->setDecodeDelay(std::chrono::milliseconds(40));
+        for (const float rate : {1.0f, 4.0f}) {
+            c.seek(1.5);
+            QVERIFY(waitSettled(c, 20000));
+            c.setRate(rate);
+            c.play();
+            double worst = 0;
+            quint64 slowFrames = 0;
+            const quint64 slowBefore = c.tiles()[3].player->presentedFrameCount();
+            QElapsedTimer limit;
+            limit.start();
+            while (c.currentTime() < 4.5 && c.isPlaying()) {
+                QVERIFY2(limit.elapsed() < 120000, "playback stopped moving");
+                QCoreApplication::processEvents(QEventLoop::AllEvents, 3);
+                double lo = 1e9, hi = -1e9;
+                for (const auto &sink : sinks) {
+                    const auto id = identify(sink->videoFrame());
+                    QVERIFY(id);
+                    const double time = starts3()[size_t(id->clip)] + id->index / double(fps);
+                    lo = std::min(lo, time);
+                    hi = std::max(hi, time);
+                }
+                worst = std::max(worst, hi - lo);
+            }
+            slowFrames = c.tiles()[3].player->presentedFrameCount() - slowBefore;
+            c.pause();
+            QVERIFY2(worst <= 1.0 / fps + 1e-6,
+                     qPrintable(QString("skew %1 frames at %2x").arg(worst * fps).arg(rate)));
+            QVERIFY(slowFrames > 10); // the slow camera moved too, it wasn't left behind
+        }
+        c.setRate(1.0f);
+    }
 };
 
 QTEST_MAIN(TestSyncPlayerController)

@@ -1,0 +1,101 @@
+#include "playback/PlaybackGroup.h"
+
+#include "playback/HostClock.h"
+#include "playback/TrackPlayer.h"
+
+#include <algorithm>
+
+namespace {
+constexpr int tickMs = 4;
+}
+
+PlaybackGroup::PlaybackGroup(QObject *parent) : QObject(parent)
+{
+    timer_.setTimerType(Qt::PreciseTimer);
+    timer_.setInterval(tickMs);
+    connect(&timer_, &QTimer::timeout, this, &PlaybackGroup::tick);
+}
+
+PlaybackGroup::~PlaybackGroup()
+{
+    clear();
+}
+
+void PlaybackGroup::add(TrackPlayer *player)
+{
+    members_.emplace_back(player);
+    player->setGroup(this);
+}
+
+void PlaybackGroup::clear()
+{
+    for (const auto &m : members_)
+        if (m && m->group() == this)
+            m->setGroup(nullptr);
+    members_.clear();
+    laggingSince_.clear();
+    timer_.stop();
+}
+
+void PlaybackGroup::clockChanged(TrackPlayer *member)
+{
+    // A member lagging since before keeps its count: a seek doesn't make a
+    // stuck drive answer.
+    preparedUpTo_ = member->currentSeconds();
+    wake();
+}
+
+void PlaybackGroup::wake()
+{
+    if (!timer_.isActive())
+        timer_.start();
+}
+
+void PlaybackGroup::prune()
+{
+    members_.erase(std::remove_if(members_.begin(), members_.end(), [](const QPointer<TrackPlayer> &m) { return !m; }),
+                   members_.end());
+}
+
+// The one place where the cameras' pictures are chosen while they play
+// together: every member shows its frame for the same t, or none moves.
+void PlaybackGroup::tick()
+{
+    prune();
+    if (members_.empty()) {
+        timer_.stop();
+        return;
+    }
+    // Every member runs from the same anchor, so any member's clock is the
+    // group's; the longest track's doesn't stop at an earlier end.
+    TrackPlayer *lead = members_.front();
+    for (const auto &m : members_)
+        if (m->isPlaying() > lead->isPlaying()
+            || (m->isPlaying() == lead->isPlaying() && m->trackDuration() > lead->trackDuration()))
+            lead = m;
+    const double t = lead->currentSeconds();
+    const double now = HostClock::now();
+    bool prepared = true;
+    for (const auto &m : members_) {
+        // One that never gave a picture (its clip doesn't open) holds nobody.
+        if (m->preparedFor(t) || m->status() != TrackPlayer::ReadyToPlay) {
+            laggingSince_.erase(m.data());
+            continue;
+        }
+        const auto [it, fresh] = laggingSince_.emplace(m.data(), now);
+        if (now - it->second < stallLimit)
+            prepared = false;
+    }
+    if (prepared) {
+        preparedUpTo_ = t;
+        for (const auto &m : members_)
+            m->presentFor(t);
+    } else {
+        for (const auto &m : members_)
+            m->holdClock(preparedUpTo_, now);
+    }
+    const bool busy = std::any_of(members_.begin(), members_.end(),
+                                  [](const QPointer<TrackPlayer> &m) { return m->isPlaying() || m->isSeeking(); });
+    if (!busy)
+        timer_.stop();
+}

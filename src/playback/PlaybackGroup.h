@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QTimer>
+
+#include <map>
+#include <vector>
+
+class TrackPlayer;
+
+// Presents the frames of every camera of an event from one clock, so that
+// whatever the machine's load and the rate, the pictures on screen belong to
+// one media time: a camera's frame for a moment is shown only once every
+// camera has its frame for that moment decoded, and while one hasn't, the
+// clock waits for it (playback slows down as a whole; no camera trails).
+// A camera stuck for longer than stallLimit (a drive that stopped answering),
+// or one that never gave a picture, doesn't hold the others; it joins again
+// once it has caught up.
+class PlaybackGroup : public QObject {
+    Q_OBJECT
+public:
+    static constexpr double stallLimit = 1.5; // seconds of real time
+
+    explicit PlaybackGroup(QObject *parent = nullptr);
+    ~PlaybackGroup() override;
+
+    void add(TrackPlayer *player);
+    void clear();
+    // A member's clock was set (play, pause, seek, rate): time starts from there.
+    void clockChanged(TrackPlayer *member);
+    // A member has something new to show.
+    void wake();
+
+private:
+    void tick();
+    void prune();
+
+    std::vector<QPointer<TrackPlayer>> members_;
+    // When each member that isn't prepared for the clock's time began to lag.
+    std::map<const TrackPlayer *, double> laggingSince_;
+    // The newest time every member was prepared for: where a held clock waits.
+    double preparedUpTo_ = 0;
+    QTimer timer_;
+};
