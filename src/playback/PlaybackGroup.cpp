@@ -91,6 +91,11 @@ void PlaybackGroup::tick()
         for (const auto &m : members_)
             m->presentFor(t);
     } else {
+        // A camera still decoding its way to a seek's exact frame shows the
+        // key frame before it meanwhile, marked as such.
+        for (const auto &m : members_)
+            if (m->isSeeking())
+                m->presentPreview();
         for (const auto &m : members_)
             m->holdClock(preparedUpTo_, now);
     }

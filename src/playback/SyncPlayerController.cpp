@@ -57,6 +57,10 @@ void SyncPlayerController::loadEvent(const TeslaEvent &event)
     // The old players stop at once and go a little later: each one's
     // destructor waits for its worker, which would stall the GUI thread.
     group_.clear();
+    if (approximate_) {
+        approximate_ = false;
+        Q_EMIT isShowingApproximateFramesChanged();
+    }
     std::vector<std::shared_ptr<TrackPlayer>> retired;
     for (Tile &tile : tiles_)
         if (tile.player) {
@@ -196,8 +200,10 @@ void SyncPlayerController::applyTileOutcomes(const std::vector<TileOutcome> &out
     tiles_ = std::move(tiles);
     group_.clear();
     for (const Tile &t : tiles_)
-        if (t.player)
+        if (t.player) {
             group_.add(t.player.get());
+            connect(t.player.get(), &TrackPlayer::framePresented, this, &SyncPlayerController::updateApproximate);
+        }
     tilesForQml_.clear();
     for (const Tile &t : tiles_) {
         QVariantMap m;
@@ -258,6 +264,17 @@ void SyncPlayerController::observedTime(double seconds)
         setCurrentTime(duration_);
         pause();
     }
+}
+
+void SyncPlayerController::updateApproximate()
+{
+    const auto playable = playableTiles();
+    const bool approximate = std::any_of(playable.begin(), playable.end(),
+                                         [](const Tile &t) { return t.player->isShowingPreview(); });
+    if (approximate == approximate_)
+        return;
+    approximate_ = approximate;
+    Q_EMIT isShowingApproximateFramesChanged();
 }
 
 std::vector<SyncPlayerController::Tile> SyncPlayerController::playableTiles() const

@@ -34,6 +34,10 @@ class SyncPlayerController : public QObject {
     Q_PROPERTY(QString focusedCamera READ focusedCameraRaw WRITE setFocusedCameraRaw NOTIFY focusedCameraChanged)
     Q_PROPERTY(QVariant triggerOffset READ triggerOffsetForQml NOTIFY triggerOffsetChanged)
     Q_PROPERTY(QVariantList allowedRates READ allowedRatesForQml CONSTANT)
+    // While a seek decodes its exact frames, cameras show the key frame
+    // before the target: the pictures are near the time shown, not at it.
+    Q_PROPERTY(bool isShowingApproximateFrames READ isShowingApproximateFrames NOTIFY isShowingApproximateFramesChanged)
+    Q_PROPERTY(QString approximateFramesText READ approximateFramesText CONSTANT)
 
 public:
     struct Tile {
@@ -58,6 +62,7 @@ public:
     static inline const QString damagedReason =
         QStringLiteral("This angle didn't record properly — a known Tesla drive issue.");
     static inline const QString noFootageReason = QStringLiteral("No footage this minute.");
+    static inline const QString approximateFramesNote = QStringLiteral("Finding the exact frame…");
 
     explicit SyncPlayerController(const TeslaEvent &event, QObject *parent = nullptr);
     ~SyncPlayerController() override;
@@ -74,6 +79,8 @@ public:
     std::optional<Camera> focusedCamera() const { return focusedCamera_; }
     void setFocusedCamera(std::optional<Camera> camera);
     std::optional<double> triggerOffset() const { return triggerOffset_; }
+    bool isShowingApproximateFrames() const { return approximate_; }
+    QString approximateFramesText() const { return approximateFramesNote; }
 
     Q_INVOKABLE void play();
     Q_INVOKABLE void pause();
@@ -98,6 +105,7 @@ Q_SIGNALS:
     void durationChanged();
     void focusedCameraChanged();
     void triggerOffsetChanged();
+    void isShowingApproximateFramesChanged();
 
 private:
     friend class TestSyncPlayerController;
@@ -132,6 +140,9 @@ private:
     QVariant triggerOffsetForQml() const;
     static QVariantList allowedRatesForQml();
 
+    void updateApproximate();
+
+    bool approximate_ = false;
     std::vector<Tile> tiles_;
     // Presents every camera's frames from one clock.
     PlaybackGroup group_;

@@ -27,6 +27,7 @@ constexpr double lateTolerance = 0.05;     // a frame later than this is not con
 constexpr double catchUpThreshold = 0.5;   // this far behind, skip ahead to a keyframe
 constexpr double catchUpLead = 0.3;        // aim this far past the clock when skipping
 constexpr double stillPictureLimit = 0.25; // even when late, show a frame this often
+constexpr double previewDistance = 0.1;    // a seek this far past its key frame shows the key frame first
 std::atomic<int> decoderThreads{0}; // 0: by picture size
 std::atomic<bool> catchUpEnabled{true};
 
@@ -42,6 +43,9 @@ struct TrackPlayer::Shared {
         double time = 0;
         QVideoFrame frame; // invalid: no picture
         bool picture = false;
+        // A key frame before a seek's target, shown while the exact frame
+        // is decoded; never the answer to the seek.
+        bool preview = false;
     };
 
     std::mutex mutex;
@@ -334,6 +338,7 @@ private:
             FramePtr prev;
             double prevTime = 0;
             bool retry = false;
+            bool previewPushed = false;
             for (;;) {
                 if (s_->stop || newerSeekWaiting())
                     return;
@@ -347,6 +352,10 @@ private:
                 if (!ended && st < seg.sourceStart.seconds() - epsilon)
                     continue;
                 if (!ended && st <= sourceTarget + epsilon) {
+                    if (!previewPushed && st < sourceTarget - previewDistance) {
+                        previewPushed = true;
+                        pushPreview(seg, f, st);
+                    }
                     if (!prev)
                         prev.reset(av_frame_alloc());
                     av_frame_unref(prev.get());
@@ -378,6 +387,17 @@ private:
                 return;
         }
         pushGap(target);
+    }
+
+    void pushPreview(const Composition::Segment &seg, const AVFrame *f, double sourceTime)
+    {
+        const double time = toTimeline(seg, sourceTime);
+        const QVideoFrame frame = converter_.convert(f, time, 0.0);
+        std::lock_guard lock(s_->mutex);
+        if (generation_ != s_->generation)
+            return;
+        s_->queue.push_back(Shared::Entry{generation_, time, frame, true, true});
+        s_->post(&TrackPlayer::present);
     }
 
     // clampTo keeps the first frame of a seek at or before its target so
@@ -571,8 +591,13 @@ void TrackPlayer::requestSeek(double seconds)
     // queue to the worker instead of throwing it away. An empty queue means
     // the worker has not produced since the last seek, so the older salvage
     // still matches its decoder.
-    if (!shared_->queue.empty())
-        shared_->salvage = std::move(shared_->queue);
+    // Previews are left out: the frames between one and the next are not there.
+    if (!shared_->queue.empty()) {
+        shared_->salvage.clear();
+        for (auto &e : shared_->queue)
+            if (!e.preview)
+                shared_->salvage.push_back(std::move(e));
+    }
     shared_->queue.clear();
     shared_->changed.notify_all();
 }
@@ -680,6 +705,13 @@ void TrackPlayer::presentFor(double t)
         while (!q.empty() && q.front().generation != generation_)
             q.pop_front();
         while (!q.empty() && q.front().time <= t + epsilon) {
+            // A preview gives way to any frame after it, and is never the answer.
+            if (q.front().preview) {
+                if (q.size() == 1)
+                    break;
+                q.pop_front();
+                continue;
+            }
             chosen = std::move(q.front());
             q.pop_front();
         }
@@ -688,6 +720,7 @@ void TrackPlayer::presentFor(double t)
     }
     if (!chosen)
         return;
+    showingPreview_ = false;
     currentFrame_ = chosen->frame;
     presentedTime_ = chosen->picture ? std::optional<double>(chosen->time) : std::nullopt;
     presentedGeneration_ = chosen->generation;
@@ -707,6 +740,31 @@ void TrackPlayer::presentFor(double t)
     for (auto &p : done)
         if (p.completion)
             p.completion(true);
+}
+
+bool TrackPlayer::presentPreview()
+{
+    QVideoFrame frame;
+    double time = 0;
+    {
+        std::lock_guard lock(shared_->mutex);
+        if (presentedGeneration_ == generation_ || previewGeneration_ == generation_)
+            return false;
+        const auto &q = shared_->queue;
+        const auto it = std::find_if(q.begin(), q.end(), [this](const Shared::Entry &e) { return e.generation == generation_; });
+        if (it == q.end() || !it->preview)
+            return false;
+        frame = it->frame;
+        time = it->time;
+    }
+    previewGeneration_ = generation_;
+    showingPreview_ = true;
+    currentFrame_ = frame;
+    presentedTime_ = time;
+    if (sink_)
+        sink_->setVideoFrame(currentFrame_);
+    Q_EMIT framePresented();
+    return true;
 }
 
 void TrackPlayer::holdClock(double media, double host)

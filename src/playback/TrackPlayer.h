@@ -89,6 +89,11 @@ public:
     bool preparedFor(double t);
     // Shows the newest queued frame not after t, if there is one.
     void presentFor(double t);
+    // For the group, while a seek is decoding its exact frame: shows the
+    // key frame before the target once, if the worker has it. True if shown.
+    bool presentPreview();
+    // The picture is a key frame near the last seek's target, not yet its exact frame.
+    bool isShowingPreview() const { return showingPreview_; }
     // Moves the clock back to media at host instant: the group waits for a
     // camera that is behind. No effect before the start instant.
     void holdClock(double media, double host);
@@ -129,6 +134,8 @@ private:
     double pausedAt_ = 0;
     quint64 generation_ = 0;
     quint64 presentedGeneration_ = 0;
+    quint64 previewGeneration_ = 0;
+    bool showingPreview_ = false;
     std::vector<Pending> pending_;
     QTimer presentTimer_;
     QPointer<QVideoSink> sink_;

@@ -568,6 +568,55 @@ private Q_SLOTS:
         }
         c.setRate(1.0f);
     }
+
+    // A seek far past a key frame shows that key frame at once, marked as
+    // near the time rather than at it, then the exact frame; a scrub of
+    // twenty seeks that don't wait for each other ends on the exact frame
+    // of the last.
+    void seeksShowTheKeyFrameFirstAndScrubsEndExact()
+    {
+        const QString dir = tmp.path() + "/scrub";
+        EventBuilder b(dir);
+        b.full(fourCameras);
+        SyncPlayerController c(b.event);
+        QTRY_VERIFY(!c.isLoadingTiles());
+        attachSinks(c);
+        QTRY_VERIFY(c.isPlaying());
+        c.pause();
+        QVERIFY(waitSettled(c, 20000));
+        const auto layout = fullLayout(fourCameras);
+
+        // Slow enough that the exact frame, 27 frames past the key frame,
+        // comes long after the key frame has been shown.
+        for (const Tile &t : c.tiles())
+            t.player->setDecodeDelay(std::chrono::milliseconds(20));
+        const double target = 3.0 + 27.0 / fps;
+        c.seek(target);
+        QTRY_VERIFY_WITH_TIMEOUT(c.isShowingApproximateFrames(), 5000);
+        for (size_t i = 0; i < c.tiles().size(); ++i) {
+            const auto shown = identify(sinks[i]->videoFrame());
+            QVERIFY(shown);
+            // The key frame of the second clip, or the exact frame already.
+            QVERIFY2(shown->clip == 1 && (shown->index == 0 || shown->index == 27),
+                     qPrintable(QString("%1/%2").arg(shown->clip).arg(shown->index)));
+        }
+        QVERIFY(waitSettled(c, 20000));
+        QTRY_VERIFY(!c.isShowingApproximateFrames());
+        verifyAllAt(c, MediaTime::fromSeconds(target).seconds(), layout);
+        for (const Tile &t : c.tiles())
+            t.player->setDecodeDelay(std::chrono::milliseconds(0));
+
+        // The scrub: each seek is asked for before the last one landed.
+        double last = 0;
+        for (int i = 0; i < 20; ++i) {
+            last = 0.2 + i * 0.43;
+            c.seek(last);
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+        }
+        QVERIFY(waitSettled(c, 20000));
+        QTRY_VERIFY(!c.isShowingApproximateFrames());
+        verifyAllAt(c, MediaTime::fromSeconds(last).seconds(), layout);
+    }
 };
 
 QTEST_MAIN(TestSyncPlayerController)

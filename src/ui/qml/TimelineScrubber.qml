@@ -55,6 +55,13 @@ ColumnLayout {
             font.family: "DejaVu Sans Mono"
             opacity: 0.8
         }
+        Label {
+            objectName: "approximateFramesNote"
+            visible: !!scrubber.controller && scrubber.controller.isShowingApproximateFrames
+            text: scrubber.controller ? scrubber.controller.approximateFramesText : ""
+            font.italic: true
+            opacity: 0.6
+        }
         Item { Layout.fillWidth: true }
         Label {
             objectName: "durationText"
