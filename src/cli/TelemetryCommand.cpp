@@ -130,15 +130,19 @@ QByteArray gpx(const TeslaEvent &event, const EventTelemetry &telemetry)
     xml.writeStartElement(QStringLiteral("trk"));
     xml.writeTextElement(QStringLiteral("name"), event.id());
     bool open = false;
-    std::optional<EventTelemetry::Sample> previous;
+    std::optional<double> lastFix;                     // on the axis
+    std::optional<std::pair<double, double>> lastPoint; // the last one written
     for (const EventTelemetry::Sample &s : telemetry.frames()) {
         if (!s.record || !s.record->hasPosition())
             continue;
         const TelemetryRecord &r = *s.record;
-        if (previous && previous->record->latitude == r.latitude && previous->record->longitude == r.longitude
-            && s.time - previous->time <= segmentGap)
-            continue; // the GPS gives a new fix a few times a second, not every frame
-        if (!open || s.time - previous->time > segmentGap) {
+        const bool newSegment = !lastFix || s.time - *lastFix > segmentGap;
+        lastFix = s.time;
+        // The GPS gives a new fix a few times a second, not every frame, and
+        // none while the car stands.
+        if (!newSegment && lastPoint == std::pair(r.latitude, r.longitude))
+            continue;
+        if (newSegment) {
             if (open)
                 xml.writeEndElement();
             xml.writeStartElement(QStringLiteral("trkseg"));
@@ -149,7 +153,7 @@ QByteArray gpx(const TeslaEvent &event, const EventTelemetry &telemetry)
         xml.writeAttribute(QStringLiteral("lon"), number(r.longitude));
         xml.writeTextElement(QStringLiteral("time"), utcTime(s));
         xml.writeEndElement();
-        previous = s;
+        lastPoint = std::pair(r.latitude, r.longitude);
     }
     if (open)
         xml.writeEndElement();

@@ -21,9 +21,10 @@ namespace {
 const QString savedId = QStringLiteral("saved|2024-06-02_09-00-00");
 const QString sentryId = QStringLiteral("sentry|2024-06-01_15-05-00");
 
-// Driving north at 12.5 m/s; the GPS gives a new fix every fourth frame.
-// Frame 7 of every clip carries a record the car mangled, frame 9 none,
-// and frame 0 is parked (so it sends neither speed nor gear).
+// Driving at 12.5 m/s in the first clip, where the GPS gives a new fix every
+// fourth frame, and standing in the second. Frame 7 of every clip carries a
+// record the car mangled, frame 9 none, and frame 0 is parked (so it sends
+// neither speed nor gear).
 std::optional<FrameRecord> record(int clip, int frame)
 {
     if (frame == 9)
@@ -38,7 +39,7 @@ std::optional<FrameRecord> record(int clip, int frame)
         m.set_autopilot_state(Message::AUTOSTEER);
     }
     m.set_frame_seq_no(quint64(clip * 100 + frame));
-    m.set_latitude_deg(30.5 + clip * 0.01 + (frame / 4) * 1e-4);
+    m.set_latitude_deg(30.5 + clip * 0.01 + (clip == 0 ? (frame / 4) * 1e-4 : 0.0));
     m.set_longitude_deg(-97.75);
     m.set_heading_deg(0.5);
     FrameRecord r{m};
@@ -71,7 +72,7 @@ class TestTelemetryCommand : public QObject {
     QString path(const QString &name) const { return dir_.filePath(name); }
 
 private Q_SLOTS:
-    // A saved event of two 2-second front clips ten seconds apart, with
+    // A saved event of two 3-second front clips ten seconds apart, with
     // records, and a back clip without; a Sentry event without records.
     void initTestCase()
     {
@@ -80,6 +81,7 @@ private Q_SLOTS:
         TestClips::ClipOptions options;
         options.width = 160;
         options.height = 120;
+        options.seconds = 3.0;
         const QString plain = TestClips::clip(options);
         TeslaCamFixture fixture(path(QStringLiteral("drive/TeslaCam")));
         root_ = fixture.root();
@@ -106,7 +108,7 @@ private Q_SLOTS:
         QCOMPARE(run.exitCode, 0);
         QCOMPARE(run.err, QString());
         const QStringList rows = lines(run.out);
-        QCOMPARE(rows.size(), 1 + 2 * 72);
+        QCOMPARE(rows.size(), 1 + 2 * 108);
         QVERIFY(rows[0].startsWith(QStringLiteral("time,clip,clipTime,frame,wallClock,version,gear,")));
         const int columns = int(rows[0].count(QLatin1Char(','))) + 1;
         for (const QString &row : rows)
@@ -125,7 +127,7 @@ private Q_SLOTS:
         for (int frame : {7, 9})
             QCOMPARE(rows[1 + frame].split(QLatin1Char(',')).mid(5), QStringList(16, QString()));
         // The second clip stands ten seconds on.
-        QVERIFY(rows[1 + 72].startsWith(QStringLiteral("10,2024-06-02_08-59-10-front.mp4,0,0,2024-06-02T08:59:10.000Z,")));
+        QVERIFY(rows[1 + 108].startsWith(QStringLiteral("10,2024-06-02_08-59-10-front.mp4,0,0,2024-06-02T08:59:10.000Z,")));
     }
 
     void jsonCarriesTheSameFields()
@@ -137,15 +139,15 @@ private Q_SLOTS:
         QCOMPARE(doc.value(QStringLiteral("event")).toString(), savedId);
         QCOMPARE(doc.value(QStringLiteral("camera")).toString(), QStringLiteral("front"));
         const QJsonArray frames = doc.value(QStringLiteral("frames")).toArray();
-        QCOMPARE(frames.size(), 2 * 72);
-        const QJsonObject f = frames[72 + 20].toObject();
+        QCOMPARE(frames.size(), 2 * 108);
+        const QJsonObject f = frames[108 + 20].toObject();
         QCOMPARE(f.value(QStringLiteral("clip")).toString(), QStringLiteral("2024-06-02_08-59-10-front.mp4"));
         QCOMPARE(f.value(QStringLiteral("frame")).toInt(), 20);
         QCOMPARE(f.value(QStringLiteral("frameSequenceNumber")).toInt(), 120);
         QCOMPARE(f.value(QStringLiteral("speed")).toDouble(), 12.5);
         QCOMPARE(f.value(QStringLiteral("autopilot")).toString(), QStringLiteral("autosteer"));
         QCOMPARE(f.value(QStringLiteral("brakeApplied")).toBool(), true);
-        QCOMPARE(f.value(QStringLiteral("latitude")).toDouble(), 30.5 + 1 * 0.01 + 5 * 1e-4);
+        QCOMPARE(f.value(QStringLiteral("latitude")).toDouble(), 30.5 + 1 * 0.01 + 0.0);
         QCOMPARE(frames[0].toObject().value(QStringLiteral("gear")).toString(), QStringLiteral("park"));
         const QJsonObject missing = frames[9].toObject();
         QVERIFY(missing.contains(QStringLiteral("wallClock")));
@@ -180,9 +182,10 @@ private Q_SLOTS:
                 times << xml.readElementText();
         }
         QVERIFY2(!xml.hasError(), qPrintable(xml.errorString()));
-        // One line per clip, ten seconds apart; one point per new fix.
+        // One line per clip, ten seconds apart; one point per new fix, and
+        // one for all the time the car stood.
         QCOMPARE(segments, 2);
-        QCOMPARE(points.size(), 2 * 18);
+        QCOMPARE(points.size(), 27 + 1);
         QCOMPARE(points.first(), QStringLiteral("30.5 -97.75"));
         QCOMPARE(times.first(), QStringLiteral("2024-06-02T08:59:00.000Z"));
         QCOMPARE(times.size(), points.size());
