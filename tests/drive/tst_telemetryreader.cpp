@@ -5,6 +5,11 @@
 #include "support/FaultyFs.h"
 #include "support/TelemetryClipWriter.h"
 #include "support/TestClips.h"
+#include "playback/MediaSource.h"
+
+extern "C" {
+#include <libavutil/frame.h>
+}
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -298,6 +303,37 @@ private Q_SLOTS:
         caller.request_stop();
         QVERIFY_THROWS_EXCEPTION(CancellationError, TelemetryReader::readClip(clip, caller.get_token()));
         fs.release();
+    }
+
+    // While playing, libavcodec hands each frame's user data over already
+    // unescaped; our own reading of the record agrees with the decoder's
+    // reading of the SEI.
+    void theDecoderFindsTheSameRecords()
+    {
+        const QString path = writeClip(QStringLiteral("decoded.mp4"), [](int frame, double) {
+            return FrameRecord{driving(frame)};
+        });
+        const auto track = TelemetryReader::readClip(clipAt(path));
+        QVERIFY(track);
+        MediaSource source(path, [] { return false; }, true, 1);
+        double time = 0;
+        int frames = 0;
+        while (const AVFrame *frame = source.nextFrame(&time)) {
+            std::optional<TelemetryRecord> fromSideData;
+            for (int i = 0; i < frame->nb_side_data; ++i) {
+                const AVFrameSideData *sd = frame->side_data[i];
+                if (sd->type == AV_FRAME_DATA_SEI_UNREGISTERED && !fromSideData)
+                    fromSideData = SeiTelemetry::recordInPayload(sd->data, sd->size);
+            }
+            QVERIFY2(fromSideData, qPrintable(QString::number(frames)));
+            const TelemetryRecord *fromPackets = track->recordAt(time);
+            QVERIFY(fromPackets);
+            fromSideData->mediaTime = fromPackets->mediaTime;
+            fromSideData->frameIndex = fromPackets->frameIndex;
+            QCOMPARE(*fromSideData, *fromPackets);
+            ++frames;
+        }
+        QCOMPARE(frames, 72);
     }
 
     // Packets as a damaged or crafted file may hold them.
