@@ -1,0 +1,111 @@
+#include "model/EventTelemetry.h"
+
+#include <QTest>
+
+#include <cmath>
+#include <limits>
+
+namespace {
+
+TelemetryRecord withSequence(quint64 n)
+{
+    TelemetryRecord r;
+    r.frameSequenceNumber = n;
+    return r;
+}
+
+// Frames at 0, 0.1, … 0.9 s; every frame but the fourth has a record
+// numbered after it. Given in decoding order, as packets come.
+TelemetryTrack tenFrames(const QString &file, double duration = 1.0)
+{
+    std::vector<TelemetryTrack::Frame> frames;
+    for (int i : {0, 2, 1, 3, 5, 4, 6, 7, 9, 8})
+        frames.push_back({i / 10.0, i == 3 ? std::nullopt : std::optional(withSequence(quint64(i)))});
+    ClipRef clip;
+    clip.url = file;
+    return TelemetryTrack::make(clip, duration, frames);
+}
+
+} // namespace
+
+class TestTelemetryModel : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void framesAreNumberedInPresentationOrder()
+    {
+        const TelemetryTrack track = tenFrames(QStringLiteral("a.mp4"));
+        QCOMPARE(track.frameTimes.size(), size_t(10));
+        QCOMPARE(track.records.size(), size_t(9));
+        for (const TelemetryRecord &r : track.records) {
+            QCOMPARE(quint64(r.frameIndex), r.frameSequenceNumber);
+            QCOMPARE(r.mediaTime, r.frameIndex / 10.0);
+        }
+    }
+
+    void theFrameOnScreenAtATime()
+    {
+        const TelemetryTrack track = tenFrames(QStringLiteral("a.mp4"));
+        QCOMPARE(track.frameAt(0.0), std::optional(0));
+        QCOMPARE(track.frameAt(0.25), std::optional(2));
+        QCOMPARE(track.frameAt(0.99), std::optional(9));
+        QVERIFY(!track.frameAt(1.0));
+        QVERIFY(!track.frameAt(-0.001));
+        QVERIFY(!track.frameAt(std::numeric_limits<double>::quiet_NaN()));
+        QVERIFY(!track.recordAt(0.35)); // the frame without a record
+        QCOMPARE(track.recordAt(0.45)->frameSequenceNumber, quint64(4));
+        // A length the header doesn't give: the last frame lasts one frame.
+        const TelemetryTrack unknownLength = tenFrames(QStringLiteral("b.mp4"), 0.0);
+        QCOMPARE(unknownLength.frameAt(0.95), std::optional(9));
+        QVERIFY(!unknownLength.frameAt(1.05));
+        QVERIFY(!TelemetryTrack().frameAt(0.0));
+    }
+
+    // Two clips with a gap between them, the second split in two around a
+    // third stretch, as the player splices a clip that starts early.
+    void samplesOnTheAxis()
+    {
+        EventTelemetry telemetry;
+        telemetry.tracks = {tenFrames(QStringLiteral("a.mp4")), tenFrames(QStringLiteral("b.mp4"))};
+        telemetry.pieces = {{0, 5.0, 0.0, 1.0}, {1, 10.0, 0.0, 0.5}, {0, 10.5, 0.5, 0.25}, {1, 10.75, 0.5, 0.5}};
+        auto at = [&](double t) -> QString {
+            const auto s = telemetry.sampleAt(t);
+            if (!s)
+                return QStringLiteral("nothing");
+            return QStringLiteral("%1:%2%3").arg(s->track->clip.url).arg(s->frameIndex).arg(s->record ? "" : " bare");
+        };
+        QCOMPARE(at(4.99), QStringLiteral("nothing"));
+        QCOMPARE(at(5.0), QStringLiteral("a.mp4:0"));
+        QCOMPARE(at(5.35), QStringLiteral("a.mp4:3 bare"));
+        QCOMPARE(at(7.0), QStringLiteral("nothing"));
+        QCOMPARE(at(10.45), QStringLiteral("b.mp4:4"));
+        QCOMPARE(at(10.55), QStringLiteral("a.mp4:5"));
+        QCOMPARE(at(10.8), QStringLiteral("b.mp4:5"));
+        QCOMPARE(at(11.25), QStringLiteral("nothing"));
+
+        const auto frames = telemetry.frames();
+        QCOMPARE(frames.size(), size_t(10 + 5 + 3 + 5));
+        QCOMPARE(frames[15].track->clip.url, QStringLiteral("a.mp4"));
+        QVERIFY(std::abs(frames[15].time - 10.5) < 1e-9);
+        QCOMPARE(frames[15].frameIndex, 5);
+        QVERIFY(telemetry.hasRecords());
+        QVERIFY(!telemetry.firstPosition());
+    }
+
+    void aFixIsOnTheGlobeAndNotZeroZero()
+    {
+        TelemetryRecord r;
+        QVERIFY(!r.hasPosition());
+        r.latitude = 30.5;
+        QVERIFY(r.hasPosition());
+        r.longitude = 181.0;
+        QVERIFY(!r.hasPosition());
+        r.longitude = std::numeric_limits<double>::quiet_NaN();
+        QVERIFY(!r.hasPosition());
+        QCOMPARE(TelemetryRecord::plainFloat(0.1f), 0.1);
+        QCOMPARE(TelemetryRecord::plainFloat(12.5f), 12.5);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestTelemetryModel)
+#include "tst_telemetrymodel.moc"
