@@ -1,9 +1,8 @@
 // The driving data through the engine: the live engine reads it off a real
 // drive and off the same event kept in a real Vault, leaves the drive as it
-// was, and stops when asked; the mock engine has some for its driving events.
+// was, and stops when asked.
 
 #include "engine/LiveEngine.h"
-#include "engine/MockEngine.h"
 #include "support/FaultyFs.h"
 #include "support/IsolatedHome.h"
 #include "support/TelemetryClipWriter.h"
@@ -109,17 +108,6 @@ private Q_SLOTS:
         // Far below the twenty seconds the clip's limit allows.
         QTRY_VERIFY_WITH_TIMEOUT(load.isFinished(), 5000);
         fs.release();
-    }
-
-    void theMockHasDataForDrivingOnly()
-    {
-        MockEngine mock;
-        for (const TeslaEvent &event : MockEngine::demoEvents()) {
-            const EventTelemetry telemetry = mock.loadTelemetry(event, Camera::front).result();
-            QCOMPARE(telemetry.hasRecords(), event.kind != EventKind::sentry);
-            if (telemetry.hasRecords())
-                QVERIFY(telemetry.firstPosition());
-        }
     }
 };
 

@@ -1,4 +1,4 @@
-#include "model/EventTelemetry.h"
+#include "model/TelemetryTrack.h"
 
 #include <QTest>
 
@@ -32,17 +32,6 @@ class TestTelemetryModel : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void framesAreNumberedInPresentationOrder()
-    {
-        const TelemetryTrack track = tenFrames(QStringLiteral("a.mp4"));
-        QCOMPARE(track.frameTimes.size(), size_t(10));
-        QCOMPARE(track.records.size(), size_t(9));
-        for (const TelemetryRecord &r : track.records) {
-            QCOMPARE(quint64(r.frameIndex), r.frameSequenceNumber);
-            QCOMPARE(r.mediaTime, r.frameIndex / 10.0);
-        }
-    }
-
     void theFrameOnScreenAtATime()
     {
         const TelemetryTrack track = tenFrames(QStringLiteral("a.mp4"));
@@ -59,37 +48,6 @@ private Q_SLOTS:
         QCOMPARE(unknownLength.frameAt(0.95), std::optional(9));
         QVERIFY(!unknownLength.frameAt(1.05));
         QVERIFY(!TelemetryTrack().frameAt(0.0));
-    }
-
-    // Two clips with a gap between them, the second split in two around a
-    // third stretch, as the player splices a clip that starts early.
-    void samplesOnTheAxis()
-    {
-        EventTelemetry telemetry;
-        telemetry.tracks = {tenFrames(QStringLiteral("a.mp4")), tenFrames(QStringLiteral("b.mp4"))};
-        telemetry.pieces = {{0, 5.0, 0.0, 1.0}, {1, 10.0, 0.0, 0.5}, {0, 10.5, 0.5, 0.25}, {1, 10.75, 0.5, 0.5}};
-        auto at = [&](double t) -> QString {
-            const auto s = telemetry.sampleAt(t);
-            if (!s)
-                return QStringLiteral("nothing");
-            return QStringLiteral("%1:%2%3").arg(s->track->clip.url).arg(s->frameIndex).arg(s->record ? "" : " bare");
-        };
-        QCOMPARE(at(4.99), QStringLiteral("nothing"));
-        QCOMPARE(at(5.0), QStringLiteral("a.mp4:0"));
-        QCOMPARE(at(5.35), QStringLiteral("a.mp4:3 bare"));
-        QCOMPARE(at(7.0), QStringLiteral("nothing"));
-        QCOMPARE(at(10.45), QStringLiteral("b.mp4:4"));
-        QCOMPARE(at(10.55), QStringLiteral("a.mp4:5"));
-        QCOMPARE(at(10.8), QStringLiteral("b.mp4:5"));
-        QCOMPARE(at(11.25), QStringLiteral("nothing"));
-
-        const auto frames = telemetry.frames();
-        QCOMPARE(frames.size(), size_t(10 + 5 + 3 + 5));
-        QCOMPARE(frames[15].track->clip.url, QStringLiteral("a.mp4"));
-        QVERIFY(std::abs(frames[15].time - 10.5) < 1e-9);
-        QCOMPARE(frames[15].frameIndex, 5);
-        QVERIFY(telemetry.hasRecords());
-        QVERIFY(!telemetry.firstPosition());
     }
 
     void aFixIsOnTheGlobeAndNotZeroZero()
