@@ -348,12 +348,11 @@ QFuture<EventTelemetry> MockEngine::loadTelemetry(const TeslaEvent &event, Camer
         const double fps = 10.0;
         const double lat0 = event.latitude.value_or(30.2672);
         const double lon0 = event.longitude.value_or(-97.7431);
-        const auto origin = event.earliestClipDate();
         for (const ClipRef &clip : event.clips) {
             if (clip.camera != camera || !clip.health.isPlayable())
                 continue;
             std::vector<TelemetryTrack::Frame> frames;
-            const double clipStart = origin ? clip.startDate.timeIntervalSince(*origin) : 0.0;
+            const double clipStart = event.timelineOffset(clip);
             for (int i = 0; i < int(60 * fps); ++i) {
                 TelemetryTrack::Frame frame{i / fps, std::nullopt};
                 if (event.kind != EventKind::sentry) {
