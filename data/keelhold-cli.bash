@@ -1,5 +1,5 @@
-# bash completion for keelhold-cli: its commands, their options, and the event
-# ids of the drive or Vault folder named on the line. Commands and options are
+# bash completion for keelhold-cli: its commands, their options, their values,
+# and the event ids of the drive or Vault folder named on the line. Commands and options are
 # read from keelhold-cli's own help, so they follow the installed version.
 
 # The help of keelhold-cli ($1), or of one of its commands ($2). Kept for the
@@ -100,7 +100,18 @@ _keelhold_cli()
 
     case $prev in
         --event)
-            [[ ${positional[0]} ]] && _keelhold_cli_reply_ids < <(_keelhold_cli_event_ids "$cli" scan "${positional[0]}")
+            [[ ${positional[0]} ]] || return
+            if [[ $command == telemetry ]]; then
+                # Its folder may be a drive's or a Vault's.
+                _keelhold_cli_reply_ids < <(_keelhold_cli_event_ids "$cli" scan "${positional[0]}"
+                    _keelhold_cli_event_ids "$cli" vault list "${positional[0]}")
+            else
+                _keelhold_cli_reply_ids < <(_keelhold_cli_event_ids "$cli" scan "${positional[0]}")
+            fi
+            return
+            ;;
+        --format)
+            COMPREPLY=($(compgen -W 'csv json gpx' -- "$cur"))
             return
             ;;
         --camera)

@@ -5,6 +5,7 @@
 #include "cli/HealthCommand.h"
 #include "cli/KeepCommand.h"
 #include "cli/ScanCommand.h"
+#include "cli/TelemetryCommand.h"
 #include "cli/VaultCommand.h"
 
 #include <algorithm>
@@ -55,6 +56,8 @@ const std::vector<Command> &commands()
          KeepCommand::run},
         {QStringLiteral("vault"), QStringLiteral("List, remove or re-check the events kept in a Vault folder."),
          VaultCommand::run},
+        {QStringLiteral("telemetry"), QStringLiteral("Print the driving data recorded with an event's footage."),
+         TelemetryCommand::run},
     };
     return table;
 }
@@ -71,8 +74,8 @@ QString helpText()
         "\n"
         "Commands:\n");
     for (const Command &c : commands())
-        text += QStringLiteral("  %1%2\n").arg(c.name, -8).arg(c.summary);
-    text += QStringLiteral("  %1%2\n").arg(QStringLiteral("help"), -8).arg(QStringLiteral("Show the options of a command."));
+        text += QStringLiteral("  %1%2\n").arg(c.name, -11).arg(c.summary);
+    text += QStringLiteral("  %1%2\n").arg(QStringLiteral("help"), -11).arg(QStringLiteral("Show the options of a command."));
     text += QStringLiteral(
         "\n"
         "Exit status:\n"

@@ -7,6 +7,7 @@
 #include "model/BookmarkKey.h"
 #include "model/Camera.h"
 #include "model/DriveScan.h"
+#include "model/EventTelemetry.h"
 #include "model/ScanProgress.h"
 #include "model/TeslaEvent.h"
 #include "model/TriageState.h"
@@ -74,6 +75,11 @@ public:
     virtual TriageState triageState(const QString &eventID) = 0;
     virtual void setTriageState(TriageState state, const QString &eventID) = 0;
     virtual QFuture<TriageStates> loadAllTriageStates() = 0;
+
+    // The driving data one camera's clips of an event carry, on the event's
+    // time axis; without records when the clips have none. For drive and
+    // Vault events alike; a clip that can't be read is left out.
+    virtual QFuture<EventTelemetry> loadTelemetry(const TeslaEvent &event, Camera camera) = 0;
 
     // One camera of one event as one movie file at `to`; progress from 0 to 1.
     virtual QFuture<void> exportFootage(Camera camera, const TeslaEvent &event, std::optional<SecondsRange> range,

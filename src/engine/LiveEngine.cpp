@@ -9,6 +9,7 @@
 #include "engine/ScanCache.h"
 #include "engine/TriageStore.h"
 #include "export/Exporter.h"
+#include "playback/TelemetryTimeline.h"
 #include "vault/ArchiveEngine.h"
 #include "vault/VaultBrowser.h"
 
@@ -83,6 +84,13 @@ void LiveEngine::setTriageState(TriageState state, const QString &eventID)
 }
 
 QFuture<EngineFacade::TriageStates> LiveEngine::loadAllTriageStates() { return TriageStore::shared().allStates(); }
+
+QFuture<EventTelemetry> LiveEngine::loadTelemetry(const TeslaEvent &event, Camera camera)
+{
+    return AsyncRun::cancellable(EnginePools::driveRuns(), [event, camera](std::stop_token stop) {
+        return TelemetryTimeline::load(event, camera, stop);
+    });
+}
 
 QFuture<void> LiveEngine::exportFootage(Camera camera, const TeslaEvent &event, std::optional<SecondsRange> range,
                                         const QString &to, FractionCallback progress)

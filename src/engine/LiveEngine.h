@@ -38,6 +38,7 @@ public:
     // call returns, and a failure to keep it is never reported.
     void setTriageState(TriageState state, const QString &eventID) override;
     QFuture<TriageStates> loadAllTriageStates() override;
+    QFuture<EventTelemetry> loadTelemetry(const TeslaEvent &event, Camera camera) override;
     QFuture<void> exportFootage(Camera camera, const TeslaEvent &event, std::optional<SecondsRange> range,
                                 const QString &to, FractionCallback progress) override;
 

@@ -2,6 +2,7 @@
 
 #include "engine/AsyncRun.h"
 #include "model/CancellationError.h"
+#include "playback/TelemetryTimeline.h"
 #include "vault/ArchivedEvent.h"
 
 #include <QDateTime>
@@ -333,6 +334,47 @@ void MockEngine::setTriageState(TriageState triage, const QString &eventID)
 QFuture<EngineFacade::TriageStates> MockEngine::loadAllTriageStates()
 {
     return executor_->submit([state = state_] { return state->triage; });
+}
+
+QFuture<EventTelemetry> MockEngine::loadTelemetry(const TeslaEvent &event, Camera camera)
+{
+    return AsyncRun::cancellable(generalPool(), [event, camera](std::stop_token stop) {
+        if (!AsyncRun::sleepFor(100ms, stop))
+            throw CancellationError();
+        // Parked Sentry footage carries no records; driving footage a drive
+        // north from the event's place, speeding up for a minute and then
+        // slowing down.
+        std::vector<TelemetryTrack> tracks;
+        const double fps = 10.0;
+        const double lat0 = event.latitude.value_or(30.2672);
+        const double lon0 = event.longitude.value_or(-97.7431);
+        for (const ClipRef &clip : event.clips) {
+            if (clip.camera != camera || !clip.health.isPlayable())
+                continue;
+            std::vector<TelemetryTrack::Frame> frames;
+            const double clipStart = event.timelineOffset(clip);
+            for (int i = 0; i < int(60 * fps); ++i) {
+                TelemetryTrack::Frame frame{i / fps, std::nullopt};
+                if (event.kind != EventKind::sentry) {
+                    const double t = clipStart + i / fps;
+                    TelemetryRecord r;
+                    r.version = 1;
+                    r.gear = TelemetryRecord::Gear::drive;
+                    r.frameSequenceNumber = quint64(t * fps);
+                    r.speed = float(t < 60 ? t / 3.0 : std::max(0.0, 20.0 - (t - 60) / 3.0));
+                    r.brakeApplied = t >= 60;
+                    r.autopilot = t >= 20 && t < 50 ? TelemetryRecord::AutopilotState::autosteer
+                                                    : TelemetryRecord::AutopilotState::none;
+                    r.latitude = lat0 + t * 0.0001;
+                    r.longitude = lon0;
+                    frame.record = r;
+                }
+                frames.push_back(frame);
+            }
+            tracks.push_back(TelemetryTrack::make(clip, 60.0, std::move(frames)));
+        }
+        return TelemetryTimeline::place(event, camera, std::move(tracks));
+    });
 }
 
 QFuture<void> MockEngine::exportFootage(Camera, const TeslaEvent &, std::optional<SecondsRange>, const QString &,

@@ -47,6 +47,7 @@ public:
     TriageState triageState(const QString &eventID) override;
     void setTriageState(TriageState state, const QString &eventID) override;
     QFuture<TriageStates> loadAllTriageStates() override;
+    QFuture<EventTelemetry> loadTelemetry(const TeslaEvent &event, Camera camera) override;
     QFuture<void> exportFootage(Camera camera, const TeslaEvent &event, std::optional<SecondsRange> range,
                                 const QString &to, FractionCallback progress) override;
 

@@ -24,6 +24,9 @@ public:
         return value_ == zeroByte || value_ == truncated || value_ == unreadable || value_ == timedOut;
     }
 
+    // What the player opens: a clip not probed yet, or probed and fine.
+    constexpr bool isPlayable() const { return value_ == unknown || value_ == ok; }
+
     QJsonValue toJson() const { return rawValue(); }
     static ClipHealth fromJson(const QJsonValue &value);
 

@@ -53,6 +53,12 @@ double TeslaEvent::approximateDuration() const
     return latestClipDate()->timeIntervalSince(*earliestClipDate()) + 60.0;
 }
 
+double TeslaEvent::timelineOffset(const ClipRef &clip) const
+{
+    const auto origin = earliestClipDate();
+    return origin ? std::max(0.0, clip.startDate.timeIntervalSince(*origin)) : 0.0;
+}
+
 QJsonObject TeslaEvent::toJson() const
 {
     using namespace JsonCoding;

@@ -38,6 +38,9 @@ struct TeslaEvent {
     std::optional<Date> latestClipDate() const;
     // Minute-granular length from the file names; never reads clip durations.
     double approximateDuration() const;
+    // Where a clip's first frame stands on the event's shared time axis: its
+    // start after the earliest clip of any camera, never below 0.
+    double timelineOffset(const ClipRef &clip) const;
 
     bool operator==(const TeslaEvent &) const = default;
 

@@ -29,6 +29,12 @@ public:
         MediaTime end() const;
         // Returns false for an empty range or a negative time.
         bool insertTimeRange(const QString &file, MediaTime sourceStart, MediaTime duration, MediaTime at);
+        // A whole clip of the given length, from its first frame, at a time
+        // of the axis in seconds: how an event's clips are laid out.
+        bool placeClip(const QString &file, double seconds, double at)
+        {
+            return insertTimeRange(file, MediaTime::zero(), MediaTime::fromSeconds(seconds), MediaTime::fromSeconds(at));
+        }
         bool operator==(const Track &) const = default;
     };
 

@@ -124,7 +124,7 @@ std::vector<SyncPlayerController::TileOutcome> SyncPlayerController::buildTileDa
                          [](const ClipRef &a, const ClipRef &b) { return a.startDate < b.startDate; });
         std::vector<ClipRef> playable;
         for (const ClipRef &c : clips)
-            if (c.health == ClipHealth::unknown || c.health == ClipHealth::ok)
+            if (c.health.isPlayable())
                 playable.push_back(c);
 
         if (playable.empty()) {
@@ -145,9 +145,7 @@ std::vector<SyncPlayerController::TileOutcome> SyncPlayerController::buildTileDa
         for (const ClipRef &clip : playable) {
             if (stop.stop_requested())
                 return outcomes;
-            double offset = clip.startDate.timeIntervalSince(*origin);
-            if (offset <= 0)
-                offset = 0;
+            const double offset = event.timelineOffset(clip);
             double placed = 0;
             try {
                 const QString path = clip.url;
@@ -164,9 +162,7 @@ std::vector<SyncPlayerController::TileOutcome> SyncPlayerController::buildTileDa
                     },
                     stop);
                 if (seconds > 0) {
-                    if (!composition.track(*trackIndex)
-                             .insertTimeRange(path, MediaTime::zero(), MediaTime::fromSeconds(seconds),
-                                              MediaTime::fromSeconds(offset)))
+                    if (!composition.track(*trackIndex).placeClip(path, seconds, offset))
                         continue;
                     placed = seconds;
                 }

@@ -61,7 +61,7 @@ private Q_SLOTS:
         QVERIFY(text.startsWith(QLatin1String("Usage: keelhold-cli ")));
         QStringList listed = firstWords(text, QStringLiteral("Commands:"));
         listed.sort();
-        QCOMPARE(listed, QStringList({"export", "health", "help", "keep", "scan", "vault"}));
+        QCOMPARE(listed, QStringList({"export", "health", "help", "keep", "scan", "telemetry", "vault"}));
         QCOMPARE(cli({"-h"}).out, help.out);
         QCOMPARE(cli({"help"}).out, help.out);
 

@@ -69,7 +69,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("line");
         QTest::addColumn<QStringList>("offered");
-        QTest::newRow("commands") << "keelhold-cli " << QStringList{"export", "health", "help", "keep", "scan", "vault"};
+        QTest::newRow("commands") << "keelhold-cli " << QStringList{"export", "health", "help", "keep", "scan", "telemetry", "vault"};
         QTest::newRow("a command begun") << "keelhold-cli he" << QStringList{"health", "help"};
         QTest::newRow("top-level options") << "keelhold-cli --" << QStringList{"--help", "--version"};
         QTest::newRow("help of a command") << "keelhold-cli help ke" << QStringList{"keep"};
@@ -78,6 +78,7 @@ private Q_SLOTS:
             << "keelhold-cli export /x --camera front --f" << QStringList{"--from"};
         QTest::newRow("cameras") << "keelhold-cli export /x --camera left" << QStringList{"left_pillar", "left_repeater"};
         QTest::newRow("no guess for a number") << "keelhold-cli export /x --from " << QStringList{};
+        QTest::newRow("formats") << "keelhold-cli telemetry /x --format " << QStringList{"csv", "gpx", "json"};
         QTest::newRow("vault actions") << "keelhold-cli vault " << QStringList{"list", "remove", "verify"};
     }
 
@@ -105,7 +106,10 @@ private Q_SLOTS:
 
     void eventIdsOfTheVault()
     {
-        const Completion c = complete(QStringLiteral("keelhold-cli vault remove %1 ").arg(vault_));
+        Completion c = complete(QStringLiteral("keelhold-cli vault remove %1 ").arg(vault_));
+        QCOMPARE(c.words, QStringList({"saved\\|2026-07-19_10-00-00"}));
+        // telemetry reads a drive's events or a Vault's.
+        c = complete(QStringLiteral("keelhold-cli telemetry %1 --event ").arg(vault_));
         QCOMPARE(c.words, QStringList({"saved\\|2026-07-19_10-00-00"}));
     }
 

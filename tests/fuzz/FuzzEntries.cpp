@@ -6,6 +6,7 @@
 #include "drive/MediaInput.h"
 #include "drive/ReadOnlyFs.h"
 #include "drive/ReasonMapper.h"
+#include "drive/TelemetryReader.h"
 #include "drive/TeslaCamParser.h"
 #include "export/ExportError.h"
 #include "export/Exporter.h"
@@ -17,6 +18,7 @@ extern "C" {
 
 #include <QFile>
 #include <QTemporaryDir>
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <ctime>
@@ -51,13 +53,14 @@ ClipRef clipAt(const QString &path, qint64 size)
 
 } // namespace
 
-const std::array<Target, 4> &targets()
+const std::array<Target, 5> &targets()
 {
-    static const std::array<Target, 4> all{{
+    static const std::array<Target, 5> all{{
         {"eventjson", &eventJson},
         {"names", &names},
         {"probe", &probe},
         {"export", &exportClip},
+        {"telemetry", &telemetry},
     }};
     return all;
 }
@@ -164,6 +167,33 @@ QString exportClip(const QByteArray &input)
     const AVStream *video = written->context()->streams[written->bestStream(AVMEDIA_TYPE_VIDEO)];
     if (video->nb_frames == 0)
         return QStringLiteral("an export succeeded but its movie holds no pictures");
+    return {};
+}
+
+QString telemetry(const QByteArray &input)
+{
+    const auto track = TelemetryReader::readClip(clipAt(writeClip(input), input.size()));
+    if (!track)
+        return {};
+    if (!std::isfinite(track->duration))
+        return QStringLiteral("the clip's length is %1 seconds").arg(track->duration);
+    if (!std::is_sorted(track->frameTimes.begin(), track->frameTimes.end())
+        || !std::all_of(track->frameTimes.begin(), track->frameTimes.end(), [](double t) { return std::isfinite(t); }))
+        return QStringLiteral("the frames' times are out of order or not numbers");
+    int previous = -1;
+    for (const TelemetryRecord &r : track->records) {
+        if (r.frameIndex <= previous || r.frameIndex >= int(track->frameTimes.size()))
+            return QStringLiteral("a record belongs to frame %1 of %2").arg(r.frameIndex).arg(track->frameTimes.size());
+        if (r.mediaTime != track->frameTimes[size_t(r.frameIndex)])
+            return QStringLiteral("a record's time is not its frame's");
+        previous = r.frameIndex;
+    }
+    // Every frame finds its own record, or none, by its time.
+    for (size_t i = 0; i < track->frameTimes.size(); ++i) {
+        const auto frame = track->frameAt(track->frameTimes[i]);
+        if (!frame || track->frameTimes[size_t(*frame)] != track->frameTimes[i])
+            return QStringLiteral("frame %1 is not found at its own time").arg(i);
+    }
     return {};
 }
 

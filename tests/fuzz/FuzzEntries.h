@@ -19,7 +19,7 @@ struct Target {
     Entry run;
 };
 
-const std::array<Target, 4> &targets();
+const std::array<Target, 5> &targets();
 const Target *target(QStringView name);
 
 // Once per process, before the first input: quiet FFmpeg, a zone with
@@ -35,5 +35,7 @@ QString names(const QByteArray &input);
 QString probe(const QByteArray &input);
 // One clip file, twice, exported as one camera of an event.
 QString exportClip(const QByteArray &input);
+// One clip file, read for the driving records in its packets.
+QString telemetry(const QByteArray &input);
 
 } // namespace FuzzEntries

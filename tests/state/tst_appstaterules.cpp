@@ -75,6 +75,10 @@ public:
     TriageState triageState(const QString &eventID) override { return inner.triageState(eventID); }
     void setTriageState(TriageState state, const QString &eventID) override { inner.setTriageState(state, eventID); }
     QFuture<TriageStates> loadAllTriageStates() override { return inner.loadAllTriageStates(); }
+    QFuture<EventTelemetry> loadTelemetry(const TeslaEvent &event, Camera camera) override
+    {
+        return inner.loadTelemetry(event, camera);
+    }
     QFuture<void> exportFootage(Camera camera, const TeslaEvent &event, std::optional<SecondsRange> range,
                                 const QString &to, FractionCallback progress) override
     {

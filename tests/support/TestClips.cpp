@@ -28,7 +28,7 @@ QString key(const ClipOptions &s)
                              .arg(s.audio)
                              .arg(s.gop)
                              .arg(s.pattern)
-        + QStringLiteral("|%1|%2|%3").arg(s.filter).arg(s.lossless).arg(s.faststart);
+        + QStringLiteral("|%1|%2|%3|%4").arg(s.filter).arg(s.lossless).arg(s.faststart).arg(s.bFrames);
     return QString::fromLatin1(QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Md5).toHex());
 }
 } // namespace
@@ -51,6 +51,8 @@ void generate(const ClipOptions &s, const QString &dest)
          << QStringLiteral("-pix_fmt") << s.pixelFormat << QStringLiteral("-g") << QString::number(s.gop);
     if (s.codec == QLatin1String("libx264"))
         args << QStringLiteral("-preset") << QStringLiteral("ultrafast");
+    if (s.bFrames > 0 && s.codec == QLatin1String("libx264"))
+        args << QStringLiteral("-bf") << QString::number(s.bFrames);
     if (s.lossless && s.codec == QLatin1String("libx264"))
         args << QStringLiteral("-qp") << QStringLiteral("0");
     if (s.codec == QLatin1String("libx265"))

@@ -19,6 +19,7 @@ struct ClipOptions {
     QString filter;        // video filters after the source, e.g. "geq=lum='N'"
     bool lossless = false; // H.264 at qp 0, so pixel values survive exactly
     bool faststart = false; // the index (moov) before the samples (mdat)
+    int bFrames = 0;        // H.264: frames stored out of presentation order
 };
 
 // Path of a generated clip matching options (do not modify it; copy it).

@@ -1,0 +1,275 @@
+#include "cli/TelemetryCommand.h"
+
+#include "cli/CliOutput.h"
+#include "drive/DriveBoundary.h"
+#include "drive/TeslaCamParser.h"
+#include "model/EventTelemetry.h"
+#include "playback/TelemetryTimeline.h"
+#include "vault/VaultBrowser.h"
+
+extern "C" {
+#include <libavutil/log.h>
+}
+
+#include <QCommandLineParser>
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QSaveFile>
+#include <QXmlStreamWriter>
+#include <cmath>
+
+namespace TelemetryCommand {
+
+namespace {
+
+const char *usage = "Usage: keelhold-cli telemetry <folder> --event ID [--camera CAMERA] [--format csv|json|gpx] "
+                    "[-o FILE]";
+
+const QStringList formats{QStringLiteral("csv"), QStringLiteral("json"), QStringLiteral("gpx")};
+
+// Fix points a mapping tool draws as one line; a longer pause in the
+// footage starts a new one.
+constexpr double segmentGap = 2.0;
+
+int fail(const QString &sentence)
+{
+    CliOutput::err(sentence);
+    return CliOutput::failureExit;
+}
+
+QStringList cameraNames()
+{
+    QStringList names;
+    for (const Camera c : Camera::allCases())
+        names << c.rawValue();
+    return names;
+}
+
+// Seconds to the microsecond, without exponents or trailing zeros.
+QString seconds(double value)
+{
+    return QString::number(std::round(value * 1e6) / 1e6, 'f', QLocale::FloatingPointShortest);
+}
+
+QString number(double value)
+{
+    return QString::number(value, 'g', QLocale::FloatingPointShortest);
+}
+
+// The computer's local time, with its offset so that it stands alone.
+QString wallClock(const EventTelemetry::Sample &s)
+{
+    const QDateTime local = s.track->wallClock(s.mediaTime).toLocalDateTime();
+    return local.toOffsetFromUtc(local.offsetFromUtc()).toString(Qt::ISODateWithMs);
+}
+
+QString utcTime(const EventTelemetry::Sample &s)
+{
+    return s.track->wallClock(s.mediaTime).toQDateTime().toUTC().toString(Qt::ISODateWithMs);
+}
+
+QByteArray csv(const EventTelemetry &telemetry)
+{
+    QString text = QStringLiteral(
+        "time,clip,clipTime,frame,wallClock,version,gear,frameSequenceNumber,speed,acceleratorPedal,steeringAngle,"
+        "blinkerLeft,blinkerRight,brakeApplied,autopilot,latitude,longitude,heading,accelerationX,accelerationY,"
+        "accelerationZ\n");
+    auto flag = [](bool b) { return b ? QStringLiteral("true") : QStringLiteral("false"); };
+    for (const EventTelemetry::Sample &s : telemetry.frames()) {
+        QStringList row{seconds(s.time), s.track->clip.fileName(), seconds(s.mediaTime), QString::number(s.frameIndex),
+                        wallClock(s)};
+        if (const TelemetryRecord *r = s.record) {
+            row << QString::number(r->version) << TelemetryRecord::gearName(r->gear)
+                << QString::number(r->frameSequenceNumber) << number(TelemetryRecord::plainFloat(r->speed))
+                << number(TelemetryRecord::plainFloat(r->acceleratorPedal))
+                << number(TelemetryRecord::plainFloat(r->steeringAngle)) << flag(r->blinkerLeft)
+                << flag(r->blinkerRight) << flag(r->brakeApplied) << TelemetryRecord::autopilotName(r->autopilot)
+                << number(r->latitude) << number(r->longitude) << number(r->heading) << number(r->accelerationX)
+                << number(r->accelerationY) << number(r->accelerationZ);
+        } else {
+            // A frame that carried no record keeps its row, with the fields empty.
+            for (int i = 0; i < 16; ++i)
+                row << QString();
+        }
+        text += row.join(QLatin1Char(',')) + QLatin1Char('\n');
+    }
+    return text.toUtf8();
+}
+
+QByteArray json(const TeslaEvent &event, const EventTelemetry &telemetry)
+{
+    QJsonArray frames;
+    for (const EventTelemetry::Sample &s : telemetry.frames()) {
+        QJsonObject o = s.record ? s.record->fieldsToJson() : QJsonObject();
+        o.insert(QStringLiteral("time"), std::round(s.time * 1e6) / 1e6);
+        o.insert(QStringLiteral("clip"), s.track->clip.fileName());
+        o.insert(QStringLiteral("clipTime"), std::round(s.mediaTime * 1e6) / 1e6);
+        o.insert(QStringLiteral("frame"), s.frameIndex);
+        o.insert(QStringLiteral("wallClock"), wallClock(s));
+        frames.append(o);
+    }
+    QJsonObject document;
+    document.insert(QStringLiteral("event"), event.id());
+    document.insert(QStringLiteral("camera"), telemetry.camera.rawValue());
+    document.insert(QStringLiteral("frames"), frames);
+    return QJsonDocument(document).toJson(QJsonDocument::Compact) + '\n';
+}
+
+QByteArray gpx(const TeslaEvent &event, const EventTelemetry &telemetry)
+{
+    QByteArray bytes;
+    QXmlStreamWriter xml(&bytes);
+    xml.setAutoFormatting(true);
+    xml.writeStartDocument();
+    xml.writeStartElement(QStringLiteral("gpx"));
+    xml.writeDefaultNamespace(QStringLiteral("http://www.topografix.com/GPX/1/1"));
+    xml.writeAttribute(QStringLiteral("version"), QStringLiteral("1.1"));
+    xml.writeAttribute(QStringLiteral("creator"), QStringLiteral("Keelhold"));
+    xml.writeStartElement(QStringLiteral("trk"));
+    xml.writeTextElement(QStringLiteral("name"), event.id());
+    bool open = false;
+    std::optional<double> lastFix;                     // on the axis
+    std::optional<std::pair<double, double>> lastPoint; // the last one written
+    for (const EventTelemetry::Sample &s : telemetry.frames()) {
+        if (!s.record || !s.record->hasPosition())
+            continue;
+        const TelemetryRecord &r = *s.record;
+        const bool newSegment = !lastFix || s.time - *lastFix > segmentGap;
+        lastFix = s.time;
+        // The GPS gives a new fix a few times a second, not every frame, and
+        // none while the car stands.
+        if (!newSegment && lastPoint == std::pair(r.latitude, r.longitude))
+            continue;
+        if (newSegment) {
+            if (open)
+                xml.writeEndElement();
+            xml.writeStartElement(QStringLiteral("trkseg"));
+            open = true;
+        }
+        xml.writeStartElement(QStringLiteral("trkpt"));
+        xml.writeAttribute(QStringLiteral("lat"), number(r.latitude));
+        xml.writeAttribute(QStringLiteral("lon"), number(r.longitude));
+        xml.writeTextElement(QStringLiteral("time"), utcTime(s));
+        xml.writeEndElement();
+        lastPoint = std::pair(r.latitude, r.longitude);
+    }
+    if (open)
+        xml.writeEndElement();
+    xml.writeEndElement(); // trk
+    xml.writeEndElement(); // gpx
+    xml.writeEndDocument();
+    return bytes;
+}
+
+// The event in a TeslaCam folder, or else in a Vault folder.
+std::optional<TeslaEvent> findEvent(const QString &root, const QString &id)
+{
+    const DriveScan scan = TeslaCamParser::scan(root);
+    for (const TeslaEvent &e : scan.events)
+        if (e.id() == id)
+            return e;
+    try {
+        for (const TeslaEvent &e : VaultBrowser::scanVault(root))
+            if (e.id() == id)
+                return e;
+    } catch (const VaultBrowser::VaultBrowserError &) {
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+int run(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral(
+        "Prints the driving data the car recorded with one camera's footage of an event, one row for each\n"
+        "frame: its time on the event's timeline and in its clip, when it was taken, and the car's speed\n"
+        "(metres per second), gear, accelerator, steering angle (degrees), blinkers, brake, Autopilot state,\n"
+        "GPS position, heading (degrees) and acceleration (metres per second squared). Cars on software\n"
+        "2025.44.25 or later record it. The drive is only read."));
+    parser.addHelpOption();
+    parser.addPositionalArgument(QStringLiteral("folder"), QStringLiteral("The TeslaCam folder, or a Vault folder, to read."));
+    const QCommandLineOption eventOption(QStringLiteral("event"),
+                                        QStringLiteral("The event's id, as keelhold-cli scan prints it."),
+                                        QStringLiteral("id"));
+    const QCommandLineOption cameraOption(
+        QStringLiteral("camera"), QStringLiteral("One of: %1.").arg(cameraNames().join(QStringLiteral(", "))),
+        QStringLiteral("camera"), QStringLiteral("front"));
+    const QCommandLineOption formatOption(
+        QStringLiteral("format"),
+        QStringLiteral("csv, json, or gpx (the route, for a mapping tool). Default: from the output file's "
+                       "extension, else csv."),
+        QStringLiteral("format"));
+    const QCommandLineOption outputOption(QStringList{QStringLiteral("o"), QStringLiteral("output")},
+                                         QStringLiteral("The file to write instead of standard output."),
+                                         QStringLiteral("file"));
+    parser.addOptions({eventOption, cameraOption, formatOption, outputOption});
+    if (const auto done = CliOutput::parseArguments(parser, arguments))
+        return *done;
+    const QStringList positional = parser.positionalArguments();
+    if (positional.size() != 1 || !parser.isSet(eventOption)) {
+        CliOutput::err(QString::fromLatin1(usage));
+        return CliOutput::usageExit;
+    }
+    const std::optional<Camera> camera = Camera::fromRawValue(parser.value(cameraOption));
+    if (!camera)
+        return fail(QStringLiteral("\u201c%1\u201d is not a camera; use one of %2.")
+                        .arg(parser.value(cameraOption), cameraNames().join(QStringLiteral(", "))));
+    QString format = parser.value(formatOption).toLower();
+    if (!parser.isSet(formatOption)) {
+        const QString suffix = QFileInfo(parser.value(outputOption)).suffix().toLower();
+        format = formats.contains(suffix) ? suffix : QStringLiteral("csv");
+    }
+    if (!formats.contains(format))
+        return fail(QStringLiteral("\u201c%1\u201d is not a format; use csv, json or gpx.").arg(parser.value(formatOption)));
+
+    const QString root = QDir::cleanPath(QDir::current().absoluteFilePath(positional.first()));
+    QString output;
+    if (parser.isSet(outputOption)) {
+        output = QDir::cleanPath(QDir::current().absoluteFilePath(parser.value(outputOption)));
+        if (DriveBoundary::writesInto(root, output).value_or(false))
+            return fail(QStringLiteral("Keelhold never writes to your Tesla drive, so save the driving data somewhere "
+                                       "else."));
+    }
+    const QString eventId = parser.value(eventOption);
+    // Damaged clips are expected; FFmpeg's own words about them are noise here.
+    av_log_set_level(AV_LOG_QUIET);
+
+    try {
+        const std::optional<TeslaEvent> event = findEvent(root, eventId);
+        if (!event)
+            return fail(QStringLiteral("There is no event \u201c%1\u201d in this folder.").arg(eventId));
+        if (std::none_of(event->clips.begin(), event->clips.end(), [&](const ClipRef &c) { return c.camera == *camera; }))
+            return fail(QStringLiteral("The %1 camera has no footage in this event.").arg(camera->displayName()));
+        const EventTelemetry telemetry = TelemetryTimeline::load(*event, *camera);
+        if (!telemetry.hasRecords())
+            return fail(QStringLiteral("The %1 camera's clips of this event carry no driving data: cars record it "
+                                       "from software 2025.44.25 on, and not in every mode.")
+                            .arg(camera->displayName()));
+        const QByteArray bytes = format == QLatin1String("json") ? json(*event, telemetry)
+            : format == QLatin1String("gpx")                     ? gpx(*event, telemetry)
+                                                                 : csv(telemetry);
+        if (output.isEmpty()) {
+            CliOutput::out(bytes);
+            return 0;
+        }
+        QSaveFile file(output);
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+            return fail(QStringLiteral("Could not write %1: %2.").arg(QDir::toNativeSeparators(output), file.errorString()));
+        return 0;
+    } catch (const TeslaCamParser::ParserError &e) {
+        return fail(e.errorCase() == TeslaCamParser::ParserError::rootNotFound
+                        ? QStringLiteral("There is no folder at \u201c%1\u201d. Check that the drive is plugged in and "
+                                         "the path is right.")
+                              .arg(root)
+                        : QStringLiteral("\u201c%1\u201d is a file, not a folder. Give the TeslaCam folder itself.")
+                              .arg(root));
+    } catch (const TeslaCamParser::ScanError &e) {
+        return fail(e.message());
+    }
+}
+
+} // namespace TelemetryCommand

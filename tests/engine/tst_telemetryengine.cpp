@@ -1,0 +1,115 @@
+// The driving data through the engine: the live engine reads it off a real
+// drive and off the same event kept in a real Vault, leaves the drive as it
+// was, and stops when asked.
+
+#include "engine/LiveEngine.h"
+#include "support/FaultyFs.h"
+#include "support/IsolatedHome.h"
+#include "support/TelemetryClipWriter.h"
+#include "support/TeslaCamFixture.h"
+#include "support/TestClips.h"
+#include "support/TreeSnapshot.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+#include <QThread>
+
+using Message = TelemetryClipWriter::Message;
+
+namespace {
+
+std::vector<quint64> sequenceNumbers(const EventTelemetry &telemetry)
+{
+    std::vector<quint64> numbers;
+    for (const auto &sample : telemetry.frames())
+        numbers.push_back(sample.record ? sample.record->frameSequenceNumber : 0);
+    return numbers;
+}
+
+} // namespace
+
+class TestTelemetryEngine : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir dir_;
+    LiveEngine live_;
+    EngineFacade &engine_ = live_;
+    TeslaEvent saved_;
+
+    QString drivePath() const { return dir_.filePath(QStringLiteral("drive/TeslaCam")); }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        if (!TestClips::ffmpegAvailable())
+            QSKIP("needs the ffmpeg tool to make clips");
+        TestClips::ClipOptions options;
+        options.width = 160;
+        options.height = 120;
+        const QString withRecords = dir_.filePath(QStringLiteral("records.mp4"));
+        TelemetryClipWriter::remux(TestClips::clip(options), withRecords, [](int frame, double) {
+            Message m;
+            m.set_frame_seq_no(quint64(100 + frame));
+            m.set_vehicle_speed_mps(12.5f);
+            m.set_latitude_deg(30.6075);
+            m.set_longitude_deg(-97.4812);
+            return TelemetryClipWriter::FrameRecord{m};
+        });
+        TeslaCamFixture drive(drivePath());
+        const QString folder = drive.addEvent(
+            QStringLiteral("SavedClips"), QStringLiteral("2024-06-02_09-00-00"),
+            TeslaCamFixture::eventJson(QStringLiteral("2024-06-02T09:00:00"), QStringLiteral("user_interaction_honk")));
+        drive.addClip(folder, QStringLiteral("2024-06-02_08-59-00"), QStringLiteral("front"), 0, withRecords);
+        drive.addClip(folder, QStringLiteral("2024-06-02_08-59-00"), QStringLiteral("back"), 0, TestClips::clip(options));
+        const DriveScan scan = engine_.scanDrive(drivePath(), {}).result();
+        QCOMPARE(scan.events.size(), size_t(1));
+        saved_ = scan.events.front();
+    }
+
+    void fromTheDriveAndFromTheVault()
+    {
+        const TreeSnapshot before = TreeSnapshot::take(drivePath());
+        const EventTelemetry fromDrive = engine_.loadTelemetry(saved_, Camera::front).result();
+        QCOMPARE(fromDrive.frames().size(), size_t(72));
+        QVERIFY(fromDrive.hasRecords());
+        QCOMPARE(fromDrive.firstPosition()->latitude, 30.6075);
+        QVERIFY(!engine_.loadTelemetry(saved_, Camera::back).result().hasRecords());
+        const QString changes = before.differences(TreeSnapshot::take(drivePath()), true);
+        QVERIFY2(changes.isEmpty(), qPrintable(changes));
+
+        const QString vault = dir_.filePath(QStringLiteral("vault"));
+        const ArchiveReport report = engine_.runArchive(engine_.planArchive({saved_}, VaultIndex()), vault, {}).result();
+        QVERIFY(report.failedFiles.empty());
+        const std::vector<TeslaEvent> kept = engine_.scanVault(vault).result();
+        QCOMPARE(kept.size(), size_t(1));
+        QVERIFY(!kept.front().clips.front().url.startsWith(drivePath()));
+        const EventTelemetry fromVault = engine_.loadTelemetry(kept.front(), Camera::front).result();
+        QCOMPARE(sequenceNumbers(fromVault), sequenceNumbers(fromDrive));
+    }
+
+    // A clip the drive never answers for: cancelling the future ends the
+    // load at once, without waiting for the clip's time limit.
+    void cancellingStopsAStuckLoad()
+    {
+        if (!FaultyFs::available())
+            QSKIP("needs root and /dev/fuse");
+        QTemporaryDir mountPoint;
+        FaultyFs fs(mountPoint.path());
+        QVERIFY(fs.isMounted());
+        const QString held = fs.addHeldFile(
+            QStringLiteral("TeslaCam/SavedClips/2024-06-05_10-00-00/2024-06-05_09-59-00-front.mp4"),
+            QByteArray(100000, 'x'));
+        TeslaEvent stuck = saved_;
+        stuck.clips.front().url = held;
+        QFuture<EventTelemetry> load = engine_.loadTelemetry(stuck, Camera::front);
+        QVERIFY(fs.waitUntilHeld(1));
+        QVERIFY(!load.isFinished());
+        load.cancel();
+        // Far below the twenty seconds the clip's limit allows.
+        QTRY_VERIFY_WITH_TIMEOUT(load.isFinished(), 5000);
+        fs.release();
+    }
+};
+
+KEELHOLD_ISOLATED_TEST_MAIN(TestTelemetryEngine)
+#include "tst_telemetryengine.moc"
