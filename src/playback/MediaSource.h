@@ -23,6 +23,14 @@ public:
         using std::runtime_error::runtime_error;
     };
 
+    // Decoding on the graphics hardware through FFmpeg (VAAPI here), for
+    // every source opened after the call; on by default. A stream the device
+    // can't take, or a device that fails, decodes in software instead.
+    static void setHardwareDecoding(bool enabled);
+    static bool hardwareDecodingEnabled();
+    // Which FFmpeg device type to try (AVHWDeviceType); VAAPI unless a test says otherwise.
+    static void setHardwareDeviceType(int type);
+
     // Opens and reads the container's header. With decode false only the
     // duration and the presence of video are read (nothing is decoded).
     // decoderThreads 0 picks by picture size.
@@ -40,11 +48,16 @@ public:
     // Time of the keyframe at or before seconds, from the container's index.
     std::optional<double> keyframeAtOrBefore(double seconds) const;
     // The next decoded frame (owned by the source, valid until the next
-    // call) with its time, or nullptr at the end or on an error.
+    // call) with its time, or nullptr at the end or on an error. Always in
+    // the computer's memory, whichever way it was decoded.
     const AVFrame *nextFrame(double *time);
+    // True while the decoder runs on the graphics hardware.
+    bool decodesOnHardware() const { return onHardware_; }
 
 private:
     void close();
+    bool openDecoder(bool hardware);
+    bool fallBackToSoftware();
 
     QString path_;
     std::unique_ptr<MediaInput> input_;
@@ -52,6 +65,12 @@ private:
     AVCodecContext *codec_ = nullptr;
     AVPacket *packet_ = nullptr;
     AVFrame *frame_ = nullptr;
+    AVFrame *softwareFrame_ = nullptr;
+    int decoderThreads_ = 1;
+    bool onHardware_ = false;
+    int hardwareFormat_ = -1; // AVPixelFormat of the device's frames
+    std::optional<double> lastTime_;  // of the last frame given
+    std::optional<double> skipUntil_; // after a fall back: frames given already
     int streamIndex_ = -1;
     double timeBase_ = 0;
     int64_t startPts_ = 0;

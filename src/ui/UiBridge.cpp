@@ -13,10 +13,12 @@
 #include <QMetaEnum>
 #include <QPalette>
 #include <QSettings>
+#include "playback/MediaSource.h"
 #include <QUrl>
 
 namespace {
 const char *const listWidthKey = "KHEventListWidth";
+const char *const hardwareDecodingKey = "KHHardwareDecoding";
 }
 
 UiBridge::UiBridge(AppState *state, QObject *parent) : QObject(parent), state_(state) {}
@@ -36,6 +38,8 @@ QVariantMap UiBridge::texts() const
                             "without one."));
     t.insert(QStringLiteral("helpMenu"), QStringLiteral("Keelhold Help"));
     t.insert(QStringLiteral("sampleMenu"), QStringLiteral("Explore Sample Footage"));
+    t.insert(QStringLiteral("playbackMenu"), QStringLiteral("&Playback"));
+    t.insert(QStringLiteral("hardwareDecodingMenu"), QStringLiteral("Use Graphics Hardware for Video"));
     t.insert(QStringLiteral("promiseTitle"), QStringLiteral("Nothing on your drive is ever changed or deleted."));
     t.insert(QStringLiteral("promiseText"),
              QStringLiteral("Keelhold only reads from your Tesla drive. Every \"Keep\" makes a verified copy elsewhere "
@@ -118,6 +122,25 @@ void UiBridge::setStoredListWidth(double w)
         return;
     QSettings().setValue(QLatin1String(listWidthKey), w);
     Q_EMIT storedListWidthChanged();
+}
+
+bool UiBridge::hardwareDecoding() const
+{
+    return QSettings().value(QLatin1String(hardwareDecodingKey), true).toBool();
+}
+
+void UiBridge::setHardwareDecoding(bool on)
+{
+    if (on == hardwareDecoding())
+        return;
+    QSettings().setValue(QLatin1String(hardwareDecodingKey), on);
+    MediaSource::setHardwareDecoding(on);
+    Q_EMIT hardwareDecodingChanged();
+}
+
+void UiBridge::applyStoredHardwareDecoding()
+{
+    MediaSource::setHardwareDecoding(QSettings().value(QLatin1String(hardwareDecodingKey), true).toBool());
 }
 
 QString UiBridge::icon(const QString &symbolName) const { return SymbolIcons::iconUrl(symbolName); }

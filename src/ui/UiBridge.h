@@ -24,6 +24,8 @@ class UiBridge : public QObject {
     // set on the windows so every control follows the chosen scheme.
     Q_PROPERTY(QVariantMap colors READ colors CONSTANT)
     Q_PROPERTY(double storedListWidth READ storedListWidth WRITE setStoredListWidth NOTIFY storedListWidthChanged)
+    // Video decoding on the graphics hardware where it works; remembered.
+    Q_PROPERTY(bool hardwareDecoding READ hardwareDecoding WRITE setHardwareDecoding NOTIFY hardwareDecodingChanged)
 public:
     explicit UiBridge(AppState *state, QObject *parent = nullptr);
 
@@ -37,6 +39,10 @@ public:
     QVariantMap colors() const;
     double storedListWidth() const;
     void setStoredListWidth(double w);
+    bool hardwareDecoding() const;
+    void setHardwareDecoding(bool on);
+    // Applies the remembered choice; players opened afterwards follow it.
+    static void applyStoredHardwareDecoding();
 
     Q_INVOKABLE QString icon(const QString &symbolName) const;
     Q_INVOKABLE double listColumnWidth(double total, double stored) const;
@@ -52,6 +58,7 @@ public:
 
 Q_SIGNALS:
     void storedListWidthChanged();
+    void hardwareDecodingChanged();
 
 private:
     QPointer<AppState> state_;

@@ -32,6 +32,7 @@ int main(int argc, char *argv[])
     if (choice.exitCode)
         return *choice.exitCode;
 
+    UiBridge::applyStoredHardwareDecoding();
     KeelholdApp keelhold;
     AppState &appState = keelhold.appState();
     [[maybe_unused]] UiBridge &ui = keelhold.ui();

@@ -1,12 +1,17 @@
 #include "PlaybackClips.h"
 
 #include "playback/HostClock.h"
+#include "playback/MediaSource.h"
 #include "playback/TrackPlayer.h"
 #include "support/FaultyFs.h"
 
 #include <QTemporaryDir>
 #include <QVideoSink>
 #include <QtTest>
+
+extern "C" {
+#include <libavutil/hwcontext.h>
+}
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -89,6 +94,36 @@ private Q_SLOTS:
                                                           .arg(expected->clip)));
             QVERIFY(*player.presentedTime() <= t + 1e-6);
             QCOMPARE(player.currentSeconds(), std::max(0.0, t));
+        }
+    }
+
+    // With graphics-hardware decoding asked for, every camera still shows
+    // its exact frames: on the device where there is one that takes the
+    // stream, in software where the device is missing or fails.
+    void hardwareDecodingShowsTheSameFramesOrFallsBack_data()
+    {
+        QTest::addColumn<int>("device");
+        QTest::newRow("VAAPI") << int(AV_HWDEVICE_TYPE_VAAPI);
+        QTest::newRow("a device this machine lacks") << int(AV_HWDEVICE_TYPE_CUDA);
+    }
+    void hardwareDecodingShowsTheSameFramesOrFallsBack()
+    {
+        QFETCH(int, device);
+        MediaSource::setHardwareDeviceType(device);
+        const auto restore = qScopeGuard([] {
+            MediaSource::setHardwareDeviceType(AV_HWDEVICE_TYPE_VAAPI);
+            MediaSource::setHardwareDecoding(true);
+        });
+        for (const bool hardware : {true, false}) {
+            MediaSource::setHardwareDecoding(hardware);
+            TrackPlayer player(threeClips);
+            QVideoSink sink;
+            player.setVideoSink(&sink);
+            QTRY_COMPARE(player.status(), TrackPlayer::ReadyToPlay);
+            for (const double t : {0.5, 4.0 + 5.0 / 36, 10.0}) {
+                QVERIFY(seekAndWait(player, s(t).seconds()));
+                QCOMPARE(identify(sink.videoFrame()), expectedAt(s(t).seconds(), 0, starts, clipIds));
+            }
         }
     }
 

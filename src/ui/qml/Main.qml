@@ -45,6 +45,16 @@ ApplicationWindow {
         palette.highlight: ui.colors.highlight
         palette.highlightedText: ui.colors.highlightedText
         Menu {
+            title: ui.texts.playbackMenu
+            MenuItem {
+                objectName: "menuHardwareDecoding"
+                text: ui.texts.hardwareDecodingMenu
+                checkable: true
+                checked: ui.hardwareDecoding
+                onToggled: ui.hardwareDecoding = checked
+            }
+        }
+        Menu {
             title: qsTr("&Help")
             MenuItem { objectName: "menuHelp"; text: ui.texts.helpMenu; onTriggered: window.showHelp(-1) }
             MenuItem { objectName: "menuSample"; text: ui.texts.sampleMenu; onTriggered: appState.loadSampleFootage() }
