@@ -7,6 +7,8 @@
 #include <QQuickWindow>
 #include <QtTest>
 
+#include <memory>
+
 // The real application in the test process (state, engine, view models and
 // the QML of the app itself), with what a test needs to click and read what
 // the user would. Make it in a process whose home is already isolated.
@@ -76,18 +78,44 @@ public:
         return item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
     }
 
-    // Waits for the item to stop moving (layouts settle on the next frame), then clicks its centre.
-    void click(QQuickItem *item, Qt::MouseButton button = Qt::LeftButton) const
+    // Until the window has laid out and drawn a frame asked for after the
+    // call. Nothing is drawn while the scene stands still, hence the update.
+    static bool waitForFrame(QQuickWindow *window, int timeout = 20000)
+    {
+        if (!window)
+            return false;
+        // Swaps are signalled on the render thread; counted on this one.
+        auto swapped = std::make_shared<int>(0);
+        const QMetaObject::Connection counting = QObject::connect(
+            window, &QQuickWindow::frameSwapped, window, [swapped] { ++*swapped; }, Qt::QueuedConnection);
+        window->update();
+        const bool drawn = QTest::qWaitFor([&] { return *swapped > 0; }, timeout);
+        QObject::disconnect(counting);
+        return drawn;
+    }
+    bool waitForFrame() const { return waitForFrame(window()); }
+
+    // Until the item stands still from one frame to the next: layouts place
+    // items at the next frame, and transitions move them frame by frame.
+    bool settle(QQuickItem *item) const
     {
         QPoint last = centreOf(item);
-        for (int i = 0; i < 20; ++i) {
-            QTest::qWait(20);
+        for (int frame = 0; frame < 100; ++frame) {
+            if (!waitForFrame())
+                return false;
             const QPoint now = centreOf(item);
             if (now == last)
-                break;
+                return true;
             last = now;
         }
-        QTest::mouseClick(window(), button, Qt::NoModifier, last);
+        return false;
+    }
+
+    // Clicks the item's centre once it stands still.
+    void click(QQuickItem *item, Qt::MouseButton button = Qt::LeftButton) const
+    {
+        QVERIFY(settle(item));
+        QTest::mouseClick(window(), button, Qt::NoModifier, centreOf(item));
     }
 
     // The same without letting the event loop run first.
@@ -104,7 +132,7 @@ public:
         const QString dir = qEnvironmentVariable("KEELHOLD_SCREENSHOT_DIR");
         if (dir.isEmpty() || !window())
             return;
-        QTest::qWait(200);
+        waitForFrame();
         window()->grabWindow().save(dir + QLatin1Char('/') + name + QStringLiteral(".png"));
     }
 };

@@ -94,8 +94,8 @@ class EventMapTest : public QObject {
     void showMap()
     {
         app->state.setSelectedSection(SidebarSection::map);
-        QTRY_VERIFY(map() && map()->isVisible());
-        QTest::qWait(100);
+        QTRY_VERIFY(map() && map()->isVisible() && map()->width() > 0 && map()->height() > 0);
+        QVERIFY(app->waitForFrame());
     }
 
 private Q_SLOTS:
@@ -183,8 +183,8 @@ private Q_SLOTS:
     void aPinOrARowSelectsTheEventInTheDriveSection()
     {
         showMap();
+        // The pins follow the view in their bindings, at once.
         map()->fitTo(app->screens.map()->pins());
-        QTest::qWait(50);
         QQuickItem *pin = app->find(QStringLiteral("pin_") + urgent.first());
         QVERIFY(pin);
         QTest::mouseClick(app->window(), Qt::LeftButton, Qt::NoModifier, pin->mapToScene(QPointF(pin->width() / 2, 14)).toPoint());
@@ -203,6 +203,9 @@ private Q_SLOTS:
 
     void withoutTilesThePinsStandOnAPlainBackground()
     {
+        // Every tile asked of the working server has landed: one landing
+        // after the failures below would clear them.
+        QTRY_COMPARE_WITH_TIMEOUT(TileSource::shared()->tilesArrived(), TileSource::shared()->requestsStarted(), 30000);
         // A port where nothing answers.
         QTcpServer closed;
         QVERIFY(closed.listen(QHostAddress::LocalHost));

@@ -59,8 +59,19 @@ class InboxScreensTest : public QObject {
         if (!list || index < 0)
             return nullptr;
         QMetaObject::invokeMethod(list, "positionViewAtIndex", Q_ARG(int, index), Q_ARG(int, 1 /* Beginning */));
-        QTest::qWait(30);
-        return AppWindowHarness::findItem(list, QStringLiteral("eventRow_") + id, true);
+        QQuickItem *row = shownRow(index);
+        return row && app->settle(row) ? row : nullptr;
+    }
+
+    // The list's delegate for the row now, made or reused within the call
+    // that brought the row into view; null while the row is out of view.
+    // (Delegates waiting for reuse keep their last row's name.)
+    QQuickItem *shownRow(int index)
+    {
+        QQuickItem *row = nullptr;
+        QMetaObject::invokeMethod(app->find(QStringLiteral("inboxList")), "itemAtIndex", Q_RETURN_ARG(QQuickItem *, row),
+                                  Q_ARG(int, index));
+        return row;
     }
 
     void resetInbox()
@@ -383,7 +394,7 @@ private Q_SLOTS:
         const QString far = rows()->idAt(300);
         app->state.setSelectedEventID(far);
         QTRY_VERIFY([&] {
-            QQuickItem *row = AppWindowHarness::findItem(list, QStringLiteral("eventRow_") + far, true);
+            QQuickItem *row = shownRow(rows()->indexOf(far));
             if (!row)
                 return false;
             const double y = row->mapToItem(list, QPointF(0, 0)).y();
@@ -408,13 +419,19 @@ private Q_SLOTS:
         QVERIFY(picture);
         QTRY_COMPARE(picture->property("status").toInt(), 1 /* Image.Ready */);
         QVERIFY(picture->property("asynchronous").toBool());
-        // Scroll far away and back: the picture comes from the cache at once.
+        // Scroll far away and back: the picture comes from the cache at once,
+        // before the event loop has had a turn to load anything.
         auto *list = app->find(QStringLiteral("inboxList"));
         QMetaObject::invokeMethod(list, "positionViewAtEnd");
-        QTest::qWait(50);
-        row = rowItem(id);
+        QVERIFY(app->waitForFrame());
+        const int index = rows()->indexOf(id);
+        QVERIFY(!shownRow(index));
+        QMetaObject::invokeMethod(list, "positionViewAtIndex", Q_ARG(int, index), Q_ARG(int, 1 /* Beginning */));
+        row = shownRow(index);
+        QVERIFY(row);
         picture = AppWindowHarness::findItem(row, QStringLiteral("picture"));
-        QTRY_COMPARE_WITH_TIMEOUT(picture->property("status").toInt(), 1, 500);
+        QVERIFY(picture);
+        QCOMPARE(picture->property("status").toInt(), 1 /* Image.Ready */);
     }
 
     void vaultListShowsVerificationAndRemovesToTheTrash()
@@ -440,8 +457,7 @@ private Q_SLOTS:
         // The badge opens the detail with file names and digests.
         QQuickItem *badge = nullptr;
         QTRY_VERIFY((badge = AppWindowHarness::findItem(row, QStringLiteral("verificationButton"))) && badge->isVisible());
-        QTest::qWait(200); // the column lays out once it shows
-        app->click(badge);
+        app->click(badge); // once the column, laid out as it shows, stands still
         QQuickItem *badgeItem = AppWindowHarness::findItem(row, QStringLiteral("verificationBadge"));
         QVERIFY(badgeItem);
         QObject *popover = badgeItem->findChild<QObject *>(QStringLiteral("verificationPopover"));

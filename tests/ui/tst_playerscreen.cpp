@@ -2,6 +2,7 @@
 // on the sample footage and on fixture drives, driven by real key presses
 // and mouse clicks, checked by the state it leaves and by the pixels it draws.
 
+#include "AppWindowHarness.h"
 #include "FileDialogDriver.h"
 #include "EventPlayerPresenter.h"
 #include "ExportFlow.h"
@@ -80,36 +81,6 @@ bool showsPicture(const QImage &shot, QQuickItem *item, QString *why = nullptr)
     return lit > total / 2 && colours.size() >= 3;
 }
 
-// Times the window's frame updates on the GUI thread. With software GL the
-// GUI thread waits for the render thread at each frame's sync, however idle
-// the application's own code is; that wait is counted here so that a test
-// can tell it apart from work of ours.
-class FrameSyncClock : public QObject {
-public:
-    explicit FrameSyncClock(QWindow *window) : window_(window) { window->installEventFilter(this); }
-    ~FrameSyncClock() override { window_->removeEventFilter(this); }
-    qint64 take() { return std::exchange(ms_, 0); }
-
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        if (watched != window_ || event->type() != QEvent::UpdateRequest || inside_)
-            return false;
-        inside_ = true;
-        QElapsedTimer t;
-        t.start();
-        QCoreApplication::sendEvent(window_, event);
-        ms_ += t.elapsed();
-        inside_ = false;
-        return true;
-    }
-
-private:
-    QWindow *window_;
-    qint64 ms_ = 0;
-    bool inside_ = false;
-};
-
 } // namespace
 
 class PlayerScreenTest : public QObject {
@@ -142,7 +113,7 @@ class PlayerScreenTest : public QObject {
             return;
         if (settle) {
             QTest::mouseMove(window_, QPoint(60, window_->height() - 20));
-            QTest::qWait(100);
+            QVERIFY(AppWindowHarness::waitForFrame(window_));
         }
         window_->grabWindow().save(QDir(shotsDir_).filePath(name));
     }
@@ -157,18 +128,46 @@ class PlayerScreenTest : public QObject {
             QVERIFY2(tile.player, qPrintable(tile.camera.rawValue()));
             QTRY_VERIFY_WITH_TIMEOUT(tile.player->hasPicture(), 10000);
         }
-        QTest::qWait(300); // let the scene graph draw the latest frames
+        // A grab draws the scene as it stands; the tiles take up their
+        // players' latest pictures as those arrive.
+        QString why;
+        QTRY_VERIFY2_WITH_TIMEOUT(tilesShowPictures(prefix, &why), qPrintable(why), 10000);
+    }
+
+    bool tilesShowPictures(const QString &prefix, QString *why)
+    {
         const QImage shot = window_->grabWindow();
-        for (const auto &tile : c->tiles()) {
+        for (const auto &tile : controller()->tiles()) {
             // The focused camera's own slot in the strip is dimmed; its
             // picture is checked on the large tile.
-            if (c->focusedCamera() == tile.camera)
+            if (controller()->focusedCamera() == tile.camera)
                 continue;
             QQuickItem *item = findItem(window_->contentItem(), prefix + tile.camera.rawValue());
-            QVERIFY2(item, qPrintable(prefix + tile.camera.rawValue()));
-            QString why;
-            QVERIFY2(showsPicture(shot, item, &why), qPrintable(why));
+            if (!item) {
+                *why = prefix + tile.camera.rawValue() + QStringLiteral(" is not shown");
+                return false;
+            }
+            if (!showsPicture(shot, item, why))
+                return false;
         }
+        return true;
+    }
+
+    // Every camera shows the same moment, give or take one frame (10 fps).
+    bool tilesAgree(QString *why)
+    {
+        double lowest = 1e9, highest = -1e9;
+        for (const auto &tile : controller()->tiles()) {
+            const auto t = tile.player->presentedTime();
+            if (!t) {
+                *why = tile.camera.rawValue() + QStringLiteral(" shows nothing");
+                return false;
+            }
+            lowest = std::min(lowest, *t);
+            highest = std::max(highest, *t);
+        }
+        *why = QStringLiteral("%1 .. %2").arg(lowest).arg(highest);
+        return highest - lowest <= 0.1 + 1e-3;
     }
 
     void waitForScan()
@@ -180,7 +179,7 @@ class PlayerScreenTest : public QObject {
     {
         state_->setSelectedSection(SidebarSection::drive);
         state_->setSelectedEventID(id);
-        QTRY_VERIFY_WITH_TIMEOUT(controller() != nullptr, 5000);
+        QTRY_VERIFY_WITH_TIMEOUT(controller() != nullptr, 10000);
     }
 
 private Q_SLOTS:
@@ -234,35 +233,29 @@ private Q_SLOTS:
         // Space pauses the playing event, Space plays it again.
         QTRY_VERIFY_WITH_TIMEOUT(c->isPlaying(), 10000);
         c->seek(95); // mid-event, for a picture of it playing
-        QTRY_VERIFY_WITH_TIMEOUT(c->isPlaying() && c->currentTime() >= 95, 5000);
+        QTRY_VERIFY_WITH_TIMEOUT(c->isPlaying() && c->currentTime() >= 95, 10000);
         key(Qt::Key_Space);
-        QTRY_VERIFY_WITH_TIMEOUT(!c->isPlaying(), 2000);
-        QTest::qWait(400);
+        QTRY_VERIFY_WITH_TIMEOUT(!c->isPlaying(), 10000);
+        const double pausedAt = c->currentTime();
         key(Qt::Key_Space);
-        QTRY_VERIFY_WITH_TIMEOUT(c->isPlaying(), 2000);
-        QTest::qWait(1500);
+        QTRY_VERIFY_WITH_TIMEOUT(c->isPlaying(), 10000);
+        // Playing on from where it was paused.
+        QTRY_VERIFY_WITH_TIMEOUT(c->currentTime() >= pausedAt + 1.0, 20000);
         saveShot(QStringLiteral("player-grid.png"));
         key(Qt::Key_Space);
-        QTRY_VERIFY_WITH_TIMEOUT(!c->isPlaying(), 2000);
-        QTest::qWait(500);
-        // Every camera shows the same moment, give or take one frame (10 fps).
-        double lowest = 1e9, highest = -1e9;
-        for (const auto &tile : c->tiles()) {
-            const auto t = tile.player->presentedTime();
-            QVERIFY(t.has_value());
-            lowest = std::min(lowest, *t);
-            highest = std::max(highest, *t);
-        }
-        QVERIFY2(highest - lowest <= 0.1 + 1e-3, qPrintable(QStringLiteral("%1 .. %2").arg(lowest).arg(highest)));
+        QTRY_VERIFY_WITH_TIMEOUT(!c->isPlaying(), 10000);
+        // Paused, every camera comes to the same moment.
+        QString skew;
+        QTRY_VERIFY2_WITH_TIMEOUT(tilesAgree(&skew), qPrintable(skew), 10000);
 
         // "." and "," step one frame each way.
         const double paused = c->currentTime();
         key(Qt::Key_Period);
-        QTRY_VERIFY_WITH_TIMEOUT(c->currentTime() > paused, 3000);
+        QTRY_VERIFY_WITH_TIMEOUT(c->currentTime() > paused, 10000);
         const double forward = c->currentTime();
         QVERIFY(forward - paused <= 0.1 + 1e-3);
         key(Qt::Key_Comma);
-        QTRY_VERIFY_WITH_TIMEOUT(c->currentTime() < forward, 3000);
+        QTRY_VERIFY_WITH_TIMEOUT(c->currentTime() < forward, 10000);
         QVERIFY(std::abs(c->currentTime() - paused) <= 0.1 + 1e-3);
         QVERIFY(!c->isPlaying());
 
@@ -270,41 +263,56 @@ private Q_SLOTS:
         c->seek(60);
         key(Qt::Key_M);
         const double cue = 120.0;
-        QTRY_VERIFY_WITH_TIMEOUT(c->isPlaying() && std::abs(c->currentTime() - cue) < 1.5, 5000);
+        QTRY_VERIFY_WITH_TIMEOUT(c->isPlaying() && std::abs(c->currentTime() - cue) < 1.5, 10000);
 
         // 2: the second camera large over the strip; 0: the grid again,
         // with playback going on, no jump.
         key(Qt::Key_2);
-        QTRY_COMPARE_WITH_TIMEOUT(c->focusedCamera(), std::optional<Camera>(c->tiles()[1].camera), 2000);
+        QTRY_COMPARE_WITH_TIMEOUT(c->focusedCamera(), std::optional<Camera>(c->tiles()[1].camera), 10000);
         QTRY_VERIFY(findItem(window_->contentItem(), QStringLiteral("focusedLayout")));
         QVERIFY(findItem(window_->contentItem(), QStringLiteral("showAllCamerasButton")));
-        QTest::qWait(400);
         {
-            const QImage shot = window_->grabWindow();
             QString why;
-            QVERIFY2(showsPicture(shot, findItem(window_->contentItem(), QStringLiteral("focusedTile")), &why),
-                     qPrintable(why));
+            QTRY_VERIFY2_WITH_TIMEOUT(showsPicture(window_->grabWindow(),
+                                                   findItem(window_->contentItem(), QStringLiteral("focusedTile")), &why),
+                                      qPrintable(why), 10000);
         }
         verifyAllTilesShowPictures(QStringLiteral("stripTile_"));
         saveShot(QStringLiteral("player-focused.png"));
-        const double beforeZero = c->currentTime();
-        key(Qt::Key_0);
-        QTRY_VERIFY_WITH_TIMEOUT(!c->focusedCamera().has_value(), 2000);
-        QVERIFY(c->isPlaying());
-        QVERIFY(c->currentTime() >= beforeZero && c->currentTime() < beforeZero + 1.0);
+        {
+            // Time only ever runs on through the change, and goes on after it.
+            std::vector<double> times{c->currentTime()};
+            QObject watching;
+            connect(c, &SyncPlayerController::currentTimeChanged, &watching, [&] { times.push_back(c->currentTime()); });
+            key(Qt::Key_0);
+            QTRY_VERIFY_WITH_TIMEOUT(!c->focusedCamera().has_value(), 10000);
+            QVERIFY(c->isPlaying());
+            const double cleared = c->currentTime();
+            QTRY_VERIFY_WITH_TIMEOUT(c->currentTime() > cleared, 10000);
+            QVERIFY2(std::is_sorted(times.begin(), times.end()), qPrintable(QString::number(times.front())));
+        }
         QTRY_VERIFY(findItem(window_->contentItem(), QStringLiteral("gridLayout")));
 
         // F fills the window with the player; Esc gives the list back.
         key(Qt::Key_F);
-        QTRY_VERIFY_WITH_TIMEOUT(state_->isFocusMode(), 2000);
+        QTRY_VERIFY_WITH_TIMEOUT(state_->isFocusMode(), 10000);
         key(Qt::Key_Escape);
-        QTRY_VERIFY_WITH_TIMEOUT(!state_->isFocusMode(), 2000);
-        // With a modifier held the keys are not the player's.
-        QTest::keyClick(window_, Qt::Key_F, Qt::ControlModifier);
-        QTest::keyClick(window_, Qt::Key_2, Qt::ShiftModifier);
-        QTest::qWait(200);
-        QVERIFY(!state_->isFocusMode());
-        QVERIFY(!c->focusedCamera().has_value());
+        QTRY_VERIFY_WITH_TIMEOUT(!state_->isFocusMode(), 10000);
+        // With a modifier held the keys are not the player's. The player acts
+        // on its keys in order, one turn later: once a plain 3 has shown its
+        // camera, the keys before it would have acted too.
+        {
+            QSignalSpy focusMode(state_, &AppState::isFocusModeChanged);
+            QSignalSpy focusedCamera(c, &SyncPlayerController::focusedCameraChanged);
+            QTest::keyClick(window_, Qt::Key_F, Qt::ControlModifier);
+            QTest::keyClick(window_, Qt::Key_2, Qt::ShiftModifier);
+            key(Qt::Key_3);
+            QTRY_COMPARE_WITH_TIMEOUT(c->focusedCamera(), std::optional<Camera>(c->tiles()[2].camera), 10000);
+            QCOMPARE(focusedCamera.count(), 1);
+            QCOMPARE(focusMode.count(), 0);
+            key(Qt::Key_0);
+            QTRY_VERIFY_WITH_TIMEOUT(!c->focusedCamera().has_value(), 10000);
+        }
 
         // Typing into a text field never reaches the player.
         {
@@ -314,14 +322,19 @@ private Q_SLOTS:
             QVERIFY(item);
             item->setParentItem(window_->contentItem());
             item->forceActiveFocus();
-            const bool wasPlaying = c->isPlaying();
+            QSignalSpy playing(c, &SyncPlayerController::isPlayingChanged);
+            QSignalSpy focusMode(state_, &AppState::isFocusModeChanged);
             QTest::keyClick(window_, Qt::Key_Space);
             QTest::keyClick(window_, Qt::Key_F);
-            QTest::qWait(200);
-            QCOMPARE(c->isPlaying(), wasPlaying);
-            QVERIFY(!state_->isFocusMode());
             QCOMPARE(item->property("text").toString(), QStringLiteral(" f"));
             delete item;
+            // The player's next key is its own, and comes after those two.
+            key(Qt::Key_3);
+            QTRY_COMPARE_WITH_TIMEOUT(c->focusedCamera(), std::optional<Camera>(c->tiles()[2].camera), 10000);
+            QCOMPARE(playing.count(), 0);
+            QCOMPARE(focusMode.count(), 0);
+            key(Qt::Key_0);
+            QTRY_VERIFY_WITH_TIMEOUT(!c->focusedCamera().has_value(), 10000);
         }
 
         // K keeps it: the report sheet's flag goes up and the event is kept.
@@ -339,12 +352,13 @@ private Q_SLOTS:
         QTRY_VERIFY(!state_->driveScan().has_value());
         state_->setSelectedSection(SidebarSection::vault);
         state_->setSelectedVaultEventID(sixCameraEvent);
-        QTRY_VERIFY_WITH_TIMEOUT(controller() != nullptr && controller() != c, 5000);
+        QTRY_VERIFY_WITH_TIMEOUT(controller() != nullptr && controller() != c, 10000);
         c = controller();
         QTRY_VERIFY_WITH_TIMEOUT(!c->isLoadingTiles(), 20000);
         QCOMPARE(int(c->tiles().size()), 6);
         verifyAllTilesShowPictures();
         QVERIFY(findItem(window_->contentItem(), QStringLiteral("verifiedBadge")));
+        QTRY_VERIFY_WITH_TIMEOUT(c->isPlaying(), 20000); // cued to its moment, as on the drive
         // K and D act on the event shown, though it is now only in the Vault:
         // nothing to copy, so the report says it is already there.
         key(Qt::Key_K);
@@ -370,19 +384,20 @@ private Q_SLOTS:
         QCOMPARE(flow->stateName(), QStringLiteral("choosing"));
         QQuickItem *promise = findItem(window_->contentItem(), QStringLiteral("exportPromise"));
         QVERIFY(promise && promise->isVisible());
-        // Player keys don't act behind the sheet.
-        const bool playingBehind = c->isPlaying();
+        // Player keys don't act behind the sheet: no change of the player
+        // while the export runs to its end, many turns later.
+        QSignalSpy playingBehind(c, &SyncPlayerController::isPlayingChanged);
+        QSignalSpy focusedBehind(c, &SyncPlayerController::focusedCameraChanged);
         key(Qt::Key_Space);
-        QTest::qWait(200);
-        QCOMPARE(c->isPlaying(), playingBehind);
-        QTest::qWait(200);
+        key(Qt::Key_2);
         saveShot(QStringLiteral("export-choosing.png"));
         click(QStringLiteral("startExportButton"));
         QCOMPARE(flow->stateName(), QStringLiteral("exporting"));
         saveShot(QStringLiteral("export-exporting.png"), false);
         QTRY_COMPARE_WITH_TIMEOUT(flow->stateName(), QStringLiteral("ready"), 60000);
         QTRY_VERIFY(findItem(window_->contentItem(), QStringLiteral("saveToButton")));
-        QTest::qWait(200);
+        QCOMPARE(playingBehind.count(), 0);
+        QCOMPARE(focusedBehind.count(), 0);
         saveShot(QStringLiteral("export-ready.png"));
 
         const QString destination = work_.filePath(QStringLiteral("Videos/front.mp4"));
@@ -479,7 +494,7 @@ private Q_SLOTS:
     }
 
     // A clip the drive never answers for costs that one tile, and the main
-    // thread never stalls while the event loads.
+    // thread never waits for the drive while the event loads.
     void hangingClipCostsOnlyItsTile()
     {
         // The drive stops answering for one clip: every read of it is held.
@@ -519,42 +534,34 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(state_->driveScan() && state_->driveScan()->events.size() == 2 && !state_->isScanning(),
                                  30000);
         const QString id = QStringLiteral("saved|2026-03-04_10-00-30");
-        // A smaller window: software GL under xvfb draws on a CPU shared with
-        // the decoders, and the GUI thread waits for each frame's sync.
         window_->resize(960, 640);
         openEvent(QStringLiteral("saved|2026-03-03_10-00-30"));
         QTRY_VERIFY_WITH_TIMEOUT(!controller()->isLoadingTiles() && controller()->isPlaying(), 20000);
-        // Paused, so the window is idle when the measured load begins.
         controller()->pause();
-        QTest::qWait(500);
 
+        // The longest the main thread goes without a turn of its event loop.
         qint64 longestWait = 0;
         QElapsedTimer sinceTick;
         QTimer ticker;
         ticker.setInterval(10);
-        FrameSyncClock frames(window_);
-        qint64 longestFrameWait = 0;
-        int ticks = 0;
-        connect(&ticker, &QTimer::timeout, this, [&] {
-            ++ticks;
-            const qint64 gap = sinceTick.restart();
-            const qint64 inFrames = frames.take();
-            longestWait = std::max(longestWait, gap - inFrames);
-            longestFrameWait = std::max(longestFrameWait, inFrames);
-        });
+        connect(&ticker, &QTimer::timeout, this, [&] { longestWait = std::max(longestWait, sinceTick.restart()); });
         sinceTick.start();
         ticker.start();
         fs.hangReadsFrom(held, 0);
         state_->setSelectedEventID(id);
         // The drive never answers for the held clip: the player's watchdog
         // gives up on it after its limit and leaves the read behind.
-        QTRY_VERIFY_WITH_TIMEOUT(controller() && !controller()->isLoadingTiles(), 20000);
-        QTest::qWait(300); // and the first pictures
+        QTRY_VERIFY_WITH_TIMEOUT(controller() && !controller()->isLoadingTiles(), 60000);
+        for (const auto &tile : controller()->tiles())
+            if (tile.player)
+                QTRY_VERIFY_WITH_TIMEOUT(tile.player->hasPicture(), 20000);
         ticker.stop();
-        QVERIFY(ticks > 10);
-        qInfo("longest wait of the main thread: %lld ms, and %lld ms more in one frame sync with the renderer",
-              longestWait, longestFrameWait);
-        QVERIFY2(longestWait <= 100, qPrintable(QStringLiteral("the main thread waited %1 ms").arg(longestWait)));
+        QVERIFY(fs.isHanging()); // loaded while the read is still held
+        qInfo("longest wait of the main thread: %lld ms", longestWait);
+        // Waiting on the drive would hold the loop for the watchdog's whole
+        // limit; a busy machine delays it by far less.
+        QVERIFY2(longestWait < SyncPlayerController::clipTimeout.count() / 2,
+                 qPrintable(QStringLiteral("the main thread waited %1 ms").arg(longestWait)));
 
         SyncPlayerController *c = controller();
         QCOMPARE(int(c->tiles().size()), 4);
@@ -571,17 +578,19 @@ private Q_SLOTS:
         QCOMPARE(placeholders, 1);
         // 4 tiles: two columns; the placeholder keeps its place and says why.
         QTRY_VERIFY(findItem(window_->contentItem(), QStringLiteral("gridLayout")));
-        for (const auto &tile : c->tiles())
-            if (tile.player)
-                QTRY_VERIFY_WITH_TIMEOUT(tile.player->hasPicture(), 10000);
-        QTest::qWait(300);
-        const QImage shot = window_->grabWindow();
-        for (const auto &tile : c->tiles()) {
-            QQuickItem *item = findItem(window_->contentItem(), QStringLiteral("cameraTile_") + tile.camera.rawValue());
-            QVERIFY(item);
-            QString why;
-            QCOMPARE(showsPicture(shot, item, &why), bool(tile.player));
-        }
+        const auto picturesWherePlayers = [&](QString *why) {
+            const QImage shot = window_->grabWindow();
+            for (const auto &tile : c->tiles()) {
+                QQuickItem *item = findItem(window_->contentItem(), QStringLiteral("cameraTile_") + tile.camera.rawValue());
+                if (!item || showsPicture(shot, item, why) != bool(tile.player)) {
+                    *why = tile.camera.rawValue() + QStringLiteral(": ") + *why;
+                    return false;
+                }
+            }
+            return true;
+        };
+        QString why;
+        QTRY_VERIFY2_WITH_TIMEOUT(picturesWherePlayers(&why), qPrintable(why), 10000);
         QQuickItem *front = findItem(window_->contentItem(), QStringLiteral("cameraTile_front"));
         QQuickItem *right = findItem(window_->contentItem(), QStringLiteral("cameraTile_right_repeater"));
         QVERIFY(front && right);
