@@ -12,6 +12,7 @@
 #include "support/DriveBuilder.h"
 #include "support/FaultyFs.h"
 #include "support/IsolatedHome.h"
+#include <QElapsedTimer>
 #include "support/TeslaCamFixture.h"
 #include "support/TestClips.h"
 #include "support/TreeSnapshot.h"
@@ -375,21 +376,26 @@ void TestLiveEngine::stuckDriveWorkStarvesNothingElse()
                                                      dir_.filePath(QStringLiteral("vault-dead")), {}, stopKeep.get_token());
     QVERIFY(fs.waitUntilHeld(5)); // four probes and one copy
 
-    // Each limit is far below the ten seconds the stuck work holds on for.
+    // All of it answers before the stuck work's first ten-second limit could
+    // free a thread, however slow the machine is within that.
+    QElapsedTimer since;
+    since.start();
+    const auto left = [&] { return int(std::max<qint64>(1, 9000 - since.elapsed())); };
     QFuture<std::vector<TeslaEvent>> listing = engine_.scanVault(vault);
-    QTRY_VERIFY_WITH_TIMEOUT(listing.isFinished(), 3000);
+    QTRY_VERIFY_WITH_TIMEOUT(listing.isFinished(), left());
     QCOMPARE(listing.result().size(), size_t(1));
     SyncPlayerController player(kept.front());
-    QTRY_VERIFY_WITH_TIMEOUT(!player.isLoadingTiles() && !player.tiles().empty() && player.tiles().front().player, 3000);
+    QTRY_VERIFY_WITH_TIMEOUT(!player.isLoadingTiles() && !player.tiles().empty() && player.tiles().front().player,
+                             left());
     const QString movie = dir_.filePath(QStringLiteral("from-the-vault.mp4"));
     QFuture<void> exported = engine_.exportFootage(Camera::front, kept.front(), std::nullopt, movie, {});
-    QTRY_VERIFY_WITH_TIMEOUT(exported.isFinished(), 5000);
+    QTRY_VERIFY_WITH_TIMEOUT(exported.isFinished(), left());
     QVERIFY(QFileInfo(movie).size() > 1000);
 
     QVERIFY(!probe.isFinished() && !keep.isFinished());
     probe.cancel();
     stopKeep.request_stop();
-    QTRY_VERIFY_WITH_TIMEOUT(probe.isFinished() && keep.isFinished(), 3000);
+    QTRY_VERIFY_WITH_TIMEOUT(probe.isFinished() && keep.isFinished(), 8000);
     QVERIFY(keep.result().cancelled);
 }
 

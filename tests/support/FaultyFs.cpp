@@ -25,6 +25,7 @@ struct FaultyFs::State {
     fuse *handle = nullptr;
     std::thread loop;
     bool mounted = false;
+    int connection = -1; // the kernel's number for the mount, for aborting it
 
     std::mutex mutex;
     struct File {
@@ -261,6 +262,18 @@ FaultyFs::FaultyFs(const QString &mountPoint) : state_(std::make_unique<State>()
         return;
     }
     state_->mounted = true;
+    // Read from the mount table, not by asking the file system itself,
+    // which may not answer by the time the test ends.
+    QFile mountInfo(QStringLiteral("/proc/self/mountinfo"));
+    if (mountInfo.open(QIODevice::ReadOnly))
+        for (const QByteArray &line : mountInfo.readAll().split('\n')) {
+            const QList<QByteArray> fields = line.split(' ');
+            if (fields.size() > 4 && fields[4] == QFile::encodeName(mountPoint)) {
+                const QList<QByteArray> device = fields[2].split(':');
+                if (device.size() == 2)
+                    state_->connection = device[1].toInt();
+            }
+        }
     // Several threads, so that several held reads wait at once while the
     // rest of the drive still answers.
     state_->loop = std::thread([h = state_->handle] {
@@ -281,12 +294,10 @@ FaultyFs::~FaultyFs()
     // kernel drops the connection. A file something of the test still holds
     // open would keep the connection up, and the loop with it: the
     // connection is aborted then, so the test ends whatever it left open.
-    struct stat mounted {};
-    const bool known = ::stat(QFile::encodeName(state_->mountPoint).constData(), &mounted) == 0;
     fuse_exit(state_->handle);
     fuse_unmount(state_->handle);
-    if (known) {
-        const QString abort = QStringLiteral("/sys/fs/fuse/connections/%1/abort").arg(minor(mounted.st_dev));
+    if (state_->connection >= 0) {
+        const QString abort = QStringLiteral("/sys/fs/fuse/connections/%1/abort").arg(state_->connection);
         QFile control(abort);
         if (control.open(QIODevice::WriteOnly))
             control.write("1");
