@@ -49,6 +49,8 @@ public:
     QFuture<TriageStates> loadAllTriageStates() override;
     QFuture<void> exportFootage(Camera camera, const TeslaEvent &event, std::optional<SecondsRange> range,
                                 const QString &to, FractionCallback progress) override;
+    QFuture<void> exportCombined(const TeslaEvent &event, const CombinedExportOptions &options, const QString &to,
+                                 CombinedExportProgressCallback progress) override;
 
 private:
     struct State {

@@ -3,6 +3,7 @@
 #include "model/Camera.h"
 #include "model/TeslaEvent.h"
 #include "playback/Composition.h"
+#include "playback/EventTimeline.h"
 #include "playback/TrackPlayer.h"
 
 #include <QObject>
@@ -54,9 +55,8 @@ public:
     static constexpr qint64 observerIntervalTicks = 150; // 0.25 s at timescale 600
     static constexpr std::chrono::milliseconds retireDelay{500};
 
-    static inline const QString damagedReason =
-        QStringLiteral("This angle didn't record properly — a known Tesla drive issue.");
-    static inline const QString noFootageReason = QStringLiteral("No footage this minute.");
+    static inline const QString damagedReason = EventTimeline::damagedReason;
+    static inline const QString noFootageReason = EventTimeline::noFootageReason;
 
     explicit SyncPlayerController(const TeslaEvent &event, QObject *parent = nullptr);
     ~SyncPlayerController() override;
@@ -101,12 +101,7 @@ Q_SIGNALS:
 private:
     friend class TestSyncPlayerController;
 
-    struct TileOutcome {
-        Camera camera;
-        std::optional<Composition> composition;
-        std::optional<QString> placeholderReason;
-        double contentEnd = 0;
-    };
+    using TileOutcome = EventTimeline::CameraTrack;
 
     static std::vector<TileOutcome> buildTileData(const TeslaEvent &event, std::stop_token stop);
     void applyTileOutcomes(const std::vector<TileOutcome> &outcomes);
