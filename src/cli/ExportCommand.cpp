@@ -153,8 +153,8 @@ int run(const QStringList &arguments)
     const QCommandLineOption overlayOption(
         QStringLiteral("overlay"),
         QStringLiteral("What a new movie shows over the pictures, any of: time, names, reason, telemetry, none. "
-                       "Join parts with commas; the default is time,names,reason. With --camera and no --layout, "
-                       "the camera alone."),
+                       "Join parts with commas; the default is time,names,reason. With only --camera, any part "
+                       "makes a new movie of that camera instead of a copy."),
         QStringLiteral("parts"));
     const QCommandLineOption sizeOption(
         QStringLiteral("size"),
@@ -167,7 +167,13 @@ int run(const QStringList &arguments)
     const QStringList positional = parser.positionalArguments();
     // The plain copy of one camera stays the default; anything drawn on the
     // pictures, another size or more cameras make a new movie.
-    const bool combined = parser.isSet(layoutOption) || parser.isSet(overlayOption) || parser.isSet(sizeOption);
+    std::optional<CombinedExportOptions::Overlay> overlay;
+    if (parser.isSet(overlayOption)) {
+        overlay = CombinedExportOptions::overlayFromWords(parser.value(overlayOption));
+        if (!overlay)
+            return fail(QStringLiteral("--overlay takes time, names, reason and telemetry joined with commas, or none."));
+    }
+    const bool combined = parser.isSet(layoutOption) || parser.isSet(sizeOption) || (overlay && overlay->any());
     if (positional.size() != 1 || !parser.isSet(eventOption) || !parser.isSet(outputOption)
         || (!combined && !parser.isSet(cameraOption))) {
         CliOutput::err(QString::fromLatin1(usage));
@@ -196,13 +202,8 @@ int run(const QStringList &arguments)
             return fail(QStringLiteral("--camera picks the one camera of --layout single; grid and front-sides show "
                                        "every camera."));
         options.camera = camera;
-        if (parser.isSet(overlayOption)) {
-            const auto overlay = CombinedExportOptions::overlayFromWords(parser.value(overlayOption));
-            if (!overlay)
-                return fail(QStringLiteral("--overlay takes time, names, reason and telemetry joined with commas, "
-                                           "or none."));
+        if (overlay)
             options.overlay = *overlay;
-        }
         if (parser.isSet(sizeOption)) {
             const auto size = CombinedExportOptions::sizeFromWord(parser.value(sizeOption));
             if (!size)

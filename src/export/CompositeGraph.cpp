@@ -173,10 +173,12 @@ CompositeGraph::CompositeGraph(const CombinedLayout &layout, const std::vector<I
                           {"color", QStringLiteral("black")}});
         last = drawText(compose_, last, QStringLiteral("gap") + suffix,
                         QStringLiteral("%{metadata:%1}").arg(QString::fromLatin1(gapKey)), true, labelSize * 3 / 2,
-                        QStringLiteral("(w-text_w)/2"), QStringLiteral("(h-text_h)/2"), false);
+                        QStringLiteral("(w-text_w)/2"), QStringLiteral("(h-line_h)/2"), false);
+        // Placed by the font's line height, not the words' own, so that
+        // names with and without descenders stand on one line.
         if (texts.names)
             last = drawText(compose_, last, QStringLiteral("name") + suffix, cell.camera.displayName(), false,
-                            labelSize, number(margin), QStringLiteral("h-text_h-%1").arg(margin), true);
+                            labelSize, number(margin), QStringLiteral("h-line_h-%1").arg(margin), true);
         cellOutputs.push_back(last);
     }
 
@@ -218,7 +220,7 @@ CompositeGraph::CompositeGraph(const CombinedLayout &layout, const std::vector<I
     }
     if (texts.reason)
         last = drawText(overlay_, last, QStringLiteral("reason"), *texts.reason, false, layout.labelTextSize(),
-                        QStringLiteral("(w-text_w)/2"), QStringLiteral("h-text_h-%1").arg(margin), true);
+                        QStringLiteral("w-text_w-%1").arg(margin), number(margin), true);
     if (nv12)
         last = chain(overlay_, last, "format", QStringLiteral("upload"), {{"pix_fmts", QStringLiteral("nv12")}});
     overlayOut_ = addFilter(overlay_, "buffersink", QStringLiteral("finished"), {});

@@ -437,9 +437,9 @@ private Q_SLOTS:
             Layout::grid, {{Camera::front, 320, 208}, {Camera::back, 160, 104}}, Size::p720);
         const int m = layout.margin();
         const int text = layout.timeTextSize();
-        // Time: top left; reason: bottom middle; names: each cell's bottom left.
+        // Time: top left; reason: top right; names: each cell's bottom left.
         const QRect timeArea(m, m, text * 8, text);
-        const QRect reasonArea(640 - text * 4, 720 - m - text, text * 8, text);
+        const QRect reasonArea(1280 - m - text * 6, m, text * 6, layout.labelTextSize());
         const QRect nameArea(m, 720 - m - layout.labelTextSize(), layout.labelTextSize() * 3, layout.labelTextSize());
         for (const QRect &area : {timeArea, reasonArea, nameArea}) {
             const double withText = drawn->meanLuma(area.x(), area.y(), area.width(), area.height());
