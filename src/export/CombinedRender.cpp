@@ -117,6 +117,9 @@ void CombinedRender::attempt(const QString &path, bool hardware, const CombinedE
     if (options_.overlay.reason)
         texts.reason = footage_.reasonLine;
     texts.marker = options_.timeMarker;
+    // options_.overlay.telemetry: the driving-data panel joins the texts
+    // here once the clips' driving data can be read; until then it draws
+    // nothing, and the movie is the same without it.
 
     BufferPtr frames;
     std::unique_ptr<H264Encoder> encoder;

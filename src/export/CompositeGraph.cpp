@@ -22,7 +22,6 @@ extern "C" {
 using Exporter::ExportError;
 
 namespace {
-const char *gapKey = "keelhold.gap";
 const char *timeKey = "keelhold.time";
 // Matches how the player and the ffmpeg tool scale by default: sharp enough
 // for number plates when the front camera is shrunk into its cell.
@@ -106,6 +105,43 @@ struct FrameFree {
     void operator()(AVFrame *f) const { av_frame_free(&f); }
 };
 using FramePtr = std::unique_ptr<AVFrame, FrameFree>;
+struct GraphFree {
+    void operator()(AVFilterGraph *g) const { avfilter_graph_free(&g); }
+};
+
+// A copy of the picture with words in its middle, in grey.
+AVFrame *withWords(const AVFrame *picture, const QString &words, int size, const QString &timeBase,
+                   const QString &rate)
+{
+    std::unique_ptr<AVFilterGraph, GraphFree> graph(avfilter_graph_alloc());
+    if (!graph)
+        unavailable(QStringLiteral("memory"), AVERROR(ENOMEM));
+    AVFilterContext *source = addFilter(
+        graph.get(), "buffer", QStringLiteral("picture"),
+        {{"video_size", QStringLiteral("%1x%2").arg(picture->width).arg(picture->height)},
+         {"pix_fmt", QString::fromLatin1(av_get_pix_fmt_name(AVPixelFormat(picture->format)))},
+         {"time_base", timeBase},
+         {"frame_rate", rate},
+         {"pixel_aspect", QStringLiteral("1/1")}});
+    AVFilterContext *text = drawText(graph.get(), source, QStringLiteral("words"), words, false, size,
+                                     QStringLiteral("(w-text_w)/2"), QStringLiteral("(h-%1)/2").arg(size), false);
+    AVFilterContext *sink = addFilter(graph.get(), "buffersink", QStringLiteral("done"), {});
+    link(text, sink);
+    configure(graph.get());
+    FramePtr in(av_frame_clone(picture));
+    FramePtr out(av_frame_alloc());
+    if (!in || !out)
+        unavailable(QStringLiteral("memory"), AVERROR(ENOMEM));
+    in->pts = 0;
+    int result = av_buffersrc_add_frame_flags(source, in.get(), 0);
+    if (result >= 0)
+        result = av_buffersrc_add_frame_flags(source, nullptr, 0);
+    if (result >= 0)
+        result = av_buffersink_get_frame(sink, out.get());
+    if (result < 0)
+        unavailable(QStringLiteral("drawing a name"), result);
+    return out.release();
+}
 } // namespace
 
 CompositeGraph::CompositeGraph(const CombinedLayout &layout, const std::vector<Input> &inputs, const Texts &texts,
@@ -157,7 +193,11 @@ CompositeGraph::CompositeGraph(const CombinedLayout &layout, const std::vector<I
             unavailable(QStringLiteral("memory"), AVERROR(ENOMEM));
         ptrdiff_t linesizes[4] = {black->linesize[0], black->linesize[1], black->linesize[2], black->linesize[3]};
         av_image_fill_black(black->data, linesizes, format, black->color_range, input.width, input.height);
-        gapTexts_.push_back(OverlayText::noFootage(cell.camera));
+        // The camera's name goes on once, at the size it will have in its
+        // cell, instead of onto every frame.
+        const int gapSize = std::max(8, labelSize * 3 / 2 * input.height / std::max(2, cell.picture.height));
+        black_.back() = withWords(black, OverlayText::noFootage(cell.camera), gapSize, timeBase, rate);
+        av_frame_free(&black);
 
         AVFilterContext *last = chain(compose_, source, "scale", QStringLiteral("scale") + suffix,
                                       {{"w", number(cell.picture.width)},
@@ -171,14 +211,11 @@ CompositeGraph::CompositeGraph(const CombinedLayout &layout, const std::vector<I
                           {"x", number(cell.picture.x)},
                           {"y", number(cell.picture.y)},
                           {"color", QStringLiteral("black")}});
-        last = drawText(compose_, last, QStringLiteral("gap") + suffix,
-                        QStringLiteral("%{metadata:%1}").arg(QString::fromLatin1(gapKey)), true, labelSize * 3 / 2,
-                        QStringLiteral("(w-text_w)/2"), QStringLiteral("(h-line_h)/2"), false);
-        // Placed by the font's line height, not the words' own, so that
+        // Placed by the font's size, not the words' own height, so that
         // names with and without descenders stand on one line.
         if (texts.names)
             last = drawText(compose_, last, QStringLiteral("name") + suffix, cell.camera.displayName(), false,
-                            labelSize, number(margin), QStringLiteral("h-line_h-%1").arg(margin), true);
+                            labelSize, number(margin), QStringLiteral("h-%1").arg(labelSize * 5 / 4 + margin), true);
         cellOutputs.push_back(last);
     }
 
@@ -247,7 +284,6 @@ void CompositeGraph::add(int64_t tick, const std::vector<const AVFrame *> &pictu
             unavailable(QStringLiteral("memory"), AVERROR(ENOMEM));
         frame->pts = tick;
         frame->pict_type = AV_PICTURE_TYPE_NONE;
-        av_dict_set(&frame->metadata, gapKey, picture ? nullptr : gapTexts_[i].toUtf8().constData(), 0);
         const int result = av_buffersrc_add_frame_flags(sources_[i], frame.get(), 0);
         if (result < 0)
             unavailable(QStringLiteral("adding a picture"), result);

@@ -64,7 +64,6 @@ private:
     CombinedLayout layout_;
     Texts texts_;
     int framesPerSecond_;
-    std::vector<QString> gapTexts_;
 
     AVFilterGraph *compose_ = nullptr;
     std::vector<AVFilterContext *> sources_;
