@@ -387,6 +387,67 @@ private Q_SLOTS:
         QCOMPARE(qint64(markerOf(*grab, layout).value_or(0)), qint64(1050));
     }
 
+    // The words drawn are the clip's start date plus the frame's own media
+    // time: the top band matches a rendering of that text far better than
+    // one of the second after it.
+    void timeTextIsTheClipsStartPlusMediaTime()
+    {
+        Footage footage;
+        TestClips::ClipOptions black;
+        black.seconds = 3.0;
+        black.fps = fps;
+        black.gop = fps;
+        black.width = 320;
+        black.height = 208;
+        black.pattern = QStringLiteral("color");
+        footage.add(Camera::front, TestClips::clip(black), 0);
+        CombinedExportOptions options = optionsFor(Layout::single);
+        options.timeMarker = false;
+        options.overlay = {true, false, false, false};
+        CombinedExport::exportMovie(footage.event, options, footage.output(), {});
+        const auto grab = FrameGrab::at(footage.output(), 1.5);
+        QVERIFY(grab);
+        const CombinedLayout layout = CombinedLayout::make(Layout::single, {{Camera::front, 320, 208}}, Size::p720);
+
+        // The same words drawn by the ffmpeg tool on the same black canvas.
+        const auto rendering = [&](double seconds) {
+            const QString textFile = footage.outputs() + QStringLiteral("/text.txt");
+            TeslaCamFixture::writeFile(textFile, OverlayText::frameTime(footage.base().addingTimeInterval(seconds)).toUtf8());
+            const QString png = footage.outputs() + QStringLiteral("/expected.png");
+            QProcess ffmpeg;
+            ffmpeg.start(QStringLiteral("ffmpeg"),
+                         {QStringLiteral("-loglevel"), QStringLiteral("error"), QStringLiteral("-y"), QStringLiteral("-f"),
+                          QStringLiteral("lavfi"), QStringLiteral("-i"),
+                          QStringLiteral("color=c=black:s=%1x%2").arg(layout.width()).arg(layout.height()),
+                          QStringLiteral("-vf"),
+                          QStringLiteral("drawtext=font=DejaVu Sans:textfile=%1:fontsize=%2:fontcolor=white:box=1:"
+                                         "boxcolor=black@0.6:boxborderw=%3:x=%4:y=%4")
+                              .arg(textFile)
+                              .arg(layout.timeTextSize())
+                              .arg(std::max(2, layout.timeTextSize() / 5))
+                              .arg(layout.margin()),
+                          QStringLiteral("-frames:v"), QStringLiteral("1"), png});
+            if (!ffmpeg.waitForFinished(30000) || ffmpeg.exitCode() != 0)
+                qFatal("ffmpeg could not render the expected text");
+            return QImage(png);
+        };
+        const auto distance = [&](const QImage &expected) {
+            qint64 sum = 0;
+            for (int y = 0; y < layout.margin() + layout.timeTextSize() * 2; ++y)
+                for (int x = 0; x < layout.width() / 2; ++x)
+                    sum += std::abs(qGray(grab->rgb.pixel(x, y)) - qGray(expected.pixel(x, y)));
+            return sum;
+        };
+        // 1.5 s in, the frame shown began 1.5 s after the clip did: 15:00:01.
+        const qint64 right = distance(rendering(1.5));
+        const qint64 wrong = distance(rendering(2.5));
+        QImage blank(layout.width(), layout.height(), QImage::Format_RGB32);
+        blank.fill(Qt::black);
+        const qint64 nothing = distance(blank);
+        const QString figures = QStringLiteral("right %1, wrong %2, nothing %3").arg(right).arg(wrong).arg(nothing);
+        QVERIFY2(right * 3 < wrong && right * 10 < nothing, qPrintable(figures));
+    }
+
     void frameTimeFollowsLocaleAndZone()
     {
         const Date moment = Date::fromQDateTime(QDateTime(QDate(2024, 6, 1), QTime(15, 5, 7), Qt::UTC));
