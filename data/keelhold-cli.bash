@@ -18,6 +18,24 @@ _keelhold_cli_help()
     printf '%s\n' "${_keelhold_cli_help_cache[$key]}"
 }
 
+# The values the help of option $2 lists as "One of: a, b, c." or "any of: a, b, c."
+# in the help text $1; the list may run over several lines.
+_keelhold_cli_choices()
+{
+    awk -v opt="$2" '
+        /^  -/ { inopt = ($1 == opt || $2 == opt) }
+        /^$/ { inopt = 0 }
+        inopt { text = text " " $0 }
+        END {
+            gsub(/[ \t]+/, " ", text)
+            if (match(text, /[Oo]ne of: [^.;]*|[Aa]ny of: [^.;]*/)) {
+                list = substr(text, RSTART + 8, RLENGTH - 8)
+                gsub(/,/, "", list)
+                print list
+            }
+        }' <<<"$1"
+}
+
 _keelhold_cli_commands()
 {
     _keelhold_cli_help "$1" | sed -n '/^Commands:$/,/^$/s/^  \([a-z][a-z-]*\) .*/\1/p'
@@ -114,11 +132,6 @@ _keelhold_cli()
             COMPREPLY=($(compgen -W 'csv json gpx' -- "$cur"))
             return
             ;;
-        --camera)
-            # "One of: front, back, …." may run over several lines.
-            COMPREPLY=($(compgen -W "$(sed -n '/One of: /{:a;/\.$/!{N;ba};s/\n */ /g;s/.*One of: \(.*\)\./\1/p}' <<<"$help" | tr -d ,)" -- "$cur"))
-            return
-            ;;
         --vault)
             _filedir -d
             return
@@ -129,6 +142,12 @@ _keelhold_cli()
             ;;
     esac
     if [[ $valued == *" $prev "* ]]; then
+        # A value from the option's own list; in a list joined by commas
+        # (--overlay time,names), the part after the last comma.
+        local choices before=
+        choices=$(_keelhold_cli_choices "$help" "$prev")
+        [[ $cur == *,* ]] && before=${cur%,*},
+        [[ $choices ]] && COMPREPLY=($(compgen -P "$before" -W "$choices" -- "${cur##*,}"))
         return
     fi
     $split && return

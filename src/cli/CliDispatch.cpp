@@ -51,7 +51,7 @@ const std::vector<Command> &commands()
         {QStringLiteral("scan"), QStringLiteral("Read a TeslaCam folder and print its events as JSON."), ScanCommand::run},
         {QStringLiteral("health"), QStringLiteral("Print the health report of a TeslaCam folder as JSON."),
          HealthCommand::run},
-        {QStringLiteral("export"), QStringLiteral("Write one camera of one event as one MP4 movie."), ExportCommand::run},
+        {QStringLiteral("export"), QStringLiteral("Write one camera of one event as one MP4 movie, or all cameras at once."), ExportCommand::run},
         {QStringLiteral("keep"), QStringLiteral("Copy events into a Vault folder, checking every file."),
          KeepCommand::run},
         {QStringLiteral("vault"), QStringLiteral("List, remove or re-check the events kept in a Vault folder."),

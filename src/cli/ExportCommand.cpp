@@ -3,6 +3,7 @@
 #include "cli/CliOutput.h"
 #include "drive/DriveBoundary.h"
 #include "drive/TeslaCamParser.h"
+#include "export/CombinedExport.h"
 #include "export/Exporter.h"
 #include "model/CancellationError.h"
 
@@ -24,7 +25,8 @@ extern "C" {
 namespace ExportCommand {
 
 namespace {
-const char *usage = "Usage: keelhold-cli export <TeslaCam folder> --event ID --camera CAMERA -o FILE "
+const char *usage = "Usage: keelhold-cli export <TeslaCam folder> --event ID -o FILE [--camera CAMERA] "
+                    "[--layout grid|front-sides|single] [--overlay PARTS|none] [--size 720|1080|full] "
                     "[--from SECONDS] [--to SECONDS]";
 
 QStringList cameraNames()
@@ -97,13 +99,34 @@ int fail(const QString &sentence)
     CliOutput::err(sentence);
     return CliOutput::failureExit;
 }
+
+QString clock(double seconds)
+{
+    const qint64 whole = qint64(std::ceil(std::max(0.0, seconds)));
+    return QStringLiteral("%1:%2").arg(whole / 60).arg(whole % 60, 2, 10, QLatin1Char('0'));
+}
+
+// "Exporting… 42% (1,814 of 4,320 frames, 38.5 fps, 1:05 left)"
+QString combinedStatus(const CombinedExportProgress &p)
+{
+    const int percent = int(p.fraction() * 100.0);
+    if (p.finishing)
+        return QStringLiteral("Exporting\u2026 %1% (finishing the file)").arg(percent);
+    QString line = QStringLiteral("Exporting\u2026 %1% (%2 of %3 frames").arg(percent).arg(p.framesDone).arg(p.framesTotal);
+    if (p.framesPerSecond > 0)
+        line += QStringLiteral(", %1 fps").arg(p.framesPerSecond, 0, 'f', 1);
+    if (p.secondsLeft && !p.complete)
+        line += QStringLiteral(", %1 left").arg(clock(*p.secondsLeft));
+    return line + QLatin1Char(')');
+}
 } // namespace
 
 int run(const QStringList &arguments)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        QStringLiteral("Writes one camera of one event as a single MP4 movie. The drive is only read."));
+        QStringLiteral("Writes one camera of one event as a single MP4 movie, copied as it is, or every camera "
+                       "at once with the date and time drawn on it. The drive is only read."));
     parser.addHelpOption();
     parser.addPositionalArgument(QStringLiteral("folder"), QStringLiteral("The TeslaCam folder to read."));
     const QCommandLineOption eventOption(QStringLiteral("event"),
@@ -121,19 +144,74 @@ int run(const QStringList &arguments)
                                        QStringLiteral("seconds"));
     const QCommandLineOption toOption(QStringLiteral("to"), QStringLiteral("End, in seconds of the joined footage."),
                                      QStringLiteral("seconds"));
-    parser.addOptions({eventOption, cameraOption, outputOption, fromOption, toOption});
+    const QCommandLineOption layoutOption(
+        QStringLiteral("layout"),
+        QStringLiteral("Makes one new movie with every camera at once and the time drawn on it. One of: grid, "
+                       "front-sides, single. Single re-encodes the --camera alone. --from and --to then count "
+                       "seconds of the event's timeline, as the player shows it."),
+        QStringLiteral("layout"));
+    const QCommandLineOption overlayOption(
+        QStringLiteral("overlay"),
+        QStringLiteral("What a new movie shows over the pictures, any of: time, names, reason, telemetry, none. "
+                       "Join parts with commas; the default is time,names,reason. With only --camera, any part "
+                       "makes a new movie of that camera instead of a copy."),
+        QStringLiteral("parts"));
+    const QCommandLineOption sizeOption(
+        QStringLiteral("size"),
+        QStringLiteral("The new movie's picture height. One of: 720, 1080, full. The default is 1080."),
+        QStringLiteral("size"));
+    parser.addOptions({eventOption, cameraOption, outputOption, fromOption, toOption, layoutOption, overlayOption,
+                       sizeOption});
     if (const auto done = CliOutput::parseArguments(parser, arguments))
         return *done;
     const QStringList positional = parser.positionalArguments();
-    if (positional.size() != 1 || !parser.isSet(eventOption) || !parser.isSet(cameraOption)
-        || !parser.isSet(outputOption)) {
+    // The plain copy of one camera stays the default; anything drawn on the
+    // pictures, another size or more cameras make a new movie.
+    std::optional<CombinedExportOptions::Overlay> overlay;
+    if (parser.isSet(overlayOption)) {
+        overlay = CombinedExportOptions::overlayFromWords(parser.value(overlayOption));
+        if (!overlay)
+            return fail(QStringLiteral("--overlay takes time, names, reason and telemetry joined with commas, or none."));
+    }
+    const bool combined = parser.isSet(layoutOption) || parser.isSet(sizeOption) || (overlay && overlay->any());
+    if (positional.size() != 1 || !parser.isSet(eventOption) || !parser.isSet(outputOption)
+        || (!combined && !parser.isSet(cameraOption))) {
         CliOutput::err(QString::fromLatin1(usage));
         return CliOutput::usageExit;
     }
-    const std::optional<Camera> camera = Camera::fromRawValue(parser.value(cameraOption));
-    if (!camera)
-        return fail(QStringLiteral("\u201c%1\u201d is not a camera; use one of %2.")
-                        .arg(parser.value(cameraOption), cameraNames().join(QStringLiteral(", "))));
+    std::optional<Camera> camera;
+    if (parser.isSet(cameraOption)) {
+        camera = Camera::fromRawValue(parser.value(cameraOption));
+        if (!camera)
+            return fail(QStringLiteral("\u201c%1\u201d is not a camera; use one of %2.")
+                            .arg(parser.value(cameraOption), cameraNames().join(QStringLiteral(", "))));
+    }
+    CombinedExportOptions options;
+    if (combined) {
+        options.layout = CombinedExportOptions::Layout::single;
+        if (parser.isSet(layoutOption)) {
+            const auto layout = CombinedExportOptions::layoutFromWord(parser.value(layoutOption));
+            if (!layout)
+                return fail(QStringLiteral("\u201c%1\u201d is not a layout; use grid, front-sides or single.")
+                                .arg(parser.value(layoutOption)));
+            options.layout = *layout;
+        } else if (!camera) {
+            return fail(QStringLiteral("Name the camera with --camera, or choose --layout grid or front-sides."));
+        }
+        if (options.layout != CombinedExportOptions::Layout::single && camera)
+            return fail(QStringLiteral("--camera picks the one camera of --layout single; grid and front-sides show "
+                                       "every camera."));
+        options.camera = camera;
+        if (overlay)
+            options.overlay = *overlay;
+        if (parser.isSet(sizeOption)) {
+            const auto size = CombinedExportOptions::sizeFromWord(parser.value(sizeOption));
+            if (!size)
+                return fail(QStringLiteral("\u201c%1\u201d is not a size; use 720, 1080 or full.")
+                                .arg(parser.value(sizeOption)));
+            options.size = *size;
+        }
+    }
     bool badNumber = false;
     const std::optional<double> from = seconds(parser, fromOption, badNumber);
     const std::optional<double> to = seconds(parser, toOption, badNumber);
@@ -159,7 +237,27 @@ int run(const QStringList &arguments)
 
         QString output = QDir::cleanPath(QDir::current().absoluteFilePath(parser.value(outputOption)));
         if (QFileInfo(output).isDir())
-            output = QDir(output).filePath(Exporter::suggestedFileName(*event, *camera));
+            output = QDir(output).filePath(combined ? CombinedExport::suggestedFileName(*event, options)
+                                                    : Exporter::suggestedFileName(*event, *camera));
+
+        if (combined) {
+            options.range = range;
+            const InterruptStopsExport interrupt;
+            QString shown;
+            // Stops itself cleanly: nothing is left of a stopped or failed movie.
+            CombinedExport::exportMovie(*event, options, output, [&](const CombinedExportProgress &p) {
+                const QString line = combinedStatus(p);
+                // Piped, a line for each percent; on a terminal, the line keeps up.
+                const QString key = CliOutput::stderrIsTerminal() ? line : line.section(QLatin1Char('%'), 0, 0);
+                if (key == shown)
+                    return;
+                shown = key;
+                CliOutput::status(line);
+            }, interrupt.token());
+            CliOutput::endStatus();
+            CliOutput::out(QDir::toNativeSeparators(output).toUtf8() + '\n');
+            return 0;
+        }
 
         // A half-written movie is of no use here; one that was there before
         // is never ours to remove.
@@ -187,9 +285,11 @@ int run(const QStringList &arguments)
     } catch (const TeslaCamParser::ScanError &e) {
         return fail(e.message());
     } catch (const Exporter::ExportError &e) {
-        if (e.errorCase() == Exporter::ExportError::noClipsForCamera)
+        if (e.errorCase() == Exporter::ExportError::noClipsForCamera && camera)
             return fail(QStringLiteral("The %1 camera has no playable footage in this event.")
                             .arg(camera->displayName()));
+        if (e.errorCase() == Exporter::ExportError::noClipsForCamera)
+            return fail(QStringLiteral("None of this event's cameras has playable footage."));
         return fail(e.message());
     } catch (const CancellationError &) {
         return fail(QStringLiteral("The export was stopped."));

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "engine/DriveEventStream.h"
+#include "export/CombinedExportOptions.h"
+#include "export/CombinedExportProgress.h"
 #include "model/ArchiveProgress.h"
 #include "model/ArchiveReport.h"
 #include "model/BookmarkError.h"
@@ -84,4 +86,9 @@ public:
     // One camera of one event as one movie file at `to`; progress from 0 to 1.
     virtual QFuture<void> exportFootage(Camera camera, const TeslaEvent &event, std::optional<SecondsRange> range,
                                         const QString &to, FractionCallback progress) = 0;
+    // The event's cameras put together into one new movie at `to`, with
+    // what the options draw over them. Errors: CancellationError, or
+    // Exporter::ExportError; a stopped or failed one leaves no file.
+    virtual QFuture<void> exportCombined(const TeslaEvent &event, const CombinedExportOptions &options,
+                                         const QString &to, CombinedExportProgressCallback progress) = 0;
 };

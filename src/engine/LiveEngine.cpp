@@ -8,6 +8,7 @@
 #include "engine/EnginePools.h"
 #include "engine/ScanCache.h"
 #include "engine/TriageStore.h"
+#include "export/CombinedExport.h"
 #include "export/Exporter.h"
 #include "playback/TelemetryTimeline.h"
 #include "vault/ArchiveEngine.h"
@@ -97,5 +98,13 @@ QFuture<void> LiveEngine::exportFootage(Camera camera, const TeslaEvent &event, 
 {
     return AsyncRun::cancellable(EnginePools::driveRuns(), [camera, event, range, to, progress](std::stop_token stop) {
         Exporter::exportFootage(camera, event, range, to, progress, stop);
+    });
+}
+
+QFuture<void> LiveEngine::exportCombined(const TeslaEvent &event, const CombinedExportOptions &options,
+                                         const QString &to, CombinedExportProgressCallback progress)
+{
+    return AsyncRun::cancellable(EnginePools::driveRuns(), [event, options, to, progress](std::stop_token stop) {
+        CombinedExport::exportMovie(event, options, to, progress, stop);
     });
 }

@@ -41,6 +41,8 @@ public:
     QFuture<EventTelemetry> loadTelemetry(const TeslaEvent &event, Camera camera) override;
     QFuture<void> exportFootage(Camera camera, const TeslaEvent &event, std::optional<SecondsRange> range,
                                 const QString &to, FractionCallback progress) override;
+    QFuture<void> exportCombined(const TeslaEvent &event, const CombinedExportOptions &options, const QString &to,
+                                 CombinedExportProgressCallback progress) override;
 
 private:
     std::unique_ptr<DriveWatcher> driveWatcher_;

@@ -389,3 +389,22 @@ QFuture<void> MockEngine::exportFootage(Camera, const TeslaEvent &, std::optiona
         }
     });
 }
+
+QFuture<void> MockEngine::exportCombined(const TeslaEvent &, const CombinedExportOptions &, const QString &,
+                                         CombinedExportProgressCallback progress)
+{
+    return AsyncRun::cancellable(generalPool(), [progress](std::stop_token stop) {
+        CombinedExportProgress state;
+        state.framesTotal = 360;
+        for (int step = 1; step <= 10; ++step) {
+            if (!AsyncRun::sleepFor(80ms, stop))
+                throw CancellationError();
+            state.framesDone = step * 36;
+            state.framesPerSecond = 450.0;
+            state.secondsLeft = double(state.framesTotal - state.framesDone) / state.framesPerSecond;
+            state.complete = step == 10;
+            if (progress)
+                progress(state);
+        }
+    });
+}

@@ -98,6 +98,8 @@ MediaSource::MediaSource(const QString &path, std::function<bool()> shouldStop, 
             duration_ = double(stream->duration) * timeBase_;
         else if (format_->duration > 0)
             duration_ = double(format_->duration) / AV_TIME_BASE;
+        if (stream->avg_frame_rate.num > 0 && stream->avg_frame_rate.den > 0)
+            frameRate_ = av_q2d(stream->avg_frame_rate);
         for (unsigned i = 0; i < format_->nb_streams; ++i)
             format_->streams[i]->discard = int(i) == streamIndex_ ? AVDISCARD_DEFAULT : AVDISCARD_ALL;
         if (!decode)

@@ -42,6 +42,8 @@ public:
     const QString &path() const { return path_; }
     bool hasVideo() const { return streamIndex_ >= 0; }
     double duration() const { return duration_; }
+    // Frames per second on average, as the container states it; 0 when it doesn't.
+    double frameRate() const { return frameRate_; }
 
     // Positions the demuxer at the keyframe at or before seconds.
     bool seekKeyframe(double seconds);
@@ -75,5 +77,6 @@ private:
     double timeBase_ = 0;
     int64_t startPts_ = 0;
     double duration_ = 0;
+    double frameRate_ = 0;
     bool demuxEnded_ = false;
 };

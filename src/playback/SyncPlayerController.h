@@ -4,6 +4,7 @@
 #include "model/TeslaEvent.h"
 #include "playback/Composition.h"
 #include "playback/PlaybackGroup.h"
+#include "playback/EventTimeline.h"
 #include "playback/TrackPlayer.h"
 
 #include <QObject>
@@ -59,9 +60,8 @@ public:
     static constexpr qint64 observerIntervalTicks = 150; // 0.25 s at timescale 600
     static constexpr std::chrono::milliseconds retireDelay{500};
 
-    static inline const QString damagedReason =
-        QStringLiteral("This angle didn't record properly — a known Tesla drive issue.");
-    static inline const QString noFootageReason = QStringLiteral("No footage this minute.");
+    static inline const QString damagedReason = EventTimeline::damagedReason;
+    static inline const QString noFootageReason = EventTimeline::noFootageReason;
     static inline const QString approximateFramesNote = QStringLiteral("Finding the exact frame…");
 
     explicit SyncPlayerController(const TeslaEvent &event, QObject *parent = nullptr);
@@ -110,12 +110,7 @@ Q_SIGNALS:
 private:
     friend class TestSyncPlayerController;
 
-    struct TileOutcome {
-        Camera camera;
-        std::optional<Composition> composition;
-        std::optional<QString> placeholderReason;
-        double contentEnd = 0;
-    };
+    using TileOutcome = EventTimeline::CameraTrack;
 
     static std::vector<TileOutcome> buildTileData(const TeslaEvent &event, std::stop_token stop);
     void applyTileOutcomes(const std::vector<TileOutcome> &outcomes);

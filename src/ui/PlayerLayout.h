@@ -1,5 +1,7 @@
 #pragma once
 
+#include "export/CombinedLayout.h"
+
 #include <QObject>
 #include <QString>
 #include <QVariant>
@@ -16,7 +18,8 @@ public:
     explicit PlayerLayout(QObject *parent = nullptr) : QObject(parent) {}
 
     static int stripHeight() { return 84; }
-    Q_INVOKABLE static int gridColumns(int tileCount) { return tileCount < 5 ? 2 : 3; }
+    // The combined movie's grid follows the same rule.
+    Q_INVOKABLE static int gridColumns(int tileCount) { return CombinedLayout::gridColumns(tileCount); }
     // Centre of the red mark over a slider of the given width, or a negative
     // number when no mark is shown.
     Q_INVOKABLE static double momentMarkX(const QVariant &triggerOffset, double duration, double width);

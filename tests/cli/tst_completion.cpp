@@ -79,6 +79,10 @@ private Q_SLOTS:
         QTest::newRow("cameras") << "keelhold-cli export /x --camera left" << QStringList{"left_pillar", "left_repeater"};
         QTest::newRow("no guess for a number") << "keelhold-cli export /x --from " << QStringList{};
         QTest::newRow("formats") << "keelhold-cli telemetry /x --format " << QStringList{"csv", "gpx", "json"};
+        QTest::newRow("layouts") << "keelhold-cli export /x --layout " << QStringList{"front-sides", "grid", "single"};
+        QTest::newRow("sizes") << "keelhold-cli export /x --size 1" << QStringList{"1080"};
+        QTest::newRow("overlay parts after a comma")
+            << "keelhold-cli export /x --overlay time,n" << QStringList{"time,names", "time,none"};
         QTest::newRow("vault actions") << "keelhold-cli vault " << QStringList{"list", "remove", "verify"};
     }
 

@@ -6,14 +6,17 @@
 
 #include <QDeadlineTimer>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
 #include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTest>
+#include <csignal>
 
 namespace {
 const QString eventId = QStringLiteral("sentry|2024-06-01_15-05-00");
+const QString twoCameraEventId = QStringLiteral("saved|2024-06-01_16-05-00");
 
 struct Run {
     int exitCode = -1;
@@ -62,7 +65,163 @@ private Q_SLOTS:
         fixture.addClip(event, QStringLiteral("2024-06-01_15-03-00"), QStringLiteral("front"), 0, clip);
         fixture.addClip(event, QStringLiteral("2024-06-01_15-04-00"), QStringLiteral("front"), 0, clip);
         fixture.addClip(event, QStringLiteral("2024-06-01_15-04-00"), QStringLiteral("left_repeater"), 4096); // not a movie
+        const QString saved = fixture.addEvent(QStringLiteral("SavedClips"), QStringLiteral("2024-06-01_16-05-00"),
+                                               TeslaCamFixture::eventJson(QStringLiteral("2024-06-01T16:04:01"),
+                                                                          QStringLiteral("user_interaction_honk")));
+        fixture.addClip(saved, QStringLiteral("2024-06-01_16-04-00"), QStringLiteral("front"), 0, clip);
+        fixture.addClip(saved, QStringLiteral("2024-06-01_16-04-00"), QStringLiteral("back"), 0, clip);
         QDir().mkpath(dir_.path() + QStringLiteral("/out"));
+    }
+
+    // Every camera in one new movie of the size asked for, with frames,
+    // speed and time left on the way.
+    void exportsAllCamerasAsOneMovie()
+    {
+        const TreeSnapshot before = TreeSnapshot::take(root_);
+        const QString file = out(QStringLiteral("grid.mp4"));
+        const Run run = runCli({root_, QStringLiteral("--event"), twoCameraEventId, QStringLiteral("--layout"),
+                                QStringLiteral("grid"), QStringLiteral("--size"), QStringLiteral("720"),
+                                QStringLiteral("--overlay"), QStringLiteral("time,names"), QStringLiteral("-o"), file});
+        QVERIFY2(run.exitCode == 0, qPrintable(run.err));
+        QCOMPARE(run.out.trimmed(), file);
+        QVERIFY2(run.err.contains(QStringLiteral("of 72 frames")), qPrintable(run.err));
+        QVERIFY(run.err.contains(QStringLiteral(" fps")));
+        QVERIFY(run.err.trimmed().split(QLatin1Char('\n')).last().startsWith(QStringLiteral("Exporting\u2026 100% (72 of 72 frames")));
+        const MovieFacts facts = MovieFacts::read(file);
+        const MovieFacts::Stream *video = facts.firstOf(QStringLiteral("video"));
+        QVERIFY(video);
+        QCOMPARE(QSize(video->width, video->height), QSize(1280, 720));
+        QCOMPARE(video->decodedFrames, 72);
+        QVERIFY(facts.indexBeforeData());
+        QCOMPARE(before.differences(TreeSnapshot::take(root_)), QString());
+
+        const QString folder = dir_.path() + QStringLiteral("/combined-named");
+        QDir().mkpath(folder);
+        const Run named = runCli({root_, QStringLiteral("--event"), twoCameraEventId, QStringLiteral("--layout"),
+                                  QStringLiteral("front-sides"), QStringLiteral("--size"), QStringLiteral("720"),
+                                  QStringLiteral("--from"), QStringLiteral("1"), QStringLiteral("-o"), folder});
+        QCOMPARE(named.exitCode, 0);
+        const QString expected = folder + QStringLiteral("/Tesla Saved 2024-06-01 4.04 PM \u2014 Front and Sides.mp4");
+        QCOMPARE(named.out.trimmed(), expected);
+        QCOMPARE(MovieFacts::read(expected).firstOf(QStringLiteral("video"))->decodedFrames, 36);
+    }
+
+    // One camera with nothing drawn stays a copy of its samples; anything
+    // drawn makes a new movie of it.
+    void oneCameraIsACopyUnlessSomethingIsDrawn()
+    {
+        const QString copy = out(QStringLiteral("copy.mp4"));
+        QCOMPARE(runCli({root_, QStringLiteral("--event"), twoCameraEventId, QStringLiteral("--camera"),
+                         QStringLiteral("back"), QStringLiteral("--overlay"), QStringLiteral("none"),
+                         QStringLiteral("-o"), copy})
+                     .exitCode,
+                 0);
+        const MovieFacts copied = MovieFacts::read(copy, false);
+        QCOMPARE(copied.firstOf(QStringLiteral("video"))->width, 320);
+        QCOMPARE(copied.firstOf(QStringLiteral("video"))->extradata,
+                 MovieFacts::read(TestClips::clip(TestClips::ClipOptions()), false).firstOf(QStringLiteral("video"))->extradata);
+
+        const QString drawn = out(QStringLiteral("drawn.mp4"));
+        QCOMPARE(runCli({root_, QStringLiteral("--event"), twoCameraEventId, QStringLiteral("--camera"),
+                         QStringLiteral("back"), QStringLiteral("--overlay"), QStringLiteral("time"),
+                         QStringLiteral("-o"), drawn})
+                     .exitCode,
+                 0);
+        const MovieFacts made = MovieFacts::read(drawn, false);
+        QCOMPARE(QSize(made.firstOf(QStringLiteral("video"))->width, made.firstOf(QStringLiteral("video"))->height),
+                 QSize(1440, 1080));
+    }
+
+    void combinedOptionsSayWhatIsWrong_data()
+    {
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<QString>("sentence");
+        QTest::newRow("layout") << QStringList{QStringLiteral("--layout"), QStringLiteral("diagonal")}
+                                << QStringLiteral("\u201cdiagonal\u201d is not a layout; use grid, front-sides or single.");
+        QTest::newRow("size") << QStringList{QStringLiteral("--layout"), QStringLiteral("grid"), QStringLiteral("--size"),
+                                             QStringLiteral("4k")}
+                              << QStringLiteral("\u201c4k\u201d is not a size; use 720, 1080 or full.");
+        QTest::newRow("overlay") << QStringList{QStringLiteral("--layout"), QStringLiteral("grid"),
+                                                QStringLiteral("--overlay"), QStringLiteral("time,weather")}
+                                 << QStringLiteral("--overlay takes time, names, reason and telemetry joined with commas, or none.");
+        QTest::newRow("camera with grid") << QStringList{QStringLiteral("--layout"), QStringLiteral("grid"),
+                                                         QStringLiteral("--camera"), QStringLiteral("front")}
+                                          << QStringLiteral("--camera picks the one camera of --layout single; grid and "
+                                                            "front-sides show every camera.");
+        QTest::newRow("no camera") << QStringList{QStringLiteral("--size"), QStringLiteral("720")}
+                                   << QStringLiteral("Name the camera with --camera, or choose --layout grid or front-sides.");
+        QTest::newRow("single without footage") << QStringList{QStringLiteral("--layout"), QStringLiteral("single"),
+                                                               QStringLiteral("--camera"), QStringLiteral("left_pillar")}
+                                                << QStringLiteral("The Left Pillar camera has no playable footage in this event.");
+        QTest::newRow("stretch outside") << QStringList{QStringLiteral("--layout"), QStringLiteral("grid"),
+                                                        QStringLiteral("--from"), QStringLiteral("30")}
+                                         << QStringLiteral("The chosen stretch lies outside this event's footage.");
+    }
+    void combinedOptionsSayWhatIsWrong()
+    {
+        QFETCH(QStringList, options);
+        QFETCH(QString, sentence);
+        const QString file = out(QStringLiteral("refused.mp4"));
+        const Run run = runCli(QStringList{root_, QStringLiteral("--event"), twoCameraEventId, QStringLiteral("-o"), file}
+                               + options);
+        QCOMPARE(run.exitCode, 2);
+        QCOMPARE(run.err.trimmed().split(QLatin1Char('\n')).last(), sentence);
+        QVERIFY(!QFile::exists(file));
+    }
+
+    // Ctrl-C while the drive holds a read in the middle of the movie: the
+    // export stops at once and leaves nothing, not even a hidden part.
+    void interruptStopsACombinedExportAndLeavesNothing()
+    {
+        if (!FaultyFs::available())
+            QSKIP("needs FUSE");
+        QTemporaryDir mountPoint;
+        FaultyFs fs(mountPoint.path());
+        QVERIFY(fs.isMounted());
+        TestClips::ClipOptions busy;
+        busy.seconds = 8.0;
+        busy.width = 640;
+        busy.height = 480;
+        busy.fps = 10;
+        busy.gop = 10;
+        busy.faststart = true;
+        QFile clip(TestClips::clip(busy));
+        QVERIFY(clip.open(QIODevice::ReadOnly));
+        const QByteArray bytes = clip.readAll();
+        const QString folder = QStringLiteral("TeslaCam/SavedClips/2024-06-02_10-00-00/");
+        fs.addFile(folder + QStringLiteral("event.json"),
+                   TeslaCamFixture::eventJson(QStringLiteral("2024-06-02T09:59:30"), QStringLiteral("user_interaction_honk")));
+        fs.addFile(folder + QStringLiteral("2024-06-02_09-59-00-front.mp4"), bytes);
+        fs.addFile(folder + QStringLiteral("2024-06-02_09-59-00-back.mp4"), bytes);
+        fs.hangReadsFrom(folder + QStringLiteral("2024-06-02_09-59-00-front.mp4"), bytes.size() * 6 / 10);
+        const QString outputs = dir_.path() + QStringLiteral("/interrupted");
+        QDir().mkpath(outputs);
+
+        QProcess process;
+        process.start(QStringLiteral(KEELHOLD_CLI_PATH),
+                      {QStringLiteral("export"), mountPoint.filePath(QStringLiteral("TeslaCam")), QStringLiteral("--event"),
+                       QStringLiteral("saved|2024-06-02_10-00-00"), QStringLiteral("--layout"), QStringLiteral("grid"),
+                       QStringLiteral("--size"), QStringLiteral("720"), QStringLiteral("-o"), outputs});
+        QVERIFY(process.waitForStarted());
+        QVERIFY(fs.waitUntilHeld());
+        ::kill(pid_t(process.processId()), SIGINT);
+        // The tool says so while the read is still held: a process can't
+        // end while the kernel waits on the drive for it, so it ends once
+        // the drive lets go.
+        QByteArray err;
+        QElapsedTimer waited;
+        waited.start();
+        while (!err.contains("The export was stopped.") && waited.elapsed() < 10000) {
+            process.waitForReadyRead(100);
+            err += process.readAllStandardError();
+        }
+        QVERIFY2(err.contains(" frames"), err.constData()); // it was writing
+        QCOMPARE(QString::fromUtf8(err).trimmed().split(QLatin1Char('\n')).last(), QStringLiteral("The export was stopped."));
+        QCOMPARE(QDir(outputs).entryList(QDir::Files | QDir::Hidden | QDir::NoDotAndDotDot), QStringList());
+        fs.release();
+        QVERIFY(process.waitForFinished(10000));
+        QCOMPARE(process.exitCode(), 2);
+        QCOMPARE(QDir(outputs).entryList(QDir::Files | QDir::Hidden | QDir::NoDotAndDotDot), QStringList());
     }
 
     void exportsOneCamera()

@@ -65,6 +65,7 @@ private Q_SLOTS:
     void triageStateIsAlwaysNewButMarksAreKept();
     void exportWritesOneMovie();
     void exportErrorsKeepTheirType();
+    void combinedExportRunsOffTheCallerAndStopsClean();
     void driveEventsIsOneStream();
     void theDriveIsNeverWritten();
     void stuckDriveWorkStarvesNothingElse();
@@ -325,6 +326,48 @@ void TestLiveEngine::exportErrorsKeepTheirType()
     } catch (const Exporter::ExportError &e) {
         QCOMPARE(e.errorCase(), Exporter::ExportError::noClipsForCamera);
     }
+}
+
+void TestLiveEngine::combinedExportRunsOffTheCallerAndStopsClean()
+{
+    const DriveScan scan = engine_.scanDrive(drivePath(), {}).result();
+    const TeslaEvent *sentry = findEvent(scan.events, QStringLiteral("sentry|2024-06-01_15-05-30"));
+    QVERIFY(sentry);
+    const QString folder = dir_.filePath(QStringLiteral("combined"));
+    QVERIFY(QDir().mkpath(folder));
+    CombinedExportOptions options;
+    options.size = CombinedExportOptions::Size::p720;
+    options.encoder = CombinedExportOptions::Encoder::software;
+    std::atomic<QThread *> reportedOn{nullptr};
+    std::atomic<bool> complete{false};
+    const QString movie = folder + QStringLiteral("/grid.mp4");
+    engine_
+        .exportCombined(*sentry, options, movie,
+                        [&](const CombinedExportProgress &p) {
+                            reportedOn = QThread::currentThread();
+                            complete = complete || p.complete;
+                        })
+        .waitForFinished();
+    QVERIFY(complete.load());
+    QVERIFY(reportedOn.load() != QThread::currentThread());
+    QVERIFY(QFileInfo(movie).size() > 1000);
+
+    // Cancelling the future once frames are going: no movie, nothing hidden.
+    QFuture<void> future;
+    std::atomic<bool> cancelled{false};
+    std::mutex mutex;
+    std::unique_lock lock(mutex);
+    future = engine_.exportCombined(*sentry, options, folder + QStringLiteral("/stopped.mp4"),
+                                    [&](const CombinedExportProgress &p) {
+                                        if (p.framesDone > 0 && !cancelled.exchange(true)) {
+                                            std::lock_guard held(mutex);
+                                            future.cancel();
+                                        }
+                                    });
+    lock.unlock();
+    QTRY_VERIFY_WITH_TIMEOUT(future.isFinished(), 20000);
+    QVERIFY(cancelled.load());
+    QCOMPARE(QDir(folder).entryList(QDir::Files | QDir::Hidden | QDir::NoDotAndDotDot), QStringList{QStringLiteral("grid.mp4")});
 }
 
 void TestLiveEngine::driveEventsIsOneStream()

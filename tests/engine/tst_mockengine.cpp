@@ -40,6 +40,7 @@ private Q_SLOTS:
     void runIgnoresCancellation();
     void triageMarks();
     void exportReportsTenStepsAndWritesNothing();
+    void combinedExportCountsFramesAndStopsWhenCancelled();
 
 private:
     MockEngine mock_;
@@ -281,6 +282,40 @@ void TestMockEngine::exportReportsTenStepsAndWritesNothing()
     QVERIFY(cancelled.isCanceled());
     std::lock_guard lock(mutex);
     QVERIFY2(fractions.size() < 10, qPrintable(QString::number(fractions.size())));
+}
+
+void TestMockEngine::combinedExportCountsFramesAndStopsWhenCancelled()
+{
+    const QString destination = QDir::temp().filePath(QStringLiteral("keelhold-mock-combined-%1.mp4"))
+                                    .arg(QCoreApplication::applicationPid());
+    std::mutex mutex;
+    std::vector<CombinedExportProgress> reports;
+    engine_
+        .exportCombined(demo(1), CombinedExportOptions(), destination,
+                        [&](const CombinedExportProgress &p) {
+                            std::lock_guard lock(mutex);
+                            reports.push_back(p);
+                        })
+        .waitForFinished();
+    QCOMPARE(reports.size(), size_t(10));
+    QVERIFY(reports.back().complete);
+    QCOMPARE(reports.back().framesDone, reports.back().framesTotal);
+    QVERIFY(!QFile::exists(destination));
+
+    // Cancelled from its first report: it ends without the other nine.
+    reports.clear();
+    QFuture<void> future;
+    std::unique_lock lock(mutex);
+    future = engine_.exportCombined(demo(1), CombinedExportOptions(), destination,
+                                    [&](const CombinedExportProgress &p) {
+                                        std::lock_guard held(mutex);
+                                        reports.push_back(p);
+                                        future.cancel();
+                                    });
+    lock.unlock();
+    QTRY_VERIFY_WITH_TIMEOUT(future.isFinished(), 5000);
+    std::lock_guard held(mutex);
+    QVERIFY(!reports.empty() && reports.size() < 10);
 }
 
 KEELHOLD_ISOLATED_TEST_MAIN(TestMockEngine)

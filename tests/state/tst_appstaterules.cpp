@@ -85,6 +85,11 @@ public:
     {
         return inner.exportFootage(camera, event, range, to, std::move(progress));
     }
+    QFuture<void> exportCombined(const TeslaEvent &event, const CombinedExportOptions &options, const QString &to,
+                                 CombinedExportProgressCallback progress) override
+    {
+        return inner.exportCombined(event, options, to, std::move(progress));
+    }
 };
 
 // As the parser reads a file-system type; "unknown" is no type at all.

@@ -1,0 +1,264 @@
+// CombinedExport::exportMovie against the ffmpeg tool on the same footage: a
+// two-minute event of a newer car's six cameras (front 2896x1876, the others
+// 1448x938, 36 fps, one file per camera per minute) into a 1080p grid with
+// the time drawn on it. Both use x264 with the same settings and the same
+// pictures: each camera scaled into its cell, padded, stacked with xstack,
+// the time drawn with drawtext. Rounds alternate; the best of each counts.
+// Usage: combined_export_bench [rounds]
+#include "export/CombinedExport.h"
+#include "export/CombinedLayout.h"
+#include "export/H264Encoder.h"
+
+extern "C" {
+#include <libavformat/avformat.h>
+#include <libavutil/log.h>
+}
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QStringList>
+#include <QTemporaryDir>
+#include <algorithm>
+#include <cstdio>
+#include <sys/resource.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr int framesPerSecond = 36;
+constexpr int minutes = 2;
+
+// The peak memory of a running process, from its own accounts; a child's
+// rusage would count the parent's pages it was forked with.
+double peakMb(qint64 pid)
+{
+    QFile status(QStringLiteral("/proc/%1/status").arg(pid));
+    if (!status.open(QIODevice::ReadOnly))
+        return 0;
+    for (const QByteArray &line : status.readAll().split('\n'))
+        if (line.startsWith("VmHWM:"))
+            return line.mid(6).trimmed().split(' ').value(0).toDouble() / 1024.0;
+    return 0;
+}
+
+bool runFfmpeg(const QStringList &arguments, QString *error = nullptr, double *peak = nullptr)
+{
+    QProcess process;
+    process.start(QStringLiteral("ffmpeg"),
+                  QStringList{QStringLiteral("-hide_banner"), QStringLiteral("-loglevel"), QStringLiteral("error"),
+                              QStringLiteral("-nostdin"), QStringLiteral("-y")}
+                      + arguments);
+    const qint64 pid = process.processId();
+    while (!process.waitForFinished(200) && process.state() == QProcess::Running)
+        if (peak)
+            *peak = std::max(*peak, peakMb(pid));
+    const bool ok = process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
+    if (!ok && error)
+        *error = QString::fromUtf8(process.readAllStandardError());
+    return ok;
+}
+
+struct CameraSpec {
+    Camera camera;
+    int width;
+    int height;
+    int hue; // a different picture for each camera
+};
+
+const std::vector<CameraSpec> cameras{
+    {Camera::front, 2896, 1876, 0},          {Camera::leftPillar, 1448, 938, 60},
+    {Camera::rightPillar, 1448, 938, 120},   {Camera::leftRepeater, 1448, 938, 180},
+    {Camera::rightRepeater, 1448, 938, 240}, {Camera::back, 1448, 938, 300},
+};
+
+// One minute of a camera as the car writes it: full-range 4:2:0 H.264 at
+// 36 fps, at about the car's bitrate. Made once with fast settings and kept.
+QString sourceMinute(const CameraSpec &spec)
+{
+    const QString dir = QDir::tempPath() + QStringLiteral("/keelhold-combined-bench");
+    QDir().mkpath(dir);
+    const QString path = dir + QStringLiteral("/minute-%1.mp4").arg(spec.camera.rawValue());
+    if (QFileInfo(path).size() > 1'000'000)
+        return path;
+    std::fprintf(stderr, "making one minute of the %s camera at %dx%d (once)...\n",
+                 qPrintable(spec.camera.displayName()), spec.width, spec.height);
+    const int megabits = spec.width > 2000 ? 10 : 4;
+    QString error;
+    if (!runFfmpeg({QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"),
+                    QStringLiteral("testsrc2=size=%1x%2:rate=%3,hue=h=%4")
+                        .arg(spec.width)
+                        .arg(spec.height)
+                        .arg(framesPerSecond)
+                        .arg(spec.hue),
+                    QStringLiteral("-t"), QStringLiteral("60"), QStringLiteral("-c:v"), QStringLiteral("libx264"),
+                    QStringLiteral("-preset"), QStringLiteral("ultrafast"), QStringLiteral("-pix_fmt"),
+                    QStringLiteral("yuvj420p"), QStringLiteral("-g"), QStringLiteral("36"), QStringLiteral("-b:v"),
+                    QStringLiteral("%1M").arg(megabits), QStringLiteral("-maxrate"),
+                    QStringLiteral("%1M").arg(megabits), QStringLiteral("-bufsize"),
+                    QStringLiteral("%1M").arg(2 * megabits), QStringLiteral("-an"), path + QStringLiteral(".part.mp4")},
+                   &error)) {
+        std::fprintf(stderr, "ffmpeg failed: %s\n", qPrintable(error));
+        return QString();
+    }
+    QFile::remove(path);
+    QFile::rename(path + QStringLiteral(".part.mp4"), path);
+    return path;
+}
+
+int framesOf(const QString &path)
+{
+    AVFormatContext *format = nullptr;
+    if (avformat_open_input(&format, QFile::encodeName(path).constData(), nullptr, nullptr) < 0)
+        return -1;
+    avformat_find_stream_info(format, nullptr);
+    const int video = av_find_best_stream(format, AVMEDIA_TYPE_VIDEO, -1, -1, nullptr, 0);
+    const int frames = video >= 0 ? int(format->streams[video]->nb_frames) : -1;
+    avformat_close_input(&format);
+    return frames;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QCoreApplication app(argc, argv);
+    av_log_set_level(AV_LOG_QUIET);
+    const int rounds = argc > 1 ? std::max(1, std::atoi(argv[1])) : 1;
+
+    QTemporaryDir work(QDir::tempPath() + QStringLiteral("/keelhold-combined-bench-XXXXXX"));
+    const QString folder = work.path() + QStringLiteral("/TeslaCam/SavedClips/2024-06-01_15-02-00");
+    QDir().mkpath(folder);
+    TeslaEvent event;
+    event.kind = EventKind::saved;
+    event.folderName = QStringLiteral("2024-06-01_15-02-00");
+    event.folderURL = folder;
+    const Date start = Date::fromQDateTime(QDateTime(QDate(2024, 6, 1), QTime(15, 0), Qt::UTC));
+    event.timestamp = start.addingTimeInterval(60.0 * minutes);
+    event.missingEventJSON = false;
+
+    // The ffmpeg tool reads each camera's minutes joined by its concat demuxer.
+    QStringList inputs;
+    std::vector<CombinedLayout::Source> sources;
+    for (const CameraSpec &spec : cameras) {
+        const QString source = sourceMinute(spec);
+        if (source.isEmpty())
+            return 1;
+        QString list;
+        for (int minute = 0; minute < minutes; ++minute) {
+            const QString path = folder + QStringLiteral("/2024-06-01_15-%1-00-%2.mp4")
+                                              .arg(minute, 2, 10, QLatin1Char('0'))
+                                              .arg(spec.camera.rawValue());
+            // A hard link: the drive reader takes regular files only.
+            if (::link(QFile::encodeName(source).constData(), QFile::encodeName(path).constData()) != 0)
+                return 1;
+            ClipRef clip;
+            clip.url = path;
+            clip.camera = spec.camera;
+            clip.startDate = start.addingTimeInterval(60.0 * minute);
+            clip.fileSize = QFileInfo(source).size();
+            event.clips.push_back(clip);
+            list += QStringLiteral("file '%1'\n").arg(path);
+        }
+        const QString listPath = work.path() + QStringLiteral("/%1.txt").arg(spec.camera.rawValue());
+        QFile f(listPath);
+        if (!f.open(QIODevice::WriteOnly))
+            return 1;
+        f.write(list.toUtf8());
+        inputs << QStringLiteral("-f") << QStringLiteral("concat") << QStringLiteral("-safe") << QStringLiteral("0")
+               << QStringLiteral("-i") << listPath;
+        sources.push_back({spec.camera, spec.width, spec.height});
+    }
+
+    CombinedExportOptions options;
+    options.layout = CombinedExportOptions::Layout::grid;
+    options.size = CombinedExportOptions::Size::p1080;
+    options.overlay = {true, false, false, false};
+    options.encoder = CombinedExportOptions::Encoder::software;
+
+    // The same pictures through the ffmpeg tool's filter graph.
+    const CombinedLayout layout = CombinedLayout::make(options.layout, sources, options.size);
+    QStringList graph;
+    QString stacked;
+    QStringList places;
+    for (size_t i = 0; i < layout.cells().size(); ++i) {
+        const CombinedLayout::Cell &cell = layout.cells()[i];
+        graph << QStringLiteral("[%1:v]fps=%2,scale=w=%3:h=%4:flags=bicubic,format=yuv420p,"
+                                "pad=width=%5:height=%6:x=%7:y=%8:color=black[c%1]")
+                     .arg(i)
+                     .arg(framesPerSecond)
+                     .arg(cell.picture.width)
+                     .arg(cell.picture.height)
+                     .arg(cell.area.width)
+                     .arg(cell.area.height)
+                     .arg(cell.picture.x)
+                     .arg(cell.picture.y);
+        stacked += QStringLiteral("[c%1]").arg(i);
+        places << QStringLiteral("%1_%2").arg(cell.area.x).arg(cell.area.y);
+    }
+    const int margin = layout.margin();
+    const int size = layout.timeTextSize();
+    graph << stacked
+            + QStringLiteral("xstack=inputs=%1:layout=%2:fill=black,"
+                             "drawtext=font='DejaVu Sans':fontsize=%3:fontcolor=white:box=1:boxcolor=black@0.6:"
+                             "boxborderw=%4:x=%5:y=%5:text='%{pts\\:localtime\\:%6}'[v]")
+                  .arg(layout.cells().size())
+                  .arg(places.join(QLatin1Char('|')))
+                  .arg(size)
+                  .arg(std::max(2, size / 5))
+                  .arg(margin)
+                  .arg(qint64(start.unixSeconds()));
+    const QStringList encoding{QStringLiteral("-c:v"),   QStringLiteral("libx264"),
+                               QStringLiteral("-preset"), QString::fromLatin1(H264Encoder::x264Preset),
+                               QStringLiteral("-crf"),    QString::number(H264Encoder::x264Quality),
+                               QStringLiteral("-g"),      QString::number(2 * framesPerSecond),
+                               QStringLiteral("-pix_fmt"), QStringLiteral("yuv420p"),
+                               QStringLiteral("-movflags"), QStringLiteral("+faststart")};
+
+    double bestOurs = 1e9;
+    double bestTheirs = 1e9;
+    int ourFrames = 0;
+    int theirFrames = 0;
+    double theirPeakMb = 0;
+    for (int round = 1; round <= rounds; ++round) {
+        const QString ours = work.path() + QStringLiteral("/ours.mp4");
+        const QString theirs = work.path() + QStringLiteral("/theirs.mp4");
+        QFile::remove(ours);
+        QFile::remove(theirs);
+
+        QElapsedTimer timer;
+        timer.start();
+        CombinedExport::exportMovie(event, options, ours, {});
+        const double ourSeconds = timer.nsecsElapsed() / 1e9;
+
+        timer.restart();
+        QString error;
+        if (!runFfmpeg(inputs
+                           + QStringList{QStringLiteral("-filter_complex"), graph.join(QLatin1Char(';')),
+                                         QStringLiteral("-map"), QStringLiteral("[v]")}
+                           + encoding + QStringList{theirs},
+                       &error, &theirPeakMb)) {
+            std::fprintf(stderr, "ffmpeg failed: %s\n", qPrintable(error));
+            return 1;
+        }
+        const double theirSeconds = timer.nsecsElapsed() / 1e9;
+        ourFrames = framesOf(ours);
+        theirFrames = framesOf(theirs);
+        std::printf("round %d: combined export %.2f s, ffmpeg %.2f s\n", round, ourSeconds, theirSeconds);
+        std::fflush(stdout);
+        bestOurs = std::min(bestOurs, ourSeconds);
+        bestTheirs = std::min(bestTheirs, theirSeconds);
+    }
+    struct rusage usage {};
+    getrusage(RUSAGE_SELF, &usage);
+    std::printf("frames: combined export %d, ffmpeg %d; 1080p grid of six cameras, %d s at %d fps\n", ourFrames,
+                theirFrames, 60 * minutes, framesPerSecond);
+    std::printf("peak memory: combined export %.0f MB (the whole bench process), ffmpeg %.0f MB\n",
+                double(usage.ru_maxrss) / 1024.0, theirPeakMb);
+    std::printf("combined/ffmpeg=%.2f fps=%.1f\n", bestOurs / bestTheirs, double(ourFrames) / bestOurs);
+    return 0;
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "model/Camera.h"
+#include "model/TeslaEvent.h"
+#include "playback/Composition.h"
+
+#include <QString>
+#include <chrono>
+#include <optional>
+#include <stop_token>
+#include <vector>
+
+// Where each camera's clips stand on the event's one time axis: every clip at
+// its start date's distance from the event's earliest clip, so a missing
+// minute stays a stretch of nothing. The player and the combined export both
+// lay footage out this way, so a moment means the same in both.
+namespace EventTimeline {
+
+inline const QString damagedReason = QStringLiteral("This angle didn't record properly — a known Tesla drive issue.");
+inline const QString noFootageReason = QStringLiteral("No footage this minute.");
+
+struct CameraTrack {
+    Camera camera;
+    std::optional<Composition> composition;   // one track; absent when the camera has nothing to show
+    std::optional<QString> placeholderReason; // set exactly when composition is absent
+    double contentEnd = 0;                    // where this camera's footage ends on the axis
+};
+
+// Every camera of the event, in grid order. Reads each usable clip's header
+// (length and video) under clipTimeout; a clip that fails costs its own
+// place only. Stops early, with what it has, when stop is requested.
+std::vector<CameraTrack> build(const TeslaEvent &event, std::chrono::milliseconds clipTimeout, std::stop_token stop);
+
+// Seconds from the start of the axis to the moment the event was triggered,
+// when the event knows it and it falls within duration.
+std::optional<double> momentOffset(const TeslaEvent &event, double duration);
+
+} // namespace EventTimeline

@@ -1,0 +1,767 @@
+#include "export/CombinedExport.h"
+#include "export/CombinedLayout.h"
+#include "export/ExportError.h"
+#include "export/OverlayText.h"
+#include "export/TimeMarker.h"
+#include "drive/DriveBoundary.h"
+#include "model/CancellationError.h"
+#include "support/FaultyFs.h"
+#include "support/FrameGrab.h"
+#include "support/MovieFacts.h"
+#include "support/TeslaCamFixture.h"
+#include "support/TestClips.h"
+#include "support/TmpfsMount.h"
+#include "support/TreeSnapshot.h"
+
+extern "C" {
+#include <libavutil/frame.h>
+#include <libavutil/log.h>
+}
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+#include <atomic>
+#include <cstring>
+#include <ctime>
+#include <set>
+#include <thread>
+
+using Exporter::ExportError;
+using Layout = CombinedExportOptions::Layout;
+using Size = CombinedExportOptions::Size;
+
+namespace {
+
+constexpr int fps = 10;
+
+// Each camera films one flat colour, so a cell shows whose picture it holds.
+QColor colourOf(Camera camera)
+{
+    switch (camera) {
+    case Camera::front:
+        return QColor(220, 30, 30);
+    case Camera::back:
+        return QColor(30, 30, 220);
+    case Camera::leftRepeater:
+        return QColor(30, 200, 30);
+    case Camera::rightRepeater:
+        return QColor(220, 220, 30);
+    case Camera::leftPillar:
+        return QColor(220, 30, 220);
+    case Camera::rightPillar:
+        return QColor(30, 220, 220);
+    case Camera::rearBackup:
+        return QColor(240, 240, 240);
+    }
+    return QColor();
+}
+
+// Pictures in the shape of a newer car's: the front twice the others' size.
+QString colourClip(Camera camera, double seconds, double rate = fps)
+{
+    TestClips::ClipOptions o;
+    o.seconds = seconds;
+    o.fps = int(rate);
+    o.gop = int(rate);
+    o.width = camera == Camera::front ? 320 : 160;
+    o.height = camera == Camera::front ? 208 : 104;
+    o.pattern = QStringLiteral("color");
+    o.filter = QStringLiteral("drawbox=c=%1:t=fill").arg(colourOf(camera).name());
+    return TestClips::clip(o);
+}
+
+bool near(const QColor &a, const QColor &b, int tolerance = 45)
+{
+    return std::abs(a.red() - b.red()) <= tolerance && std::abs(a.green() - b.green()) <= tolerance
+        && std::abs(a.blue() - b.blue()) <= tolerance;
+}
+
+QString describe(const QColor &c)
+{
+    return QStringLiteral("(%1, %2, %3)").arg(c.red()).arg(c.green()).arg(c.blue());
+}
+
+// One event's footage in a TeslaCam folder; clips start where the test says,
+// to the second, from the event's first moment.
+class Footage {
+public:
+    Footage() : base_(Date::fromQDateTime(QDateTime(QDate(2024, 6, 1), QTime(15, 0), Qt::UTC)))
+    {
+        QDir().mkpath(folder());
+        QDir().mkpath(outputs());
+        event.kind = EventKind::sentry;
+        event.folderName = QStringLiteral("2024-06-01_15-05-00");
+        event.folderURL = folder();
+        event.timestamp = base_.addingTimeInterval(2);
+        event.missingEventJSON = false;
+        event.city = QStringLiteral("Taylor");
+    }
+
+    QString root() const { return dir_.path() + QStringLiteral("/TeslaCam"); }
+    QString folder() const { return root() + QStringLiteral("/SentryClips/2024-06-01_15-05-00"); }
+    QString outputs() const { return dir_.path() + QStringLiteral("/out"); }
+    QString output(const QString &name = QStringLiteral("movie.mp4")) const { return outputs() + QLatin1Char('/') + name; }
+    Date base() const { return base_; }
+
+    QString add(Camera camera, const QString &source, double startSecond)
+    {
+        const QString path = pathFor(camera, startSecond);
+        QFile::remove(path);
+        if (!QFile::copy(source, path))
+            qFatal("could not copy a test clip");
+        place(camera, path, startSecond);
+        return path;
+    }
+    void addBytes(Camera camera, const QByteArray &bytes, double startSecond)
+    {
+        const QString path = pathFor(camera, startSecond);
+        QFile f(path);
+        if (!f.open(QIODevice::WriteOnly))
+            qFatal("could not write a test file");
+        f.write(bytes);
+        f.close();
+        place(camera, path, startSecond);
+    }
+    void place(Camera camera, const QString &path, double startSecond)
+    {
+        ClipRef clip;
+        clip.url = path;
+        clip.camera = camera;
+        clip.startDate = base_.addingTimeInterval(startSecond);
+        clip.fileSize = QFileInfo(path).size();
+        event.clips.push_back(clip);
+    }
+
+    TeslaEvent event;
+
+private:
+    QString pathFor(Camera camera, double startSecond) const
+    {
+        return folder() + QStringLiteral("/2024-06-01_15-00-%1-%2.mp4").arg(int(startSecond), 2, 10, QLatin1Char('0')).arg(camera.rawValue());
+    }
+
+    QTemporaryDir dir_;
+    Date base_;
+};
+
+CombinedExportOptions optionsFor(Layout layout, Size size = Size::p720)
+{
+    CombinedExportOptions o;
+    o.layout = layout;
+    o.size = size;
+    o.timeMarker = true;
+    o.encoder = CombinedExportOptions::Encoder::software;
+    return o;
+}
+
+// The shown time's milliseconds past the event's start, read off the picture.
+std::optional<quint32> markerOf(const FrameGrab &grab, const CombinedLayout &layout)
+{
+    return TimeMarker::read(grab.luma.constBits(), int(grab.luma.bytesPerLine()), layout.margin(), layout.margin(),
+                            layout.markerBlock());
+}
+
+// Files in a folder, hidden ones too: what an export left behind.
+QStringList everythingIn(const QString &folder)
+{
+    return QDir(folder).entryList(QDir::Files | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+}
+
+template <typename F>
+std::optional<ExportError::Case> exportErrorOf(F &&f)
+{
+    try {
+        f();
+    } catch (const ExportError &e) {
+        return e.errorCase();
+    }
+    return std::nullopt;
+}
+
+const std::vector<Camera> sixCameras{Camera::front,      Camera::leftPillar,    Camera::rightPillar,
+                                     Camera::leftRepeater, Camera::rightRepeater, Camera::back};
+
+} // namespace
+
+class TestCombinedExport : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        if (!TestClips::ffmpegAvailable())
+            QSKIP("the ffmpeg tool is needed to make test clips");
+        qputenv("TZ", "UTC");
+        tzset();
+        QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+        av_log_set_level(AV_LOG_QUIET);
+    }
+
+    // Every camera of a newer car in its cell of the player's grid, the
+    // shown time right on every frame checked, and a movie that decodes
+    // end to end with the frames, size and length asked for.
+    void gridShowsEveryCameraInItsCell()
+    {
+        Footage footage;
+        for (const Camera camera : sixCameras)
+            footage.add(camera, colourClip(camera, 3.0), 0);
+        std::vector<CombinedExportProgress> reports;
+        CombinedExport::exportMovie(footage.event, optionsFor(Layout::grid), footage.output(),
+                                    [&](const CombinedExportProgress &p) { reports.push_back(p); });
+
+        const MovieFacts facts = MovieFacts::read(footage.output());
+        QVERIFY(facts.opened);
+        const MovieFacts::Stream *video = facts.firstOf(QStringLiteral("video"));
+        QVERIFY(video);
+        QCOMPARE(video->codec, QStringLiteral("h264"));
+        QCOMPARE(video->width, 1280);
+        QCOMPARE(video->height, 720);
+        QCOMPARE(video->decodedFrames, 3 * fps);
+        QCOMPARE(video->decodeErrors, 0);
+        QVERIFY2(std::abs(facts.duration - 3.0) < 0.05, qPrintable(QString::number(facts.duration)));
+        QVERIFY(facts.indexBeforeData());
+
+        std::vector<CombinedLayout::Source> sources;
+        for (const Camera camera : sixCameras)
+            sources.push_back({camera, camera == Camera::front ? 320 : 160, camera == Camera::front ? 208 : 104});
+        const CombinedLayout layout = CombinedLayout::make(Layout::grid, sources, Size::p720);
+        for (const double t : {0.0, 1.5, 2.9}) {
+            const auto grab = FrameGrab::at(footage.output(), t);
+            QVERIFY(grab);
+            // Three columns and two rows, in the grid's order of cameras.
+            for (size_t i = 0; i < sixCameras.size(); ++i) {
+                const int x = int((i % 3) * 1280 / 3 + 1280 / 6);
+                const int y = int((i / 3) * 360 + 180);
+                const QColor seen = grab->meanColour(x, y);
+                QVERIFY2(near(seen, colourOf(sixCameras[i])),
+                         qPrintable(QStringLiteral("%1 at %2 s: %3").arg(sixCameras[i].displayName()).arg(t).arg(describe(seen))));
+            }
+            const auto marker = markerOf(*grab, layout);
+            QVERIFY(marker);
+            QCOMPARE(qint64(*marker), qint64(std::llround(t * 10) * 100));
+        }
+
+        QVERIFY(reports.size() >= 2);
+        QCOMPARE(reports.back().framesDone, qint64(3 * fps));
+        QCOMPARE(reports.back().framesTotal, qint64(3 * fps));
+        QVERIFY(reports.back().complete);
+        QCOMPARE(reports.back().fraction(), 1.0);
+        for (size_t i = 1; i < reports.size(); ++i)
+            QVERIFY(reports[i].fraction() >= reports[i - 1].fraction());
+        QVERIFY(everythingIn(footage.outputs()) == QStringList{QStringLiteral("movie.mp4")});
+    }
+
+    // The front large on top, the others in one row below, each undistorted:
+    // the front's picture keeps its shape, with black beside it.
+    void frontAndSidesPutsTheFrontOnTop()
+    {
+        Footage footage;
+        for (const Camera camera : {Camera::back, Camera::front, Camera::leftRepeater, Camera::rightRepeater})
+            footage.add(camera, colourClip(camera, 1.0), 0);
+        CombinedExportOptions options = optionsFor(Layout::frontAndSides);
+        options.overlay = {false, false, false, false};
+        CombinedExport::exportMovie(footage.event, options, footage.output(), {});
+        const auto grab = FrameGrab::at(footage.output(), 0.5);
+        QVERIFY(grab);
+        QCOMPARE(grab->rgb.size(), QSize(1280, 720));
+        // Top: 1280x480, the 320x208 front scaled to 738x480 in its middle.
+        QVERIFY(near(grab->meanColour(640, 240), colourOf(Camera::front)));
+        QVERIFY(near(grab->meanColour(640 - 360, 240), colourOf(Camera::front)));
+        QVERIFY(near(grab->meanColour(640 - 380, 240), Qt::black));
+        QVERIFY(near(grab->meanColour(640 + 380, 240), Qt::black));
+        // Below, in grid order: left side, right side, rear.
+        QVERIFY(near(grab->meanColour(213, 600), colourOf(Camera::leftRepeater)));
+        QVERIFY(near(grab->meanColour(640, 600), colourOf(Camera::rightRepeater)));
+        QVERIFY(near(grab->meanColour(1066, 600), colourOf(Camera::back)));
+    }
+
+    // Where a camera has no footage its cell is black with its name, and the
+    // time carries on from the camera that has; after the gap the clip's
+    // own start date counts again.
+    void missingFootageIsBlackWithTheName()
+    {
+        Footage footage;
+        footage.add(Camera::front, colourClip(Camera::front, 2.0), 0);
+        footage.add(Camera::front, colourClip(Camera::front, 2.0), 4);
+        footage.add(Camera::back, colourClip(Camera::back, 6.0), 0);
+        CombinedExport::exportMovie(footage.event, optionsFor(Layout::grid), footage.output(), {});
+        const MovieFacts facts = MovieFacts::read(footage.output());
+        QCOMPARE(facts.firstOf(QStringLiteral("video"))->decodedFrames, 6 * fps);
+
+        const CombinedLayout layout = CombinedLayout::make(
+            Layout::grid, {{Camera::front, 320, 208}, {Camera::back, 160, 104}}, Size::p720);
+        const CombinedLayout::Rect front = layout.cells().at(0).area;
+        for (const double t : {1.0, 3.0, 5.0}) {
+            const auto grab = FrameGrab::at(footage.output(), t);
+            QVERIFY(grab);
+            const bool gap = t == 3.0;
+            const QColor centre = grab->meanColour(front.x + front.width / 2, front.y + front.height / 4);
+            QVERIFY2(near(centre, gap ? QColor(Qt::black) : colourOf(Camera::front)), qPrintable(describe(centre)));
+            QVERIFY(near(grab->meanColour(960, 360), colourOf(Camera::back)));
+            QCOMPARE(qint64(markerOf(*grab, layout).value_or(0)), qint64(t * 1000));
+        }
+        // The name stands in the middle of the empty cell, and nowhere else.
+        const auto gap = FrameGrab::at(footage.output(), 3.0);
+        const auto shown = FrameGrab::at(footage.output(), 1.0);
+        const int band = layout.labelTextSize() * 2;
+        const int top = front.y + front.height / 2 - band / 2;
+        QVERIFY(gap->meanLuma(front.x + front.width / 4, top, front.width / 2, band) > 12);
+        QVERIFY(gap->meanLuma(front.x + front.width / 4, front.y + front.height * 3 / 4, front.width / 2, band) < 20);
+        QVERIFY(shown->meanLuma(front.x + front.width / 4, top, front.width / 2, band) > 50); // red, no words
+    }
+
+    // A clip that isn't a movie costs its own stretch, which stays black;
+    // the rest of the movie is whole.
+    void damagedClipCostsItsOwnStretch()
+    {
+        Footage footage;
+        footage.add(Camera::front, colourClip(Camera::front, 2.0), 0);
+        footage.addBytes(Camera::front, QByteArray(50000, 'x'), 2);
+        footage.add(Camera::front, colourClip(Camera::front, 2.0), 4);
+        footage.add(Camera::back, colourClip(Camera::back, 6.0), 0);
+        CombinedExportOptions options = optionsFor(Layout::grid);
+        CombinedExport::exportMovie(footage.event, options, footage.output(), {});
+        const MovieFacts facts = MovieFacts::read(footage.output());
+        QCOMPARE(facts.firstOf(QStringLiteral("video"))->decodedFrames, 6 * fps);
+        QCOMPARE(facts.firstOf(QStringLiteral("video"))->decodeErrors, 0);
+        for (const double t : {1.0, 3.0, 5.0}) {
+            const auto grab = FrameGrab::at(footage.output(), t);
+            const QColor seen = grab->meanColour(320, 200);
+            QVERIFY2(near(seen, t == 3.0 ? QColor(Qt::black) : colourOf(Camera::front)), qPrintable(describe(seen)));
+        }
+    }
+
+    // One camera re-encoded, at the picture's own shape; a stretch of the
+    // event's axis gives that many frames. Full size keeps the pixels.
+    void singleCameraSizesAndStretch()
+    {
+        Footage footage;
+        footage.add(Camera::front, colourClip(Camera::front, 2.0), 0);
+        footage.add(Camera::front, colourClip(Camera::front, 2.0), 2);
+        footage.add(Camera::back, colourClip(Camera::back, 4.0), 0);
+
+        CombinedExportOptions options = optionsFor(Layout::single);
+        options.camera = Camera::front;
+        options.range = std::make_pair(1.0, 3.5);
+        CombinedExport::exportMovie(footage.event, options, footage.output(QStringLiteral("720.mp4")), {});
+        MovieFacts facts = MovieFacts::read(footage.output(QStringLiteral("720.mp4")));
+        const MovieFacts::Stream *video = facts.firstOf(QStringLiteral("video"));
+        QCOMPARE(video->height, 720);
+        QCOMPARE(video->width, 1106); // 320x208 grown to 720 high
+        QCOMPARE(video->decodedFrames, 25);
+        QVERIFY(std::abs(facts.duration - 2.5) < 0.05);
+        const auto grab = FrameGrab::at(footage.output(QStringLiteral("720.mp4")), 2.0);
+        QVERIFY(near(grab->meanColour(553, 360), colourOf(Camera::front)));
+        // The shown time is the event's: the stretch began a second in.
+        const CombinedLayout layout = CombinedLayout::make(Layout::single, {{Camera::front, 320, 208}}, Size::p720);
+        QCOMPARE(qint64(markerOf(*grab, layout).value_or(0)), qint64(3000));
+
+        options.size = Size::full;
+        options.camera = Camera::back;
+        options.range.reset();
+        options.timeMarker = false;
+        CombinedExport::exportMovie(footage.event, options, footage.output(QStringLiteral("full.mp4")), {});
+        facts = MovieFacts::read(footage.output(QStringLiteral("full.mp4")));
+        video = facts.firstOf(QStringLiteral("video"));
+        QCOMPARE(QSize(video->width, video->height), QSize(160, 104));
+        QCOMPARE(video->decodedFrames, 4 * fps);
+    }
+
+    // Clips at another rate are taken at their own times: the movie runs
+    // at the fastest camera's rate and every camera keeps up.
+    void camerasOfDifferentRatesStayInStep()
+    {
+        Footage footage;
+        footage.add(Camera::front, colourClip(Camera::front, 2.0, 20), 0);
+        footage.add(Camera::back, colourClip(Camera::back, 2.0, 10), 0);
+        CombinedExport::exportMovie(footage.event, optionsFor(Layout::grid), footage.output(), {});
+        const MovieFacts facts = MovieFacts::read(footage.output());
+        QCOMPARE(facts.firstOf(QStringLiteral("video"))->decodedFrames, 40);
+        const CombinedLayout layout = CombinedLayout::make(
+            Layout::grid, {{Camera::front, 320, 208}, {Camera::back, 160, 104}}, Size::p720);
+        const auto grab = FrameGrab::at(footage.output(), 1.05);
+        QCOMPARE(qint64(markerOf(*grab, layout).value_or(0)), qint64(1050));
+    }
+
+    // The words drawn are the clip's start date plus the frame's own media
+    // time: the top band matches a rendering of that text far better than
+    // one of the second after it.
+    void timeTextIsTheClipsStartPlusMediaTime()
+    {
+        Footage footage;
+        TestClips::ClipOptions black;
+        black.seconds = 3.0;
+        black.fps = fps;
+        black.gop = fps;
+        black.width = 320;
+        black.height = 208;
+        black.pattern = QStringLiteral("color");
+        footage.add(Camera::front, TestClips::clip(black), 0);
+        CombinedExportOptions options = optionsFor(Layout::single);
+        options.timeMarker = false;
+        options.overlay = {true, false, false, false};
+        CombinedExport::exportMovie(footage.event, options, footage.output(), {});
+        const auto grab = FrameGrab::at(footage.output(), 1.5);
+        QVERIFY(grab);
+        const CombinedLayout layout = CombinedLayout::make(Layout::single, {{Camera::front, 320, 208}}, Size::p720);
+
+        // The same words drawn by the ffmpeg tool on the same black canvas.
+        const auto rendering = [&](double seconds) {
+            const QString textFile = footage.outputs() + QStringLiteral("/text.txt");
+            TeslaCamFixture::writeFile(textFile, OverlayText::frameTime(footage.base().addingTimeInterval(seconds)).toUtf8());
+            const QString png = footage.outputs() + QStringLiteral("/expected.png");
+            QProcess ffmpeg;
+            ffmpeg.start(QStringLiteral("ffmpeg"),
+                         {QStringLiteral("-loglevel"), QStringLiteral("error"), QStringLiteral("-y"), QStringLiteral("-f"),
+                          QStringLiteral("lavfi"), QStringLiteral("-i"),
+                          QStringLiteral("color=c=black:s=%1x%2").arg(layout.width()).arg(layout.height()),
+                          QStringLiteral("-vf"),
+                          QStringLiteral("drawtext=font=DejaVu Sans:textfile=%1:fontsize=%2:fontcolor=white:box=1:"
+                                         "boxcolor=black@0.6:boxborderw=%3:x=%4:y=%4")
+                              .arg(textFile)
+                              .arg(layout.timeTextSize())
+                              .arg(std::max(2, layout.timeTextSize() / 5))
+                              .arg(layout.margin()),
+                          QStringLiteral("-frames:v"), QStringLiteral("1"), png});
+            if (!ffmpeg.waitForFinished(30000) || ffmpeg.exitCode() != 0)
+                qFatal("ffmpeg could not render the expected text");
+            return QImage(png);
+        };
+        const auto distance = [&](const QImage &expected) {
+            qint64 sum = 0;
+            for (int y = 0; y < layout.margin() + layout.timeTextSize() * 2; ++y)
+                for (int x = 0; x < layout.width() / 2; ++x)
+                    sum += std::abs(qGray(grab->rgb.pixel(x, y)) - qGray(expected.pixel(x, y)));
+            return sum;
+        };
+        // 1.5 s in, the frame shown began 1.5 s after the clip did: 15:00:01.
+        const qint64 right = distance(rendering(1.5));
+        const qint64 wrong = distance(rendering(2.5));
+        QImage blank(layout.width(), layout.height(), QImage::Format_RGB32);
+        blank.fill(Qt::black);
+        const qint64 nothing = distance(blank);
+        const QString figures = QStringLiteral("right %1, wrong %2, nothing %3").arg(right).arg(wrong).arg(nothing);
+        QVERIFY2(right * 3 < wrong && right * 10 < nothing, qPrintable(figures));
+    }
+
+    void frameTimeFollowsLocaleAndZone()
+    {
+        const Date moment = Date::fromQDateTime(QDateTime(QDate(2024, 6, 1), QTime(15, 5, 7), Qt::UTC));
+        qputenv("TZ", "America/Chicago");
+        tzset();
+        const QString us = OverlayText::frameTime(moment, QLocale(QLocale::English, QLocale::UnitedStates));
+        const QString german = OverlayText::frameTime(moment, QLocale(QLocale::German, QLocale::Germany));
+        qputenv("TZ", "UTC");
+        tzset();
+        QVERIFY2(us.contains(QStringLiteral("10:05:07")) && us.contains(QStringLiteral("AM")), qPrintable(us));
+        QVERIFY2(us.contains(QStringLiteral("6/1/24")), qPrintable(us));
+        QVERIFY2(german.contains(QStringLiteral("10:05:07")) && german.contains(QStringLiteral("01.06.24")),
+                 qPrintable(german));
+        QVERIFY(!german.contains(QStringLiteral("AM")));
+        // The zone is named, so a movie watched elsewhere can't mislead.
+        QVERIFY2(us.contains(QStringLiteral("CDT")), qPrintable(us));
+        QVERIFY2(OverlayText::frameTime(moment, QLocale(QLocale::English, QLocale::UnitedStates)).contains(QStringLiteral("3:05:07 PM")),
+                 "back in UTC");
+
+        TeslaEvent event;
+        event.kind = EventKind::sentry;
+        event.city = QStringLiteral("Taylor");
+        event.latitude = 30.6075;
+        event.longitude = -97.4812;
+        QCOMPARE(OverlayText::reasonLine(event), QStringLiteral("Sentry: Sentry event \u00b7 Taylor \u00b7 30.6075, -97.4812"));
+        event.kind = EventKind::recent;
+        event.city.reset();
+        event.latitude.reset();
+        QVERIFY(!OverlayText::reasonLine(event).contains(QLatin1Char(',')));
+    }
+
+    // What each part of the overlay adds is drawn where asked and nowhere
+    // when switched off; the marker reads back a number drawn anywhere.
+    void overlayPartsSwitchOnAndOff()
+    {
+        Footage footage;
+        footage.add(Camera::front, colourClip(Camera::front, 1.0), 0);
+        footage.add(Camera::back, colourClip(Camera::back, 1.0), 0);
+        CombinedExportOptions options = optionsFor(Layout::grid);
+        options.timeMarker = false;
+        options.overlay = {false, false, false, false};
+        CombinedExport::exportMovie(footage.event, options, footage.output(QStringLiteral("bare.mp4")), {});
+        options.overlay = {true, true, true, false};
+        CombinedExport::exportMovie(footage.event, options, footage.output(QStringLiteral("drawn.mp4")), {});
+        const auto bare = FrameGrab::at(footage.output(QStringLiteral("bare.mp4")), 0.5);
+        const auto drawn = FrameGrab::at(footage.output(QStringLiteral("drawn.mp4")), 0.5);
+        const CombinedLayout layout = CombinedLayout::make(
+            Layout::grid, {{Camera::front, 320, 208}, {Camera::back, 160, 104}}, Size::p720);
+        const int m = layout.margin();
+        const int text = layout.timeTextSize();
+        // Time: top left; reason: top right; names: each cell's bottom left.
+        const QRect timeArea(m, m, text * 8, text);
+        const QRect reasonArea(1280 - m - text * 6, m, text * 6, layout.labelTextSize());
+        const QRect nameArea(m, 720 - m - layout.labelTextSize(), layout.labelTextSize() * 3, layout.labelTextSize());
+        for (const QRect &area : {timeArea, reasonArea, nameArea}) {
+            const double withText = drawn->meanLuma(area.x(), area.y(), area.width(), area.height());
+            const double without = bare->meanLuma(area.x(), area.y(), area.width(), area.height());
+            QVERIFY2(std::abs(withText - without) > 15, qPrintable(QStringLiteral("%1 vs %2").arg(withText).arg(without)));
+        }
+        // Away from the words the pictures are the same.
+        QVERIFY(std::abs(drawn->meanLuma(320, 300, 40, 40) - bare->meanLuma(320, 300, 40, 40)) < 3);
+
+        AVFrame *frame = av_frame_alloc();
+        frame->format = AV_PIX_FMT_YUV420P;
+        frame->width = 640;
+        frame->height = 48;
+        QCOMPARE(av_frame_get_buffer(frame, 0), 0);
+        std::memset(frame->data[0], 90, size_t(frame->linesize[0]) * 48);
+        TimeMarker::draw(frame, 10, 20, 12, 0xA5C3F00Fu);
+        QCOMPARE(TimeMarker::read(frame->data[0], frame->linesize[0], 10, 20, 12), std::optional<quint32>(0xA5C3F00Fu));
+        QCOMPARE(TimeMarker::read(frame->data[0], frame->linesize[0], 22, 20, 12), std::nullopt);
+        av_frame_free(&frame);
+    }
+
+    // Whatever the sizes, every picture keeps its shape, sits inside its
+    // cell, and the cells tile the canvas without overlapping.
+    void layoutsKeepShapesAndTileTheCanvas_data()
+    {
+        QTest::addColumn<int>("layout");
+        QTest::addColumn<int>("size");
+        QTest::addColumn<int>("cameras");
+        for (const Layout layout : {Layout::grid, Layout::frontAndSides})
+            for (const Size size : {Size::p720, Size::p1080, Size::full})
+                for (const int cameras : {2, 4, 5, 6})
+                    QTest::addRow("%s %d %d", qPrintable(CombinedExportOptions::word(layout)), int(size), cameras)
+                        << int(layout) << int(size) << cameras;
+    }
+    void layoutsKeepShapesAndTileTheCanvas()
+    {
+        QFETCH(int, layout);
+        QFETCH(int, size);
+        QFETCH(int, cameras);
+        std::vector<CombinedLayout::Source> sources;
+        for (int i = 0; i < cameras; ++i)
+            sources.push_back(i == 0 ? CombinedLayout::Source{Camera::front, 2896, 1876}
+                                     : CombinedLayout::Source{sixCameras[size_t(i)], 1448, 938});
+        const CombinedLayout l = CombinedLayout::make(Layout(layout), sources, Size(size));
+        QVERIFY(l.width() <= CombinedLayout::largestWidth && l.height() <= CombinedLayout::largestHeight);
+        QVERIFY(l.width() % 2 == 0 && l.height() % 2 == 0);
+        if (Size(size) == Size::p1080)
+            QCOMPARE(QSize(l.width(), l.height()), QSize(1920, 1080));
+        QCOMPARE(int(l.cells().size()), cameras);
+        QImage covered(l.width(), l.height(), QImage::Format_Grayscale8);
+        covered.fill(0);
+        for (const CombinedLayout::Cell &cell : l.cells()) {
+            const CombinedLayout::Rect a = cell.area;
+            const CombinedLayout::Rect p = cell.picture;
+            QVERIFY(a.x >= 0 && a.y >= 0 && a.x + a.width <= l.width() && a.y + a.height <= l.height());
+            QVERIFY(p.x >= 0 && p.y >= 0 && p.x + p.width <= a.width && p.y + p.height <= a.height);
+            QVERIFY(p.width == a.width || p.height == a.height); // as large as fits
+            const double shape = 1448.0 / 938.0;
+            QVERIFY2(std::abs(double(p.width) / p.height - shape) < 0.02, qPrintable(QString::number(double(p.width) / p.height)));
+            for (int y = a.y; y < a.y + a.height; y += 2)
+                for (int x = a.x; x < a.x + a.width; x += 2) {
+                    QCOMPARE(qGray(covered.pixel(x, y)), 0);
+                    covered.setPixel(x, y, 1);
+                }
+        }
+        if (Layout(layout) == Layout::frontAndSides) {
+            QCOMPARE(l.cells().front().area.y, 0);
+            QCOMPARE(l.cells().front().area.width, l.width());
+            for (size_t i = 1; i < l.cells().size(); ++i)
+                QVERIFY(l.cells()[i].area.y >= l.cells().front().area.height);
+        } else {
+            // As many columns as the player's grid has.
+            std::set<int> columns;
+            for (const CombinedLayout::Cell &cell : l.cells())
+                columns.insert(cell.area.x);
+            QCOMPARE(int(columns.size()), cameras < 5 ? 2 : 3);
+        }
+    }
+
+    // "From the moment": ten seconds before the trigger to twenty after,
+    // within the footage.
+    void momentRange()
+    {
+        Footage footage;
+        footage.place(Camera::front, footage.folder() + QStringLiteral("/x.mp4"), 0);
+        footage.event.timestamp = footage.base().addingTimeInterval(40);
+        QCOMPARE(CombinedExportOptions::momentRange(footage.event, 120.0), std::optional(std::make_pair(30.0, 60.0)));
+        footage.event.timestamp = footage.base().addingTimeInterval(4);
+        QCOMPARE(CombinedExportOptions::momentRange(footage.event, 15.0), std::optional(std::make_pair(0.0, 15.0)));
+        footage.event.missingEventJSON = true;
+        QCOMPARE(CombinedExportOptions::momentRange(footage.event, 15.0), std::nullopt);
+    }
+
+    void failuresSayWhyAndLeaveNothing()
+    {
+        Footage footage;
+        footage.add(Camera::front, colourClip(Camera::front, 1.0), 0);
+        CombinedExportOptions options = optionsFor(Layout::single);
+
+        options.camera = Camera::back;
+        QCOMPARE(exportErrorOf([&] { CombinedExport::exportMovie(footage.event, options, footage.output(), {}); }),
+                 std::optional(ExportError::noClipsForCamera));
+        options.camera.reset();
+        options.range = std::make_pair(5.0, 9.0);
+        QCOMPARE(exportErrorOf([&] { CombinedExport::exportMovie(footage.event, options, footage.output(), {}); }),
+                 std::optional(ExportError::exportFailed));
+        options.range.reset();
+
+        TeslaEvent damaged = footage.event;
+        damaged.clips.clear();
+        footage.addBytes(Camera::back, QByteArray(4096, 'x'), 0);
+        damaged.clips.push_back(footage.event.clips.back());
+        options.layout = Layout::grid;
+        QCOMPARE(exportErrorOf([&] { CombinedExport::exportMovie(damaged, options, footage.output(), {}); }),
+                 std::optional(ExportError::exportFailed));
+
+        // Never over a file already there, and never onto the car's drive.
+        TeslaCamFixture::writeFile(footage.output(QStringLiteral("taken.mp4")), "mine");
+        QString message;
+        try {
+            CombinedExport::exportMovie(footage.event, options, footage.output(QStringLiteral("taken.mp4")), {});
+        } catch (const ExportError &e) {
+            message = e.message();
+        }
+        QVERIFY(message.startsWith(QStringLiteral("There is already a file at")));
+        const TreeSnapshot before = TreeSnapshot::take(footage.root());
+        message.clear();
+        try {
+            CombinedExport::exportMovie(footage.event, options, footage.folder() + QStringLiteral("/movie.mp4"), {});
+        } catch (const ExportError &e) {
+            message = e.message();
+        }
+        QCOMPARE(message, DriveBoundary::exportRefusal);
+        QCOMPARE(before.differences(TreeSnapshot::take(footage.root())), QString());
+        QCOMPARE(everythingIn(footage.outputs()), QStringList{QStringLiteral("taken.mp4")});
+    }
+
+    // The disk filling up mid-way fails the export with a sentence, and the
+    // half-written movie is gone.
+    void fullDiskLeavesNothing()
+    {
+        Footage footage;
+        TestClips::ClipOptions busy; // pictures that take room, unlike flat colours
+        busy.seconds = 3.0;
+        busy.fps = fps;
+        busy.gop = fps;
+        for (const Camera camera : sixCameras)
+            footage.add(camera, TestClips::clip(busy), 0);
+        TmpfsMount small(footage.outputs(), QStringLiteral("small-XXXXXX"), QStringLiteral("size=64k"));
+        if (!small.ok())
+            QSKIP("needs root to mount a tmpfs");
+        CombinedExportOptions options = optionsFor(Layout::grid);
+        QString message;
+        try {
+            CombinedExport::exportMovie(footage.event, options, small.path() + QStringLiteral("/movie.mp4"), {});
+        } catch (const ExportError &e) {
+            message = e.message();
+        }
+        QVERIFY2(message.contains(QStringLiteral("space")) || message.contains(QStringLiteral("written")),
+                 qPrintable(message));
+        QCOMPARE(everythingIn(small.path()), QStringList());
+    }
+
+    // Stopped mid-way, from the progress: the export's own cancellation, the
+    // drive untouched and nothing left in the folder.
+    void stopMidwayLeavesNothing()
+    {
+        Footage footage;
+        for (const Camera camera : {Camera::front, Camera::back})
+            footage.add(camera, colourClip(camera, 3.0), 0);
+        const TreeSnapshot before = TreeSnapshot::take(footage.root());
+        std::stop_source stop;
+        const auto error = exportErrorOf([&] {
+            CombinedExport::exportMovie(
+                footage.event, optionsFor(Layout::grid), footage.output(),
+                [&](const CombinedExportProgress &p) {
+                    if (p.framesDone >= 10)
+                        stop.request_stop();
+                },
+                stop.get_token());
+        });
+        QCOMPARE(error, std::optional(ExportError::cancelled));
+        QCOMPARE(everythingIn(footage.outputs()), QStringList());
+        QCOMPARE(before.differences(TreeSnapshot::take(footage.root())), QString());
+
+        std::stop_source early;
+        early.request_stop();
+        QVERIFY_THROWS_EXCEPTION(CancellationError,
+                                 CombinedExport::exportMovie(footage.event, optionsFor(Layout::grid),
+                                                             footage.output(), {}, early.get_token()));
+        QCOMPARE(everythingIn(footage.outputs()), QStringList());
+    }
+
+    // The drive stops answering in the middle of a clip's pictures while
+    // the movie is being written: the stop is heard at once, the read is
+    // left behind, and nothing is left of the movie.
+    void stopWhileTheDriveHoldsAReadLeavesNothing()
+    {
+        if (!FaultyFs::available())
+            QSKIP("needs FUSE");
+        QTemporaryDir mountPoint;
+        FaultyFs fs(mountPoint.path());
+        QVERIFY(fs.isMounted());
+        Footage footage;
+        footage.add(Camera::back, colourClip(Camera::back, 8.0), 0);
+        // Index first, so the clip opens without reading its pictures; the
+        // hold lies well past what opening reads.
+        TestClips::ClipOptions busy;
+        busy.seconds = 8.0;
+        busy.width = 640;
+        busy.height = 480;
+        busy.fps = fps;
+        busy.gop = fps;
+        busy.faststart = true;
+        QFile clip(TestClips::clip(busy));
+        QVERIFY(clip.open(QIODevice::ReadOnly));
+        const QByteArray bytes = clip.readAll();
+        QVERIFY(bytes.size() > 1024 * 1024);
+        fs.addFile(QStringLiteral("front.mp4"), bytes);
+        fs.hangReadsFrom(QStringLiteral("front.mp4"), bytes.size() * 6 / 10);
+        footage.place(Camera::front, mountPoint.filePath(QStringLiteral("front.mp4")), 0);
+
+        std::stop_source stop;
+        std::atomic<bool> begun{false};
+        std::atomic<bool> ended{false};
+        std::exception_ptr error;
+        std::thread worker([&] {
+            try {
+                CombinedExport::exportMovie(
+                    footage.event, optionsFor(Layout::grid), footage.output(),
+                    [&](const CombinedExportProgress &) { begun = true; }, stop.get_token());
+            } catch (...) {
+                error = std::current_exception();
+            }
+            ended = true;
+        });
+        QVERIFY(fs.waitUntilHeld());
+        QVERIFY(begun.load());
+        stop.request_stop(); // the drive never answers
+        QTRY_VERIFY_WITH_TIMEOUT(ended.load(), 5000);
+        worker.join();
+        QVERIFY(error);
+        QCOMPARE(exportErrorOf([&] { std::rethrow_exception(error); }), std::optional(ExportError::cancelled));
+        QCOMPARE(everythingIn(footage.outputs()), QStringList());
+        fs.release();
+    }
+
+    // Where no graphics hardware answers, x264 makes the same movie.
+    void hardwareThatIsntThereFallsBackToSoftware()
+    {
+        Footage footage;
+        footage.add(Camera::front, colourClip(Camera::front, 1.0), 0);
+        CombinedExportOptions options = optionsFor(Layout::single);
+        options.encoder = CombinedExportOptions::Encoder::automatic;
+        options.hardwareDevice = footage.outputs() + QStringLiteral("/no-such-render-node");
+        CombinedExport::exportMovie(footage.event, options, footage.output(), {});
+        const MovieFacts facts = MovieFacts::read(footage.output());
+        QCOMPARE(facts.firstOf(QStringLiteral("video"))->decodedFrames, fps);
+        QCOMPARE(facts.firstOf(QStringLiteral("video"))->decodeErrors, 0);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestCombinedExport)
+#include "tst_combinedexport.moc"
