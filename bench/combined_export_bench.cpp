@@ -63,14 +63,14 @@ bool runFfmpeg(const QStringList &arguments, QString *error = nullptr, double *p
     return ok;
 }
 
-struct CameraSpec {
+struct CameraSource {
     Camera camera;
     int width;
     int height;
     int hue; // a different picture for each camera
 };
 
-const std::vector<CameraSpec> cameras{
+const std::vector<CameraSource> cameras{
     {Camera::front, 2896, 1876, 0},          {Camera::leftPillar, 1448, 938, 60},
     {Camera::rightPillar, 1448, 938, 120},   {Camera::leftRepeater, 1448, 938, 180},
     {Camera::rightRepeater, 1448, 938, 240}, {Camera::back, 1448, 938, 300},
@@ -78,23 +78,23 @@ const std::vector<CameraSpec> cameras{
 
 // One minute of a camera as the car writes it: full-range 4:2:0 H.264 at
 // 36 fps, at about the car's bitrate. Made once with fast settings and kept.
-QString sourceMinute(const CameraSpec &spec)
+QString sourceMinute(const CameraSource &source)
 {
     const QString dir = QDir::tempPath() + QStringLiteral("/keelhold-combined-bench");
     QDir().mkpath(dir);
-    const QString path = dir + QStringLiteral("/minute-%1.mp4").arg(spec.camera.rawValue());
+    const QString path = dir + QStringLiteral("/minute-%1.mp4").arg(source.camera.rawValue());
     if (QFileInfo(path).size() > 1'000'000)
         return path;
     std::fprintf(stderr, "making one minute of the %s camera at %dx%d (once)...\n",
-                 qPrintable(spec.camera.displayName()), spec.width, spec.height);
-    const int megabits = spec.width > 2000 ? 10 : 4;
+                 qPrintable(source.camera.displayName()), source.width, source.height);
+    const int megabits = source.width > 2000 ? 10 : 4;
     QString error;
     if (!runFfmpeg({QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"),
                     QStringLiteral("testsrc2=size=%1x%2:rate=%3,hue=h=%4")
-                        .arg(spec.width)
-                        .arg(spec.height)
+                        .arg(source.width)
+                        .arg(source.height)
                         .arg(framesPerSecond)
-                        .arg(spec.hue),
+                        .arg(source.hue),
                     QStringLiteral("-t"), QStringLiteral("60"), QStringLiteral("-c:v"), QStringLiteral("libx264"),
                     QStringLiteral("-preset"), QStringLiteral("ultrafast"), QStringLiteral("-pix_fmt"),
                     QStringLiteral("yuvj420p"), QStringLiteral("-g"), QStringLiteral("36"), QStringLiteral("-b:v"),
@@ -144,34 +144,34 @@ int main(int argc, char **argv)
     // The ffmpeg tool reads each camera's minutes joined by its concat demuxer.
     QStringList inputs;
     std::vector<CombinedLayout::Source> sources;
-    for (const CameraSpec &spec : cameras) {
-        const QString source = sourceMinute(spec);
-        if (source.isEmpty())
+    for (const CameraSource &cam : cameras) {
+        const QString minuteFile = sourceMinute(cam);
+        if (minuteFile.isEmpty())
             return 1;
         QString list;
         for (int minute = 0; minute < minutes; ++minute) {
             const QString path = folder + QStringLiteral("/2024-06-01_15-%1-00-%2.mp4")
                                               .arg(minute, 2, 10, QLatin1Char('0'))
-                                              .arg(spec.camera.rawValue());
+                                              .arg(cam.camera.rawValue());
             // A hard link: the drive reader takes regular files only.
-            if (::link(QFile::encodeName(source).constData(), QFile::encodeName(path).constData()) != 0)
+            if (::link(QFile::encodeName(minuteFile).constData(), QFile::encodeName(path).constData()) != 0)
                 return 1;
             ClipRef clip;
             clip.url = path;
-            clip.camera = spec.camera;
+            clip.camera = cam.camera;
             clip.startDate = start.addingTimeInterval(60.0 * minute);
-            clip.fileSize = QFileInfo(source).size();
+            clip.fileSize = QFileInfo(minuteFile).size();
             event.clips.push_back(clip);
             list += QStringLiteral("file '%1'\n").arg(path);
         }
-        const QString listPath = work.path() + QStringLiteral("/%1.txt").arg(spec.camera.rawValue());
+        const QString listPath = work.path() + QStringLiteral("/%1.txt").arg(cam.camera.rawValue());
         QFile f(listPath);
         if (!f.open(QIODevice::WriteOnly))
             return 1;
         f.write(list.toUtf8());
         inputs << QStringLiteral("-f") << QStringLiteral("concat") << QStringLiteral("-safe") << QStringLiteral("0")
                << QStringLiteral("-i") << listPath;
-        sources.push_back({spec.camera, spec.width, spec.height});
+        sources.push_back({cam.camera, cam.width, cam.height});
     }
 
     CombinedExportOptions options;

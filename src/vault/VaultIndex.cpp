@@ -17,8 +17,8 @@
 
 namespace {
 
-// The user's own Trash and its two folders, made as the freedesktop trash
-// specification asks when they are missing (a fresh home has no
+// The user's own Trash and its two folders, made the way freedesktop.org
+// desktops lay them out when they are missing (a fresh home has no
 // ~/.local/share). Without them Qt would fall back on the working folder.
 bool makeHomeTrash(const QString &trash)
 {
@@ -36,7 +36,7 @@ bool isBelow(const QString &path, const QString &folder)
     return path.startsWith(QDir::cleanPath(folder) + QLatin1Char('/'));
 }
 
-// Where the specification lets a trashed item land: the home Trash, or the
+// Where the desktop's Trash rules let a trashed item land: the home Trash, or the
 // Trash at the top of the item's own volume.
 bool isInATrash(const QString &path, const QString &homeTrash, const QString &volumeRoot)
 {
