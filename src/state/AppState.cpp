@@ -181,10 +181,10 @@ void AppState::beginScan(const QString &root)
     setIsScanning(true);
     setIsRevalidatingScan(false);
     setScanProgress(ScanProgress{gettingStartedPhase, 0, 0, 0});
-    scanTask(QPointer<AppState>(this), root);
+    scanTask(QPointer<AppState>(this), root, ++scanRun_);
 }
 
-QCoro::Task<void> AppState::scanTask(QPointer<AppState> self, QString root)
+QCoro::Task<void> AppState::scanTask(QPointer<AppState> self, QString root, quint64 run)
 {
     EngineFacade &engine = self->engine_;
     // The key asks the drive for its size, and a failing drive can take
@@ -192,14 +192,14 @@ QCoro::Task<void> AppState::scanTask(QPointer<AppState> self, QString root)
     QFuture<QString> keyFuture =
         AsyncRun::onPool(EnginePools::driveRuns(), [root] { return scanCacheKey(root); });
     const QString key = co_await keyFuture;
-    if (!self)
+    if (!scanIsCurrent(self, run))
         co_return;
     std::optional<DriveScan> cached;
     try {
         cached = co_await engine.cachedScan(key);
     } catch (...) {
     }
-    if (!self)
+    if (!scanIsCurrent(self, run))
         co_return;
     if (cached) {
         self->setDriveScan(*cached);
@@ -218,27 +218,27 @@ QCoro::Task<void> AppState::scanTask(QPointer<AppState> self, QString root)
     try {
         scan = co_await engine.scanDrive(root, progress);
     } catch (const TeslaCamParser::ScanError &) {
-        if (self) {
+        if (scanIsCurrent(self, run)) {
             self->setIsScanning(false);
             self->setIsRevalidatingScan(false);
             self->setCurrentFailure(DriveFailure::staleBookmark(BookmarkKey::teslaDrive));
         }
         co_return;
     } catch (...) {
-        if (self) {
+        if (scanIsCurrent(self, run)) {
             self->setIsScanning(false);
             self->setIsRevalidatingScan(false);
             self->setCurrentFailure(DriveFailure::noTeslaCamFolder(lastComponent(root)));
         }
         co_return;
     }
-    if (!self)
+    if (!scanIsCurrent(self, run))
         co_return;
     try {
         co_await engine.storeScanInCache(scan, key);
     } catch (...) {
     }
-    if (!self)
+    if (!scanIsCurrent(self, run))
         co_return;
     self->setDriveScan(scan);
     self->setDriveIsConnected(true);
@@ -252,7 +252,7 @@ QCoro::Task<void> AppState::scanTask(QPointer<AppState> self, QString root)
     } catch (...) {
         co_return;
     }
-    if (!self || !self->driveScan_)
+    if (!scanIsCurrent(self, run) || !self->driveScan_)
         co_return;
     DriveScan updated = *self->driveScan_;
     updated.events = std::move(probed);
@@ -418,10 +418,10 @@ void AppState::loadSampleFootage()
     setScanProgress(ScanProgress{loadingSamplePhase, 0, 0, 0});
     setSelectedSection(SidebarSection::drive);
     setSelectedEventID(std::nullopt);
-    sampleTask(QPointer<AppState>(this), *url);
+    sampleTask(QPointer<AppState>(this), *url, ++scanRun_);
 }
 
-QCoro::Task<void> AppState::sampleTask(QPointer<AppState> self, QString root)
+QCoro::Task<void> AppState::sampleTask(QPointer<AppState> self, QString root, quint64 run)
 {
     EngineFacade &engine = self->engine_;
     auto progress = onMainThread<ScanProgress>(self, [](AppState &state, const ScanProgress &p) { state.setScanProgress(p); });
@@ -429,14 +429,14 @@ QCoro::Task<void> AppState::sampleTask(QPointer<AppState> self, QString root)
     try {
         scan = co_await engine.scanDrive(root, progress);
     } catch (...) {
-        if (self) {
+        if (scanIsCurrent(self, run)) {
             self->setIsScanning(false);
             self->setIsSampleMode(false);
             self->setScanProgress(std::nullopt);
         }
         co_return;
     }
-    if (!self)
+    if (!scanIsCurrent(self, run))
         co_return;
     self->setDriveScan(scan);
     self->setDriveIsConnected(true);
@@ -448,7 +448,7 @@ QCoro::Task<void> AppState::sampleTask(QPointer<AppState> self, QString root)
     } catch (...) {
         co_return;
     }
-    if (!self)
+    if (!scanIsCurrent(self, run))
         co_return;
     if (self->driveScan_) {
         DriveScan updated = *self->driveScan_;
@@ -463,6 +463,7 @@ void AppState::exitSampleMode()
     if (!isSampleMode_)
         return;
     setIsSampleMode(false);
+    ++scanRun_;
     setDriveScan(std::nullopt);
     setDriveRootURL(std::nullopt);
     setDriveIsConnected(false);

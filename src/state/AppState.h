@@ -280,8 +280,10 @@ private:
 
     // Tasks bound to the main thread; each holds the state weakly.
     static QCoro::Task<void> loadTriageTask(QPointer<AppState> self);
-    static QCoro::Task<void> scanTask(QPointer<AppState> self, QString root);
-    static QCoro::Task<void> sampleTask(QPointer<AppState> self, QString root);
+    static QCoro::Task<void> scanTask(QPointer<AppState> self, QString root, quint64 run);
+    static QCoro::Task<void> sampleTask(QPointer<AppState> self, QString root, quint64 run);
+    // True while the scan started as `run` is still the one on screen.
+    static bool scanIsCurrent(const QPointer<AppState> &self, quint64 run) { return self && self->scanRun_ == run; }
     static QCoro::Task<void> watchTask(QPointer<AppState> self);
     static QCoro::Task<void> keepTask(QPointer<AppState> self, ArchivePlan plan, QString vaultURL,
                                       std::vector<TeslaEvent> events, std::shared_ptr<std::stop_source> task);
@@ -343,6 +345,9 @@ private:
     QSet<QString> selectedEventIDsForBulk_;
     std::optional<QString> accessedDriveURL_;
     std::optional<QString> accessedVaultURL_;
+    // Raised by every new scan, sample load and sample exit, so a late
+    // answer from an earlier one never lands on the drive now shown.
+    quint64 scanRun_ = 0;
     bool driveWatchTaskStarted_ = false;
     bool rootViewAppeared_ = false;
     QPointer<FocusWindow> focusWindow_;

@@ -50,9 +50,24 @@ public:
     {
         return QtFuture::makeReadyFuture();
     }
+    // Held probes answer only when the test says, in the order it says.
+    bool holdProbes = false;
+    std::vector<std::pair<std::shared_ptr<QPromise<std::vector<TeslaEvent>>>, std::vector<TeslaEvent>>> heldProbes;
+
     QFuture<std::vector<TeslaEvent>> probeAll(const std::vector<TeslaEvent> &events) override
     {
-        return inner.probeAll(events);
+        if (!holdProbes)
+            return inner.probeAll(events);
+        auto promise = std::make_shared<QPromise<std::vector<TeslaEvent>>>();
+        promise->start();
+        heldProbes.emplace_back(promise, events);
+        return promise->future();
+    }
+    void answerHeldProbe(size_t i)
+    {
+        auto &[promise, events] = heldProbes.at(i);
+        promise->addResult(inner.probeAll(events).result());
+        promise->finish();
     }
     void saveBookmark(const QString &url, BookmarkKey key) override { inner.saveBookmark(url, key); }
     BookmarkResult resolveBookmark(BookmarkKey key) override { return inner.resolveBookmark(key); }
@@ -358,7 +373,8 @@ private Q_SLOTS:
     {
         QTemporaryDir tmp;
         const QString root = driveWithOneEvent(tmp, QStringLiteral("SAVED"));
-        LiveEngine engine;
+        FormatEngine engine;
+        engine.holdProbes = true;
         engine.saveBookmark(root, BookmarkKey::teslaDrive);
         engine.saveBookmark(tmp.path(), BookmarkKey::vaultFolder);
         AppState state(engine);
@@ -370,14 +386,25 @@ private Q_SLOTS:
         // Candidates are what the engine lists now.
         QCOMPARE(state.driveVolumeCandidates().size(), engine.mountedTeslaCamVolumes().size());
 
-        // Leaving sample mode goes back to the saved drive.
+        // Leaving sample mode goes back to the saved drive, and the sample's
+        // probe answering late changes nothing there.
         state.loadSampleFootage();
         QVERIFY(settled(state));
         state.exitSampleMode();
         QCOMPARE(state.driveRootURL().value_or(QString()), root);
         QVERIFY(!state.isSampleMode());
         QVERIFY(settled(state));
+        QCOMPARE(engine.heldProbes.size(), size_t(2));
+        engine.answerHeldProbe(1);
+        QTRY_VERIFY(state.healthReport());
+        // A watcher made after the state's own hears the answer after it.
+        QFutureWatcher<std::vector<TeslaEvent>> after;
+        QSignalSpy heard(&after, &QFutureWatcherBase::finished);
+        after.setFuture(engine.heldProbes[0].first->future());
+        engine.answerHeldProbe(0);
+        QVERIFY(heard.wait());
         QCOMPARE(state.driveScan()->events.size(), size_t(1));
+        QCOMPARE(state.driveRootURL().value_or(QString()), root);
     }
 
     void filtersCombineAndVaultAccessRaisesTheEpoch()
