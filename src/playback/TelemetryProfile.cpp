@@ -45,10 +45,12 @@ Profile make(const EventTelemetry &telemetry, double duration, int count)
         const bool hard = r.brakeApplied && deceleration >= hardBrakingDeceleration;
         // Every slice the frame's record covers, so slices finer than the
         // frame rate leave no holes.
-        const double next = i + 1 < samples.size() ? samples[i + 1].time : s.time + lastHold;
-        const double end = std::min(duration, next - s.time <= longestHold ? next : s.time + lastHold);
+        // The last frame before a gap lasts one frame's time.
+        const double step = i > 0 && s.time - samples[i - 1].time <= longestHold ? s.time - samples[i - 1].time : lastHold;
+        const double next = i + 1 < samples.size() ? samples[i + 1].time : s.time + step;
+        const double end = std::min(duration, next - s.time <= longestHold ? next : s.time + step);
         const int first = std::clamp(int(s.time / duration * count), 0, count - 1);
-        const int last = std::clamp(int(std::ceil(end / duration * count)) - 1, first, count - 1);
+        const int last = std::clamp(int(std::ceil(end / duration * count - 1e-9)) - 1, first, count - 1);
         for (int k = first; k <= last; ++k) {
             Slice &slice = profile.slices[size_t(k)];
             slice.hasData = true;
