@@ -2,11 +2,15 @@
 
 #include "ExportFlow.h"
 #include "InboxPresenter.h"
+#include "PlayerDrivingData.h"
 #include "PlayerLayout.h"
 #include "SymbolIcons.h"
 #include "model/PlatformWords.h"
 
-EventPlayerPresenter::EventPlayerPresenter(QObject *parent) : QObject(parent) {}
+EventPlayerPresenter::EventPlayerPresenter(QObject *parent)
+    : QObject(parent), drivingData_(new PlayerDrivingData(this))
+{
+}
 
 EventPlayerPresenter::~EventPlayerPresenter()
 {
@@ -81,6 +85,7 @@ void EventPlayerPresenter::resolve()
                 appState_->setActivePlayerController(nullptr);
         }
         loadedID_.clear();
+        drivingData_->load(nullptr, std::nullopt);
         return;
     }
     if (event_->id() == loadedID_)
@@ -93,6 +98,8 @@ void EventPlayerPresenter::resolve()
     } else {
         controller_->loadEvent(*event_);
     }
+    drivingData_->follow(controller_);
+    drivingData_->load(appState_ ? &appState_->engine() : nullptr, event_);
     opened();
 }
 

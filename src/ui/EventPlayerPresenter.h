@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/TeslaEvent.h"
+#include "PlayerDrivingData.h"
 #include "playback/SyncPlayerController.h"
 #include "state/AppState.h"
 
@@ -10,6 +11,7 @@
 #include <optional>
 
 class ExportFlow;
+
 
 // What the player screen shows and does for the selected event of one
 // section. It owns the screen's one controller: made with the first event,
@@ -26,6 +28,7 @@ class EventPlayerPresenter : public QObject {
     Q_PROPERTY(QVariantMap metadata READ metadata NOTIFY metadataChanged)
     Q_PROPERTY(bool keepProminent READ keepProminent NOTIFY eventChanged)
     Q_PROPERTY(QVariantMap texts READ texts CONSTANT)
+    Q_PROPERTY(PlayerDrivingData *drivingData READ drivingData CONSTANT)
 
 public:
     explicit EventPlayerPresenter(QObject *parent = nullptr);
@@ -43,6 +46,8 @@ public:
     bool hasEvent() const { return event_.has_value(); }
     const std::optional<TeslaEvent> &event() const { return event_; }
     SyncPlayerController *controller() const { return controller_; }
+    // The car's records for the overlay, the strip and the route.
+    PlayerDrivingData *drivingData() const { return drivingData_; }
     // The two rows over the grid: reason, damage, verification, date,
     // place and coordinates.
     QVariantMap metadata() const;
@@ -77,6 +82,7 @@ private:
     std::optional<TeslaEvent> event_;
     QString loadedID_;
     SyncPlayerController *controller_ = nullptr;
+    PlayerDrivingData *drivingData_ = nullptr;
     QPointer<ExportFlow> exportFlow_;
     QList<QMetaObject::Connection> stateConnections_;
 };

@@ -137,6 +137,8 @@ QStringList HelpArticle::listLines() const
             QStringLiteral("0 — back to all cameras"),
             QStringLiteral("M — replay the moment it happened (just before the honk, bump, or detection)"),
             QStringLiteral("F — fill the window with just the cameras (Esc goes back)"),
+            QStringLiteral("T — show or hide the car's driving data over the video (speed, pedals, steering, "
+                           "Autopilot)"),
             QStringLiteral("↑ and ↓ — move through the event list, auto-playing each one"),
             QStringLiteral("K — keep a safe copy of the selected event in your Vault"),
             QStringLiteral("D — dismiss the selected event (never deletes any footage)")};

@@ -38,6 +38,9 @@ bool ListPlayerKeyRouter::keyPressed(int key, int modifiers, const QString &text
     case Qt::Key_M:
         jumpToMoment(state);
         return true;
+    case Qt::Key_T:
+        toggleDrivingData();
+        return true;
     case Qt::Key_Space:
         togglePlay(state);
         return true;

@@ -1,24 +1,56 @@
 #include "MapViewModel.h"
 
 #include "EventMapPresenter.h"
+#include "EventRoutes.h"
 #include "InboxPresenter.h"
 #include "SymbolIcons.h"
 #include "state/AppState.h"
 #include "state/SidebarSection.h"
 
-MapViewModel::MapViewModel(AppState *state, QObject *parent) : QObject(parent), state_(state)
+MapViewModel::MapViewModel(AppState *state, QObject *parent)
+    : QObject(parent), state_(state), routes_(new EventRoutes(state->engine(), this))
 {
+    connect(state, &AppState::driveScanChanged, this, &MapViewModel::requestRoutes);
+    connect(state, &AppState::vaultEventsChanged, this, &MapViewModel::requestRoutes);
     connect(state, &AppState::driveScanChanged, this, &MapViewModel::changed);
     connect(state, &AppState::vaultEventsChanged, this, &MapViewModel::changed);
+    connect(routes_, &EventRoutes::changed, this, &MapViewModel::changed);
 }
 
-std::vector<TeslaEvent> MapViewModel::allEvents() const
+std::vector<TeslaEvent> MapViewModel::listedEvents() const
 {
     if (!state_)
         return {};
     static const std::vector<TeslaEvent> none;
     return EventMapPresenter::allEvents(state_->driveScan() ? state_->driveScan()->events : none, state_->vaultEvents());
 }
+
+std::vector<TeslaEvent> MapViewModel::allEvents() const
+{
+    std::vector<TeslaEvent> events = listedEvents();
+    for (TeslaEvent &e : events)
+        if (const auto fix = routes_->firstFix(e)) {
+            e.latitude = fix->latitude;
+            e.longitude = fix->longitude;
+        }
+    return events;
+}
+
+void MapViewModel::showRoutes()
+{
+    if (routesShown_)
+        return;
+    routesShown_ = true;
+    requestRoutes();
+}
+
+void MapViewModel::requestRoutes()
+{
+    if (routesShown_)
+        routes_->request(listedEvents());
+}
+
+QVariant MapViewModel::routesForQml() const { return QVariant::fromValue(routes_->routes()); }
 
 bool MapViewModel::isEmpty() const
 {

@@ -1,5 +1,7 @@
 #include "PlayerKeyActions.h"
 
+#include "DrivingDataPreferences.h"
+
 #include "playback/SyncPlayerController.h"
 #include "state/AppState.h"
 
@@ -65,6 +67,11 @@ void focusCamera(AppState *state, int index)
 void clearFocus(AppState *state)
 {
     later(state, [](SyncPlayerController &c) { c.clearFocus(); });
+}
+
+void toggleDrivingData()
+{
+    QTimer::singleShot(0, DrivingDataPreferences::shared(), [] { DrivingDataPreferences::shared()->toggleOverlay(); });
 }
 
 int cameraDigit(const QString &text)

@@ -16,6 +16,8 @@ void jumpToMoment(AppState *state);
 void toggleFocusMode(AppState *state);
 void focusCamera(AppState *state, int index);
 void clearFocus(AppState *state);
+// Shows or hides the driving data over the video, in every player.
+void toggleDrivingData();
 
 // The digit 1 to 7 a key's text stands for, or 0 when it is none of them.
 int cameraDigit(const QString &text);

@@ -30,7 +30,7 @@ QStringList PlayerKeyboardShortcuts::keys()
             QStringLiteral("F"),     QStringLiteral("1"),    QStringLiteral("2"),     QStringLiteral("3"),
             QStringLiteral("4"),     QStringLiteral("5"),    QStringLiteral("6"),     QStringLiteral("7"),
             QStringLiteral("0"),     QStringLiteral("K"),    QStringLiteral("D"),     QStringLiteral(","),
-            QStringLiteral("."),     QStringLiteral("Esc")};
+            QStringLiteral("."),     QStringLiteral("T"),     QStringLiteral("Esc")};
 }
 
 bool PlayerKeyboardShortcuts::activate(const QString &sequence)
@@ -52,6 +52,8 @@ bool PlayerKeyboardShortcuts::activate(const QString &sequence)
         jumpToMoment(state);
     else if (key == QLatin1String("F"))
         toggleFocusMode(state);
+    else if (key == QLatin1String("T"))
+        toggleDrivingData();
     else if (key == QLatin1String("0"))
         clearFocus(state);
     else if (const int n = cameraDigit(key))

@@ -5,8 +5,10 @@
 #include "FileHandOff.h"
 #include "KeyboardHints.h"
 #include "ListPlayerKeyRouter.h"
+#include "PlayerDrivingData.h"
 #include "PlayerKeyboardShortcuts.h"
 #include "PlayerLayout.h"
+#include "SpeedStrip.h"
 #include "VideoMirror.h"
 #include "playback/SyncPlayerController.h"
 #include "playback/TrackPlayer.h"
@@ -38,6 +40,9 @@ void registerAll()
     qmlRegisterUncreatableType<ExportFlow>(uri, 1, 0, "ExportFlow", QStringLiteral("made by the player screen"));
     qmlRegisterUncreatableType<SyncPlayerController>(uri, 1, 0, "SyncPlayerController",
                                                      QStringLiteral("made by the player screen"));
+    qmlRegisterUncreatableType<PlayerDrivingData>(uri, 1, 0, "PlayerDrivingData",
+                                                  QStringLiteral("made by the player screen"));
+    qmlRegisterType<SpeedStrip>(uri, 1, 0, "SpeedStrip");
     qmlRegisterUncreatableType<TrackPlayer>(uri, 1, 0, "TrackPlayer", QStringLiteral("made by the controller"));
 }
 

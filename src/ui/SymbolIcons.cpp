@@ -96,6 +96,7 @@ const QHash<QString, QString> &table()
         {QStringLiteral("location.slash"), QStringLiteral("status/location-services-disabled")},
         {QStringLiteral("arrow.up.left.and.arrow.down.right"), QStringLiteral("actions/view-fullscreen")},
         {QStringLiteral("arrow.down.right.and.arrow.up.left"), QStringLiteral("actions/view-restore")},
+        {QStringLiteral("gauge.with.needle"), QStringLiteral("status/power-profile-performance")},
     };
     return t;
 }

@@ -1,9 +1,11 @@
 #include "TileMap.h"
 
+#include "DrivingDataText.h"
 #include "EventMapPresenter.h"
 #include "TileSource.h"
 
 #include <QPainter>
+#include <QPainterPath>
 #include <QQuickWindow>
 #include <algorithm>
 #include <cmath>
@@ -92,6 +94,37 @@ void TileMap::zoomAround(double factor, double x, double y)
     changed();
 }
 
+void TileMap::setRoutes(const QVariant &routes)
+{
+    routes_ = routes.value<MapRoutes>();
+    Q_EMIT routesChanged();
+    relayout();
+}
+
+void TileMap::setRouteWidth(double width)
+{
+    if (width == routeWidth_)
+        return;
+    routeWidth_ = width;
+    Q_EMIT routesChanged();
+    update();
+}
+
+void TileMap::fitToRoutes()
+{
+    std::vector<QPointF> latLons;
+    for (const MapRoute &route : routes_)
+        for (const MapRoute::Point &p : route.points)
+            latLons.emplace_back(p.latitude, p.longitude);
+    if (latLons.empty() || width() <= 0 || height() <= 0)
+        return;
+    const auto view = EventMapPresenter::fitting(latLons, width(), height(), std::min(24.0, width() / 6));
+    lat_ = view.centerLatitude;
+    lon_ = view.centerLongitude;
+    zoom_ = std::clamp(view.zoom, minZoom, maxZoom);
+    changed();
+}
+
 void TileMap::fitTo(const QVariantList &points)
 {
     std::vector<QPointF> latLons;
@@ -99,6 +132,10 @@ void TileMap::fitTo(const QVariantList &points)
         const QVariantMap m = v.toMap();
         latLons.emplace_back(m.value(QStringLiteral("latitude")).toDouble(), m.value(QStringLiteral("longitude")).toDouble());
     }
+    // The routes too: a drive can lead far from where its event was pinned.
+    for (const MapRoute &route : routes_)
+        for (const MapRoute::Point &p : route.points)
+            latLons.emplace_back(p.latitude, p.longitude);
     if (latLons.empty() || width() <= 0 || height() <= 0)
         return;
     const auto view = EventMapPresenter::fitting(latLons, width(), height());
@@ -133,6 +170,27 @@ void TileMap::relayout()
             }
     }
     placed_ = std::move(placed);
+    // The routes in view coordinates, one stroke per run of one state.
+    std::vector<Stroke> strokes;
+    if (window() && isVisible())
+        for (const MapRoute &route : routes_) {
+            for (size_t i = 0; i + 1 < route.points.size();) {
+                const auto state = route.points[i].autopilot;
+                Stroke stroke{DrivingDataText::assistanceColour(state), {}};
+                stroke.points << toView(route.points[i].latitude, route.points[i].longitude);
+                // A stretch ends where the next point's state differs; the
+                // point where it changes starts the next stretch too.
+                size_t j = i + 1;
+                for (; j < route.points.size(); ++j) {
+                    stroke.points << toView(route.points[j].latitude, route.points[j].longitude);
+                    if (route.points[j].autopilot != state)
+                        break;
+                }
+                strokes.push_back(std::move(stroke));
+                i = j;
+            }
+        }
+    strokes_ = std::move(strokes);
     if (int(placed_.size()) != tilesDrawn_) {
         tilesDrawn_ = int(placed_.size());
         Q_EMIT tilesDrawnChanged();
@@ -145,6 +203,18 @@ void TileMap::paint(QPainter *painter)
     painter->setRenderHint(QPainter::SmoothPixmapTransform, true);
     for (const Placed &p : placed_)
         painter->drawImage(p.rect, p.image);
+    if (strokes_.empty())
+        return;
+    painter->setRenderHint(QPainter::Antialiasing, true);
+    // A light casing first, so the line reads over any tile.
+    QPen casing(QColor(255, 255, 255, 200), routeWidth_ + 3, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+    painter->setPen(casing);
+    for (const Stroke &s : strokes_)
+        painter->drawPolyline(s.points);
+    for (const Stroke &s : strokes_) {
+        painter->setPen(QPen(s.colour, routeWidth_, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter->drawPolyline(s.points);
+    }
 }
 
 bool TileMap::tilesUnavailable() const { return TileSource::shared()->isUnavailable(); }

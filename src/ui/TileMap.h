@@ -1,6 +1,10 @@
 #pragma once
 
+#include "MapRoute.h"
+
+#include <QColor>
 #include <QPointF>
+#include <QPolygonF>
 #include <QQuickPaintedItem>
 #include <QImage>
 #include <QVariantList>
@@ -19,6 +23,10 @@ class TileMap : public QQuickPaintedItem {
     Q_PROPERTY(int tilesDrawn READ tilesDrawn NOTIFY tilesDrawnChanged)
     // The tile server can't be reached: the pins stand on a plain field.
     Q_PROPERTY(bool tilesUnavailable READ tilesUnavailable NOTIFY tilesUnavailableChanged)
+    // MapRoutes drawn over the tiles, each stretch in the colour of its
+    // driver-assistance state.
+    Q_PROPERTY(QVariant routes READ routesForQml WRITE setRoutes NOTIFY routesChanged)
+    Q_PROPERTY(double routeWidth READ routeWidth WRITE setRouteWidth NOTIFY routesChanged)
 public:
     static constexpr double minZoom = 1;
     static constexpr double maxZoom = 19;
@@ -35,6 +43,19 @@ public:
     int tilesDrawn() const { return tilesDrawn_; }
     bool tilesUnavailable() const;
 
+    QVariant routesForQml() const { return QVariant::fromValue(routes_); }
+    void setRoutes(const QVariant &routes);
+    double routeWidth() const { return routeWidth_; }
+    void setRouteWidth(double width);
+    // The route stretches as drawn: view points and colour (for tests).
+    struct Stroke {
+        QColor colour;
+        QPolygonF points;
+    };
+    const std::vector<Stroke> &strokes() const { return strokes_; }
+    // Shows every point of the routes with a margin.
+    Q_INVOKABLE void fitToRoutes();
+
     void paint(QPainter *painter) override;
 
     // The point in the item where a coordinate stands.
@@ -49,6 +70,7 @@ Q_SIGNALS:
     void viewChanged();
     void tilesDrawnChanged();
     void tilesUnavailableChanged();
+    void routesChanged();
 
 private:
     void changed();
@@ -65,4 +87,7 @@ private:
         QImage image;
     };
     std::vector<Placed> placed_;
+    MapRoutes routes_;
+    double routeWidth_ = 4;
+    std::vector<Stroke> strokes_;
 };

@@ -6,6 +6,7 @@
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
+#include <algorithm>
 #include <stdexcept>
 
 namespace TestClips {
@@ -97,6 +98,22 @@ qint64 topLevelBoxOffset(const QByteArray &file, const char *type)
         at += qint64(size);
     }
     return -1;
+}
+
+void padTo(const QString &path, qint64 size)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::Append))
+        return;
+    const qint64 missing = size - file.size();
+    if (missing <= 0)
+        return;
+    const qint64 box = std::max<qint64>(missing, 8);
+    QByteArray bytes(int(box), '\0');
+    for (int i = 0; i < 4; ++i)
+        bytes[i] = char((quint32(box) >> (24 - 8 * i)) & 0xFF);
+    bytes.replace(4, 4, "free");
+    file.write(bytes);
 }
 
 } // namespace TestClips

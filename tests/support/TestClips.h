@@ -28,6 +28,10 @@ QString clip(const ClipOptions &options = ClipOptions());
 void generate(const ClipOptions &options, const QString &dest);
 bool ffmpegAvailable();
 
+// Appends a "free" box so the movie is at least this many bytes: a clip
+// smaller than a real one is taken for a cut-short file and never opened.
+void padTo(const QString &path, qint64 size = 100 * 1024);
+
 // Where the top-level box of a type starts in a movie file's bytes; -1 if none.
 qint64 topLevelBoxOffset(const QByteArray &file, const char *type);
 

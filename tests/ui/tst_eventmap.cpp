@@ -5,7 +5,9 @@
 #include "TileMap.h"
 #include "TileSource.h"
 #include "support/IsolatedHome.h"
+#include "support/TelemetryClipWriter.h"
 #include "support/TeslaCamFixture.h"
+#include "support/TestClips.h"
 
 #include <QGuiApplication>
 #include <QSettings>
@@ -55,7 +57,9 @@ public:
 
 // The map in the real window: tiles from a local server are asked for with
 // the application's User-Agent and drawn; pins stand where their events
-// happened; a pin or a row of the side list hands over to the Drive section.
+// happened, at the clips' own GPS fixes where they carry them, with the
+// routes drawn; a pin or a row of the side list hands over to the Drive
+// section.
 class EventMapTest : public QObject {
     Q_OBJECT
 
@@ -87,7 +91,45 @@ class EventMapTest : public QObject {
         const QString folder = drive.addEvent(QStringLiteral("SavedClips"), QStringLiteral("2024-05-09_10-00-00"), std::nullopt);
         drive.addClip(folder, QStringLiteral("2024-05-09_09-59-00"), QStringLiteral("front"), 16 * 1024);
         unlocated = QStringLiteral("saved|2024-05-09_10-00-00");
+
+        // Clips with the car's records: a saved event whose event.json has
+        // only the coarse place, and recent driving with no place at all.
+        if (!TestClips::ffmpegAvailable())
+            return;
+        TestClips::ClipOptions options;
+        options.width = 160;
+        options.height = 120;
+        options.seconds = 2;
+        const QString source = TestClips::clip(options);
+        auto withFixes = [&](const QString &name, double lat) {
+            const QString path = tmp.filePath(name);
+            TelemetryClipWriter::remux(source, path, [lat](int frame, double) {
+                TelemetryClipWriter::Message m;
+                m.set_frame_seq_no(quint64(frame));
+                m.set_vehicle_speed_mps(15);
+                // Autopilot for the first second, then cruise.
+                m.set_autopilot_state(frame < 30 ? TelemetryClipWriter::Message::AUTOSTEER
+                                                 : TelemetryClipWriter::Message::TRAFFIC_AWARE_CRUISE_CONTROL);
+                m.set_latitude_deg(lat + frame * 2e-5);
+                m.set_longitude_deg(-97.7045);
+                return TelemetryClipWriter::FrameRecord{m};
+            });
+            TestClips::padTo(path);
+            return path;
+        };
+        const QString saved = drive.addEvent(
+            QStringLiteral("SavedClips"), QStringLiteral("2024-05-10_10-00-00"),
+            TeslaCamFixture::eventJson(QStringLiteral("2024-05-10T10:00:00"), QStringLiteral("user_interaction_honk"),
+                                       QStringLiteral("Austin"), QStringLiteral("30.30"), QStringLiteral("-97.70")));
+        drive.addClip(saved, QStringLiteral("2024-05-10_09-59-58"), QStringLiteral("front"), 0,
+                      withFixes(QStringLiteral("saved.mp4"), preciseLatitude));
+        drive.addRecentClip(QStringLiteral("2024-05-11_08-00-00"), QStringLiteral("front"), 0,
+                            withFixes(QStringLiteral("recent.mp4"), recentLatitude));
     }
+
+    static constexpr double preciseLatitude = 30.3123;
+    static constexpr double recentLatitude = 30.2901;
+    const QString withRoute = QStringLiteral("saved|2024-05-10_10-00-00");
 
     TileMap *map() const { return app->find<TileMap>(QStringLiteral("tileMap")); }
 
@@ -112,7 +154,7 @@ private Q_SLOTS:
         app->window()->resize(1300, 900);
         app->state.beginScan(tmp.filePath(QStringLiteral("drive/TeslaCam")));
         QTRY_VERIFY_WITH_TIMEOUT(app->state.driveScan() && !app->state.isScanning() && !app->state.isRevalidatingScan(), 30000);
-        QCOMPARE(app->state.driveScan()->events.size(), size_t(7));
+        QCOMPARE(app->state.driveScan()->events.size(), size_t(TestClips::ffmpegAvailable() ? 9 : 7));
     }
 
     void tilesAreFetchedFromTheTemplateAndDrawn()
@@ -228,6 +270,45 @@ private Q_SLOTS:
         QVERIFY(row);
         app->click(row);
         QTRY_COMPARE(app->state.selectedEventID().value_or(QString()), located.first());
+    }
+
+    // Clips with GPS fixes pin their event at the first fix, not at the
+    // coarse place of its event.json, and pin recent driving that has no
+    // place at all; their routes are drawn in the colours of the driver
+    // assistance. Clips without fixes keep the pins they had.
+    void clipsWithFixesPinPreciselyAndDrawTheirRoutes()
+    {
+        if (!TestClips::ffmpegAvailable())
+            QSKIP("needs the ffmpeg tool to make clips");
+        showMap();
+        auto pinOf = [&](const QString &id) -> QVariantMap {
+            for (const QVariant &p : app->screens.map()->pins())
+                if (p.toMap().value(QStringLiteral("id")).toString() == id)
+                    return p.toMap();
+            return {};
+        };
+        QTRY_COMPARE_WITH_TIMEOUT(pinOf(withRoute).value(QStringLiteral("latitude")).toDouble(), preciseLatitude, 20000);
+        QCOMPARE(pinOf(withRoute).value(QStringLiteral("longitude")).toDouble(), -97.7045);
+        QString recent;
+        for (const TeslaEvent &e : app->state.driveScan()->events)
+            if (e.kind == EventKind::recent)
+                recent = e.id();
+        QTRY_COMPARE_WITH_TIMEOUT(pinOf(recent).value(QStringLiteral("latitude")).toDouble(), recentLatitude, 20000);
+        QVERIFY(app->find(QStringLiteral("pin_") + recent));
+        // The sparse clips have no fixes: their pins stay at their places.
+        QCOMPARE(pinOf(located.first()).value(QStringLiteral("latitude")).toDouble(), 30.25);
+        QVERIFY(pinOf(unlocated).isEmpty());
+
+        // Two routes, each blue (Autopilot) then green (cruise).
+        QTRY_COMPARE(app->screens.map()->routesForQml().value<MapRoutes>().size(), 2);
+        map()->fitToRoutes();
+        QSet<QString> colours;
+        for (const TileMap::Stroke &stroke : map()->strokes()) {
+            colours.insert(stroke.colour.name());
+            for (const QPointF &p : stroke.points)
+                QVERIFY(p.x() >= 0 && p.x() <= map()->width() && p.y() >= 0 && p.y() <= map()->height());
+        }
+        QCOMPARE(colours, (QSet<QString>{QStringLiteral("#2f7de1"), QStringLiteral("#2aa760")}));
     }
 
     void cleanupTestCase() { app.reset(); }

@@ -210,7 +210,7 @@ private Q_SLOTS:
             "your Tesla account at dashcam.tesla.com: your browser"));
         QVERIFY(HelpArticle(HelpArticle::readOnlyPromise).paragraphs()[0].endsWith(
             "the Vault folder you choose on your computer (or another drive you pick)."));
-        QCOMPARE(HelpArticle(HelpArticle::keyboardShortcuts).listLines().size(), 10);
+        QCOMPARE(HelpArticle(HelpArticle::keyboardShortcuts).listLines().size(), 11);
         QVERIFY(HelpArticle(HelpArticle::sentryMode).listLines().isEmpty());
         QVERIFY(!HelpArticle::fromRawValue(u"nope"));
     }

@@ -9,10 +9,11 @@ RowLayout {
     property var presenter: null
     property var texts: ({})
     property bool focusMode: false
+    property var drivingData: null
     // In a narrow pane the labels shorten, then give way to icons (their
     // tooltips still say everything), so nothing is cut off.
-    readonly property bool narrow: width < 560
-    readonly property bool veryNarrow: width < 400
+    readonly property bool narrow: width < 610
+    readonly property bool veryNarrow: width < 450
     signal exportRequested()
     signal focusModeToggled()
     spacing: 6
@@ -61,6 +62,22 @@ RowLayout {
         flat: true
         tip: bar.texts.exportTip
         onClicked: bar.exportRequested()
+    }
+    // Always in its place; it works for events whose clips carry the car's
+    // driving data.
+    ToolbarButton {
+        objectName: "drivingDataButton"
+        enabled: !!bar.drivingData && bar.drivingData.hasData
+        readonly property bool showing: enabled && bar.drivingData.showOverlay
+        Layout.preferredWidth: implicitContentWidth + leftPadding + rightPadding
+        display: AbstractButton.IconOnly
+        icon.source: bar.drivingData ? bar.drivingData.texts.toggleIcon : ""
+        // Lit while the readings show, without a pressed-in look.
+        icon.color: showing ? palette.highlight : palette.buttonText
+        flat: true
+        tip: !bar.drivingData ? "" : enabled ? bar.drivingData.texts.toggleTip : bar.drivingData.texts.noData
+        Accessible.name: bar.drivingData ? bar.drivingData.texts.toggle : ""
+        onClicked: bar.drivingData.showOverlay = !bar.drivingData.showOverlay
     }
     ToolbarButton {
         objectName: "focusModeButton"

@@ -16,7 +16,12 @@ Item {
         map.fitTo(eventMap.pins)
         fitted = true
     }
-    onVisibleChanged: tryFit()
+    onVisibleChanged: {
+        if (visible)
+            eventMap.showRoutes()
+        tryFit()
+    }
+    Component.onCompleted: if (visible) eventMap.showRoutes()
     Connections { target: eventMap; function onPinsChanged() { root.tryFit() } }
 
     EmptyStateView {
@@ -43,6 +48,7 @@ Item {
                 id: map
                 objectName: "tileMap"
                 anchors.fill: parent
+                routes: eventMap.routes
                 onWidthChanged: root.tryFit()
             }
 

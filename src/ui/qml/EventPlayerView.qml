@@ -36,6 +36,7 @@ Item {
             focusMode: view.stateObject.isFocusMode
             onExportRequested: view.showExportSheet = true
             onFocusModeToggled: view.stateObject.toggleFocusMode()
+            drivingData: playerPresenter.drivingData
         }
         PlayerMetadataBar {
             Layout.fillWidth: true
@@ -43,15 +44,49 @@ Item {
             texts: playerPresenter.texts
         }
         CameraGrid {
+            id: cameraGrid
             Layout.fillWidth: true
             Layout.fillHeight: true
             controller: view.controller
             texts: playerPresenter.texts
+
+            // Over the cameras, clear of the strip of small tiles: the
+            // readings at the left, the route at the right where there is
+            // room for both.
+            readonly property real overlayBottom: 10 + (mode === "focused" ? slotHeight + spacing : 0)
+            readonly property bool showsDrivingData: playerPresenter.drivingData.hasData
+                && playerPresenter.drivingData.showOverlay && (mode === "grid" || mode === "focused")
+            DrivingDataOverlay {
+                id: overlay
+                drivingData: playerPresenter.drivingData
+                visible: cameraGrid.showsDrivingData
+                anchors.left: parent.left
+                anchors.bottom: parent.bottom
+                anchors.leftMargin: 10
+                anchors.bottomMargin: cameraGrid.overlayBottom
+                scale: Math.min(1, (parent.width - 20) / Math.max(1, implicitWidth))
+                transformOrigin: Item.BottomLeft
+                width: implicitWidth
+                height: implicitHeight
+            }
+            RouteInset {
+                drivingData: playerPresenter.drivingData
+                visible: cameraGrid.showsDrivingData && playerPresenter.drivingData.hasRoute
+                         && parent.width >= overlay.implicitWidth + width + 30
+                         && parent.height - cameraGrid.overlayBottom >= height + 60
+                anchors.right: parent.right
+                anchors.bottom: parent.bottom
+                anchors.rightMargin: 10
+                anchors.bottomMargin: cameraGrid.overlayBottom
+                width: 180
+                height: 120
+            }
         }
         TimelineScrubber {
             Layout.fillWidth: true
             controller: view.controller
             texts: playerPresenter.texts
+            drivingData: playerPresenter.drivingData
         }
         PlayerTransportBar {
             Layout.fillWidth: true

@@ -9,6 +9,7 @@ ColumnLayout {
     id: scrubber
     property var controller: null
     property var texts: ({})
+    property var drivingData: null
     spacing: 0
     PlayerLayout { id: rules }
 
@@ -46,6 +47,35 @@ ColumnLayout {
             ToolTip.visible: markHover.hovered
             ToolTip.text: scrubber.controller && mark.visible ? rules.momentMarkTooltip(scrubber.controller.triggerOffset) : ""
         }
+    }
+    // Speed and braking over the whole event, lined up with the slider's
+    // thumb travel; a click jumps there like the slider.
+    SpeedStrip {
+        id: strip
+        objectName: "speedStrip"
+        Layout.fillWidth: true
+        Layout.preferredHeight: 14
+        visible: !!scrubber.drivingData && scrubber.drivingData.hasData
+        profile: scrubber.drivingData ? scrubber.drivingData.profile : undefined
+        duration: scrubber.controller ? Math.max(1.0, scrubber.controller.duration) : 1.0
+        inset: 12
+        speedColor: palette.highlight
+        trackColor: Qt.rgba(palette.text.r, palette.text.g, palette.text.b, 0.10)
+        Accessible.ignored: true
+        MouseArea {
+            id: stripArea
+            anchors.fill: parent
+            hoverEnabled: true
+            onClicked: (mouse) => {
+                if (!scrubber.controller || strip.width <= 2 * strip.inset)
+                    return
+                const f = Math.max(0, Math.min(1, (mouse.x - strip.inset) / (strip.width - 2 * strip.inset)))
+                scrubber.controller.seek(f * strip.duration)
+            }
+        }
+        ToolTip.visible: stripArea.containsMouse
+        ToolTip.delay: 800
+        ToolTip.text: scrubber.drivingData ? scrubber.drivingData.texts.stripTip : ""
     }
     RowLayout {
         Layout.fillWidth: true

@@ -1,0 +1,169 @@
+#include "PlayerDrivingData.h"
+
+#include "DrivingDataPreferences.h"
+#include "DrivingDataText.h"
+#include "SymbolIcons.h"
+#include "engine/EngineFacade.h"
+#include "playback/SyncPlayerController.h"
+#include "playback/TrackPlayer.h"
+
+#include <cmath>
+
+PlayerDrivingData::PlayerDrivingData(QObject *parent) : QObject(parent)
+{
+    auto *prefs = DrivingDataPreferences::shared();
+    connect(prefs, &DrivingDataPreferences::showOverlayChanged, this, &PlayerDrivingData::showOverlayChanged);
+    connect(prefs, &DrivingDataPreferences::useMilesChanged, this, &PlayerDrivingData::useMilesChanged);
+    connect(prefs, &DrivingDataPreferences::useMilesChanged, this, &PlayerDrivingData::recordChanged);
+}
+
+PlayerDrivingData::~PlayerDrivingData()
+{
+    if (pending_.isRunning())
+        pending_.cancel();
+}
+
+void PlayerDrivingData::load(EngineFacade *engine, const std::optional<TeslaEvent> &event)
+{
+    const quint64 generation = ++generation_;
+    if (pending_.isRunning())
+        pending_.cancel();
+    pending_ = {};
+    const bool had = telemetry_ != nullptr;
+    setCurrent(nullptr);
+    telemetry_.reset();
+    profile_ = {};
+    route_ = {};
+    loading_ = engine && event;
+    if (had)
+        Q_EMIT dataChanged();
+    if (!loading_) {
+        Q_EMIT loadFinished();
+        return;
+    }
+    pending_ = engine->loadTelemetry(*event, Camera::front);
+    // The strip's slices and the route are made on the thread that read the clips.
+    pending_
+        .then(QtFuture::Launch::Sync,
+              [id = event->id()](EventTelemetry telemetry) {
+                  auto shared = std::make_shared<const EventTelemetry>(std::move(telemetry));
+                  const double end = shared->pieces.empty() ? 0.0 : shared->pieces.back().timelineEnd();
+                  return Loaded{shared, TelemetryProfile::make(*shared, end, profileSlices),
+                                MapRoute::fromTelemetry(id, *shared)};
+              })
+        .then(this, [this, generation](QFuture<Loaded> done) {
+            if (generation != generation_)
+                return; // a newer event took over
+            loading_ = false;
+            // A drive that failed or a clip that couldn't be read leaves
+            // the event without data: no overlay, no message.
+            if (done.resultCount() > 0) {
+                Loaded loaded = done.takeResult();
+                if (loaded.telemetry->hasRecords()) {
+                    telemetry_ = std::move(loaded.telemetry);
+                    profile_ = std::move(loaded.profile);
+                    route_ = std::move(loaded.route);
+                    Q_EMIT dataChanged();
+                    refresh();
+                }
+            }
+            Q_EMIT loadFinished();
+        });
+}
+
+void PlayerDrivingData::follow(SyncPlayerController *controller)
+{
+    if (controller_ == controller)
+        return;
+    disconnect(tilesConnection_);
+    controller_ = controller;
+    if (controller)
+        tilesConnection_ = connect(controller, &SyncPlayerController::tilesChanged, this, &PlayerDrivingData::attachToPrimary);
+    attachToPrimary();
+}
+
+// The records are the front camera's: the overlay follows that camera's
+// frames. Without a front picture there is nothing to match them to.
+void PlayerDrivingData::attachToPrimary()
+{
+    TrackPlayer *front = nullptr;
+    if (controller_)
+        for (const auto &tile : controller_->tiles())
+            if (tile.camera == Camera::front && tile.player)
+                front = tile.player.get();
+    if (front != player_) {
+        disconnect(frameConnection_);
+        player_ = front;
+        if (front)
+            frameConnection_ = connect(front, &TrackPlayer::framePresented, this, &PlayerDrivingData::refresh);
+    }
+    refresh();
+}
+
+void PlayerDrivingData::refresh()
+{
+    const std::optional<double> shown = player_ ? player_->presentedTime() : std::nullopt;
+    setCurrent(telemetry_ && shown ? telemetry_->recordAt(*shown + lookupSlack) : nullptr);
+}
+
+void PlayerDrivingData::setCurrent(const TelemetryRecord *record)
+{
+    if (record == current_)
+        return;
+    current_ = record;
+    Q_EMIT recordChanged();
+}
+
+QVariantMap PlayerDrivingData::recordForQml() const
+{
+    if (!current_)
+        return {};
+    const TelemetryRecord &r = *current_;
+    const bool miles = useMiles();
+    const double pedal = DrivingDataText::pedalFraction(r.acceleratorPedal);
+    return {
+        {QStringLiteral("speed"), DrivingDataText::speed(r.speed, miles)},
+        {QStringLiteral("speedUnit"), DrivingDataText::speedUnit(miles)},
+        {QStringLiteral("gear"), DrivingDataText::gear(r.gear)},
+        {QStringLiteral("brake"), r.brakeApplied},
+        {QStringLiteral("pedal"), pedal},
+        {QStringLiteral("pedalText"), QString::number(qRound(pedal * 100)) + QStringLiteral(" %")},
+        {QStringLiteral("blinkerLeft"), r.blinkerLeft},
+        {QStringLiteral("blinkerRight"), r.blinkerRight},
+        {QStringLiteral("steeringAngle"), std::isfinite(r.steeringAngle) ? double(r.steeringAngle) : 0.0},
+        {QStringLiteral("steeringText"), DrivingDataText::steering(r.steeringAngle)},
+        {QStringLiteral("assistance"), DrivingDataText::assistance(r.autopilot)},
+        {QStringLiteral("assistanceColour"), DrivingDataText::assistanceColour(r.autopilot)},
+        {QStringLiteral("heading"), std::isfinite(r.heading) ? r.heading : 0.0},
+        {QStringLiteral("headingText"), DrivingDataText::heading(r.heading)},
+        {QStringLiteral("hasPosition"), r.hasPosition()},
+        {QStringLiteral("latitude"), r.latitude},
+        {QStringLiteral("longitude"), r.longitude},
+    };
+}
+
+QVariant PlayerDrivingData::profileForQml() const { return QVariant::fromValue(profile_); }
+
+bool PlayerDrivingData::showOverlay() const { return DrivingDataPreferences::shared()->showOverlay(); }
+void PlayerDrivingData::setShowOverlay(bool value) { DrivingDataPreferences::shared()->setShowOverlay(value); }
+bool PlayerDrivingData::useMiles() const { return DrivingDataPreferences::shared()->useMiles(); }
+void PlayerDrivingData::setUseMiles(bool value) { DrivingDataPreferences::shared()->setUseMiles(value); }
+
+QVariantMap PlayerDrivingData::texts()
+{
+    return {
+        {QStringLiteral("toggle"), QStringLiteral("Driving data")},
+        {QStringLiteral("toggleIcon"), SymbolIcons::iconUrl(QStringLiteral("gauge.with.needle"))},
+        {QStringLiteral("toggleTip"),
+         QStringLiteral("Show or hide the car's speed, pedals, steering and Autopilot state over the video. (T)")},
+        {QStringLiteral("noData"), QStringLiteral("This event's footage carries no driving data from the car.")},
+        {QStringLiteral("unitTip"), QStringLiteral("Click to switch between km/h and mph.")},
+        {QStringLiteral("brake"), QStringLiteral("BRAKE")},
+        {QStringLiteral("brakeTip"), QStringLiteral("Lit while the brake pedal is pressed.")},
+        {QStringLiteral("pedalTip"), QStringLiteral("How far the accelerator pedal is pressed.")},
+        {QStringLiteral("steeringTip"), QStringLiteral("Steering wheel angle.")},
+        {QStringLiteral("headingTip"), QStringLiteral("Direction of travel.")},
+        {QStringLiteral("stripTip"),
+         QStringLiteral("The car's speed over the event; red marks hard braking. Click to jump there.")},
+    };
+}

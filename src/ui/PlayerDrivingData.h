@@ -1,0 +1,108 @@
+#pragma once
+
+#include "MapRoute.h"
+#include "model/EventTelemetry.h"
+#include "model/TeslaEvent.h"
+#include "playback/TelemetryProfile.h"
+
+#include <QFuture>
+#include <QObject>
+#include <QPointer>
+#include <QVariantMap>
+
+#include <memory>
+#include <optional>
+
+class EngineFacade;
+class SyncPlayerController;
+class TrackPlayer;
+
+// The car's driving data for the event in the player: read once per event
+// off the window's thread, then the record of the front camera's frame on
+// screen, looked up each time that camera presents a frame, so the overlay
+// never runs ahead of or behind the picture (play, seek, frame step, any
+// rate). An event without records has no data and says nothing.
+class PlayerDrivingData : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(bool hasData READ hasData NOTIFY dataChanged)
+    Q_PROPERTY(bool hasRecord READ hasRecord NOTIFY recordChanged)
+    // {speed, speedUnit, gear, brake, pedal (0–1), pedalText, blinkerLeft,
+    //  blinkerRight, steeringAngle, steeringText, assistance, headingText,
+    //  heading, latitude, longitude, hasPosition}; empty without a record.
+    Q_PROPERTY(QVariantMap record READ recordForQml NOTIFY recordChanged)
+    // The strip under the scrubber; a TelemetryProfile::Profile.
+    Q_PROPERTY(QVariant profile READ profileForQml NOTIFY dataChanged)
+    // The event's GPS route, as MapRoutes of one, for the small map.
+    Q_PROPERTY(QVariant route READ routeForQml NOTIFY dataChanged)
+    Q_PROPERTY(bool hasRoute READ hasRoute NOTIFY dataChanged)
+    Q_PROPERTY(bool showOverlay READ showOverlay WRITE setShowOverlay NOTIFY showOverlayChanged)
+    Q_PROPERTY(bool useMiles READ useMiles WRITE setUseMiles NOTIFY useMilesChanged)
+    Q_PROPERTY(QVariantMap texts READ texts CONSTANT)
+
+public:
+    // Records are looked up a hair after the presented time: the player's
+    // times and the reader's may differ in the last bits.
+    static constexpr double lookupSlack = 1e-3;
+
+    explicit PlayerDrivingData(QObject *parent = nullptr);
+    ~PlayerDrivingData() override;
+
+    // A new event (or none): any load still running is dropped, and its
+    // result, should it come, is ignored.
+    void load(EngineFacade *engine, const std::optional<TeslaEvent> &event);
+    // The controller whose front camera the overlay follows.
+    void follow(SyncPlayerController *controller);
+
+    bool hasData() const { return telemetry_ && telemetry_->hasRecords(); }
+    bool isLoading() const { return loading_; }
+    std::shared_ptr<const EventTelemetry> telemetry() const { return telemetry_; }
+    const TelemetryProfile::Profile &profile() const { return profile_; }
+    // The record of the frame on screen; null when it carries none.
+    const TelemetryRecord *currentRecord() const { return current_; }
+    bool hasRecord() const { return current_ != nullptr; }
+    QVariantMap recordForQml() const;
+    QVariant profileForQml() const;
+    const MapRoute &route() const { return route_; }
+    bool hasRoute() const { return route_.points.size() > 1; }
+    QVariant routeForQml() const { return QVariant::fromValue(MapRoutes{route_}); }
+
+    bool showOverlay() const;
+    void setShowOverlay(bool value);
+    bool useMiles() const;
+    void setUseMiles(bool value);
+    static QVariantMap texts();
+
+    // The number of slices of the strip.
+    static constexpr int profileSlices = 600;
+
+Q_SIGNALS:
+    void dataChanged();
+    void recordChanged();
+    void showOverlayChanged();
+    void useMilesChanged();
+    // A load ended, with data or without (for tests and the map).
+    void loadFinished();
+
+private:
+    struct Loaded {
+        std::shared_ptr<const EventTelemetry> telemetry;
+        TelemetryProfile::Profile profile;
+        MapRoute route;
+    };
+
+    void attachToPrimary();
+    void refresh();
+    void setCurrent(const TelemetryRecord *record);
+
+    quint64 generation_ = 0;
+    QFuture<EventTelemetry> pending_;
+    bool loading_ = false;
+    std::shared_ptr<const EventTelemetry> telemetry_;
+    TelemetryProfile::Profile profile_;
+    MapRoute route_;
+    const TelemetryRecord *current_ = nullptr;
+    QPointer<SyncPlayerController> controller_;
+    QPointer<TrackPlayer> player_;
+    QMetaObject::Connection tilesConnection_;
+    QMetaObject::Connection frameConnection_;
+};
