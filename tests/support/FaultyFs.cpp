@@ -1,4 +1,6 @@
-#define FUSE_USE_VERSION 35
+// The 3.12 interface: older ones read the loop's configuration in an older
+// layout, which leaves no idle worker once a few requests are held.
+#define FUSE_USE_VERSION 312
 #include "support/FaultyFs.h"
 
 #include <QDir>
@@ -278,7 +280,9 @@ FaultyFs::FaultyFs(const QString &mountPoint) : state_(std::make_unique<State>()
     // rest of the drive still answers.
     state_->loop = std::thread([h = state_->handle] {
         fuse_loop_config *config = fuse_loop_cfg_create();
-        fuse_loop_cfg_set_max_threads(config, 32);
+        fuse_loop_cfg_set_max_threads(config, 64);
+        // Idle workers stay, so one is always reading while others hold.
+        fuse_loop_cfg_set_idle_threads(config, 16);
         fuse_loop_mt(h, config);
         fuse_loop_cfg_destroy(config);
     });
