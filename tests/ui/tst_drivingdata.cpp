@@ -264,12 +264,16 @@ private Q_SLOTS:
             if (profile.slices[i].hardBraking && sliceTime(i) > 1.9 && sliceTime(i) < 2.1)
                 middle = i;
         QVERIFY(middle > 0);
-        QTest::qWait(100); // let the scene graph draw the strip
-        const QImage shot = app_->window()->grabWindow();
         const QRectF r = strip->sliceRect(int(middle));
         const QPoint p = strip->mapToScene(QPointF(r.center().x(), strip->height() / 2)).toPoint();
-        const QColor seen = shot.pixelColor(p * shot.devicePixelRatio());
-        QVERIFY2(seen.red() > 180 && seen.green() < 90 && seen.blue() < 90, qPrintable(seen.name()));
+        QColor seen;
+        // Until the scene graph has drawn the strip's new slices.
+        QTRY_VERIFY2(([&] {
+                         const QImage shot = app_->window()->grabWindow();
+                         seen = shot.pixelColor(p * shot.devicePixelRatio());
+                         return seen.red() > 180 && seen.green() < 90 && seen.blue() < 90;
+                     }()),
+                     qPrintable(seen.name()));
     }
 
     void eventWithoutRecordsShowsNothing()
