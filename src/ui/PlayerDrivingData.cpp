@@ -76,9 +76,13 @@ void PlayerDrivingData::follow(SyncPlayerController *controller)
     if (controller_ == controller)
         return;
     disconnect(tilesConnection_);
+    disconnect(timeConnection_);
     controller_ = controller;
-    if (controller)
+    if (controller) {
         tilesConnection_ = connect(controller, &SyncPlayerController::tilesChanged, this, &PlayerDrivingData::attachToPrimary);
+        // Past the front camera's footage no frame comes to say so.
+        timeConnection_ = connect(controller, &SyncPlayerController::currentTimeChanged, this, &PlayerDrivingData::refresh);
+    }
     attachToPrimary();
 }
 
@@ -102,7 +106,13 @@ void PlayerDrivingData::attachToPrimary()
 
 void PlayerDrivingData::refresh()
 {
-    const std::optional<double> shown = player_ ? player_->presentedTime() : std::nullopt;
+    std::optional<double> shown = player_ ? player_->presentedTime() : std::nullopt;
+    // A front picture left standing where its footage ended or paused for a
+    // gap is not the car's state now; a seek's key frame still is its own.
+    // The event's clock goes on where the front camera's track ends.
+    const double now = std::max(player_ ? player_->currentSeconds() : 0.0, controller_ ? controller_->currentTime() : 0.0);
+    if (shown && !player_->isSeeking() && now - *shown > staleAfter)
+        shown.reset();
     setCurrent(telemetry_ && shown ? telemetry_->recordAt(*shown + lookupSlack) : nullptr);
 }
 

@@ -43,6 +43,8 @@ public:
     // Records are looked up a hair after the presented time: the player's
     // times and the reader's may differ in the last bits.
     static constexpr double lookupSlack = 1e-3;
+    // How far the clock may run ahead of the front picture before its record is stale.
+    static constexpr double staleAfter = 0.5;
 
     explicit PlayerDrivingData(QObject *parent = nullptr);
     ~PlayerDrivingData() override;
@@ -104,5 +106,6 @@ private:
     QPointer<SyncPlayerController> controller_;
     QPointer<TrackPlayer> player_;
     QMetaObject::Connection tilesConnection_;
+    QMetaObject::Connection timeConnection_;
     QMetaObject::Connection frameConnection_;
 };

@@ -31,6 +31,7 @@ namespace {
 constexpr quint64 firstSequence = 1000;
 const QString withRecords = QStringLiteral("saved|2024-06-02_08-59-02");
 const QString withoutRecords = QStringLiteral("saved|2024-06-03_08-59-02");
+const QString frontEndsEarly = QStringLiteral("saved|2024-06-04_08-59-02"); // the rear camera goes on 2 s longer
 
 // Frame n of the front clip: a sequence number that names the frame, 20 m/s
 // until 1.5 s, then a hard stop (8 m/s²) with the brake on to 12 m/s at 2.5 s.
@@ -138,15 +139,18 @@ private Q_SLOTS:
         TestClips::padTo(front);
         const QString back = padded(PlaybackClips::frameClip(1, 0), QStringLiteral("back.mp4"));
         const QString plainFront = padded(PlaybackClips::frameClip(0, 1), QStringLiteral("plain-front.mp4"));
+        const QString longBack =
+            padded(PlaybackClips::frameClip(1, 2, PlaybackClips::clipSeconds + 2), QStringLiteral("long-back.mp4"));
         TeslaCamFixture drive(dir_.filePath(QStringLiteral("TeslaCam")));
-        for (const auto &[day, frontClip] : {std::pair{QStringLiteral("02"), front},
-                                             std::pair{QStringLiteral("03"), plainFront}}) {
+        for (const auto &[day, frontClip, backClip] : {std::tuple{QStringLiteral("02"), front, back},
+                                                       std::tuple{QStringLiteral("03"), plainFront, back},
+                                                       std::tuple{QStringLiteral("04"), front, longBack}}) {
             const QString folder = drive.addEvent(
                 QStringLiteral("SavedClips"), QStringLiteral("2024-06-%1_08-59-02").arg(day),
                 TeslaCamFixture::eventJson(QStringLiteral("2024-06-%1T08:59:02").arg(day),
                                            QStringLiteral("user_interaction_honk")));
             drive.addClip(folder, QStringLiteral("2024-06-%1_08-59-00").arg(day), QStringLiteral("front"), 0, frontClip);
-            drive.addClip(folder, QStringLiteral("2024-06-%1_08-59-00").arg(day), QStringLiteral("back"), 0, back);
+            drive.addClip(folder, QStringLiteral("2024-06-%1_08-59-00").arg(day), QStringLiteral("back"), 0, backClip);
         }
         app_ = std::make_unique<AppWindowHarness>();
         QVERIFY(app_->load());
@@ -156,7 +160,7 @@ private Q_SLOTS:
         state().beginScan(drive.root());
         // Probed, so that opening an event twice opens the same clips.
         auto probed = [&] {
-            if (!state().driveScan() || state().driveScan()->events.size() != 2 || state().isScanning())
+            if (!state().driveScan() || state().driveScan()->events.size() != 3 || state().isScanning())
                 return false;
             for (const TeslaEvent &e : state().driveScan()->events)
                 for (const ClipRef &c : e.clips)
@@ -226,6 +230,24 @@ private Q_SLOTS:
             QVERIFY2(mismatches.isEmpty(), qPrintable(mismatches.join(QStringLiteral("; "))));
         }
         controller()->setRate(1.0f);
+    }
+
+    // Where the front camera's footage has ended, its last picture may stand,
+    // but the car's state of that moment is not the state now.
+    void overlayEndsWithTheFrontCamerasFootage()
+    {
+        open(frontEndsEarly);
+        QTRY_VERIFY_WITH_TIMEOUT(drivingData()->hasData(), 20000);
+        controller()->seek(1.0);
+        waitForExactFrame();
+        verifyOverlayMatchesPicture();
+        controller()->seek(PlaybackClips::clipSeconds + 1.5);
+        QTRY_VERIFY_WITH_TIMEOUT(!drivingData()->currentRecord(), 10000);
+        QTRY_COMPARE(item(QStringLiteral("speedValue"))->property("text").toString(), QStringLiteral("–"));
+        // Back into the front footage, the overlay returns with its frame.
+        controller()->seek(2.0);
+        waitForExactFrame();
+        verifyOverlayMatchesPicture();
     }
 
     // The strip's slices come from the event's records: top speed, braking,
