@@ -1,5 +1,6 @@
 #include "MapViewModel.h"
 
+#include "DrivingDataText.h"
 #include "EventMapPresenter.h"
 #include "EventRoutes.h"
 #include "InboxPresenter.h"
@@ -51,6 +52,20 @@ void MapViewModel::requestRoutes()
 }
 
 QVariant MapViewModel::routesForQml() const { return QVariant::fromValue(routes_->routes()); }
+
+bool MapViewModel::hasRoutes() const { return !routes_->routes().empty(); }
+
+QVariantList MapViewModel::routeKey()
+{
+    using State = TelemetryRecord::AutopilotState;
+    QVariantList key;
+    for (State state : {State::none, State::autosteer, State::trafficAwareCruise, State::selfDriving}) {
+        const QString name = DrivingDataText::assistance(state);
+        key.append(QVariantMap{{QStringLiteral("label"), name.isEmpty() ? QStringLiteral("Driving yourself") : name},
+                               {QStringLiteral("colour"), DrivingDataText::assistanceColour(state)}});
+    }
+    return key;
+}
 
 bool MapViewModel::isEmpty() const
 {

@@ -26,6 +26,9 @@ class MapViewModel : public QObject {
     Q_PROPERTY(QVariantMap texts READ texts CONSTANT)
     // MapRoutes for the TileMap; read once the map is first shown.
     Q_PROPERTY(QVariant routes READ routesForQml NOTIFY changed)
+    Q_PROPERTY(bool hasRoutes READ hasRoutes NOTIFY changed)
+    // What the routes' colours mean: [{label, colour}].
+    Q_PROPERTY(QVariantList routeKey READ routeKey CONSTANT)
 public:
     explicit MapViewModel(AppState *state, QObject *parent = nullptr);
 
@@ -45,6 +48,8 @@ public:
     // someone looks.
     Q_INVOKABLE void showRoutes();
     QVariant routesForQml() const;
+    bool hasRoutes() const;
+    static QVariantList routeKey();
     EventRoutes *eventRoutes() const { return routes_; }
 
     static QVariantList pinsFor(const std::vector<TeslaEvent> &events);

@@ -9,12 +9,18 @@ Item {
     id: root
     objectName: "eventMapView"
     property bool fitted: false
+    // Once the user has moved the map, arriving routes leave it where it is.
+    property bool userMoved: false
 
     function tryFit() {
         if (fitted || !visible || map.width <= 0 || eventMap.pins.length === 0)
             return
         map.fitTo(eventMap.pins)
         fitted = true
+    }
+    function refitForRoutes() {
+        if (fitted && !userMoved && visible && map.width > 0 && eventMap.pins.length > 0)
+            map.fitTo(eventMap.pins)
     }
     onVisibleChanged: {
         if (visible)
@@ -50,13 +56,14 @@ Item {
                 anchors.fill: parent
                 routes: eventMap.routes
                 onWidthChanged: root.tryFit()
+                onRoutesChanged: root.refitForRoutes()
             }
 
             DragHandler {
                 id: drag
                 target: null
                 property point last: Qt.point(0, 0)
-                onActiveChanged: last = Qt.point(0, 0)
+                onActiveChanged: { last = Qt.point(0, 0); if (active) root.userMoved = true }
                 onTranslationChanged: {
                     map.pan(translation.x - last.x, translation.y - last.y)
                     last = Qt.point(translation.x, translation.y)
@@ -64,12 +71,12 @@ Item {
             }
             WheelHandler {
                 target: null
-                onWheel: (event) => map.zoomAround(Math.pow(2, event.angleDelta.y / 240), event.x, event.y)
+                onWheel: (event) => { root.userMoved = true; map.zoomAround(Math.pow(2, event.angleDelta.y / 240), event.x, event.y) }
             }
             PinchHandler {
                 target: null
                 property real lastScale: 1
-                onActiveChanged: lastScale = 1
+                onActiveChanged: { lastScale = 1; if (active) root.userMoved = true }
                 onScaleChanged: {
                     map.zoomAround(scale / lastScale, centroid.position.x, centroid.position.y)
                     lastScale = scale
@@ -133,6 +140,33 @@ Item {
                     spacing: 6
                     UrlIcon { source: eventMap.texts.noTilesIcon; size: 14 }
                     Label { objectName: "noTilesText"; text: eventMap.texts.noTiles; elide: Text.ElideRight; Layout.fillWidth: true }
+                }
+            }
+
+            // What the routes' colours mean.
+            Rectangle {
+                objectName: "routeKey"
+                visible: eventMap.hasRoutes
+                anchors.left: parent.left
+                anchors.bottom: parent.bottom
+                anchors.margins: 10
+                width: keyRow.implicitWidth + 16
+                height: keyRow.implicitHeight + 10
+                radius: 6
+                color: Qt.rgba(1, 1, 1, 0.88)
+                border.color: Qt.rgba(0, 0, 0, 0.15)
+                RowLayout {
+                    id: keyRow
+                    anchors.centerIn: parent
+                    spacing: 12
+                    Repeater {
+                        model: eventMap.routeKey
+                        delegate: RowLayout {
+                            spacing: 5
+                            Rectangle { width: 16; height: 4; radius: 2; color: modelData.colour }
+                            Label { text: modelData.label; font.pixelSize: 11; color: "#222" }
+                        }
+                    }
                 }
             }
 
