@@ -101,8 +101,17 @@ class PlayerScreenTest : public QObject {
     {
         QQuickItem *item = findItem(window_->contentItem(), objectName);
         QVERIFY2(item, qPrintable(objectName));
-        const QPointF centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
-        QTest::mouseClick(window_, Qt::LeftButton, Qt::NoModifier, centre.toPoint());
+        // A sheet that grows re-centres at its next frame: click where the
+        // item stands still.
+        const auto centreOf = [item] { return item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint(); };
+        QPoint centre = centreOf();
+        for (int frame = 0; frame < 100; ++frame) {
+            QVERIFY(AppWindowHarness::waitForFrame(window_));
+            if (centreOf() == centre)
+                break;
+            centre = centreOf();
+        }
+        QTest::mouseClick(window_, Qt::LeftButton, Qt::NoModifier, centre);
     }
 
     // Opens a combo box's list and picks the entry of that name.
@@ -125,11 +134,13 @@ class PlayerScreenTest : public QObject {
         QTest::keyClick(window_, Qt::Key_Return);
     }
 
-    // The flow of the export sheet now open.
+    // The flow of the export sheet now open: its presenter's newest.
     ExportFlow *sheetFlow() const
     {
-        auto *sheet = window_->contentItem()->findChild<QObject *>(QStringLiteral("exportSheet"));
-        return sheet ? qobject_cast<ExportFlow *>(sheet->property("flow").value<QObject *>()) : nullptr;
+        QQuickItem *view = findItem(window_->contentItem(), QStringLiteral("eventPlayerView"));
+        auto *presenter = view ? view->property("presenter").value<QObject *>() : nullptr;
+        const auto flows = presenter ? presenter->findChildren<ExportFlow *>() : QList<ExportFlow *>();
+        return flows.isEmpty() ? nullptr : flows.last();
     }
 
     // The whole sheet lies within the window, from its title to its buttons.
@@ -503,6 +514,8 @@ private Q_SLOTS:
             QCOMPARE(combined->stateName(), QStringLiteral("exporting"));
             // Under way: frames done, the speed and the time left are known.
             QTRY_VERIFY_WITH_TIMEOUT(combined->progressText().contains(QStringLiteral("left")), 60000);
+            // A tenth of three minutes of six cameras: far from its end.
+            QTRY_VERIFY_WITH_TIMEOUT(combined->progress() >= 0.1, 120000);
             QQuickItem *line = findItem(window_->contentItem(), QStringLiteral("exportProgressText"));
             QVERIFY(line);
             QTRY_COMPARE(line->property("text").toString(), combined->progressText());
@@ -522,7 +535,7 @@ private Q_SLOTS:
         }
 
         // The hint bar's close button hides it and remembers that.
-        QVERIFY(findItem(window_->contentItem(), QStringLiteral("keyboardHintBar")));
+        QTRY_VERIFY(findItem(window_->contentItem(), QStringLiteral("keyboardHintBar")));
         click(QStringLiteral("hideHintsButton"));
         QTRY_VERIFY(!findItem(window_->contentItem(), QStringLiteral("keyboardHintBar")));
         QCOMPARE(QSettings().value(QStringLiteral("KHShowKeyboardHints")).toBool(), false);
@@ -635,6 +648,8 @@ private Q_SLOTS:
         QTRY_COMPARE(flow->customEnd(), 24.0);
         QCOMPARE(flow->customStart(), 20.0);
         QTRY_VERIFY(!findItem(window_->contentItem(), QStringLiteral("exportRangeProblem")));
+        QString why;
+        QVERIFY2(sheetFits(&why), qPrintable(why));
 
         click(QStringLiteral("startExportButton"));
         QTRY_COMPARE_WITH_TIMEOUT(flow->stateName(), QStringLiteral("ready"), 120000);

@@ -53,6 +53,7 @@ Popup {
                 columnSpacing: 12
                 rowSpacing: 6
                 enabled: sheet.stage === "choosing"
+                opacity: enabled ? 1 : 0.6
 
                 Label { text: sheet.texts.layoutLabel || "" }
                 ComboBox {
@@ -117,12 +118,11 @@ Popup {
                     CheckBox {
                         id: drivingDataBox
                         objectName: "exportShowDrivingData"
-                        text: sheet.texts.overlayDrivingData || ""
                         enabled: sheet.flow !== null && sheet.flow.drivingDataOffered
+                        text: enabled ? sheet.texts.overlayDrivingData || "" : sheet.texts.noDrivingData || ""
+                        opacity: enabled ? 1 : 0.5
                         checked: sheet.flow !== null && sheet.flow.showDrivingData
                         onToggled: sheet.flow.showDrivingData = checked
-                        ToolTip.visible: hovered && !enabled
-                        ToolTip.text: sheet.texts.noDrivingDataTip || ""
                     }
                 }
 
