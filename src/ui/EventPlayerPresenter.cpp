@@ -262,5 +262,11 @@ ExportFlow *EventPlayerPresenter::newExportFlow()
     }
     exportFlow_ = new ExportFlow(appState_->engine(), *event_, this);
     exportFlow_->setDriveRoot(appState_->driveRootURL());
+    // The player's timeline, once its tiles have told how long it is.
+    if (controller_ && !controller_->isLoadingTiles() && !controller_->tiles().empty())
+        exportFlow_->setTimelineLength(controller_->duration());
+    exportFlow_->setDrivingData(drivingData_->isLoading() ? ExportFlow::DrivingData::unknown
+                                : drivingData_->hasData() ? ExportFlow::DrivingData::present
+                                                          : ExportFlow::DrivingData::absent);
     return exportFlow_;
 }

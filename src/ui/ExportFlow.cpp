@@ -3,6 +3,7 @@
 #include "FileChooser.h"
 
 #include "engine/AsyncRun.h"
+#include "export/CombinedExport.h"
 #include "export/Exporter.h"
 #include "model/CancellationError.h"
 #include "model/PlatformWords.h"
@@ -13,12 +14,14 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLocale>
 #include <QPointer>
 #include <QStandardPaths>
 #include <QUrl>
 #include <QUuid>
 #include <QVariantMap>
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 
 ExportFlow::ExportFlow(EngineFacade &engine, const TeslaEvent &event, QObject *parent)
@@ -28,6 +31,7 @@ ExportFlow::ExportFlow(EngineFacade &engine, const TeslaEvent &event, QObject *p
               [](Camera a, Camera b) { return a.gridOrder() < b.gridOrder(); });
     if (!cameras_.empty())
         selectedCamera_ = cameras_.front();
+    overlay_.telemetry = true; // shown wherever the clips carry it
 }
 
 ExportFlow::~ExportFlow()
@@ -53,6 +57,216 @@ QString ExportFlow::stateName() const
     case State::ready: return QStringLiteral("ready");
     }
     return {};
+}
+
+bool ExportFlow::canExport() const
+{
+    if (isExporting_ || (needsCamera() && !selectedCamera_))
+        return false;
+    return !isCombined() || rangeProblem().isEmpty();
+}
+
+void ExportFlow::setTimelineLength(std::optional<double> seconds)
+{
+    if (seconds && !(*seconds > 0))
+        seconds.reset();
+    timelineLength_ = seconds;
+    // The custom part starts out as the moment's, else the whole timeline.
+    const auto start = momentRange().value_or(std::make_pair(0.0, timelineLength_.value_or(0.0)));
+    customStart_ = start.first;
+    customEnd_ = start.second;
+    if ((range_ == Range::moment && !momentOffered()) || (range_ == Range::custom && !customOffered()))
+        range_ = Range::whole;
+    Q_EMIT changed();
+}
+
+void ExportFlow::setDrivingData(DrivingData data)
+{
+    drivingData_ = data;
+    Q_EMIT changed();
+}
+
+void ExportFlow::setLayout(std::optional<CombinedExportOptions::Layout> layout)
+{
+    if (isExporting_ || layout == layout_)
+        return;
+    layout_ = layout;
+    Q_EMIT changed();
+}
+
+QString ExportFlow::layoutWord() const
+{
+    return layout_ ? CombinedExportOptions::word(*layout_) : QStringLiteral("original");
+}
+
+void ExportFlow::setLayoutWord(const QString &word)
+{
+    if (word == u"original")
+        setLayout(std::nullopt);
+    else if (const auto layout = CombinedExportOptions::layoutFromWord(word))
+        setLayout(*layout);
+}
+
+QVariantList ExportFlow::layoutsForQml() const
+{
+    const QVariantMap t = texts();
+    QVariantList list;
+    for (const char *key : {"original", "grid", "front-sides", "single"})
+        list.append(QVariantMap{{QStringLiteral("value"), QString::fromLatin1(key)},
+                                {QStringLiteral("name"), t.value(QStringLiteral("layout_") + QString::fromLatin1(key))}});
+    return list;
+}
+
+void ExportFlow::setOverlayPart(bool CombinedExportOptions::Overlay::*part, bool on)
+{
+    if (isExporting_ || overlay_.*part == on)
+        return;
+    overlay_.*part = on;
+    Q_EMIT changed();
+}
+
+void ExportFlow::setSize(CombinedExportOptions::Size size)
+{
+    if (isExporting_ || size == size_)
+        return;
+    size_ = size;
+    Q_EMIT changed();
+}
+
+QString ExportFlow::sizeWord() const
+{
+    switch (size_) {
+    case CombinedExportOptions::Size::p720: return QStringLiteral("720");
+    case CombinedExportOptions::Size::p1080: return QStringLiteral("1080");
+    case CombinedExportOptions::Size::full: return QStringLiteral("full");
+    }
+    return {};
+}
+
+void ExportFlow::setSizeWord(const QString &word)
+{
+    if (const auto size = CombinedExportOptions::sizeFromWord(word))
+        setSize(*size);
+}
+
+void ExportFlow::setRange(Range range)
+{
+    if (isExporting_ || range == range_ || (range == Range::moment && !momentOffered())
+        || (range == Range::custom && !customOffered()))
+        return;
+    range_ = range;
+    Q_EMIT changed();
+}
+
+QString ExportFlow::rangeWord() const
+{
+    switch (range_) {
+    case Range::whole: return QStringLiteral("whole");
+    case Range::moment: return QStringLiteral("moment");
+    case Range::custom: return QStringLiteral("custom");
+    }
+    return {};
+}
+
+void ExportFlow::setRangeWord(const QString &word)
+{
+    if (word == u"whole")
+        setRange(Range::whole);
+    else if (word == u"moment")
+        setRange(Range::moment);
+    else if (word == u"custom")
+        setRange(Range::custom);
+}
+
+void ExportFlow::setCustomStart(double seconds)
+{
+    if (isExporting_ || !std::isfinite(seconds))
+        return;
+    seconds = std::clamp(seconds, 0.0, timelineLength_.value_or(0.0));
+    if (seconds == customStart_)
+        return;
+    customStart_ = seconds;
+    Q_EMIT changed();
+}
+
+void ExportFlow::setCustomEnd(double seconds)
+{
+    if (isExporting_ || !std::isfinite(seconds))
+        return;
+    seconds = std::clamp(seconds, 0.0, timelineLength_.value_or(0.0));
+    if (seconds == customEnd_)
+        return;
+    customEnd_ = seconds;
+    Q_EMIT changed();
+}
+
+QString ExportFlow::rangeProblem() const
+{
+    if (range_ == Range::custom && customEnd_ <= customStart_)
+        return texts().value(QStringLiteral("rangeBackwards")).toString();
+    return {};
+}
+
+std::optional<std::pair<double, double>> ExportFlow::momentRange() const
+{
+    return timelineLength_ ? CombinedExportOptions::momentRange(event_, *timelineLength_) : std::nullopt;
+}
+
+std::optional<std::pair<double, double>> ExportFlow::chosenRange() const
+{
+    switch (range_) {
+    case Range::whole: return std::nullopt;
+    case Range::moment: return momentRange();
+    case Range::custom: return std::make_pair(customStart_, customEnd_);
+    }
+    return std::nullopt;
+}
+
+CombinedExportOptions ExportFlow::combinedOptions() const
+{
+    CombinedExportOptions options;
+    options.layout = layout_.value_or(CombinedExportOptions::Layout::grid);
+    if (options.layout == CombinedExportOptions::Layout::single)
+        options.camera = selectedCamera_;
+    options.overlay = overlay_;
+    options.overlay.telemetry = showDrivingData();
+    options.size = size_;
+    options.range = chosenRange();
+    return options;
+}
+
+QString ExportFlow::timeLeftText(double seconds)
+{
+    if (seconds < 10)
+        return QStringLiteral("a few seconds left");
+    if (seconds < 55)
+        return QStringLiteral("about %1 seconds left").arg(int(std::lround(seconds / 10.0)) * 10);
+    if (seconds < 90)
+        return QStringLiteral("about a minute left");
+    if (seconds < 90 * 60)
+        return QStringLiteral("about %1 minutes left").arg(std::lround(seconds / 60.0));
+    return QStringLiteral("about %1 hours left").arg(QLocale().toString(seconds / 3600.0, 'f', 1));
+}
+
+QString ExportFlow::progressText() const
+{
+    if (!isExporting_ || !combinedProgress_)
+        return {};
+    const CombinedExportProgress &p = *combinedProgress_;
+    if (p.finishing || p.complete)
+        return texts().value(QStringLiteral("finishing")).toString();
+    const QLocale locale;
+    QStringList parts{QStringLiteral("%1 of %2 frames").arg(locale.toString(p.framesDone), locale.toString(p.framesTotal))};
+    // The movie's own seconds per second of work: its frames per second of
+    // footage follow from the part's length.
+    const double span = exportingRange_ ? exportingRange_->second - exportingRange_->first : timelineLength_.value_or(0.0);
+    if (p.framesPerSecond > 0 && span > 0 && p.framesTotal > 0) {
+        const double speed = p.framesPerSecond * span / double(p.framesTotal);
+        parts << QStringLiteral("%1× real time").arg(locale.toString(speed, 'f', speed < 10 ? 1 : 0));
+    }
+    if (p.secondsLeft)
+        parts << timeLeftText(*p.secondsLeft);
+    return parts.join(QStringLiteral(" · "));
 }
 
 void ExportFlow::setSelectedCamera(std::optional<Camera> camera)
@@ -125,7 +339,31 @@ QVariantMap ExportFlow::texts()
     return {{QStringLiteral("title"), title},
             {QStringLiteral("explanation"), explanation},
             {QStringLiteral("cameraLabel"), QStringLiteral("Camera")},
-            {QStringLiteral("note"), combinedNote},
+            {QStringLiteral("layoutLabel"), QStringLiteral("Video")},
+            {QStringLiteral("layout_original"), QStringLiteral("One camera (original quality)")},
+            {QStringLiteral("layout_grid"), QStringLiteral("Grid of every camera")},
+            {QStringLiteral("layout_front-sides"), QStringLiteral("Front and sides")},
+            {QStringLiteral("layout_single"), QStringLiteral("One camera with overlay")},
+            {QStringLiteral("overlayLabel"), QStringLiteral("Show")},
+            {QStringLiteral("overlayTime"), QStringLiteral("Date and time")},
+            {QStringLiteral("overlayNames"), QStringLiteral("Camera names")},
+            {QStringLiteral("overlayReason"), QStringLiteral("Reason and place")},
+            {QStringLiteral("overlayDrivingData"), QStringLiteral("Driving data")},
+            {QStringLiteral("noDrivingData"), QStringLiteral("No driving data in these clips")},
+            {QStringLiteral("sizeLabel"), QStringLiteral("Size")},
+            {QStringLiteral("size720"), QStringLiteral("720p")},
+            {QStringLiteral("size1080"), QStringLiteral("1080p")},
+            {QStringLiteral("sizeFull"), QStringLiteral("Full resolution")},
+            {QStringLiteral("rangeLabel"), QStringLiteral("Length")},
+            {QStringLiteral("rangeWhole"), QStringLiteral("Whole event")},
+            {QStringLiteral("rangeMoment"), QStringLiteral("From the moment")},
+            {QStringLiteral("rangeMomentTip"), QStringLiteral("From 10 seconds before the moment it happened to 20 seconds after.")},
+            {QStringLiteral("rangeCustom"), QStringLiteral("Custom")},
+            {QStringLiteral("rangeFrom"), QStringLiteral("From")},
+            {QStringLiteral("rangeTo"), QStringLiteral("to")},
+            {QStringLiteral("rangeUnit"), QStringLiteral("into the event")},
+            {QStringLiteral("rangeBackwards"), QStringLiteral("The end has to come after the start.")},
+            {QStringLiteral("finishing"), QStringLiteral("Finishing the file…")},
             {QStringLiteral("exporting"), QStringLiteral("Exporting…")},
             {QStringLiteral("saving"), QStringLiteral("Saving a copy…")},
             {QStringLiteral("cancel"), QStringLiteral("Cancel")},
@@ -144,12 +382,14 @@ QVariantMap ExportFlow::texts()
 
 void ExportFlow::startExport()
 {
-    if (!selectedCamera_ || isExporting_)
+    if (!canExport())
         return;
     const QString folder = QDir(QDir::tempPath()).filePath(QUuid::createUuid().toString(QUuid::WithoutBraces));
-    const QString output = QDir(folder).filePath(Exporter::suggestedFileName(event_, *selectedCamera_));
+    scratchFolder_ = folder;
     isExporting_ = true;
     sessionBegan_ = false;
+    stopRequested_ = false;
+    combinedProgress_.reset();
     errorMessage_.reset();
     Q_EMIT changed();
 
@@ -159,6 +399,9 @@ void ExportFlow::startExport()
         Q_EMIT changed();
         return;
     }
+    if (isCombined())
+        return startCombined(folder);
+    const QString output = QDir(folder).filePath(Exporter::suggestedFileName(event_, *selectedCamera_));
     QPointer<ExportFlow> self = this;
     auto progress = [self](double fraction) {
         QMetaObject::invokeMethod(
@@ -178,6 +421,34 @@ void ExportFlow::startExport()
     watcher_->setFuture(future);
 }
 
+void ExportFlow::startCombined(const QString &folder)
+{
+    const CombinedExportOptions options = combinedOptions();
+    exportingRange_ = options.range;
+    if (exportingRange_ && timelineLength_)
+        exportingRange_->second = std::min(exportingRange_->second, *timelineLength_);
+    const QString output = QDir(folder).filePath(CombinedExport::suggestedFileName(event_, options));
+    QPointer<ExportFlow> self = this;
+    auto progress = [self](const CombinedExportProgress &report) {
+        QMetaObject::invokeMethod(
+            qApp,
+            [self, report] {
+                if (!self || !self->isExporting_)
+                    return;
+                self->sessionBegan_ = true;
+                self->combinedProgress_ = report;
+                self->progress_ = report.fraction();
+                Q_EMIT self->changed();
+            },
+            Qt::QueuedConnection);
+    };
+    progress_ = 0;
+    watcher_ = std::make_unique<QFutureWatcher<void>>();
+    const QFuture<void> future = engine_.exportCombined(event_, options, output, progress);
+    connect(watcher_.get(), &QFutureWatcher<void>::finished, this, [this, future, output] { finish(future, output); });
+    watcher_->setFuture(future);
+}
+
 void ExportFlow::finish(const QFuture<void> &future, const QString &output)
 {
     isExporting_ = false;
@@ -187,21 +458,31 @@ void ExportFlow::finish(const QFuture<void> &future, const QString &output)
         QFuture<void>(future).waitForFinished();
         if (!future.isCanceled())
             exportedPath_ = output;
-        else if (sessionBegan_)
+        else if (sessionBegan_ && !(isCombined() && stopRequested_))
             errorMessage_ = failureMessage; // stopped while the session was writing
     } catch (const CancellationError &) {
         // Stopped before the session began: back to choosing, quietly.
     } catch (...) {
-        errorMessage_ = failureMessage;
+        // A new movie the user stopped is simply not made; the copy keeps
+        // its old word for a stop while writing.
+        if (!(isCombined() && stopRequested_))
+            errorMessage_ = failureMessage;
     }
+    // The scratch folder is ours alone; whatever a stopped or failed export
+    // left in it goes with it.
+    if (!exportedPath_ && !scratchFolder_.isEmpty())
+        QDir(scratchFolder_).removeRecursively();
+    combinedProgress_.reset();
     Q_EMIT changed();
     Q_EMIT exportFinished();
 }
 
 void ExportFlow::stop()
 {
-    if (watcher_ && isExporting_)
+    if (watcher_ && isExporting_) {
+        stopRequested_ = true;
         watcher_->future().cancel();
+    }
 }
 
 bool ExportFlow::saveTo(const QString &destination)

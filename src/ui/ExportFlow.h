@@ -1,6 +1,8 @@
 #pragma once
 
 #include "engine/EngineFacade.h"
+#include "export/CombinedExportOptions.h"
+#include "export/CombinedExportProgress.h"
 #include "model/Camera.h"
 #include "model/TeslaEvent.h"
 
@@ -12,7 +14,9 @@
 #include <memory>
 #include <optional>
 
-// The export dialog's flow: choose one camera, export it into a fresh
+// The export dialog's flow: choose one camera copied as it is, or a new movie
+// of the event (every camera in a grid, the front over the sides, or one
+// camera) with the chosen overlay, size and part; export it into a fresh
 // scratch folder, then hand the file on or save a copy. The look is QML's;
 // every decision and every text is here.
 class ExportFlow : public QObject {
@@ -32,16 +36,39 @@ class ExportFlow : public QObject {
     Q_PROPERTY(QString suggestedSaveFolder READ suggestedSaveFolder CONSTANT)
     Q_PROPERTY(QString exportedFileName READ exportedFileName NOTIFY changed)
     Q_PROPERTY(QVariantMap texts READ texts CONSTANT)
+    // "original" (the stream copy) or a combined layout's word: "grid",
+    // "front-sides", "single".
+    Q_PROPERTY(QString layout READ layoutWord WRITE setLayoutWord NOTIFY changed)
+    Q_PROPERTY(QVariantList layouts READ layoutsForQml CONSTANT)
+    Q_PROPERTY(bool isCombined READ isCombined NOTIFY changed)
+    Q_PROPERTY(bool needsCamera READ needsCamera NOTIFY changed)
+    Q_PROPERTY(bool showTime READ showTime WRITE setShowTime NOTIFY changed)
+    Q_PROPERTY(bool showNames READ showNames WRITE setShowNames NOTIFY changed)
+    Q_PROPERTY(bool showReason READ showReason WRITE setShowReason NOTIFY changed)
+    Q_PROPERTY(bool showDrivingData READ showDrivingData WRITE setShowDrivingData NOTIFY changed)
+    Q_PROPERTY(bool drivingDataOffered READ drivingDataOffered NOTIFY changed)
+    // "720", "1080", "full".
+    Q_PROPERTY(QString size READ sizeWord WRITE setSizeWord NOTIFY changed)
+    // "whole", "moment", "custom".
+    Q_PROPERTY(QString range READ rangeWord WRITE setRangeWord NOTIFY changed)
+    Q_PROPERTY(bool momentOffered READ momentOffered NOTIFY changed)
+    Q_PROPERTY(bool customOffered READ customOffered NOTIFY changed)
+    Q_PROPERTY(double customStart READ customStart WRITE setCustomStart NOTIFY changed)
+    Q_PROPERTY(double customEnd READ customEnd WRITE setCustomEnd NOTIFY changed)
+    Q_PROPERTY(double timelineLength READ timelineLengthForQml NOTIFY changed)
+    Q_PROPERTY(QString rangeProblem READ rangeProblem NOTIFY changed)
+    Q_PROPERTY(QString progressText READ progressText NOTIFY changed)
 
 public:
     enum class State { choosing, exporting, ready };
+    enum class Range { whole, moment, custom };
+    // Whether the event's clips carry the car's driving data.
+    enum class DrivingData { unknown, present, absent };
 
     static inline const QString title = QStringLiteral("Export & Share");
     static inline const QString explanation =
-        QStringLiteral("Save one camera's video from this moment as its own file, ready to send to an insurer, "
-                       "police, or anyone else who needs it.");
-    static inline const QString combinedNote =
-        QStringLiteral("Exporting all cameras together as one combined video is coming in a future update.");
+        QStringLiteral("Save this event as its own video file, ready to send to an insurer, police, or anyone "
+                       "else who needs it: one camera exactly as recorded, or every camera in one movie.");
     static inline const QString failureMessage =
         QStringLiteral("This couldn't be exported right now. Your original footage on the drive is untouched — "
                        "you can try again.");
@@ -57,7 +84,7 @@ public:
     std::vector<Camera> availableCameras() const { return cameras_; }
     std::optional<Camera> selectedCamera() const { return selectedCamera_; }
     void setSelectedCamera(std::optional<Camera> camera);
-    bool canExport() const { return selectedCamera_.has_value() && !isExporting_; }
+    bool canExport() const;
     bool isExporting() const { return isExporting_; }
     double progress() const { return progress_; }
     const std::optional<QString> &errorMessage() const { return errorMessage_; }
@@ -75,6 +102,46 @@ public:
 
     // The car's drive, where no copy may be saved.
     void setDriveRoot(const std::optional<QString> &root) { driveRoot_ = root; }
+    // The player's timeline in seconds; without it only the whole event
+    // can be chosen.
+    void setTimelineLength(std::optional<double> seconds);
+    // Still unknown, driving data is offered; the movie then shows it
+    // where there is some.
+    void setDrivingData(DrivingData data);
+
+    // The combined layout; nothing for the camera copied as it is.
+    std::optional<CombinedExportOptions::Layout> layout() const { return layout_; }
+    void setLayout(std::optional<CombinedExportOptions::Layout> layout);
+    bool isCombined() const { return layout_.has_value(); }
+    bool needsCamera() const { return !layout_ || *layout_ == CombinedExportOptions::Layout::single; }
+    bool showTime() const { return overlay_.time; }
+    void setShowTime(bool on) { setOverlayPart(&CombinedExportOptions::Overlay::time, on); }
+    bool showNames() const { return overlay_.names; }
+    void setShowNames(bool on) { setOverlayPart(&CombinedExportOptions::Overlay::names, on); }
+    bool showReason() const { return overlay_.reason; }
+    void setShowReason(bool on) { setOverlayPart(&CombinedExportOptions::Overlay::reason, on); }
+    bool showDrivingData() const { return overlay_.telemetry && drivingDataOffered(); }
+    void setShowDrivingData(bool on) { setOverlayPart(&CombinedExportOptions::Overlay::telemetry, on); }
+    bool drivingDataOffered() const { return drivingData_ != DrivingData::absent; }
+    CombinedExportOptions::Size size() const { return size_; }
+    void setSize(CombinedExportOptions::Size size);
+    Range range() const { return range_; }
+    void setRange(Range range);
+    bool momentOffered() const { return momentRange().has_value(); }
+    bool customOffered() const { return timelineLength_.has_value(); }
+    double customStart() const { return customStart_; }
+    void setCustomStart(double seconds);
+    double customEnd() const { return customEnd_; }
+    void setCustomEnd(double seconds);
+    // Why the custom part can't be exported; empty when it can.
+    QString rangeProblem() const;
+    // The new movie as chosen; meaningful while isCombined().
+    CombinedExportOptions combinedOptions() const;
+    // "1,240 of 3,600 frames · 1.8× real time · about 2 minutes left" while
+    // a combined movie is made; empty otherwise.
+    QString progressText() const;
+    // "about 2 minutes left" and the like.
+    static QString timeLeftText(double seconds);
 
     Q_INVOKABLE void startExport();
     Q_INVOKABLE void stop();
@@ -104,6 +171,18 @@ private:
     QString exportedPathForQml() const { return exportedPath_.value_or(QString()); }
     QString saveErrorMessageForQml() const { return saveErrorMessage_.value_or(QString()); }
     void finish(const QFuture<void> &future, const QString &output);
+    void startCombined(const QString &folder);
+    QString layoutWord() const;
+    void setLayoutWord(const QString &word);
+    QVariantList layoutsForQml() const;
+    QString sizeWord() const;
+    void setSizeWord(const QString &word);
+    QString rangeWord() const;
+    void setRangeWord(const QString &word);
+    double timelineLengthForQml() const { return timelineLength_.value_or(0.0); }
+    void setOverlayPart(bool CombinedExportOptions::Overlay::*part, bool on);
+    std::optional<std::pair<double, double>> momentRange() const;
+    std::optional<std::pair<double, double>> chosenRange() const;
 
     EngineFacade &engine_;
     TeslaEvent event_;
@@ -118,5 +197,17 @@ private:
     std::optional<QString> saveErrorMessage_;
     bool isSaving_ = false;
     std::optional<QString> driveRoot_;
+    std::optional<CombinedExportOptions::Layout> layout_;
+    CombinedExportOptions::Overlay overlay_;
+    CombinedExportOptions::Size size_ = CombinedExportOptions::Size::p1080;
+    Range range_ = Range::whole;
+    std::optional<double> timelineLength_;
+    double customStart_ = 0;
+    double customEnd_ = 0;
+    DrivingData drivingData_ = DrivingData::unknown;
+    std::optional<CombinedExportProgress> combinedProgress_;
+    std::optional<std::pair<double, double>> exportingRange_; // the combined movie's part being made
+    bool stopRequested_ = false;
+    QString scratchFolder_;
     std::unique_ptr<QFutureWatcher<void>> watcher_;
 };

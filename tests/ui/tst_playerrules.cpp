@@ -417,14 +417,103 @@ private Q_SLOTS:
                                        [](const TeslaEvent &e) { return e.folderName.startsWith("2026-02-04"); });
         QVERIFY(bad != events.end() && good != events.end());
 
+        // Scratch folders go where the system's temporary files go.
+        const QString scratch = dir.filePath(QStringLiteral("scratch"));
+        QVERIFY(QDir().mkpath(scratch));
+        const QByteArray oldTemp = qgetenv("TMPDIR");
+        qputenv("TMPDIR", QFile::encodeName(scratch));
+        const auto restore = qScopeGuard([&] {
+            if (oldTemp.isEmpty())
+                qunsetenv("TMPDIR");
+            else
+                qputenv("TMPDIR", oldTemp);
+        });
         ExportFlow failing(engine, *bad);
         failing.startExport();
         QTRY_VERIFY_WITH_TIMEOUT(!failing.isExporting(), 30000);
         QCOMPARE(failing.errorMessage(), std::optional<QString>(ExportFlow::failureMessage));
         QCOMPARE(failing.selectedCamera(), std::optional<Camera>(Camera::front)); // the choice survives
         QVERIFY(failing.canExport());
+        // A new movie of the same clips fails in the same plain words.
+        failing.setLayout(CombinedExportOptions::Layout::grid);
+        failing.startExport();
+        QVERIFY(failing.isExporting());
+        QTRY_VERIFY_WITH_TIMEOUT(!failing.isExporting(), 30000);
+        QCOMPARE(failing.errorMessage(), std::optional<QString>(ExportFlow::failureMessage));
+        QVERIFY(failing.isCombined() && failing.canExport());
+        // Neither failure leaves its scratch folder behind.
+        QCOMPARE(QDir(scratch).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden), QStringList());
 
         QCOMPARE(good->cameras().size(), size_t(2));
+    }
+
+    // What the sheet offers for a new movie follows what is known of the
+    // event: its moment and length, its driving data, its cameras.
+    void combinedChoicesFollowTheEvent()
+    {
+        TeslaEvent event;
+        event.kind = EventKind::saved;
+        event.folderName = QStringLiteral("2026-02-06_10-00-40");
+        event.timestamp = Date(800000030.0); // 30 s into the footage
+        event.missingEventJSON = false;
+        for (Camera camera : {Camera::back, Camera::front}) {
+            ClipRef clip;
+            clip.url = QStringLiteral("/nowhere/") + camera.rawValue() + QStringLiteral(".mp4");
+            clip.camera = camera;
+            clip.startDate = Date(800000000.0);
+            clip.health = ClipHealth::ok;
+            event.clips.push_back(clip);
+        }
+        MockEngine engine;
+        ExportFlow flow(engine, event);
+        QVERIFY(!flow.isCombined());
+        QVERIFY(flow.needsCamera());
+        // Before the player knows its length only the whole event is offered.
+        QVERIFY(!flow.momentOffered() && !flow.customOffered());
+        flow.setRange(ExportFlow::Range::moment);
+        QCOMPARE(flow.range(), ExportFlow::Range::whole);
+        flow.setTimelineLength(40.0);
+        QVERIFY(flow.momentOffered() && flow.customOffered());
+        // The custom part starts out as the moment's, clamped to the footage.
+        QCOMPARE(flow.customStart(), 20.0);
+        QCOMPARE(flow.customEnd(), 40.0);
+
+        flow.setProperty("layout", QStringLiteral("single"));
+        flow.setSelectedCamera(Camera::back);
+        flow.setRange(ExportFlow::Range::moment);
+        CombinedExportOptions options = flow.combinedOptions();
+        QCOMPARE(options.layout, CombinedExportOptions::Layout::single);
+        QCOMPARE(options.camera, std::optional<Camera>(Camera::back));
+        QCOMPARE(options.range, (std::optional<std::pair<double, double>>({20.0, 40.0})));
+        QVERIFY(options.overlay.telemetry); // offered while still unknown
+
+        flow.setProperty("layout", QStringLiteral("front-sides"));
+        QVERIFY(!flow.needsCamera());
+        flow.setRange(ExportFlow::Range::custom);
+        flow.setCustomStart(-5);
+        flow.setCustomEnd(99);
+        options = flow.combinedOptions();
+        QCOMPARE(options.layout, CombinedExportOptions::Layout::frontAndSides);
+        QVERIFY(!options.camera);
+        QCOMPARE(options.range, (std::optional<std::pair<double, double>>({0.0, 40.0})));
+        flow.setCustomStart(40);
+        QVERIFY(!flow.canExport());
+        QVERIFY(!flow.rangeProblem().isEmpty());
+        flow.setCustomStart(39);
+        QVERIFY(flow.canExport());
+
+        // Clips without driving data: the part is neither offered nor drawn.
+        flow.setDrivingData(ExportFlow::DrivingData::absent);
+        QVERIFY(!flow.drivingDataOffered());
+        QVERIFY(!flow.combinedOptions().overlay.telemetry);
+        flow.setShowTime(false);
+        flow.setShowNames(false);
+        QCOMPARE(flow.combinedOptions().overlay, (CombinedExportOptions::Overlay{false, false, true, false}));
+
+        // Back to the plain copy: a camera is needed, the range doesn't matter.
+        flow.setProperty("layout", QStringLiteral("original"));
+        flow.setCustomStart(40);
+        QVERIFY(flow.canExport());
     }
 
     // Stopped while the clips are still being prepared (the drive hangs on

@@ -101,8 +101,64 @@ class PlayerScreenTest : public QObject {
     {
         QQuickItem *item = findItem(window_->contentItem(), objectName);
         QVERIFY2(item, qPrintable(objectName));
-        const QPointF centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
-        QTest::mouseClick(window_, Qt::LeftButton, Qt::NoModifier, centre.toPoint());
+        // A sheet that grows re-centres at its next frame: click where the
+        // item stands still.
+        const auto centreOf = [item] { return item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint(); };
+        QPoint centre = centreOf();
+        for (int frame = 0; frame < 100; ++frame) {
+            QVERIFY(AppWindowHarness::waitForFrame(window_));
+            if (centreOf() == centre)
+                break;
+            centre = centreOf();
+        }
+        QTest::mouseClick(window_, Qt::LeftButton, Qt::NoModifier, centre);
+    }
+
+    // Opens a combo box's list and picks the entry of that name.
+    void choose(const QString &combo, const QString &entry)
+    {
+        click(combo);
+        QTRY_VERIFY2(findItem(window_->contentItem(), entry), qPrintable(entry));
+        click(entry);
+        QTRY_VERIFY2(!findItem(window_->contentItem(), entry), qPrintable(entry));
+    }
+
+    // Types into an editable field as a user would: all of it replaced,
+    // then Return.
+    void typeInto(const QString &objectName, const QString &text)
+    {
+        click(objectName);
+        QTest::keyClick(window_, Qt::Key_A, Qt::ControlModifier);
+        for (const QChar c : text)
+            QTest::keyClick(window_, c.toLatin1());
+        QTest::keyClick(window_, Qt::Key_Return);
+    }
+
+    // The flow of the export sheet now open: its presenter's newest.
+    ExportFlow *sheetFlow() const
+    {
+        QQuickItem *view = findItem(window_->contentItem(), QStringLiteral("eventPlayerView"));
+        auto *presenter = view ? view->property("presenter").value<QObject *>() : nullptr;
+        const auto flows = presenter ? presenter->findChildren<ExportFlow *>() : QList<ExportFlow *>();
+        return flows.isEmpty() ? nullptr : flows.last();
+    }
+
+    // The whole sheet lies within the window, from its title to its buttons.
+    bool sheetFits(QString *why) const
+    {
+        const QRectF window(0, 0, window_->width(), window_->height());
+        for (const char *name : {"exportPromise", "startExportButton", "exportFooterButton"}) {
+            QQuickItem *item = findItem(window_->contentItem(), QString::fromLatin1(name));
+            if (!item)
+                continue;
+            const QRectF area = item->mapRectToScene(QRectF(0, 0, item->width(), item->height()));
+            if (!window.contains(area)) {
+                *why = QStringLiteral("%1 at %2,%3 %4x%5").arg(QString::fromLatin1(name)).arg(area.x()).arg(area.y())
+                           .arg(area.width()).arg(area.height());
+                return false;
+            }
+        }
+        return true;
     }
 
     // settle: move the pointer off the player first, so that no tooltip
@@ -429,8 +485,57 @@ private Q_SLOTS:
         QTRY_VERIFY(!findItem(window_->contentItem(), QStringLiteral("saveToButton")));
         QVERIFY(QFileInfo::exists(*flow->exportedPath())); // left in the scratch folder
 
+        // A new movie of every camera, stopped once it is under way: back to
+        // choosing, quietly, and nothing of it left in the scratch folder.
+        {
+            QTemporaryDir scratch;
+            const QByteArray oldTemp = qgetenv("TMPDIR");
+            qputenv("TMPDIR", QFile::encodeName(scratch.path()));
+            const auto restore = qScopeGuard([&] {
+                if (oldTemp.isEmpty())
+                    qunsetenv("TMPDIR");
+                else
+                    qputenv("TMPDIR", oldTemp);
+            });
+            click(QStringLiteral("exportButton"));
+            QTRY_VERIFY(findItem(window_->contentItem(), QStringLiteral("startExportButton")));
+            ExportFlow *combined = sheetFlow();
+            QVERIFY(combined && combined != flow);
+            QVERIFY(!combined->isCombined()); // the plain copy stays the default
+            QVERIFY(!findItem(window_->contentItem(), QStringLiteral("exportShowTime")));
+            choose(QStringLiteral("exportLayoutChoice"), QStringLiteral("exportLayout_grid"));
+            QCOMPARE(combined->layout(), std::optional(CombinedExportOptions::Layout::grid));
+            QVERIFY(!findItem(window_->contentItem(), QStringLiteral("exportCameraChoice")));
+            QVERIFY(findItem(window_->contentItem(), QStringLiteral("exportShowTime")));
+            QString why;
+            QVERIFY2(sheetFits(&why), qPrintable(why));
+            saveShot(QStringLiteral("export-sheet-combined.png"));
+            click(QStringLiteral("startExportButton"));
+            QCOMPARE(combined->stateName(), QStringLiteral("exporting"));
+            // Under way: frames done, the speed and the time left are known.
+            QTRY_VERIFY_WITH_TIMEOUT(combined->progressText().contains(QStringLiteral("left")), 60000);
+            // A tenth of three minutes of six cameras: far from its end.
+            QTRY_VERIFY_WITH_TIMEOUT(combined->progress() >= 0.1, 120000);
+            QQuickItem *line = findItem(window_->contentItem(), QStringLiteral("exportProgressText"));
+            QVERIFY(line);
+            QTRY_COMPARE(line->property("text").toString(), combined->progressText());
+            QVERIFY2(QRegularExpression(QStringLiteral("^[0-9,]+ of [0-9,]+ frames · [0-9.]+× real time · .+ left$"))
+                         .match(combined->progressText()).hasMatch(),
+                     qPrintable(combined->progressText()));
+            QVERIFY2(sheetFits(&why), qPrintable(why));
+            saveShot(QStringLiteral("export-sheet-exporting.png"));
+            click(QStringLiteral("exportFooterButton")); // Stop
+            QTRY_COMPARE_WITH_TIMEOUT(combined->stateName(), QStringLiteral("choosing"), 20000);
+            QVERIFY(!combined->errorMessage());
+            QVERIFY(!combined->exportedPath());
+            QCOMPARE(QDir(scratch.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden),
+                     QStringList());
+            click(QStringLiteral("exportFooterButton")); // Cancel
+            QTRY_VERIFY(!findItem(window_->contentItem(), QStringLiteral("startExportButton")));
+        }
+
         // The hint bar's close button hides it and remembers that.
-        QVERIFY(findItem(window_->contentItem(), QStringLiteral("keyboardHintBar")));
+        QTRY_VERIFY(findItem(window_->contentItem(), QStringLiteral("keyboardHintBar")));
         click(QStringLiteral("hideHintsButton"));
         QTRY_VERIFY(!findItem(window_->contentItem(), QStringLiteral("keyboardHintBar")));
         QCOMPARE(QSettings().value(QStringLiteral("KHShowKeyboardHints")).toBool(), false);
@@ -491,6 +596,80 @@ private Q_SLOTS:
             QCOMPARE(state_->triageStateFor(event.id()), QStringLiteral("reviewed"));
         }
         first->setRate(1.0f);
+    }
+
+    // A new movie made from the sheet on generated clips: three cameras in
+    // a grid at 720p, four seconds typed in as the custom part; it ends
+    // ready to hand on, and plays as chosen.
+    void combinedMovieFromTheSheet()
+    {
+        QTemporaryDir drive;
+        TeslaCamFixture fx(drive.filePath(QStringLiteral("TeslaCam")));
+        TestClips::ClipOptions options;
+        options.seconds = 30;
+        options.fps = 10;
+        options.gop = 10;
+        const QString source = TestClips::clip(options);
+        const QString dir = fx.addEvent(QStringLiteral("SavedClips"), QStringLiteral("2026-03-05_10-00-15"),
+                                        TeslaCamFixture::eventJson(QStringLiteral("2026-03-05T10:00:15"),
+                                                                   QStringLiteral("user_interaction_honk")));
+        for (const char *camera : {"front", "back", "left_repeater"})
+            fx.addClip(dir, QStringLiteral("2026-03-05_10-00-00"), QString::fromLatin1(camera), 0, source);
+        state_->setSelectedSection(SidebarSection::drive);
+        state_->beginScan(fx.root());
+        QTRY_VERIFY_WITH_TIMEOUT(state_->driveScan() && state_->driveScan()->events.size() == 1 && !state_->isScanning()
+                                     && !state_->isRevalidatingScan(),
+                                 30000);
+        openEvent(state_->driveScan()->events.front().id());
+        QTRY_VERIFY_WITH_TIMEOUT(!controller()->isLoadingTiles(), 20000);
+        QVERIFY(std::abs(controller()->duration() - 30.0) < 0.5);
+
+        click(QStringLiteral("exportButton"));
+        QTRY_VERIFY(findItem(window_->contentItem(), QStringLiteral("startExportButton")));
+        ExportFlow *flow = sheetFlow();
+        QVERIFY(flow);
+        choose(QStringLiteral("exportLayoutChoice"), QStringLiteral("exportLayout_grid"));
+        click(QStringLiteral("exportSize_720"));
+        QCOMPARE(flow->size(), CombinedExportOptions::Size::p720);
+        click(QStringLiteral("exportShowReason"));
+        QVERIFY(!flow->showReason());
+        // The moment is 15 s in: the custom part starts out as its 5 to 30 s.
+        click(QStringLiteral("exportRange_custom"));
+        QCOMPARE(flow->range(), ExportFlow::Range::custom);
+        QCOMPARE(flow->customStart(), 5.0);
+        QCOMPARE(flow->customEnd(), 30.0);
+        // An end before the start is refused in words, and Export waits.
+        typeInto(QStringLiteral("exportRangeEnd"), QStringLiteral("0:04"));
+        QTRY_COMPARE(flow->customEnd(), 4.0);
+        QTRY_VERIFY(findItem(window_->contentItem(), QStringLiteral("exportRangeProblem")));
+        QVERIFY(!findItem(window_->contentItem(), QStringLiteral("startExportButton"))->isEnabled());
+        typeInto(QStringLiteral("exportRangeStart"), QStringLiteral("20"));
+        typeInto(QStringLiteral("exportRangeEnd"), QStringLiteral("0:24"));
+        QTRY_COMPARE(flow->customEnd(), 24.0);
+        QCOMPARE(flow->customStart(), 20.0);
+        QTRY_VERIFY(!findItem(window_->contentItem(), QStringLiteral("exportRangeProblem")));
+        QString why;
+        QVERIFY2(sheetFits(&why), qPrintable(why));
+
+        click(QStringLiteral("startExportButton"));
+        QTRY_COMPARE_WITH_TIMEOUT(flow->stateName(), QStringLiteral("ready"), 120000);
+        QVERIFY(!flow->errorMessage());
+        QTRY_VERIFY(findItem(window_->contentItem(), QStringLiteral("saveToButton")));
+        QVERIFY(findItem(window_->contentItem(), QStringLiteral("showInFolderButton")));
+        QCOMPARE(findItem(window_->contentItem(), QStringLiteral("readyText"))->property("text").toString(),
+                 QStringLiteral("Ready: ") + flow->exportedFileName());
+
+        const MovieFacts facts = MovieFacts::read(*flow->exportedPath());
+        QVERIFY(facts.opened);
+        const MovieFacts::Stream *video = facts.firstOf(QStringLiteral("video"));
+        QVERIFY(video);
+        QCOMPARE(video->decodeErrors, 0);
+        QCOMPARE(QSize(video->width, video->height), QSize(1280, 720));
+        QVERIFY2(std::abs(facts.duration - 4.0) < 0.3, qPrintable(QString::number(facts.duration)));
+        QVERIFY2(std::abs(video->decodedFrames - 40) <= 1, qPrintable(QString::number(video->decodedFrames)));
+
+        click(QStringLiteral("exportFooterButton")); // Done
+        QTRY_VERIFY(!findItem(window_->contentItem(), QStringLiteral("saveToButton")));
     }
 
     // A clip the drive never answers for costs that one tile, and the main
