@@ -315,6 +315,23 @@ private Q_SLOTS:
         QVERIFY(std::abs(c->currentTime() - paused) <= 0.1 + 1e-3);
         QVERIFY(!c->isPlaying());
 
+        // On a slow computer a seek shows each camera's key frame first and
+        // says so under the timeline until the exact frame is in.
+        for (const auto &tile : c->tiles())
+            if (tile.player)
+                tile.player->setDecodeDelay(std::chrono::milliseconds(60));
+        c->seek(100.5);
+        QTRY_VERIFY_WITH_TIMEOUT(c->isShowingApproximateFrames()
+                                     && findItem(window_->contentItem(), QStringLiteral("approximateFramesNote")),
+                                 10000);
+        QCOMPARE(findItem(window_->contentItem(), QStringLiteral("approximateFramesNote"))->property("text").toString(),
+                 QStringLiteral("Finding the exact frame…"));
+        saveShot(QStringLiteral("player-finding-exact-frame.png"), false);
+        for (const auto &tile : c->tiles())
+            if (tile.player)
+                tile.player->setDecodeDelay(std::chrono::milliseconds(0));
+        QTRY_VERIFY_WITH_TIMEOUT(!c->isShowingApproximateFrames(), 10000);
+
         // M: ten seconds before the moment, playing.
         c->seek(60);
         key(Qt::Key_M);

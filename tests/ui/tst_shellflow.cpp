@@ -2,6 +2,7 @@
 #include "FileDialogDriver.h"
 #include "drive/DriveBoundary.h"
 #include "KeelholdApp.h"
+#include "playback/MediaSource.h"
 #include "playback/TrackPlayer.h"
 #include "support/FaultyFs.h"
 #include "support/IsolatedHome.h"
@@ -262,6 +263,26 @@ private Q_SLOTS:
         QCOMPARE(app->appState().selectedSection(), SidebarSection::drive);
         QTRY_VERIFY_WITH_TIMEOUT(!app->appState().isScanning(), 20000);
         app->appState().exitSampleMode();
+
+        // Graphics hardware for video: on by default, turned off from the
+        // Playback menu by clicks, remembered and applied at once.
+        QVERIFY(MediaSource::hardwareDecodingEnabled());
+        QQuickItem *playbackTitle = nullptr;
+        for (QQuickItem *item : allItems(window))
+            if (QByteArray(item->metaObject()->className()).contains("MenuBarItem")
+                && item->property("text").toString() == QStringLiteral("&Playback"))
+                playbackTitle = item;
+        QVERIFY(playbackTitle);
+        QTest::mouseClick(window, Qt::LeftButton, Qt::NoModifier,
+                          playbackTitle->mapToScene(QPointF(playbackTitle->width() / 2, playbackTitle->height() / 2)).toPoint());
+        QTRY_VERIFY(visibleItem(window, QStringLiteral("menuHardwareDecoding")));
+        QVERIFY(visibleItem(window, QStringLiteral("menuHardwareDecoding"))->property("checked").toBool());
+        shoot(window, QStringLiteral("playback-menu"));
+        QVERIFY(click(window, QStringLiteral("menuHardwareDecoding")));
+        QTRY_VERIFY(!MediaSource::hardwareDecodingEnabled());
+        QCOMPARE(QSettings(QStringLiteral("Keelhold"), QStringLiteral("Keelhold")).value(QStringLiteral("KHHardwareDecoding")).toBool(),
+                 false);
+        MediaSource::setHardwareDecoding(true);
 
         // Focus mode takes the sidebar away and gives it back.
         app->appState().toggleFocusMode();

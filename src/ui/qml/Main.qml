@@ -46,7 +46,10 @@ ApplicationWindow {
         palette.highlightedText: ui.colors.highlightedText
         Menu {
             title: ui.texts.playbackMenu
+            // A menu keeps its default width whatever its items say.
+            width: Math.max(implicitWidth, hardwareItem.implicitWidth + leftPadding + rightPadding)
             MenuItem {
+                id: hardwareItem
                 objectName: "menuHardwareDecoding"
                 text: ui.texts.hardwareDecodingMenu
                 checkable: true
