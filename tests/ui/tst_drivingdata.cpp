@@ -395,6 +395,12 @@ private Q_SLOTS:
         QTRY_VERIFY(drivingData()->currentRecord()
                     && drivingData()->currentRecord()->autopilot == TelemetryRecord::AutopilotState::autosteer);
         QTRY_COMPARE(item(QStringLiteral("assistanceText"))->property("text").toString(), QStringLiteral("Autopilot"));
+        // Four wide cameras leave no room beside the readings: the route
+        // stands above them, clear of them.
+        QTRY_VERIFY(item(QStringLiteral("routeInset")));
+        const QRectF inset = item(QStringLiteral("routeInset"))->mapRectToScene(item(QStringLiteral("routeInset"))->boundingRect());
+        QQuickItem *hud = item(QStringLiteral("drivingDataOverlay"));
+        QVERIFY(!inset.intersects(hud->mapRectToScene(hud->boundingRect())));
         app_->shot(QStringLiteral("timeline-speed-strip"));
 
         state().setSelectedSection(SidebarSection::map);

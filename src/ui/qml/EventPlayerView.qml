@@ -70,14 +70,18 @@ Item {
                 height: implicitHeight
             }
             RouteInset {
+                objectName: "routeInset"
                 drivingData: playerPresenter.drivingData
+                // Beside the readings where both fit, else just above them.
+                readonly property bool besideReadings: parent.width >= overlay.implicitWidth + width + 30
+                readonly property real lift: besideReadings ? 0 : overlay.height * overlay.scale + 8
                 visible: cameraGrid.showsDrivingData && playerPresenter.drivingData.hasRoute
-                         && parent.width >= overlay.implicitWidth + width + 30
-                         && parent.height - cameraGrid.overlayBottom >= height + 60
+                         && parent.width >= width + 20
+                         && parent.height - cameraGrid.overlayBottom - lift >= height + 40
                 anchors.right: parent.right
                 anchors.bottom: parent.bottom
                 anchors.rightMargin: 10
-                anchors.bottomMargin: cameraGrid.overlayBottom
+                anchors.bottomMargin: cameraGrid.overlayBottom + lift
                 width: 180
                 height: 120
             }
