@@ -503,13 +503,8 @@ private Q_SLOTS:
             QSKIP("needs root and /dev/fuse");
         HeldClip held(QStringLiteral("0-back.mp4"));
         QVERIFY(held.fs.isMounted());
-        Composition good;
-        good.addMutableTrack();
-        good.track(0).insertTimeRange(place(frameClip(0, 0), dir, "0-front.mp4"), MediaTime::zero(),
-                                      MediaTime::fromSeconds(3), MediaTime::zero());
-        Composition stuck;
-        stuck.addMutableTrack();
-        stuck.track(0).insertTimeRange(held.path, MediaTime::zero(), MediaTime::fromSeconds(3), MediaTime::zero());
+        const Composition good = oneClip(place(frameClip(0, 0), dir, "0-front.mp4"), 3);
+        const Composition stuck = oneClip(held.path, 3);
         {
             TeslaEvent empty;
             SyncPlayerController c(empty);
