@@ -121,19 +121,6 @@ private Q_SLOTS:
         QCOMPARE(kindOnly[0].filter, QStringLiteral("kind"));
     }
 
-    void recentBannerFollowsTheVisibleList()
-    {
-        using namespace InboxPresenter;
-        std::vector<TeslaEvent> visible{event(EventKind::sentry, QStringLiteral("a")),
-                                        event(EventKind::recent, QStringLiteral("b")),
-                                        event(EventKind::recent, QStringLiteral("c"))};
-        const auto recent = recentDriving(visible);
-        QCOMPARE(recent.size(), size_t(2));
-        QCOMPARE(recent[0].folderName, QStringLiteral("b"));
-        visible.erase(visible.begin() + 1, visible.end()); // a filter hid the recent ones
-        QVERIFY(recentDriving(visible).empty());
-    }
-
     void mapSectionsAndPins()
     {
         using namespace EventMapPresenter;

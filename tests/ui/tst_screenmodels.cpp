@@ -165,42 +165,6 @@ private Q_SLOTS:
         QVERIFY(!state.driveScan()->events.empty());
     }
 
-    void filterMenuAndTokens()
-    {
-        MockEngine engine;
-        AppState state(engine);
-        InboxViewModel inbox(&state);
-        QSignalSpy filters(&inbox, &InboxViewModel::filtersChanged);
-        state.setFilterKindForQml(QStringLiteral("recent"));
-        state.setFilterStateForQml(QStringLiteral("kept"));
-        QCOMPARE(filters.size(), 2);
-        QCOMPARE(inbox.activeFilterCount(), 2);
-        const QVariantList tokens = inbox.filterTokens();
-        QCOMPARE(tokens.size(), 2);
-        QCOMPARE(tokens[0].toMap().value(QStringLiteral("label")).toString(), QStringLiteral("In Vault"));
-        QCOMPARE(tokens[1].toMap().value(QStringLiteral("label")).toString(), QStringLiteral("Recent Driving"));
-        inbox.clearFilter(QStringLiteral("state"));
-        QVERIFY(!state.filterState());
-        QVERIFY(state.filterKind());
-        inbox.clearFilter(QStringLiteral("nonsense"));
-        QCOMPARE(inbox.activeFilterCount(), 1);
-        inbox.clearAllFilters();
-        QCOMPARE(inbox.activeFilterCount(), 0);
-        QVERIFY(inbox.filterTokens().isEmpty());
-    }
-
-    void columnContentAndEmptyScreens()
-    {
-        MockEngine engine;
-        AppState state(engine);
-        InboxViewModel inbox(&state);
-        QCOMPARE(inbox.content(), QStringLiteral("noDrive"));
-        QVERIFY(!inbox.emptyScreen().value(QStringLiteral("title")).toString().isEmpty());
-        scanDemo(state);
-        QCOMPARE(inbox.content(), QStringLiteral("inbox"));
-        QVERIFY(inbox.emptyScreen().isEmpty());
-    }
-
     void vaultTextsCountAndPluralise()
     {
         TeslaEvent one;
