@@ -174,9 +174,6 @@ private Q_SLOTS:
         one.clips = {clip};
         QCOMPARE(VaultViewModel::summaryFor({one}, std::nullopt),
                  QStringLiteral("1 event · ") + QLocale().formattedDataSize(1500000, 1, QLocale::DataSizeTraditionalFormat));
-        const QString two = VaultViewModel::summaryFor({one, one}, qint64(5) * 1024 * 1024 * 1024);
-        QVERIFY(two.startsWith(QStringLiteral("2 events · ")));
-        QVERIFY(two.endsWith(QStringLiteral(" free on this disk")));
         QCOMPARE(VaultViewModel::summaryFor({}, std::nullopt), QStringLiteral("0 events · 0 bytes"));
 
         QCOMPARE(VaultViewModel::progressLineFor(ArchiveProgress{10, 100, 3, 7, std::nullopt}), QStringLiteral("3 of 7 events"));
@@ -212,14 +209,7 @@ private Q_SLOTS:
         a.sourceVolume = QStringLiteral("TESLADRIVE");
         a.files = {ArchivedFile{QStringLiteral("front.mp4"), 10, QString(64, QLatin1Char('a'))}};
         const QVariantMap v = VaultViewModel::verificationFor(a);
-        QVERIFY(v.value(QStringLiteral("present")).toBool());
         QVERIFY(v.value(QStringLiteral("archivedLine")).toString().endsWith(QStringLiteral(" from TESLADRIVE")));
-        QCOMPARE(v.value(QStringLiteral("files")).toList().first().toMap().value(QStringLiteral("name")).toString(),
-                 QStringLiteral("front.mp4"));
-
-        TeslaEvent e;
-        e.timestamp = Date::now();
-        QVERIFY(VaultViewModel::removalMessageFor(e).contains(QStringLiteral("Trash")));
 
         QTemporaryDir dir;
         QVERIFY(VaultViewModel::freeBytesAt(dir.path()).value_or(-1) > 0);
