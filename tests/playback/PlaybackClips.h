@@ -4,6 +4,7 @@
 // which clip and which camera it is, and events built from them.
 
 #include "model/TeslaEvent.h"
+#include "playback/Composition.h"
 #include "support/TestClips.h"
 
 #include <QDir>
@@ -92,6 +93,15 @@ inline ClipRef clipRef(const QString &path, Camera camera, Date start, ClipHealt
     c.startDate = start;
     c.fileSize = QFileInfo(path).size();
     c.health = health;
+    return c;
+}
+
+// A one-track composition of a single clip, `at` seconds in.
+inline Composition oneClip(const QString &path, double seconds, double at = 0)
+{
+    Composition c;
+    c.addMutableTrack();
+    c.track(0).insertTimeRange(path, MediaTime::zero(), MediaTime::fromSeconds(seconds), MediaTime::fromSeconds(at));
     return c;
 }
 

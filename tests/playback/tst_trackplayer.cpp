@@ -174,9 +174,7 @@ private Q_SLOTS:
             TestClips::ClipOptions options;
             options.seconds = 1;
             options.pixelFormat = format;
-            Composition c;
-            c.addMutableTrack();
-            c.track(0).insertTimeRange(TestClips::clip(options), MediaTime::zero(), s(1), MediaTime::zero());
+            const Composition c = oneClip(TestClips::clip(options), 1);
             TrackPlayer player(c);
             QTRY_VERIFY(player.hasPicture());
             const auto f = player.currentFrame().surfaceFormat();
@@ -193,9 +191,7 @@ private Q_SLOTS:
         options.seconds = 1;
         options.codec = QStringLiteral("libx265");
         options.pixelFormat = QStringLiteral("yuv420p");
-        Composition c;
-        c.addMutableTrack();
-        c.track(0).insertTimeRange(TestClips::clip(options), MediaTime::zero(), s(1), MediaTime::zero());
+        const Composition c = oneClip(TestClips::clip(options), 1);
         TrackPlayer player(c);
         QTRY_VERIFY(player.hasPicture());
         QVERIFY(seekAndWait(player, 0.5));
@@ -251,9 +247,7 @@ private Q_SLOTS:
 
     void cameraStartingLateShowsNothingFirst()
     {
-        Composition c;
-        c.addMutableTrack();
-        c.track(0).insertTimeRange(place(frameClip(1, 0), dir.path(), "late.mp4"), MediaTime::zero(), s(3), s(2));
+        const Composition c = oneClip(place(frameClip(1, 0), dir.path(), "late.mp4"), 3, 2);
         TrackPlayer player(c);
         QVideoSink sink;
         player.setVideoSink(&sink);
@@ -266,9 +260,7 @@ private Q_SLOTS:
 
     void missingFileShowsNoPictureAndNeverHangs()
     {
-        Composition c;
-        c.addMutableTrack();
-        c.track(0).insertTimeRange(dir.path() + "/gone.mp4", MediaTime::zero(), s(3), MediaTime::zero());
+        const Composition c = oneClip(dir.path() + "/gone.mp4", 3);
         TrackPlayer player(c);
         QTRY_COMPARE(player.status(), TrackPlayer::ReadyToPlay);
         QVERIFY(seekAndWait(player, 1.0));
@@ -284,9 +276,7 @@ private Q_SLOTS:
         QVERIFY(fs.isMounted());
         const QString held = fs.addHeldFile(QStringLiteral("hang.mp4"), QByteArray(64 * 1024, 'x'));
         {
-            Composition c;
-            c.addMutableTrack();
-            c.track(0).insertTimeRange(held, MediaTime::zero(), s(3), MediaTime::zero());
+            const Composition c = oneClip(held, 3);
             TrackPlayer player(c);
             QTRY_VERIFY(fs.isHanging());
             QCOMPARE(player.status(), TrackPlayer::Unknown);
@@ -316,9 +306,7 @@ private Q_SLOTS:
         FaultyFs fs(mountPoint.path());
         QVERIFY(fs.isMounted());
         const QString held = fs.addHeldFile(QStringLiteral("hang-stopped.mp4"), QByteArray(64 * 1024, 'x'));
-        Composition c;
-        c.addMutableTrack();
-        c.track(0).insertTimeRange(held, MediaTime::zero(), s(3), MediaTime::zero());
+        const Composition c = oneClip(held, 3);
         auto *player = new TrackPlayer(c);
         QTRY_VERIFY(fs.isHanging());
         QCOMPARE(player->status(), TrackPlayer::Unknown); // stuck opening

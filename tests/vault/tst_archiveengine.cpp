@@ -1,9 +1,9 @@
-#include "drive/IOWatchdog.h"
 #include "drive/TeslaCamParser.h"
 #include "model/JsonCoding.h"
 #include "support/DriveBuilder.h"
 #include "support/FaultyFs.h"
 #include "support/TeslaCamFixture.h"
+#include "support/TmpfsMount.h"
 #include "support/TreeSnapshot.h"
 #include "vault/ArchiveEngine.h"
 #include "vault/VaultIndex.h"
@@ -12,7 +12,6 @@
 #include <QDirIterator>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QProcess>
 #include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTest>
@@ -59,12 +58,6 @@ ClipRef clipAt(const QString &path, qint64 size)
     clip.url = path;
     clip.fileSize = size;
     return clip;
-}
-
-bool mountTmpfs(const QString &where, const QString &options)
-{
-    return ::geteuid() == 0
-        && QProcess::execute(QStringLiteral("mount"), {"-t", "tmpfs", "-o", options, "tmpfs", where}) == 0;
 }
 
 } // namespace
@@ -539,11 +532,11 @@ private Q_SLOTS:
         drive.builder.addEvent("SentryClips", "2026-07-17_09-15-32", 1, 12 << 20);
         const auto events = drive.builder.scan();
         drive.freeze();
-        QTemporaryDir mountPoint;
-        if (!mountTmpfs(mountPoint.path(), QStringLiteral("size=8m")))
+        QTemporaryDir dir;
+        const TmpfsMount disk(dir.path(), QStringLiteral("vault-XXXXXX"), QStringLiteral("size=8m"));
+        if (!disk.ok())
             QSKIP("needs root to mount a small tmpfs (the CLI test covers a full disk without root)");
-        const auto unmount = qScopeGuard([&] { QProcess::execute("umount", {mountPoint.path()}); });
-        const QString vault = mountPoint.filePath("Vault");
+        const QString vault = disk.path() + "/Vault";
 
         const ArchiveReport first = ArchiveEngine::run(ArchiveEngine::plan({events[0]}, VaultIndex{}), vault);
         QCOMPARE(first.archivedEvents.size(), size_t(1));
@@ -564,12 +557,12 @@ private Q_SLOTS:
 
     void vaultThatCannotTakeAnotherFileSaysSo()
     {
-        QTemporaryDir mountPoint;
+        QTemporaryDir dir;
         // Room for the folders only: no inode is left for the temporary file.
-        if (!mountTmpfs(mountPoint.path(), QStringLiteral("size=4m,nr_inodes=5")))
+        const TmpfsMount disk(dir.path(), QStringLiteral("vault-XXXXXX"), QStringLiteral("size=4m,nr_inodes=5"));
+        if (!disk.ok())
             QSKIP("needs root to mount a small tmpfs");
-        const auto unmount = qScopeGuard([&] { QProcess::execute("umount", {mountPoint.path()}); });
-        const QString vault = mountPoint.filePath("Vault");
+        const QString vault = disk.path() + "/Vault";
         if (!QDir().mkpath(vault + "/2026/sentry/2026-07-18_09-15-32"))
             QSKIP("this tmpfs counts inodes differently");
         Drive drive;
@@ -728,17 +721,6 @@ private Q_SLOTS:
         QCOMPARE(drive.changes(), QString());
     }
 
-    void friendlyReasonsInOrder()
-    {
-        using namespace ArchiveEngine;
-        QCOMPARE(friendlyReason(std::make_exception_ptr(IOWatchdog::TimedOut())), reason(Reason::timedOut));
-        QCOMPARE(friendlyReason(std::make_exception_ptr(ArchiveEngineError(ArchiveEngineError::cannotCreateFile, "/v"))),
-                 reason(Reason::cannotCreateFile));
-        QCOMPARE(friendlyReason(std::make_exception_ptr(ArchiveEngineError(ArchiveEngineError::sizeMismatch, "/d"))),
-                 reason(Reason::sizeMismatch));
-        QCOMPARE(friendlyReason(std::make_exception_ptr(std::runtime_error("disk full"))), reason(Reason::unreadable));
-        QCOMPARE(friendlyReason(std::make_exception_ptr(42)), QStringLiteral("This file couldn't be read."));
-    }
 };
 
 QTEST_GUILESS_MAIN(TestArchiveEngine)

@@ -7,7 +7,6 @@
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QProcess>
 #include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTest>
@@ -239,12 +238,11 @@ private Q_SLOTS:
 
     void saveOnAFullDiskRaisesAndKeepsTheOldFile()
     {
-        if (::geteuid() != 0)
+        QTemporaryDir dir;
+        const TmpfsMount disk(dir.path(), QStringLiteral("full-XXXXXX"), QStringLiteral("size=1m"));
+        if (!disk.ok())
             QSKIP("needs root to mount a tmpfs");
-        QTemporaryDir mountPoint;
-        if (QProcess::execute("mount", {"-t", "tmpfs", "-o", "size=1m", "tmpfs", mountPoint.path()}) != 0)
-            QSKIP("tmpfs mount not available");
-        const auto unmount = qScopeGuard([&] { QProcess::execute("umount", {mountPoint.path()}); });
+        const QDir mountPoint(disk.path());
         VaultIndex old;
         old.events = {makeEvent(QStringLiteral("2026-07-18_09-15-32"), {{QStringLiteral("a-front.mp4"), 3, {}}})};
         old.save(mountPoint.path());
@@ -413,12 +411,11 @@ private Q_SLOTS:
     {
         // A Vault on its own volume uses that volume's Trash folder; a plain
         // file in its place makes the Trash unusable. Needs a tmpfs mount.
-        if (::geteuid() != 0)
+        QTemporaryDir dir;
+        const TmpfsMount disk(dir.path(), QStringLiteral("own-XXXXXX"), QStringLiteral("size=4m"));
+        if (!disk.ok())
             QSKIP("needs root to mount a tmpfs");
-        QTemporaryDir mountPoint;
-        if (QProcess::execute("mount", {"-t", "tmpfs", "-o", "size=4m", "tmpfs", mountPoint.path()}) != 0)
-            QSKIP("tmpfs mount not available");
-        const auto unmount = qScopeGuard([&] { QProcess::execute("umount", {mountPoint.path()}); });
+        const QDir mountPoint(disk.path());
         writeAll(mountPoint.filePath(".Trash-0"), "not a folder");
         writeAll(mountPoint.filePath(".Trash"), "not a folder");
         const QString vault = mountPoint.filePath("Vault");
