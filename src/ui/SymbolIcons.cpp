@@ -109,6 +109,8 @@ QString neutralIconUrl() { return QStringLiteral("qrc:/Keelhold/icons/neutral.sv
 
 QString themeIconName(const QString &symbolName) { return table().value(symbolName); }
 
+QStringList symbolNames() { return table().keys(); }
+
 QString iconUrl(const QString &symbolName)
 {
     const QString name = themeIconName(symbolName);

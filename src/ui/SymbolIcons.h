@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 // The one table from the symbol names used across the app ("lock.shield",
 // "externaldrive.fill", …) to icons of the Adwaita symbolic set. A name with
@@ -17,5 +18,7 @@ QString themeIconName(const QString &symbolName);
 QString neutralIconUrl();
 // Where the Adwaita scalable icons are looked for.
 QString themeRoot();
+// Every symbol the table knows.
+QStringList symbolNames();
 
 } // namespace SymbolIcons

@@ -3,6 +3,7 @@
 #include "HelpArticle.h"
 #include "ListPaneWidth.h"
 #include "OnboardingTexts.h"
+#include "SymbolIcons.h"
 
 #include <QFile>
 #include <QRegularExpression>
@@ -14,6 +15,17 @@ class PresentersTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    // A theme icon renamed or misspelt in the table would quietly show the
+    // neutral icon instead.
+    void everySymbolFindsItsThemeIcon()
+    {
+        if (!QFile::exists(SymbolIcons::themeRoot()))
+            QSKIP("the icon theme isn't installed");
+        for (const QString &symbol : SymbolIcons::symbolNames())
+            QVERIFY2(SymbolIcons::iconUrl(symbol) != SymbolIcons::neutralIconUrl(), qPrintable(symbol));
+        QCOMPARE(SymbolIcons::iconUrl(QStringLiteral("no.such.symbol")), SymbolIcons::neutralIconUrl());
+    }
+
     void listWidthHonoursTheDetailRoom()
     {
         using namespace ListPaneWidth;
