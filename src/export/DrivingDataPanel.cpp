@@ -89,8 +89,17 @@ DrivingDataPanel::DrivingDataPanel(const CombinedLayout &layout)
     const int row = scaled(small, 1.5);
     area_.width = scaled(u, 13.2) & ~1;
     area_.height = (pad + big + 3 * (gap + row) + pad + 1) & ~1;
-    area_.x = std::max(0, layout.width() - layout.margin() - area_.width) & ~1;
-    area_.y = std::max(0, layout.height() - layout.margin() - area_.height) & ~1;
+    // The bottom right corner of the largest cell (the last of equals):
+    // the grid's last camera, the front above the others, the one camera.
+    CombinedLayout::Rect home{0, 0, layout.width(), layout.height()};
+    long largest = -1;
+    for (const CombinedLayout::Cell &cell : layout.cells())
+        if (long(cell.area.width) * cell.area.height >= largest) {
+            largest = long(cell.area.width) * cell.area.height;
+            home = cell.area;
+        }
+    area_.x = std::max(0, home.x + home.width - layout.margin() - area_.width) & ~1;
+    area_.y = std::max(0, home.y + home.height - layout.margin() - area_.height) & ~1;
 
     const auto number = [](int value) { return QString::number(value); };
     const auto centredIn = [&](int top, int height, int size) { return number(top + (height - size) / 2); };

@@ -10,9 +10,9 @@
 
 struct AVFrame;
 
-// The car's driving data on a combined movie: a small panel in the canvas's
-// bottom right corner, clear of the time (top left), the reason (top right)
-// and the cameras' names (each cell's bottom left). Its words are drawn by
+// The car's driving data on a combined movie: a small panel in the bottom
+// right corner of the largest cell, clear of the time (top left), the
+// reason (top right) and the cameras' names (each cell's bottom left). Its words are drawn by
 // libavfilter's drawtext from each frame's metadata, so one filter graph
 // serves every frame; the box, the brake lamp and the accelerator's bar are
 // painted straight onto the picture, under the words.
