@@ -97,7 +97,7 @@ AVFilterContext *drawText(AVFilterGraph *graph, AVFilterContext *from, const QSt
 // Words and colour both from the frame's metadata.
 AVFilterContext *drawPanelWords(AVFilterGraph *graph, AVFilterContext *from, const DrivingDataPanel::Words &words)
 {
-    const QString key = QStringLiteral("keelhold.panel.") + words.key;
+    const QString key = QLatin1String(DrivingDataPanel::metadataPrefix) + words.key;
     return chain(graph, from, "drawtext", QStringLiteral("panel.") + words.key,
                  {{"font", QString::fromLatin1(font) + (words.bold ? QStringLiteral(":bold") : QString())},
                   {"text", QStringLiteral("%{metadata:%1}").arg(key)},

@@ -11,7 +11,6 @@ extern "C" {
 #include <cmath>
 
 namespace {
-const QString prefix = QStringLiteral("keelhold.panel.");
 // The player's overlay colours: light on dark, whatever the picture.
 const QString lit = QStringLiteral("white");
 const QString dim = QStringLiteral("white@0.4");
@@ -73,7 +72,8 @@ void blend(AVFrame *frame, DrivingDataPanel::Area a, const QColor &colour, doubl
 
 void set(AVFrame *frame, const QString &key, const QString &value)
 {
-    av_dict_set(&frame->metadata, (prefix + key).toUtf8().constData(), value.toUtf8().constData(), 0);
+    const QByteArray name = (QLatin1String(DrivingDataPanel::metadataPrefix) + key).toUtf8();
+    av_dict_set(&frame->metadata, name.constData(), value.toUtf8().constData(), 0);
 }
 } // namespace
 

@@ -37,7 +37,7 @@ public:
     // One run of words: drawtext's text and colour, both taken from the
     // frame's metadata, and where it goes on the canvas.
     struct Words {
-        QString key;    // of the metadata: "<key>" holds the words, "<key>.colour" their colour
+        QString key;    // after metadataPrefix: "<key>" holds the words, "<key>.colour" their colour
         QString x;      // drawtext expressions
         QString y;
         int size = 0;
@@ -50,6 +50,8 @@ public:
         int width = 0;
         int height = 0;
     };
+
+    static constexpr const char *metadataPrefix = "keelhold.panel.";
 
     explicit DrivingDataPanel(const CombinedLayout &layout);
 
