@@ -153,8 +153,9 @@ int run(const QStringList &arguments)
     const QCommandLineOption overlayOption(
         QStringLiteral("overlay"),
         QStringLiteral("What a new movie shows over the pictures, any of: time, names, reason, telemetry, none. "
-                       "Join parts with commas; the default is time,names,reason. With only --camera, any part "
-                       "makes a new movie of that camera instead of a copy."),
+                       "Join parts with commas; the default is time,names,reason. Telemetry is the car's speed, "
+                       "pedals, steering and Autopilot where its clips carry them, in km/h or mph as your locale "
+                       "measures. With only --camera, any part makes a new movie of that camera instead of a copy."),
         QStringLiteral("parts"));
     const QCommandLineOption sizeOption(
         QStringLiteral("size"),

@@ -1,14 +1,15 @@
 #include "export/CameraFeed.h"
 
-#include "drive/IOWatchdog.h"
+#include "export/ClipPacketReader.h"
 #include "model/CancellationError.h"
-#include "playback/MediaSource.h"
 
 extern "C" {
+#include <libavcodec/avcodec.h>
 #include <libavutil/frame.h>
 }
 
-#include <stdexcept>
+#include <cmath>
+#include <new>
 
 namespace {
 // Pictures that stop before the clip says it ends (a damaged tail) are held
@@ -41,8 +42,15 @@ CameraFeed::CameraFeed(Camera camera, const std::optional<Composition> &composit
     }
     shown_ = av_frame_alloc();
     next_ = av_frame_alloc();
-    if (!shown_ || !next_)
+    packet_ = av_packet_alloc();
+    decoded_ = av_frame_alloc();
+    if (!shown_ || !next_ || !packet_ || !decoded_) {
+        av_frame_free(&shown_);
+        av_frame_free(&next_);
+        av_packet_free(&packet_);
+        av_frame_free(&decoded_);
         throw std::bad_alloc();
+    }
 }
 
 CameraFeed::~CameraFeed()
@@ -50,11 +58,19 @@ CameraFeed::~CameraFeed()
     close();
     av_frame_free(&shown_);
     av_frame_free(&next_);
+    av_packet_free(&packet_);
+    av_frame_free(&decoded_);
 }
 
 void CameraFeed::close()
 {
-    source_.reset();
+    // A reader left on a stuck read ends on its own when the read does.
+    reader_.reset();
+    avcodec_free_context(&decoder_);
+    av_packet_unref(packet_);
+    av_frame_unref(decoded_);
+    videoStream_ = -1;
+    inputEnded_ = false;
     failed_ = false;
     hasShown_ = false;
     hasNext_ = false;
@@ -66,29 +82,35 @@ bool CameraFeed::open(size_t index, double local)
 {
     close();
     const Segment &segment = segments_[index];
-    try {
-        // Opening reads the header and the first packets; a drive that
-        // doesn't answer costs this clip, and the caller's stop ends the wait.
-        source_ = IOWatchdog::run(
-            clipLimit_,
-            [path = segment.path, threads = decoderThreads_, stop = stop_](std::stop_token watch) {
-                return std::make_unique<MediaSource>(
-                    path, [watch, stop] { return watch.stop_requested() || stop.stop_requested(); }, true, threads);
-            },
-            stop_);
-    } catch (const CancellationError &) {
-        throw;
-    } catch (...) {
-        failed_ = true;
-        return false;
-    }
-    if (!source_->hasVideo()) {
+    std::optional<int64_t> seekTo;
+    if (local > seekWorthwhile)
+        seekTo = std::llround(local * AV_TIME_BASE);
+    reader_ = std::make_unique<ClipPacketReader>(segment.path, seekTo, clipLimit_, stop_,
+                                                 ClipPacketReader::Options{.probe = true, .seekFromVideoStart = true});
+    const auto streams = reader_->open();
+    if (stop_.stop_requested())
+        throw CancellationError();
+    const AVCodec *codec = streams ? avcodec_find_decoder(streams->videoParameters->codec_id) : nullptr;
+    if (codec)
+        decoder_ = avcodec_alloc_context3(codec);
+    if (!decoder_ || avcodec_parameters_to_context(decoder_, streams->videoParameters.get()) < 0) {
         close();
         failed_ = true;
         return false;
     }
-    if (local > seekWorthwhile)
-        source_->seekKeyframe(local);
+    videoStream_ = streams->video;
+    const AVRational base = streams->timeBases[size_t(videoStream_)];
+    timeBase_ = av_q2d(base);
+    videoStart_ = streams->videoStart;
+    decoder_->pkt_timebase = base;
+    decoder_->thread_count = decoderThreads_;
+    if (avcodec_open2(decoder_, codec, nullptr) < 0) {
+        close();
+        failed_ = true;
+        return false;
+    }
+    if (streams->videoFrameRate.num > 0)
+        frameRate_ = av_q2d(streams->videoFrameRate);
     pull();
     if (!hasNext_) {
         close();
@@ -98,24 +120,58 @@ bool CameraFeed::open(size_t index, double local)
     return true;
 }
 
+// The next picture of the open clip with its time from the clip's first
+// moment, or null at its end, on a damaged stretch, or on a read that
+// didn't answer in time (the decoder still gives what it holds).
+const AVFrame *CameraFeed::decodeNext(double *time)
+{
+    for (;;) {
+        const int received = avcodec_receive_frame(decoder_, decoded_);
+        if (received == 0) {
+            int64_t pts = decoded_->best_effort_timestamp;
+            if (pts == AV_NOPTS_VALUE)
+                pts = decoded_->pts;
+            if (pts == AV_NOPTS_VALUE)
+                pts = videoStart_;
+            *time = double(pts - videoStart_) * timeBase_;
+            return decoded_;
+        }
+        if (received != AVERROR(EAGAIN) || inputEnded_)
+            return nullptr;
+        const ClipPacketReader::Read read = reader_->next(packet_);
+        if (stop_.stop_requested())
+            throw CancellationError();
+        if (read != ClipPacketReader::Read::packet) {
+            inputEnded_ = true;
+            avcodec_send_packet(decoder_, nullptr);
+            continue;
+        }
+        if (packet_->stream_index == videoStream_) {
+            const int sent = avcodec_send_packet(decoder_, packet_);
+            if (sent < 0 && sent != AVERROR(EAGAIN) && sent != AVERROR_INVALIDDATA) {
+                av_packet_unref(packet_);
+                return nullptr;
+            }
+        }
+        av_packet_unref(packet_);
+    }
+}
+
 void CameraFeed::pull()
 {
     hasNext_ = false;
     av_frame_unref(next_);
-    if (!source_)
+    if (!decoder_)
         return;
     if (stop_.stop_requested())
         throw CancellationError();
     const Segment &segment = segments_[current_];
     double time = 0;
-    const AVFrame *frame = source_->nextFrame(&time);
-    if (stop_.stop_requested())
-        throw CancellationError();
+    const AVFrame *frame = decodeNext(&time);
     // Past the length the clip was placed with, its pictures belong to nothing.
     if (!frame || time >= segment.sourceStart + (segment.end - segment.start) - epsilon)
         return;
-    if (av_frame_ref(next_, frame) < 0)
-        return;
+    av_frame_move_ref(next_, decoded_);
     nextTime_ = time;
     hasNext_ = true;
 }
@@ -132,7 +188,6 @@ void CameraFeed::start(double from)
         width_ = next_->width;
         height_ = next_->height;
         pixelFormat_ = next_->format;
-        frameRate_ = source_->frameRate();
         return;
     }
     current_ = segments_.size();
@@ -148,7 +203,7 @@ CameraFeed::Picture CameraFeed::at(double t)
         return {};
     const Segment &segment = segments_[current_];
     const double local = segment.sourceStart + (t - segment.start);
-    if (!source_ && !failed_)
+    if (!decoder_ && !failed_)
         open(current_, local);
     if (failed_)
         return {};

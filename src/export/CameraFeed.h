@@ -12,13 +12,17 @@
 #include <stop_token>
 #include <vector>
 
+struct AVCodecContext;
 struct AVFrame;
-class MediaSource;
+struct AVPacket;
+class ClipPacketReader;
 
 // The pictures of one camera along the event's axis, decoded in order: for
 // each moment asked for, the frame on show then, or nothing where the
 // camera has no footage (a missing minute, or one that can't be read). The
-// clips are only read, each through the read-only opener.
+// clips are only read, each through the read-only opener, on a thread of
+// their own: a read the drive doesn't answer within the limit costs the
+// rest of that clip, never the export.
 class CameraFeed {
 public:
     struct Picture {
@@ -27,8 +31,8 @@ public:
     };
 
     // composition: the camera's track on the axis, as the player lays it
-    // out; clips: the event's, for their start dates. A clip that doesn't
-    // open within clipLimit costs its own minute only.
+    // out; clips: the event's, for their start dates. clipLimit bounds each
+    // read of a clip, opening included.
     CameraFeed(Camera camera, const std::optional<Composition> &composition, const std::vector<ClipRef> &clips,
                std::chrono::milliseconds clipLimit, int decoderThreads, std::stop_token stop);
     ~CameraFeed();
@@ -61,6 +65,7 @@ private:
     bool open(size_t index, double local);
     void close();
     void pull();
+    const AVFrame *decodeNext(double *time);
 
     Camera camera_;
     std::vector<Segment> segments_;
@@ -69,7 +74,14 @@ private:
     std::stop_token stop_;
 
     size_t current_ = 0;
-    std::unique_ptr<MediaSource> source_;
+    std::unique_ptr<ClipPacketReader> reader_;
+    AVCodecContext *decoder_ = nullptr;
+    AVPacket *packet_ = nullptr;
+    AVFrame *decoded_ = nullptr;
+    int videoStream_ = -1;
+    double timeBase_ = 0;
+    int64_t videoStart_ = 0;
+    bool inputEnded_ = false;
     bool failed_ = false;
     AVFrame *shown_ = nullptr;
     AVFrame *next_ = nullptr;

@@ -44,7 +44,7 @@ struct ClipPacketReader::State {
 };
 
 void ClipPacketReader::readClip(const std::shared_ptr<State> &state, const QString &path,
-                                std::optional<int64_t> seekTo)
+                                std::optional<int64_t> seekTo, Options options)
 {
     const std::stop_token stop = state->stop.get_token();
     const auto input = MediaInput::open(path, stop);
@@ -53,6 +53,10 @@ void ClipPacketReader::readClip(const std::shared_ptr<State> &state, const QStri
         return;
     }
     AVFormatContext *format = input->context();
+    if (options.probe && avformat_find_stream_info(format, nullptr) < 0) {
+        state->end();
+        return;
+    }
     Streams streams;
     streams.video = input->bestStream(AVMEDIA_TYPE_VIDEO);
     streams.audio = input->bestStream(AVMEDIA_TYPE_AUDIO);
@@ -72,8 +76,17 @@ void ClipPacketReader::readClip(const std::shared_ptr<State> &state, const QStri
         auto *owned = const_cast<AVCodecParameters *>(p);
         avcodec_parameters_free(&owned);
     });
-    if (seekTo)
-        av_seek_frame(format, -1, *seekTo, AVSEEK_FLAG_BACKWARD);
+    const AVStream *video = format->streams[streams.video];
+    if (video->start_time != AV_NOPTS_VALUE)
+        streams.videoStart = video->start_time;
+    if (video->avg_frame_rate.num > 0 && video->avg_frame_rate.den > 0)
+        streams.videoFrameRate = video->avg_frame_rate;
+    if (seekTo) {
+        int64_t at = *seekTo;
+        if (options.seekFromVideoStart)
+            at += av_rescale_q(streams.videoStart, video->time_base, AVRational{1, AV_TIME_BASE});
+        av_seek_frame(format, -1, at, AVSEEK_FLAG_BACKWARD);
+    }
     {
         std::lock_guard lock(state->mutex);
         state->streams = std::move(streams);
@@ -99,7 +112,7 @@ void ClipPacketReader::readClip(const std::shared_ptr<State> &state, const QStri
 }
 
 ClipPacketReader::ClipPacketReader(const QString &path, std::optional<int64_t> seekTo,
-                                   std::chrono::milliseconds limit, std::stop_token stop)
+                                   std::chrono::milliseconds limit, std::stop_token stop, Options options)
     : state_(std::make_shared<State>()), limit_(limit),
       forwardStop_(stop, [state = state_] {
           state->stop.request_stop();
@@ -108,10 +121,16 @@ ClipPacketReader::ClipPacketReader(const QString &path, std::optional<int64_t> s
       })
 {
     try {
-        IOWatchdog::detail::startThread([state = state_, path, seekTo] { readClip(state, path, seekTo); });
+        IOWatchdog::detail::startThread([state = state_, path, seekTo, options] { readClip(state, path, seekTo, options); });
     } catch (const std::system_error &) {
         state_->end();
     }
+}
+
+ClipPacketReader::ClipPacketReader(const QString &path, std::optional<int64_t> seekTo,
+                                   std::chrono::milliseconds limit, std::stop_token stop)
+    : ClipPacketReader(path, seekTo, limit, stop, Options())
+{
 }
 
 ClipPacketReader::~ClipPacketReader()

@@ -27,11 +27,24 @@ public:
         int audio = -1;
         std::vector<AVRational> timeBases; // of every stream, by index
         std::shared_ptr<const AVCodecParameters> videoParameters;
+        // With Options::probe: the video's first moment, in its time base,
+        // and its average rate (0/1 when the file doesn't say).
+        int64_t videoStart = 0;
+        AVRational videoFrameRate{0, 1};
+    };
+    struct Options {
+        // Reads the first packets to learn what the header leaves out (the
+        // video's first moment and picture format), as a player does.
+        bool probe = false;
+        // seekTo counts from the video's first moment, not the file's zero.
+        bool seekFromVideoStart = false;
     };
     enum class Read { packet, end, stuck };
 
     // seekTo: a moment in AV_TIME_BASE units to start from (the key frame
     // at or before it). The caller's stop ends the reading, too.
+    ClipPacketReader(const QString &path, std::optional<int64_t> seekTo, std::chrono::milliseconds limit,
+                     std::stop_token stop, Options options);
     ClipPacketReader(const QString &path, std::optional<int64_t> seekTo, std::chrono::milliseconds limit,
                      std::stop_token stop);
     ~ClipPacketReader();
@@ -48,7 +61,8 @@ public:
 
 private:
     struct State;
-    static void readClip(const std::shared_ptr<State> &state, const QString &path, std::optional<int64_t> seekTo);
+    static void readClip(const std::shared_ptr<State> &state, const QString &path, std::optional<int64_t> seekTo,
+                         Options options);
 
     std::shared_ptr<State> state_;
     std::chrono::milliseconds limit_;

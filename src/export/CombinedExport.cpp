@@ -8,6 +8,7 @@
 #include "export/OverlayText.h"
 #include "model/CancellationError.h"
 #include "playback/EventTimeline.h"
+#include "playback/TelemetryTimeline.h"
 
 #include <QDir>
 #include <QFile>
@@ -149,6 +150,14 @@ void exportMovie(const TeslaEvent &event, const CombinedExportOptions &options, 
     if (!(footage.to > footage.from))
         throw ExportError::failed(QStringLiteral("The chosen stretch lies outside this event's footage."));
     footage.reasonLine = OverlayText::reasonLine(event);
+    if (options.overlay.telemetry) {
+        // The front camera's, as the player shows; each clip is read whole,
+        // so its limit is the reader's own where that is longer.
+        footage.telemetry = std::make_shared<const EventTelemetry>(TelemetryTimeline::load(
+            event, Camera::front, stop, std::max(clipLimit, TelemetryTimeline::defaultClipTimeout)));
+        if (stop.stop_requested())
+            throw CancellationError();
+    }
     auto render = std::make_shared<CombinedRender>(std::move(footage), options, clipLimit);
 
     // Hidden beside the destination, so that taking its name is a rename.

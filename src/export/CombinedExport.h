@@ -22,8 +22,9 @@ QString suggestedFileName(const TeslaEvent &event, const CombinedExportOptions &
 // Blocking; call it off the main thread. destination: a new file in an
 // existing folder, not on the car's drive. The movie is written under a
 // hidden name beside it and takes its name only once it is whole, so a
-// stopped or failed export leaves nothing behind. A clip that doesn't open
-// within clipLimit, or is damaged, costs its own minutes, which stay black.
+// stopped or failed export leaves nothing behind. A clip that is damaged,
+// or whose read the drive doesn't answer within clipLimit, costs the rest
+// of its own minute, which stays black with the camera's name.
 // Throws CancellationError when stopped before writing began,
 // Exporter::ExportError otherwise (cancelled when stopped while writing,
 // within a second even when a read is stuck).

@@ -26,7 +26,7 @@ struct CombinedExportOptions {
         bool time = true;       // the date and time of each frame
         bool names = true;      // each camera's name in its corner
         bool reason = true;     // why the car saved it, and where
-        bool telemetry = false; // the driving data; drawn once clips carry it and it can be read
+        bool telemetry = false; // the car's driving data, where its clips carry it
 
         bool any() const { return time || names || reason || telemetry; }
         bool operator==(const Overlay &) const = default;
@@ -42,6 +42,9 @@ struct CombinedExportOptions {
     // A row of black and white blocks beside the time that a program can
     // read back: the milliseconds of the shown time past the event's start.
     bool timeMarker = false;
+    // The driving data's speeds in mph rather than km/h; as the locale
+    // measures when absent.
+    std::optional<bool> speedInMiles;
     Encoder encoder = Encoder::automatic;
     // The VAAPI render node to try; empty for the first one.
     QString hardwareDevice;

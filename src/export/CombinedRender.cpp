@@ -8,6 +8,7 @@
 #include "export/Mp4Writer.h"
 #include "export/OverlayText.h"
 #include "model/CancellationError.h"
+#include "model/DrivingDataText.h"
 
 extern "C" {
 #include <libavcodec/avcodec.h>
@@ -27,6 +28,8 @@ namespace {
 constexpr auto reportInterval = std::chrono::milliseconds(100);
 constexpr int fallbackFramesPerSecond = 30;
 constexpr int mostFramesPerSecond = 60;
+// The reader's frame times and the axis's may differ in the last bits.
+constexpr double recordSlack = 1e-3;
 
 struct BufferUnref {
     void operator()(AVBufferRef *b) const { av_buffer_unref(&b); }
@@ -117,9 +120,12 @@ void CombinedRender::attempt(const QString &path, bool hardware, const CombinedE
     if (options_.overlay.reason)
         texts.reason = footage_.reasonLine;
     texts.marker = options_.timeMarker;
-    // options_.overlay.telemetry: the driving-data panel joins the texts
-    // here once the clips' driving data can be read; until then it draws
-    // nothing, and the movie is the same without it.
+    // Footage without the car's records gets no panel at all.
+    const EventTelemetry *telemetry
+        = options_.overlay.telemetry && footage_.telemetry && footage_.telemetry->hasRecords() ? footage_.telemetry.get()
+                                                                                               : nullptr;
+    texts.drivingData = telemetry != nullptr;
+    const bool miles = options_.speedInMiles.value_or(DrivingDataText::milesByDefault());
 
     BufferPtr frames;
     std::unique_ptr<H264Encoder> encoder;
@@ -209,6 +215,9 @@ void CombinedRender::attempt(const QString &path, bool hardware, const CombinedE
     // The time shown changes once a second; its text is made once for each.
     qint64 shownSecond = std::numeric_limits<qint64>::min();
     QString shownText;
+    // Records repeat over many frames while the car is parked; each is worded once.
+    const TelemetryRecord *shownRecord = nullptr;
+    std::optional<DrivingDataPanel::Reading> shownReading;
     std::vector<const AVFrame *> pictures(feeds.size());
     try {
         for (qint64 tick = 0; tick < total; ++tick) {
@@ -230,8 +239,16 @@ void CombinedRender::attempt(const QString &path, bool hardware, const CombinedE
                 shownText = OverlayText::frameTime(moment);
             }
             const double sinceStart = std::max(0.0, moment.timeIntervalSince(footage_.origin));
-            const CompositeGraph::Label label{shownText,
-                                              quint32(std::min(4294967295.0, std::round(sinceStart * 1000.0)))};
+            CompositeGraph::Label label{shownText, quint32(std::min(4294967295.0, std::round(sinceStart * 1000.0))),
+                                        std::nullopt};
+            if (telemetry) {
+                const TelemetryRecord *record = telemetry->recordAt(t + recordSlack);
+                if (record != shownRecord) {
+                    shownRecord = record;
+                    shownReading = record ? std::optional(DrivingDataPanel::read(*record, miles)) : std::nullopt;
+                }
+                label.drivingData = shownReading;
+            }
             graph.add(tick, pictures, label, encode);
         }
         graph.finish(encode);

@@ -3,10 +3,12 @@
 #include "export/CombinedExportOptions.h"
 #include "export/CombinedExportProgress.h"
 #include "model/Date.h"
+#include "model/EventTelemetry.h"
 #include "playback/EventTimeline.h"
 
 #include <QString>
 #include <chrono>
+#include <memory>
 #include <stop_token>
 #include <vector>
 
@@ -23,6 +25,8 @@ public:
         double from = 0;                                 // the stretch of the axis, in seconds
         double to = 0;
         QString reasonLine;
+        // The front camera's driving data on the same axis, for the panel.
+        std::shared_ptr<const EventTelemetry> telemetry;
     };
 
     CombinedRender(Footage footage, CombinedExportOptions options, std::chrono::milliseconds clipLimit);

@@ -94,6 +94,20 @@ AVFilterContext *drawText(AVFilterGraph *graph, AVFilterContext *from, const QSt
                   {"y", y}});
 }
 
+// Words and colour both from the frame's metadata.
+AVFilterContext *drawPanelWords(AVFilterGraph *graph, AVFilterContext *from, const DrivingDataPanel::Words &words)
+{
+    const QString key = QLatin1String(DrivingDataPanel::metadataPrefix) + words.key;
+    return chain(graph, from, "drawtext", QStringLiteral("panel.") + words.key,
+                 {{"font", QString::fromLatin1(font) + (words.bold ? QStringLiteral(":bold") : QString())},
+                  {"text", QStringLiteral("%{metadata:%1}").arg(key)},
+                  {"fontcolor_expr", QStringLiteral("%{metadata:%1.colour}").arg(key)},
+                  {"expansion", QStringLiteral("normal")},
+                  {"fontsize", number(words.size)},
+                  {"x", words.x},
+                  {"y", words.y}});
+}
+
 void configure(AVFilterGraph *graph)
 {
     const int result = avfilter_graph_config(graph, nullptr);
@@ -237,7 +251,7 @@ CompositeGraph::CompositeGraph(const CombinedLayout &layout, const std::vector<I
 
     // The whole canvas's words need each frame's own text, which the
     // stacking above doesn't pass on: they are drawn in a graph of their own.
-    if (!texts.time && !texts.reason && !nv12)
+    if (!texts.time && !texts.reason && !texts.drivingData && !nv12)
         return;
     overlay_ = avfilter_graph_alloc();
     if (!overlay_)
@@ -258,6 +272,11 @@ CompositeGraph::CompositeGraph(const CombinedLayout &layout, const std::vector<I
     if (texts.reason)
         last = drawText(overlay_, last, QStringLiteral("reason"), *texts.reason, false, layout.labelTextSize(),
                         QStringLiteral("w-text_w-%1").arg(margin), number(margin), true);
+    if (texts.drivingData) {
+        panel_.emplace(layout);
+        for (const DrivingDataPanel::Words &words : panel_->words())
+            last = drawPanelWords(overlay_, last, words);
+    }
     if (nv12)
         last = chain(overlay_, last, "format", QStringLiteral("upload"), {{"pix_fmts", QStringLiteral("nv12")}});
     overlayOut_ = addFilter(overlay_, "buffersink", QStringLiteral("finished"), {});
@@ -341,6 +360,14 @@ void CompositeGraph::decorate(AVFrame *canvas, const Sink &sink)
     if (canvas) {
         const auto label = labels_.find(canvas->pts);
         av_dict_set(&canvas->metadata, timeKey, label != labels_.end() ? label->second.time.toUtf8().constData() : "", 0);
+        if (panel_) {
+            const std::optional<DrivingDataPanel::Reading> reading
+                = label != labels_.end() ? label->second.drivingData : std::nullopt;
+            // The box goes under the words; a canvas the graph still holds is copied first.
+            if (reading && av_frame_make_writable(canvas) >= 0)
+                panel_->paint(canvas, *reading);
+            panel_->label(canvas, reading);
+        }
         const int result = av_buffersrc_add_frame_flags(overlayIn_, canvas, 0);
         av_frame_free(&canvas);
         if (result < 0)

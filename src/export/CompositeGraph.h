@@ -2,6 +2,7 @@
 
 #include "export/CombinedExportOptions.h"
 #include "export/CombinedLayout.h"
+#include "export/DrivingDataPanel.h"
 
 #include <QString>
 #include <cstdint>
@@ -18,7 +19,8 @@ struct AVFrame;
 // each scaled into its cell without distortion and padded black, stacked
 // (xstack), and the words drawn over them (drawtext). A cell without
 // footage is black with the camera's name. A second, small graph draws the
-// frame's own time over the finished canvas, where the time marker goes too.
+// frame's own time and driving data over the finished canvas, where the
+// time marker goes too.
 class CompositeGraph {
 public:
     // The picture a cell's camera gives, as its first frame had it; a
@@ -33,11 +35,13 @@ public:
         bool time = false;
         std::optional<QString> reason;
         bool marker = false;
+        bool drivingData = false;
     };
     // What is drawn over one canvas.
     struct Label {
         QString time;
         quint32 marker = 0;
+        std::optional<DrivingDataPanel::Reading> drivingData; // no panel without one
     };
     using Sink = std::function<void(AVFrame *)>;
 
@@ -70,6 +74,7 @@ private:
     std::vector<AVFrame *> black_;
     AVFilterContext *composed_ = nullptr;
 
+    std::optional<DrivingDataPanel> panel_;
     AVFilterGraph *overlay_ = nullptr; // null when nothing is drawn over the whole canvas
     AVFilterContext *overlayIn_ = nullptr;
     AVFilterContext *overlayOut_ = nullptr;

@@ -1,6 +1,6 @@
 #include "DrivingDataPreferences.h"
 
-#include "DrivingDataText.h"
+#include "model/DrivingDataText.h"
 
 #include <QCoreApplication>
 #include <QSettings>

@@ -1,7 +1,7 @@
 #include "PlayerDrivingData.h"
 
 #include "DrivingDataPreferences.h"
-#include "DrivingDataText.h"
+#include "model/DrivingDataText.h"
 #include "SymbolIcons.h"
 #include "engine/EngineFacade.h"
 #include "playback/SyncPlayerController.h"

@@ -1,6 +1,6 @@
 #include "TileMap.h"
 
-#include "DrivingDataText.h"
+#include "model/DrivingDataText.h"
 #include "EventMapPresenter.h"
 #include "TileSource.h"
 

@@ -204,18 +204,25 @@ private Q_SLOTS:
                        QStringLiteral("--size"), QStringLiteral("720"), QStringLiteral("-o"), outputs});
         QVERIFY(process.waitForStarted());
         QVERIFY(fs.waitUntilHeld());
+        // Clips are read ahead of the movie, so the hold may come before the
+        // first frame is written: the interrupt waits for both.
+        QByteArray err;
+        QElapsedTimer waited;
+        waited.start();
+        while (!err.contains(" frames") && waited.elapsed() < 20000) {
+            process.waitForReadyRead(100);
+            err += process.readAllStandardError();
+        }
+        QVERIFY2(err.contains(" frames"), err.constData()); // it is writing
         ::kill(pid_t(process.processId()), SIGINT);
         // The tool says so while the read is still held: a process can't
         // end while the kernel waits on the drive for it, so it ends once
         // the drive lets go.
-        QByteArray err;
-        QElapsedTimer waited;
-        waited.start();
+        waited.restart();
         while (!err.contains("The export was stopped.") && waited.elapsed() < 10000) {
             process.waitForReadyRead(100);
             err += process.readAllStandardError();
         }
-        QVERIFY2(err.contains(" frames"), err.constData()); // it was writing
         QCOMPARE(QString::fromUtf8(err).trimmed().split(QLatin1Char('\n')).last(), QStringLiteral("The export was stopped."));
         QCOMPARE(QDir(outputs).entryList(QDir::Files | QDir::Hidden | QDir::NoDotAndDotDot), QStringList());
         fs.release();

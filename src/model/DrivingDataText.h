@@ -6,7 +6,7 @@
 #include <QLocale>
 #include <QString>
 
-// How the player's overlay words the car's record.
+// How the player's overlay and the exported movie word the car's record.
 namespace DrivingDataText {
 
 // Whether speeds read in miles an hour where the user lives (the US and

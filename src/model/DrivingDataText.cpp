@@ -1,4 +1,4 @@
-#include "DrivingDataText.h"
+#include "model/DrivingDataText.h"
 
 #include <algorithm>
 #include <cmath>
