@@ -1,6 +1,6 @@
 #include "MapViewModel.h"
 
-#include "DrivingDataText.h"
+#include "model/DrivingDataText.h"
 #include "EventMapPresenter.h"
 #include "EventRoutes.h"
 #include "InboxPresenter.h"
