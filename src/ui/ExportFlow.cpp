@@ -1,5 +1,6 @@
 #include "ExportFlow.h"
 
+#include "DrivingDataPreferences.h"
 #include "FileChooser.h"
 
 #include "engine/AsyncRun.h"
@@ -230,6 +231,8 @@ CombinedExportOptions ExportFlow::combinedOptions() const
         options.camera = selectedCamera_;
     options.overlay = overlay_;
     options.overlay.telemetry = showDrivingData();
+    // The unit the player shows, as the user last chose it.
+    options.speedInMiles = DrivingDataPreferences::shared()->useMiles();
     options.size = size_;
     options.range = chosenRange();
     return options;

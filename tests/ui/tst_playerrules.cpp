@@ -1,3 +1,4 @@
+#include "DrivingDataPreferences.h"
 #include "ExportFlow.h"
 #include "KeyboardHints.h"
 #include "ListPlayerKeyRouter.h"
@@ -477,6 +478,11 @@ private Q_SLOTS:
         QCOMPARE(options.camera, std::optional<Camera>(Camera::back));
         QCOMPARE(options.range, (std::optional<std::pair<double, double>>({20.0, 40.0})));
         QVERIFY(options.overlay.telemetry); // offered while still unknown
+        // The speed in the unit the player was last switched to.
+        DrivingDataPreferences::shared()->setUseMiles(true);
+        QCOMPARE(flow.combinedOptions().speedInMiles, std::optional<bool>(true));
+        DrivingDataPreferences::shared()->setUseMiles(false);
+        QCOMPARE(flow.combinedOptions().speedInMiles, std::optional<bool>(false));
 
         flow.setProperty("layout", QStringLiteral("front-sides"));
         QVERIFY(!flow.needsCamera());
