@@ -593,13 +593,25 @@ private Q_SLOTS:
         const double target = 3.0 + 27.0 / fps;
         c.seek(target);
         QTRY_VERIFY_WITH_TIMEOUT(c.isShowingApproximateFrames(), 5000);
-        for (size_t i = 0; i < c.tiles().size(); ++i) {
-            const auto shown = identify(sinks[i]->videoFrame());
-            QVERIFY(shown);
-            // The key frame of the second clip, or the exact frame already.
-            QVERIFY2(shown->clip == 1 && (shown->index == 0 || shown->index == 27),
-                     qPrintable(QString("%1/%2").arg(shown->clip).arg(shown->index)));
-        }
+        // Every camera comes to the key frame of the second clip, or to the
+        // exact frame already, and to nothing between (each in its own time:
+        // on a busy machine one may still show the old picture a moment).
+        QString seen;
+        QString between;
+        auto keyOrExact = [&] {
+            seen.clear();
+            bool all = true;
+            for (size_t i = 0; i < c.tiles().size(); ++i) {
+                const auto shown = identify(sinks[i]->videoFrame());
+                seen += QString(" %1/%2").arg(shown ? shown->clip : -1).arg(shown ? shown->index : -1);
+                if (shown && shown->clip == 1 && shown->index != 0 && shown->index != 27)
+                    between = seen;
+                all = all && shown && shown->clip == 1;
+            }
+            return all;
+        };
+        QTRY_VERIFY2_WITH_TIMEOUT(keyOrExact(), qPrintable(seen), 10000);
+        QVERIFY2(between.isEmpty(), qPrintable(between));
         QVERIFY(waitSettled(c, 20000));
         QTRY_VERIFY(!c.isShowingApproximateFrames());
         verifyAllAt(c, MediaTime::fromSeconds(target).seconds(), layout);
