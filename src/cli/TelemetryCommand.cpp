@@ -58,11 +58,12 @@ QString number(double value)
     return QString::number(value, 'g', QLocale::FloatingPointShortest);
 }
 
-// The computer's local time, with its offset so that it stands alone.
+// The car's clock as it ran, with no offset: the car keeps no zone, and
+// the computer's need not be the car's.
 QString wallClock(const EventTelemetry::Sample &s)
 {
     const QDateTime local = s.track->wallClock(s.mediaTime).toLocalDateTime();
-    return local.toOffsetFromUtc(local.offsetFromUtc()).toString(Qt::ISODateWithMs);
+    return QDateTime(local.date(), local.time()).toString(Qt::ISODateWithMs);
 }
 
 QString utcTime(const EventTelemetry::Sample &s)

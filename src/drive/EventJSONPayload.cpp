@@ -118,6 +118,7 @@ std::optional<EventJSONPayload> EventJSONPayload::decode(const QByteArray &data)
     EventJSONPayload p;
     p.timestampRaw = stringField(o, "timestamp");
     p.city = stringField(o, "city");
+    p.street = stringField(o, "street");
     p.estLat = decodeCoordinate(o, "est_lat", 90.0);
     p.estLon = decodeCoordinate(o, "est_lon", 180.0);
     p.reason = stringField(o, "reason");

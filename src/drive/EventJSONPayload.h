@@ -11,6 +11,7 @@
 struct EventJSONPayload {
     std::optional<QString> timestampRaw;
     std::optional<QString> city;
+    std::optional<QString> street;
     std::optional<double> estLat;
     std::optional<double> estLon;
     std::optional<QString> reason;

@@ -306,6 +306,7 @@ std::optional<TeslaEvent> parseEventFolder(const QString &folderURL, EventKind k
         if (const auto t = payload->parsedTimestamp())
             event.timestamp = *t;
         event.city = payload->city;
+        event.street = payload->street;
         event.latitude = payload->estLat;
         event.longitude = payload->estLon;
         event.reasonRaw = payload->reason;

@@ -6,8 +6,8 @@ namespace OverlayText {
 
 QString frameTime(Date moment, const QLocale &locale)
 {
-    return locale.toString(moment.toLocalDateTime(), locale.dateFormat(QLocale::ShortFormat) + QLatin1Char(' ')
-                                                         + locale.timeFormat(QLocale::LongFormat));
+    return moment.formatCarClock(locale, locale.dateFormat(QLocale::ShortFormat) + QLatin1Char(' ')
+                                             + locale.timeFormat(QLocale::LongFormat));
 }
 
 QString reasonLine(const TeslaEvent &event)
@@ -16,8 +16,8 @@ QString reasonLine(const TeslaEvent &event)
     // Recent driving is its own reason; the kind would only repeat it.
     parts << (event.kind == EventKind::recent ? event.reason.label()
                                                  : event.kind.displayName() + QStringLiteral(": ") + event.reason.label());
-    if (event.city && !event.city->trimmed().isEmpty())
-        parts << event.city->trimmed();
+    if (const std::optional<QString> place = event.placeName())
+        parts << *place;
     if (event.latitude && event.longitude)
         parts << QString::asprintf("%.4f, %.4f", *event.latitude, *event.longitude);
     return parts.join(QStringLiteral(" \u00b7 "));

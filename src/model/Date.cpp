@@ -27,6 +27,33 @@ QString Date::formatLocal(const QString &pattern) const
     return QLocale::c().toString(toLocalDateTime(), pattern);
 }
 
+QString Date::formatCarClock(const QLocale &locale, const QString &pattern) const
+{
+    return locale.toString(toLocalDateTime(), withoutZone(pattern));
+}
+
+QString Date::withoutZone(const QString &pattern)
+{
+    QString out;
+    bool quoted = false;
+    for (qsizetype i = 0; i < pattern.size(); ++i) {
+        const QChar c = pattern.at(i);
+        if (c == QLatin1Char('\'')) {
+            quoted = !quoted;
+            out += c;
+        } else if (!quoted && c == QLatin1Char('t')) {
+            // The zone field and the space or bracket that set it apart.
+            while (out.endsWith(QLatin1Char(' ')) || out.endsWith(QLatin1Char('(')))
+                out.chop(1);
+            while (i + 1 < pattern.size() && (pattern.at(i + 1) == QLatin1Char('t') || pattern.at(i + 1) == QLatin1Char(')')))
+                ++i;
+        } else {
+            out += c;
+        }
+    }
+    return out.trimmed();
+}
+
 size_t qHash(Date d, size_t seed) noexcept
 {
     return qHash(d.timeIntervalSinceReferenceDate(), seed);

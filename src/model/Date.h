@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDateTime>
+#include <QLocale>
 #include <QString>
 #include <compare>
 
@@ -28,6 +29,12 @@ public:
     QDateTime toLocalDateTime() const { return toQDateTime().toLocalTime(); }
     // Formats in the machine's current local zone with a QDateTime pattern.
     QString formatLocal(const QString &pattern) const;
+    // The car's clock keeps no zone, and the computer's zone need not be
+    // the car's: a time the car recorded is shown as its wall-clock time,
+    // never with a zone's name. Formats in the locale with the pattern's
+    // zone fields taken out.
+    QString formatCarClock(const QLocale &locale, const QString &pattern) const;
+    static QString withoutZone(const QString &pattern);
 
     constexpr auto operator<=>(const Date &) const = default;
     constexpr bool operator==(const Date &) const = default;

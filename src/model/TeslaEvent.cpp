@@ -13,6 +13,18 @@ qint64 TeslaEvent::totalBytes() const
     return sum;
 }
 
+std::optional<QString> TeslaEvent::placeName() const
+{
+    const auto given = [](const std::optional<QString> &s) { return s && !s->trimmed().isEmpty(); };
+    if (given(street) && given(city))
+        return street->trimmed() + QStringLiteral(", ") + city->trimmed();
+    if (given(city))
+        return city->trimmed();
+    if (given(street))
+        return street->trimmed();
+    return std::nullopt;
+}
+
 int TeslaEvent::corruptClipCount() const
 {
     return int(std::count_if(clips.begin(), clips.end(), [](const ClipRef &c) { return c.health.isDamaged(); }));
@@ -68,6 +80,7 @@ QJsonObject TeslaEvent::toJson() const
     o.insert(QStringLiteral("folderName"), folderName);
     o.insert(QStringLiteral("timestamp"), encodeDate(timestamp));
     insertOptional(o, "city", city);
+    insertOptional(o, "street", street);
     insertOptional(o, "latitude", latitude);
     insertOptional(o, "longitude", longitude);
     insertOptional(o, "reasonRaw", reasonRaw);
@@ -90,6 +103,7 @@ TeslaEvent TeslaEvent::fromJson(const QJsonValue &value)
     e.folderName = requireString(o, "folderName");
     e.timestamp = decodeDate(require(o, "timestamp"), "timestamp");
     e.city = optionalString(o, "city");
+    e.street = optionalString(o, "street");
     e.latitude = optionalDouble(o, "latitude");
     e.longitude = optionalDouble(o, "longitude");
     e.reasonRaw = optionalString(o, "reasonRaw");

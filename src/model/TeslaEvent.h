@@ -27,10 +27,14 @@ struct TeslaEvent {
     std::vector<ClipRef> clips;
     std::optional<QString> thumbURL;
     bool missingEventJSON = true;
+    // Newer cars name the street in event.json; shown with the city.
+    std::optional<QString> street;
 
     // The one identity of an event: "sentry|2026-07-21_02-11-05".
     QString id() const { return kind.rawValue() + QLatin1Char('|') + folderName; }
     qint64 totalBytes() const;
+    // "Street, City", either alone, or nothing: where the car says it was.
+    std::optional<QString> placeName() const;
     int corruptClipCount() const;
     // Distinct cameras, in grid order.
     std::vector<Camera> cameras() const;

@@ -89,6 +89,35 @@ std::vector<CameraTrack> build(const TeslaEvent &event, std::chrono::millisecond
     return tracks;
 }
 
+std::vector<Gap> gaps(const TeslaEvent &event, const CameraTrack &track, double minGap)
+{
+    std::vector<Gap> out;
+    const std::optional<Date> origin = event.earliestClipDate();
+    if (!track.composition || track.composition->tracks().empty() || !origin)
+        return out;
+    // A damaged clip of this camera that starts within the stretch is why it is empty.
+    const auto reasonFor = [&](double start, double end) {
+        for (const ClipRef &clip : event.clips) {
+            if (clip.camera != track.camera || !clip.health.isDamaged())
+                continue;
+            const double at = std::max(0.0, clip.startDate.timeIntervalSince(*origin));
+            if (at >= start - minGap && at < end)
+                return damagedReason;
+        }
+        return noFootageReason;
+    };
+    double covered = 0;
+    const auto addUpTo = [&](double next) {
+        if (next - covered >= minGap)
+            out.push_back(Gap{covered, next, reasonFor(covered, next)});
+    };
+    for (const Composition::Segment &segment : track.composition->tracks().front().segments) {
+        addUpTo(segment.timelineStart.seconds());
+        covered = std::max(covered, segment.timelineEnd().seconds());
+    }
+    return out;
+}
+
 std::optional<double> momentOffset(const TeslaEvent &event, double duration)
 {
     const auto earliest = event.earliestClipDate();

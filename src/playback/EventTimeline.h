@@ -31,6 +31,21 @@ struct CameraTrack {
 // place only. Stops early, with what it has, when stop is requested.
 std::vector<CameraTrack> build(const TeslaEvent &event, std::chrono::milliseconds clipTimeout, std::stop_token stop);
 
+// A stretch of a camera's footage where nothing plays, and the tile's word for it.
+struct Gap {
+    double start = 0;
+    double end = 0;
+    QString reason;
+    bool operator==(const Gap &) const = default;
+};
+
+// Where, up to the end of its footage, a camera that has a track shows
+// nothing: a damaged minute says the camera didn't record properly; a
+// minute the car never wrote, or one that can't be read yet, says there is
+// no footage. Gaps shorter than minGap are the frame-timing seams between
+// clips, not gaps.
+std::vector<Gap> gaps(const TeslaEvent &event, const CameraTrack &track, double minGap = 1.0);
+
 // Seconds from the start of the axis to the moment the event was triggered,
 // when the event knows it and it falls within duration.
 std::optional<double> momentOffset(const TeslaEvent &event, double duration);

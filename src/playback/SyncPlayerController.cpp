@@ -1,13 +1,13 @@
 #include "playback/SyncPlayerController.h"
 
+#include "base/Awaiting.h"
+#include "engine/AsyncRun.h"
 #include "engine/EnginePools.h"
 #include "playback/HostClock.h"
 #include "playback/EventTimeline.h"
 
 #include <QThreadPool>
 #include <QTimer>
-#include <QtConcurrent/QtConcurrentRun>
-#include <qcoro/qcorofuture.h>
 #include <qcoro/qcorotimer.h>
 
 #include <algorithm>
@@ -38,6 +38,7 @@ void SyncPlayerController::removeTimeObserver()
 
 void SyncPlayerController::loadEvent(const TeslaEvent &event)
 {
+    event_ = event;
     if (buildTask_)
         buildTask_->request_stop();
     buildTask_.reset();
@@ -82,12 +83,21 @@ void SyncPlayerController::loadEvent(const TeslaEvent &event)
 QCoro::Task<void> SyncPlayerController::runBuild(QPointer<SyncPlayerController> self, TeslaEvent event,
                                                  std::stop_token stop)
 {
-    QFuture<std::vector<TileOutcome>> future = QtConcurrent::run(
-        &EnginePools::media(), [event, stop] { return buildTileData(event, stop); });
-    const std::vector<TileOutcome> outcomes = co_await future;
+    QFuture<std::vector<TileOutcome>> future =
+        AsyncRun::onPool(EnginePools::media(), [event, stop] { return buildTileData(event, stop); });
+    auto futureEnded = Awaiting::finished(future);
+    co_await futureEnded;
     if (!self || stop.stop_requested())
         co_return;
-    self->applyTileOutcomes(outcomes);
+    std::optional<std::vector<TileOutcome>> outcomes;
+    try {
+        outcomes = Awaiting::take(future);
+    } catch (const std::exception &e) {
+        qCWarning(lcPlayback) << "the cameras could not be laid out:" << e.what();
+    } catch (...) {
+        qCWarning(lcPlayback) << "the cameras could not be laid out: an unknown error";
+    }
+    self->applyTileOutcomes(outcomes.value_or(std::vector<TileOutcome>{}));
     if (!self->playableTiles().empty())
         self->jumpToMoment();
 }
@@ -103,9 +113,10 @@ void SyncPlayerController::applyTileOutcomes(const std::vector<TileOutcome> &out
     std::vector<Tile> tiles;
     for (const TileOutcome &o : outcomes) {
         if (o.composition)
-            tiles.push_back(Tile{o.camera, std::make_shared<TrackPlayer>(*o.composition), std::nullopt, o.contentEnd});
+            tiles.push_back(Tile{o.camera, std::make_shared<TrackPlayer>(*o.composition), std::nullopt, o.contentEnd,
+                                 EventTimeline::gaps(event_, o)});
         else
-            tiles.push_back(Tile{o.camera, nullptr, o.placeholderReason, 0});
+            tiles.push_back(Tile{o.camera, nullptr, o.placeholderReason, 0, {}});
     }
     tiles_ = std::move(tiles);
     group_.clear();
@@ -123,6 +134,12 @@ void SyncPlayerController::applyTileOutcomes(const std::vector<TileOutcome> &out
         m.insert(QStringLiteral("placeholderReason"),
                  t.placeholderReason ? QVariant(*t.placeholderReason) : QVariant());
         m.insert(QStringLiteral("contentEnd"), t.contentEnd);
+        QVariantList gaps;
+        for (const EventTimeline::Gap &gap : t.gaps)
+            gaps.append(QVariantMap{{QStringLiteral("start"), gap.start},
+                                    {QStringLiteral("end"), gap.end},
+                                    {QStringLiteral("reason"), gap.reason}});
+        m.insert(QStringLiteral("gaps"), gaps);
         tilesForQml_.append(m);
     }
     Q_EMIT tilesChanged();
@@ -167,6 +184,8 @@ void SyncPlayerController::observedTime(double seconds)
     if (!isPlaying_)
         return;
     setCurrentTime(seconds);
+    rateMeter_.add(seconds, HostClock::now());
+    setPlayingRate(rateMeter_.rate());
     // The clock's player stops at its footage's end, which is the event's:
     // playback is over, so the transport offers Play again.
     const double end = clockPlayer_ ? std::min(duration_, clockPlayer_->trackDuration().seconds()) : duration_;
@@ -286,7 +305,8 @@ QCoro::Task<void> SyncPlayerController::cueAndPlay(QPointer<SyncPlayerController
         });
         if (allReady)
             break;
-        co_await QCoro::sleepFor(cuePollInterval);
+        QCoro::Task<void> nap = QCoro::sleepFor(cuePollInterval);
+        co_await nap;
     }
     if (!self || stop.stop_requested())
         co_return;
@@ -300,7 +320,8 @@ QCoro::Task<void> SyncPlayerController::cueAndPlay(QPointer<SyncPlayerController
     // A player whose worker is stuck on a dead drive never lands; don't wait forever.
     const auto seekDeadline = std::chrono::steady_clock::now() + 5s;
     while (*remaining > 0 && std::chrono::steady_clock::now() < seekDeadline) {
-        co_await QCoro::sleepFor(5ms);
+        QCoro::Task<void> nap = QCoro::sleepFor(5ms);
+        co_await nap;
         if (!self || stop.stop_requested())
             co_return;
     }
@@ -335,8 +356,10 @@ QCoro::Task<void> SyncPlayerController::runFrameSteps(QPointer<SyncPlayerControl
         QPointer<TrackPlayer> primary = self->primaryPlayer_;
         // Wait for the primary camera to show the frame of the last seek.
         const auto deadline = std::chrono::steady_clock::now() + 2s;
-        while (primary && primary->isSeeking() && std::chrono::steady_clock::now() < deadline)
-            co_await QCoro::sleepFor(2ms);
+        while (primary && primary->isSeeking() && std::chrono::steady_clock::now() < deadline) {
+            QCoro::Task<void> nap = QCoro::sleepFor(2ms);
+            co_await nap;
+        }
         if (!self)
             co_return;
         if (!primary || self->isPlaying_)
@@ -348,7 +371,8 @@ QCoro::Task<void> SyncPlayerController::runFrameSteps(QPointer<SyncPlayerControl
         if (direction > 0) {
             std::optional<double> next = primary->nextFrameTime();
             while (primary && !next && std::chrono::steady_clock::now() < deadline) {
-                co_await QCoro::sleepFor(2ms);
+                QCoro::Task<void> nap = QCoro::sleepFor(2ms);
+                co_await nap;
                 next = primary ? primary->nextFrameTime() : std::nullopt;
             }
             if (!self)
@@ -385,10 +409,24 @@ QString SyncPlayerController::timeString(double seconds)
 
 void SyncPlayerController::setIsPlaying(bool value)
 {
+    // Every start, stop, seek and new speed measures afresh.
+    rateMeter_.reset();
+    setPlayingRate(std::nullopt);
     if (isPlaying_ == value)
         return;
     isPlaying_ = value;
     Q_EMIT isPlayingChanged();
+}
+
+void SyncPlayerController::setPlayingRate(std::optional<double> rate)
+{
+    if (playingRate_ == rate)
+        return;
+    const bool wasBehind = isFallingBehind();
+    playingRate_ = rate;
+    // A figure that wobbles in its last digits is not news to the screen.
+    if (wasBehind != isFallingBehind() || isFallingBehind() || !rate)
+        Q_EMIT playingRateChanged();
 }
 
 void SyncPlayerController::setCurrentTime(double value)

@@ -2,6 +2,7 @@
 
 #include "model/Camera.h"
 #include "model/TeslaEvent.h"
+#include "playback/RateMeter.h"
 #include "playback/Composition.h"
 #include "playback/PlaybackGroup.h"
 #include "playback/EventTimeline.h"
@@ -39,6 +40,9 @@ class SyncPlayerController : public QObject {
     // before the target: the pictures are near the time shown, not at it.
     Q_PROPERTY(bool isShowingApproximateFrames READ isShowingApproximateFrames NOTIFY isShowingApproximateFramesChanged)
     Q_PROPERTY(QString approximateFramesText READ approximateFramesText CONSTANT)
+    // The speed the event really plays at, measured while it plays; 0 until known.
+    Q_PROPERTY(double playingRate READ playingRateForQml NOTIFY playingRateChanged)
+    Q_PROPERTY(bool isFallingBehind READ isFallingBehind NOTIFY playingRateChanged)
 
 public:
     struct Tile {
@@ -46,6 +50,7 @@ public:
         std::shared_ptr<TrackPlayer> player;      // absent when the camera can't be shown
         std::optional<QString> placeholderReason; // set exactly when player is absent
         double contentEnd = 0;                    // where this camera's footage ends on the axis
+        std::vector<EventTimeline::Gap> gaps;     // stretches before contentEnd where nothing plays
         Camera id() const { return camera; }
     };
 
@@ -59,6 +64,8 @@ public:
     static constexpr std::chrono::milliseconds clipTimeout{8000};
     static constexpr qint64 observerIntervalTicks = 150; // 0.25 s at timescale 600
     static constexpr std::chrono::milliseconds retireDelay{500};
+    // Below this share of the chosen speed, the transport says the computer can't keep up.
+    static constexpr double keepUpShare = 0.85;
 
     static inline const QString damagedReason = EventTimeline::damagedReason;
     static inline const QString noFootageReason = EventTimeline::noFootageReason;
@@ -81,6 +88,9 @@ public:
     std::optional<double> triggerOffset() const { return triggerOffset_; }
     bool isShowingApproximateFrames() const { return approximate_; }
     QString approximateFramesText() const { return approximateFramesNote; }
+    std::optional<double> playingRate() const { return playingRate_; }
+    double playingRateForQml() const { return playingRate_.value_or(0.0); }
+    bool isFallingBehind() const { return playingRate_ && *playingRate_ < rate_ * keepUpShare; }
 
     Q_INVOKABLE void play();
     Q_INVOKABLE void pause();
@@ -106,11 +116,17 @@ Q_SIGNALS:
     void focusedCameraChanged();
     void triggerOffsetChanged();
     void isShowingApproximateFramesChanged();
+    void playingRateChanged();
 
 private:
     friend class TestSyncPlayerController;
 
     using TileOutcome = EventTimeline::CameraTrack;
+
+    TeslaEvent event_; // the event loaded last, whose clips say why a stretch is empty
+    RateMeter rateMeter_;
+    std::optional<double> playingRate_;
+    void setPlayingRate(std::optional<double> rate);
 
     static std::vector<TileOutcome> buildTileData(const TeslaEvent &event, std::stop_token stop);
     void applyTileOutcomes(const std::vector<TileOutcome> &outcomes);

@@ -1,13 +1,13 @@
 #include "playback/ThumbnailLoader.h"
 
 #include "drive/ReadOnlyFs.h"
+#include "engine/AsyncRun.h"
 #include "engine/EnginePools.h"
 
 #include <QCache>
 #include <QFile>
 #include <QImageReader>
 #include <QThreadPool>
-#include <QtConcurrent/QtConcurrentRun>
 
 #include <algorithm>
 #include <cmath>
@@ -77,7 +77,7 @@ QFuture<std::optional<QImage>> load(const QString &path)
         promise.finish();
         return promise.future();
     }
-    return QtConcurrent::run(&EnginePools::media(), [path] { return loadNow(path); });
+    return AsyncRun::onPool(EnginePools::media(), [path] { return loadNow(path); });
 }
 
 int cachedCount()

@@ -263,6 +263,12 @@ QCoro::Task<void> AppState::scanTask(QPointer<AppState> self, QString root, quin
 void AppState::evaluateForFailure(const DriveScan &scan)
 {
     const VolumeFormat &format = scan.format;
+    // The bundled footage is ours, wherever the computer keeps it: the disk
+    // it lies on is never the car's drive to be judged.
+    if (isSampleMode_) {
+        recomputeHealth();
+        return;
+    }
     if (!ReadableFormats::isReadable(format)) {
         setCurrentFailure(DriveFailure::unreadableFormat(format));
     } else if (scan.events.empty()) {

@@ -2,6 +2,8 @@
 
 #include "InboxPresenter.h"
 
+#include <QSet>
+
 #include <algorithm>
 #include <cmath>
 #include <numbers>
@@ -15,8 +17,15 @@ constexpr double maxLatitude = 85.05112878;
 
 std::vector<TeslaEvent> allEvents(const std::vector<TeslaEvent> &driveEvents, const std::vector<TeslaEvent> &vaultEvents)
 {
+    // An event both on the drive and in the Vault is one event: its drive
+    // copy stands for it, and the Vault's adds only what the drive lacks.
     std::vector<TeslaEvent> all = driveEvents;
-    all.insert(all.end(), vaultEvents.begin(), vaultEvents.end());
+    QSet<QString> onDrive;
+    for (const TeslaEvent &e : driveEvents)
+        onDrive.insert(e.id());
+    for (const TeslaEvent &e : vaultEvents)
+        if (!onDrive.contains(e.id()))
+            all.push_back(e);
     return all;
 }
 

@@ -10,6 +10,7 @@
 EventPlayerPresenter::EventPlayerPresenter(QObject *parent)
     : QObject(parent), drivingData_(new PlayerDrivingData(this))
 {
+    connect(drivingData_, &PlayerDrivingData::loadFinished, this, &EventPlayerPresenter::tellExportFlowAboutDrivingData);
 }
 
 EventPlayerPresenter::~EventPlayerPresenter()
@@ -136,7 +137,7 @@ QVariantMap EventPlayerPresenter::metadata() const
                                 "something you did."));
     m.insert(QStringLiteral("dateText"), dateText(e));
     m.insert(QStringLiteral("dateIcon"), SymbolIcons::iconUrl(QStringLiteral("calendar")));
-    m.insert(QStringLiteral("city"), e.city.value_or(QString()));
+    m.insert(QStringLiteral("city"), e.placeName().value_or(QString()));
     m.insert(QStringLiteral("cityIcon"), SymbolIcons::iconUrl(QStringLiteral("mappin.and.ellipse")));
     const bool located = e.latitude && e.longitude;
     m.insert(QStringLiteral("hasCoordinates"), located);
@@ -252,6 +253,17 @@ void EventPlayerPresenter::dismiss()
         appState_->dismiss({*event_});
 }
 
+// A sheet opened while the data still loads learns what it found; one
+// that is already making its movie keeps what it started with.
+void EventPlayerPresenter::tellExportFlowAboutDrivingData()
+{
+    if (!exportFlow_ || exportFlow_->isExporting())
+        return;
+    exportFlow_->setDrivingData(drivingData_->isLoading() ? ExportFlow::DrivingData::unknown
+                                : drivingData_->hasData() ? ExportFlow::DrivingData::present
+                                                          : ExportFlow::DrivingData::absent);
+}
+
 ExportFlow *EventPlayerPresenter::newExportFlow()
 {
     if (!appState_ || !event_)
@@ -265,8 +277,6 @@ ExportFlow *EventPlayerPresenter::newExportFlow()
     // The player's timeline, once its tiles have told how long it is.
     if (controller_ && !controller_->isLoadingTiles() && !controller_->tiles().empty())
         exportFlow_->setTimelineLength(controller_->duration());
-    exportFlow_->setDrivingData(drivingData_->isLoading() ? ExportFlow::DrivingData::unknown
-                                : drivingData_->hasData() ? ExportFlow::DrivingData::present
-                                                          : ExportFlow::DrivingData::absent);
+    tellExportFlowAboutDrivingData();
     return exportFlow_;
 }

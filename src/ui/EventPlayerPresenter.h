@@ -83,6 +83,7 @@ private:
     QString loadedID_;
     SyncPlayerController *controller_ = nullptr;
     PlayerDrivingData *drivingData_ = nullptr;
+    void tellExportFlowAboutDrivingData();
     QPointer<ExportFlow> exportFlow_;
     QList<QMetaObject::Connection> stateConnections_;
 };

@@ -1,6 +1,9 @@
 #include "EventRoutes.h"
 
+#include "base/Awaiting.h"
+#include "engine/AsyncRun.h"
 #include "engine/EngineFacade.h"
+#include "engine/EnginePools.h"
 
 #include <QSet>
 
@@ -38,23 +41,43 @@ void EventRoutes::request(const std::vector<TeslaEvent> &events)
 
 void EventRoutes::startNext()
 {
-    if (running_.isRunning() || queue_.empty())
+    if (!runningKey_.isEmpty() || queue_.empty())
         return;
     const TeslaEvent event = queue_.front();
     queue_.pop_front();
     runningKey_ = keyOf(event);
     running_ = engine_.loadTelemetry(event, Camera::front);
-    // Thinned where it was read; only the route comes back to this thread.
-    running_
-        .then(QtFuture::Launch::Sync,
-              [id = event.id()](EventTelemetry telemetry) { return MapRoute::fromTelemetry(id, telemetry); })
-        .then(this, [this, key = runningKey_, id = event.id()](QFuture<MapRoute> done) {
-            // Unreadable clips leave the event without a route, not without a pin.
-            cache_.insert(key, done.resultCount() > 0 ? done.takeResult() : MapRoute{id, {}});
-            runningKey_.clear();
-            Q_EMIT changed();
-            startNext();
-        });
+    readTask(QPointer<EventRoutes>(this), running_, runningKey_, event.id());
+}
+
+QCoro::Task<void> EventRoutes::readTask(QPointer<EventRoutes> self, QFuture<EventTelemetry> reading, QString key,
+                                        QString id)
+{
+    auto readingEnded = Awaiting::finished(reading);
+    co_await readingEnded;
+    // Thinned off this thread; only the route comes back.
+    QFuture<MapRoute> thinned = AsyncRun::onPool(EnginePools::quick(), [reading, id]() mutable {
+        const std::optional<EventTelemetry> telemetry = Awaiting::take(reading);
+        return telemetry ? MapRoute::fromTelemetry(id, *telemetry) : MapRoute{id, {}};
+    });
+    auto thinnedEnded = Awaiting::finished(thinned);
+    co_await thinnedEnded;
+    if (!self)
+        co_return;
+    // Unreadable clips leave the event without a route, not without a pin.
+    MapRoute route{id, {}};
+    try {
+        route = thinned.takeResult();
+    } catch (const std::exception &e) {
+        qCInfo(lcUi) << "no route for an event:" << e.what();
+    } catch (...) {
+        qCInfo(lcUi) << "no route for an event: an unknown error";
+    }
+    self->cache_.insert(key, std::move(route));
+    self->runningKey_.clear();
+    self->running_ = {};
+    Q_EMIT self->changed();
+    self->startNext();
 }
 
 MapRoute EventRoutes::route(const TeslaEvent &event) const { return cache_.value(keyOf(event)); }

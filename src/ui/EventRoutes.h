@@ -6,6 +6,8 @@
 #include <QFuture>
 #include <QHash>
 #include <QObject>
+#include <QPointer>
+#include <qcoro/qcorotask.h>
 
 #include <deque>
 #include <optional>
@@ -33,7 +35,7 @@ public:
     std::optional<MapRoute::Point> firstFix(const TeslaEvent &event) const;
     // The non-empty routes of the events last requested.
     MapRoutes routes() const;
-    bool isIdle() const { return !running_.isRunning() && queue_.empty(); }
+    bool isIdle() const { return runningKey_.isEmpty() && queue_.empty(); }
 
 Q_SIGNALS:
     // A route arrived (with or without fixes).
@@ -42,6 +44,8 @@ Q_SIGNALS:
 private:
     static QString keyOf(const TeslaEvent &event);
     void startNext();
+    static QCoro::Task<void> readTask(QPointer<EventRoutes> self, QFuture<EventTelemetry> reading, QString key,
+                                      QString id);
 
     EngineFacade &engine_;
     QHash<QString, MapRoute> cache_;

@@ -3,6 +3,7 @@
 #include "DrivingDataPreferences.h"
 #include "FileChooser.h"
 
+#include "base/Awaiting.h"
 #include "engine/AsyncRun.h"
 #include "export/CombinedExport.h"
 #include "export/Exporter.h"
@@ -37,10 +38,9 @@ ExportFlow::ExportFlow(EngineFacade &engine, const TeslaEvent &event, QObject *p
 
 ExportFlow::~ExportFlow()
 {
-    if (watcher_) {
-        watcher_->disconnect(this);
-        watcher_->future().cancel();
-    }
+    // The export's answer finds this flow gone and is dropped.
+    if (running_.isRunning())
+        running_.cancel();
 }
 
 ExportFlow::State ExportFlow::state() const
@@ -418,10 +418,8 @@ void ExportFlow::startExport()
             },
             Qt::QueuedConnection);
     };
-    watcher_ = std::make_unique<QFutureWatcher<void>>();
-    const QFuture<void> future = engine_.exportFootage(*selectedCamera_, event_, std::nullopt, output, progress);
-    connect(watcher_.get(), &QFutureWatcher<void>::finished, this, [this, future, output] { finish(future, output); });
-    watcher_->setFuture(future);
+    running_ = engine_.exportFootage(*selectedCamera_, event_, std::nullopt, output, progress);
+    Awaiting::whenFinished(this, running_, [this, output](const QFuture<void> &done) { finish(done, output); });
 }
 
 void ExportFlow::startCombined(const QString &folder)
@@ -446,10 +444,8 @@ void ExportFlow::startCombined(const QString &folder)
             Qt::QueuedConnection);
     };
     progress_ = 0;
-    watcher_ = std::make_unique<QFutureWatcher<void>>();
-    const QFuture<void> future = engine_.exportCombined(event_, options, output, progress);
-    connect(watcher_.get(), &QFutureWatcher<void>::finished, this, [this, future, output] { finish(future, output); });
-    watcher_->setFuture(future);
+    running_ = engine_.exportCombined(event_, options, output, progress);
+    Awaiting::whenFinished(this, running_, [this, output](const QFuture<void> &done) { finish(done, output); });
 }
 
 void ExportFlow::finish(const QFuture<void> &future, const QString &output)
@@ -482,9 +478,9 @@ void ExportFlow::finish(const QFuture<void> &future, const QString &output)
 
 void ExportFlow::stop()
 {
-    if (watcher_ && isExporting_) {
+    if (isExporting_) {
         stopRequested_ = true;
-        watcher_->future().cancel();
+        running_.cancel();
     }
 }
 
@@ -503,10 +499,8 @@ bool ExportFlow::saveTo(const QString &destination)
             return DriveBoundary::exportRefusal;
         return copyReplacing(source, path) ? QString() : saveFailureMessage;
     });
-    auto *watcher = new QFutureWatcher<QString>(this);
-    connect(watcher, &QFutureWatcher<QString>::finished, this, [this, watcher, path] {
-        watcher->deleteLater();
-        const QString failure = watcher->future().result();
+    Awaiting::whenFinished(this, copy, [this, path](QFuture<QString> done) {
+        const QString failure = Awaiting::take(done).value_or(saveFailureMessage);
         const bool ok = failure.isEmpty();
         isSaving_ = false;
         if (ok)
@@ -516,7 +510,6 @@ bool ExportFlow::saveTo(const QString &destination)
         Q_EMIT changed();
         Q_EMIT saveFinished(ok);
     });
-    watcher->setFuture(copy);
     return true;
 }
 

@@ -6,7 +6,7 @@
 #include "model/Camera.h"
 #include "model/TeslaEvent.h"
 
-#include <QFutureWatcher>
+#include <QFuture>
 #include <QObject>
 #include <QString>
 #include <QVariantList>
@@ -209,5 +209,5 @@ private:
     std::optional<std::pair<double, double>> exportingRange_; // the combined movie's part being made
     bool stopRequested_ = false;
     QString scratchFolder_;
-    std::unique_ptr<QFutureWatcher<void>> watcher_;
+    QFuture<void> running_;
 };

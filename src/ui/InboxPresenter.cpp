@@ -58,7 +58,7 @@ QString secondLine(const TeslaEvent &event, bool showsFileSize)
         if (total > 0)
             size = byteCount(total);
     }
-    const std::optional<QString> city = event.city && !event.city->isEmpty() ? event.city : std::nullopt;
+    const std::optional<QString> city = event.placeName();
     if (city && size)
         return *city + QStringLiteral(" · ") + *size;
     if (city)
@@ -81,8 +81,8 @@ QString textBlockToolTip(const TeslaEvent &event)
 QString accessibilityLabel(const TeslaEvent &event)
 {
     QString text = event.reason.label() + QStringLiteral(", ") + longTimestamp(event);
-    if (event.city && !event.city->isEmpty())
-        text += QStringLiteral(", ") + *event.city;
+    if (const std::optional<QString> place = event.placeName())
+        text += QStringLiteral(", ") + *place;
     return text;
 }
 

@@ -75,7 +75,16 @@ bool MapViewModel::isEmpty() const
     return true;
 }
 
-QVariantList MapViewModel::pinsFor(const std::vector<TeslaEvent> &events)
+QSet<QString> MapViewModel::keptIDs() const
+{
+    QSet<QString> kept;
+    if (state_)
+        for (const TeslaEvent &e : state_->vaultEvents())
+            kept.insert(e.id());
+    return kept;
+}
+
+QVariantList MapViewModel::pinsFor(const std::vector<TeslaEvent> &events, const QSet<QString> &kept)
 {
     QVariantList out;
     for (const TeslaEvent &e : events) {
@@ -85,13 +94,14 @@ QVariantList MapViewModel::pinsFor(const std::vector<TeslaEvent> &events)
                                {QStringLiteral("latitude"), *e.latitude},
                                {QStringLiteral("longitude"), *e.longitude},
                                {QStringLiteral("tint"), EventMapPresenter::pinTint(e)},
+                               {QStringLiteral("kept"), kept.contains(e.id())},
                                {QStringLiteral("label"), e.reason.label()},
                                {QStringLiteral("icon"), SymbolIcons::iconUrl(e.reason.symbolName())}});
     }
     return out;
 }
 
-QVariantList MapViewModel::sectionsFor(const std::vector<TeslaEvent> &events)
+QVariantList MapViewModel::sectionsFor(const std::vector<TeslaEvent> &events, const QSet<QString> &kept)
 {
     QVariantList out;
     for (const auto &section : EventMapPresenter::sections(events)) {
@@ -99,7 +109,8 @@ QVariantList MapViewModel::sectionsFor(const std::vector<TeslaEvent> &events)
         for (const TeslaEvent &e : section.events)
             rows.append(QVariantMap{{QStringLiteral("id"), e.id()},
                                     {QStringLiteral("timestamp"), EventMapPresenter::rowTimestamp(e)},
-                                    {QStringLiteral("city"), e.city.value_or(QString())},
+                                    {QStringLiteral("city"), e.placeName().value_or(QString())},
+                                    {QStringLiteral("kept"), kept.contains(e.id())},
                                     {QStringLiteral("reasonLabel"), e.reason.label()},
                                     {QStringLiteral("reasonShortLabel"), e.reason.shortLabel()},
                                     {QStringLiteral("reasonIcon"), SymbolIcons::iconUrl(e.reason.symbolName())},
@@ -110,8 +121,8 @@ QVariantList MapViewModel::sectionsFor(const std::vector<TeslaEvent> &events)
     return out;
 }
 
-QVariantList MapViewModel::pins() const { return pinsFor(allEvents()); }
-QVariantList MapViewModel::sections() const { return sectionsFor(allEvents()); }
+QVariantList MapViewModel::pins() const { return pinsFor(allEvents(), keptIDs()); }
+QVariantList MapViewModel::sections() const { return sectionsFor(allEvents(), keptIDs()); }
 
 QVariantList MapViewModel::listRows() const
 {
@@ -135,7 +146,9 @@ QVariantMap MapViewModel::texts() const
             {QStringLiteral("emptyText"), QString::fromUtf8(EventMapPresenter::emptyText)},
             {QStringLiteral("attribution"), QString::fromUtf8(EventMapPresenter::attribution)},
             {QStringLiteral("noTiles"), QStringLiteral("Map tiles aren't available — check your internet connection.")},
-            {QStringLiteral("noTilesIcon"), SymbolIcons::iconUrl(QStringLiteral("wifi.slash"))}};
+            {QStringLiteral("noTilesIcon"), SymbolIcons::iconUrl(QStringLiteral("wifi.slash"))},
+            {QStringLiteral("kept"), tr("Kept in your Vault")},
+            {QStringLiteral("keptIcon"), SymbolIcons::iconUrl(QStringLiteral("checkmark.circle"))}};
 }
 
 void MapViewModel::select(const QString &eventID)

@@ -5,6 +5,7 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QSet>
 #include <QVariantList>
 #include <QVariantMap>
 
@@ -52,8 +53,10 @@ public:
     static QVariantList routeKey();
     EventRoutes *eventRoutes() const { return routes_; }
 
-    static QVariantList pinsFor(const std::vector<TeslaEvent> &events);
-    static QVariantList sectionsFor(const std::vector<TeslaEvent> &events);
+    // The ids of kept events, which the pins and rows mark.
+    QSet<QString> keptIDs() const;
+    static QVariantList pinsFor(const std::vector<TeslaEvent> &events, const QSet<QString> &kept);
+    static QVariantList sectionsFor(const std::vector<TeslaEvent> &events, const QSet<QString> &kept);
 
 Q_SIGNALS:
     void changed();

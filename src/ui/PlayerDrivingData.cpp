@@ -1,6 +1,9 @@
 #include "PlayerDrivingData.h"
 
 #include "DrivingDataPreferences.h"
+#include "base/Awaiting.h"
+#include "engine/AsyncRun.h"
+#include "engine/EnginePools.h"
 #include "model/DrivingDataText.h"
 #include "SymbolIcons.h"
 #include "engine/EngineFacade.h"
@@ -15,6 +18,19 @@ PlayerDrivingData::PlayerDrivingData(QObject *parent) : QObject(parent)
     connect(prefs, &DrivingDataPreferences::showOverlayChanged, this, &PlayerDrivingData::showOverlayChanged);
     connect(prefs, &DrivingDataPreferences::useMilesChanged, this, &PlayerDrivingData::useMilesChanged);
     connect(prefs, &DrivingDataPreferences::useMilesChanged, this, &PlayerDrivingData::recordChanged);
+    noticeTimer_.setSingleShot(true);
+    noticeTimer_.setInterval(noticeMs);
+    connect(&noticeTimer_, &QTimer::timeout, this, [this] {
+        notice_.clear();
+        Q_EMIT noticeChanged();
+    });
+}
+
+void PlayerDrivingData::sayNoData()
+{
+    notice_ = tr("No driving data in this event");
+    noticeTimer_.start();
+    Q_EMIT noticeChanged();
 }
 
 PlayerDrivingData::~PlayerDrivingData()
@@ -42,33 +58,48 @@ void PlayerDrivingData::load(EngineFacade *engine, const std::optional<TeslaEven
         return;
     }
     pending_ = engine->loadTelemetry(*event, Camera::front);
-    // The strip's slices and the route are made on the thread that read the clips.
-    pending_
-        .then(QtFuture::Launch::Sync,
-              [id = event->id()](EventTelemetry telemetry) {
-                  auto shared = std::make_shared<const EventTelemetry>(std::move(telemetry));
-                  const double end = shared->pieces.empty() ? 0.0 : shared->pieces.back().timelineEnd();
-                  return Loaded{shared, TelemetryProfile::make(*shared, end, profileSlices),
-                                MapRoute::fromTelemetry(id, *shared)};
-              })
-        .then(this, [this, generation](QFuture<Loaded> done) {
-            if (generation != generation_)
-                return; // a newer event took over
-            loading_ = false;
-            // A drive that failed or a clip that couldn't be read leaves
-            // the event without data: no overlay, no message.
-            if (done.resultCount() > 0) {
-                Loaded loaded = done.takeResult();
-                if (loaded.telemetry->hasRecords()) {
-                    telemetry_ = std::move(loaded.telemetry);
-                    profile_ = std::move(loaded.profile);
-                    route_ = std::move(loaded.route);
-                    Q_EMIT dataChanged();
-                    refresh();
-                }
-            }
-            Q_EMIT loadFinished();
+    loadTask(QPointer<PlayerDrivingData>(this), pending_, generation, event->id());
+}
+
+QCoro::Task<void> PlayerDrivingData::loadTask(QPointer<PlayerDrivingData> self, QFuture<EventTelemetry> pending,
+                                              quint64 generation, QString id)
+{
+    const auto isCurrent = [&] { return self && self->generation_ == generation; };
+    auto pendingEnded = Awaiting::finished(pending);
+    co_await pendingEnded;
+    std::optional<Loaded> loaded;
+    // A drive that failed or a clip that couldn't be read leaves the event
+    // without data: no overlay, no message.
+    if (isCurrent()) {
+        // The strip's slices and the route are made off this thread too.
+        QFuture<Loaded> shaped = AsyncRun::onPool(EnginePools::quick(), [pending, id]() mutable {
+            std::optional<EventTelemetry> telemetry = Awaiting::take(pending);
+            auto shared = std::make_shared<const EventTelemetry>(telemetry ? std::move(*telemetry) : EventTelemetry{});
+            const double end = shared->pieces.empty() ? 0.0 : shared->pieces.back().timelineEnd();
+            return Loaded{shared, TelemetryProfile::make(*shared, end, profileSlices),
+                          MapRoute::fromTelemetry(id, *shared)};
         });
+        auto shapedEnded = Awaiting::finished(shaped);
+        co_await shapedEnded;
+        try {
+            loaded = Awaiting::take(shaped);
+        } catch (const std::exception &e) {
+            qCInfo(lcUi) << "driving data not read:" << e.what();
+        } catch (...) {
+            qCInfo(lcUi) << "driving data not read: an unknown error";
+        }
+    }
+    if (!isCurrent())
+        co_return; // a newer event took over
+    self->loading_ = false;
+    if (loaded && loaded->telemetry->hasRecords()) {
+        self->telemetry_ = std::move(loaded->telemetry);
+        self->profile_ = std::move(loaded->profile);
+        self->route_ = std::move(loaded->route);
+        Q_EMIT self->dataChanged();
+        self->refresh();
+    }
+    Q_EMIT self->loadFinished();
 }
 
 void PlayerDrivingData::follow(SyncPlayerController *controller)

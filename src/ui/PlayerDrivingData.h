@@ -8,7 +8,9 @@
 #include <QFuture>
 #include <QObject>
 #include <QPointer>
+#include <QTimer>
 #include <QVariantMap>
+#include <qcoro/qcorotask.h>
 
 #include <memory>
 #include <optional>
@@ -38,6 +40,8 @@ class PlayerDrivingData : public QObject {
     Q_PROPERTY(bool showOverlay READ showOverlay WRITE setShowOverlay NOTIFY showOverlayChanged)
     Q_PROPERTY(bool useMiles READ useMiles WRITE setUseMiles NOTIFY useMilesChanged)
     Q_PROPERTY(QVariantMap texts READ texts CONSTANT)
+    // A short word for the player, such as after T on an event without data; empty most of the time.
+    Q_PROPERTY(QString notice READ notice NOTIFY noticeChanged)
 
 public:
     // Records are looked up a hair after the presented time: the player's
@@ -73,6 +77,10 @@ public:
     bool useMiles() const;
     void setUseMiles(bool value);
     static QVariantMap texts();
+    QString notice() const { return notice_; }
+    // Shows "No driving data in this event" for a few seconds.
+    Q_INVOKABLE void sayNoData();
+    static constexpr int noticeMs = 2500;
 
     // The number of slices of the strip.
     static constexpr int profileSlices = 600;
@@ -84,6 +92,7 @@ Q_SIGNALS:
     void useMilesChanged();
     // A load ended, with data or without (for tests and the map).
     void loadFinished();
+    void noticeChanged();
 
 private:
     struct Loaded {
@@ -92,6 +101,8 @@ private:
         MapRoute route;
     };
 
+    static QCoro::Task<void> loadTask(QPointer<PlayerDrivingData> self, QFuture<EventTelemetry> pending,
+                                      quint64 generation, QString id);
     void attachToPrimary();
     void refresh();
     void setCurrent(const TelemetryRecord *record);
@@ -108,4 +119,6 @@ private:
     QMetaObject::Connection tilesConnection_;
     QMetaObject::Connection timeConnection_;
     QMetaObject::Connection frameConnection_;
+    QString notice_;
+    QTimer noticeTimer_;
 };

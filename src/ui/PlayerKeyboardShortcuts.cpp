@@ -1,5 +1,6 @@
 #include "PlayerKeyboardShortcuts.h"
 
+#include "PlayerDrivingData.h"
 #include "PlayerKeyActions.h"
 #include "playback/SyncPlayerController.h"
 #include "state/AppState.h"
@@ -23,6 +24,10 @@ void PlayerKeyboardShortcuts::setEventID(const QString &id)
     eventID_ = id;
     Q_EMIT eventIDChanged();
 }
+
+QObject *PlayerKeyboardShortcuts::drivingDataObject() const { return drivingData_; }
+
+void PlayerKeyboardShortcuts::setDrivingDataObject(QObject *data) { drivingData_ = qobject_cast<PlayerDrivingData *>(data); }
 
 QStringList PlayerKeyboardShortcuts::keys()
 {
@@ -52,8 +57,13 @@ bool PlayerKeyboardShortcuts::activate(const QString &sequence)
         jumpToMoment(state);
     else if (key == QLatin1String("F"))
         toggleFocusMode(state);
-    else if (key == QLatin1String("T"))
-        toggleDrivingData();
+    else if (key == QLatin1String("T")) {
+        // Without driving data the key says so, and leaves the choice as it was.
+        if (drivingData_ && !drivingData_->hasData() && !drivingData_->isLoading())
+            drivingData_->sayNoData();
+        else
+            toggleDrivingData();
+    }
     else if (key == QLatin1String("0"))
         clearFocus(state);
     else if (const int n = cameraDigit(key))

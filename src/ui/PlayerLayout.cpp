@@ -2,6 +2,8 @@
 
 #include "playback/SyncPlayerController.h"
 
+#include <QLocale>
+
 double PlayerLayout::momentMarkX(const QVariant &triggerOffset, double duration, double width)
 {
     if (!triggerOffset.isValid() || triggerOffset.isNull() || duration <= 0)
@@ -21,6 +23,12 @@ QString PlayerLayout::speedLabel(double rate)
     if (rate == 1.0)
         return QStringLiteral("1×");
     return QString::asprintf("%.1f", rate) + QStringLiteral("×");
+}
+
+QString PlayerLayout::speedShortfall(double chosen, double playing)
+{
+    return tr("%1 — playing at %2, this computer can't keep up")
+        .arg(speedLabel(chosen), QLocale().toString(playing, 'f', 1) + QStringLiteral("×"));
 }
 
 QString PlayerLayout::stripTooltip(const QString &cameraName, bool focused)

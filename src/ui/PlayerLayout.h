@@ -25,6 +25,8 @@ public:
     Q_INVOKABLE static double momentMarkX(const QVariant &triggerOffset, double duration, double width);
     Q_INVOKABLE static QString momentMarkTooltip(double triggerOffset);
     Q_INVOKABLE static QString speedLabel(double rate);
+    // What the speed control says when the event plays slower than chosen.
+    Q_INVOKABLE static QString speedShortfall(double chosen, double playing);
     Q_INVOKABLE static QString stripTooltip(const QString &cameraName, bool focused);
     Q_INVOKABLE static QString gridTileTooltip(const QString &cameraName);
     // "Location unknown" unless both coordinates are known.

@@ -3,6 +3,7 @@
 #include "FileChooser.h"
 #include "InboxPresenter.h"
 #include "SymbolIcons.h"
+#include "base/Awaiting.h"
 #include "drive/DriveBoundary.h"
 #include "engine/AsyncRun.h"
 #include "engine/EnginePools.h"
@@ -10,7 +11,6 @@
 #include "state/AppState.h"
 
 #include <QDir>
-#include <QFutureWatcher>
 #include <QStorageInfo>
 #include <QUrl>
 
@@ -238,19 +238,17 @@ void VaultViewModel::chooseFolder(const QVariant &url)
         return;
     }
     // Resolving the folder asks the disks, and the car's may not answer.
-    auto *watcher = new QFutureWatcher<std::optional<bool>>(this);
-    connect(watcher, &QFutureWatcher<std::optional<bool>>::finished, this, [this, watcher, path] {
-        watcher->deleteLater();
-        if (watcher->future().result().value_or(false)) {
+    const QFuture<std::optional<bool>> check = AsyncRun::onPool(EnginePools::quick(), [root = *drive, path] {
+        return DriveBoundary::writesInto(root, path);
+    });
+    Awaiting::whenFinished(this, check, [this, path](QFuture<std::optional<bool>> done) {
+        if (Awaiting::take(done).value_or(std::nullopt).value_or(false)) {
             choiceRefusal_ = DriveBoundary::vaultRefusal;
             Q_EMIT choiceRefusalChanged();
         } else if (state_) {
             state_->setVaultURL(path);
         }
     });
-    watcher->setFuture(AsyncRun::onPool(EnginePools::quick(), [root = *drive, path] {
-        return DriveBoundary::writesInto(root, path);
-    }));
 }
 
 void VaultViewModel::dismissChoiceRefusal()

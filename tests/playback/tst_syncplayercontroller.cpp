@@ -317,13 +317,14 @@ private Q_SLOTS:
         const QString dir = tmp.path() + "/gaps";
         EventBuilder b(dir, 7.5);
         // front: damaged last minute; back: lacks the middle minute;
-        // left repeater: starts a clip late; right repeater: all damaged;
+        // left repeater: a damaged first minute; right repeater: all damaged;
         // left pillar: encrypted only; right pillar: a file that isn't a movie.
         b.add(Camera::front, 0);
         b.add(Camera::front, 1);
         b.add(Camera::front, 2, ClipHealth::truncated);
         b.add(Camera::back, 0);
         b.add(Camera::back, 2, ClipHealth::unknown);
+        b.add(Camera::leftRepeater, 0, ClipHealth::truncated);
         b.add(Camera::leftRepeater, 1);
         b.add(Camera::leftRepeater, 2, ClipHealth::unreadable);
         b.add(Camera::rightRepeater, 0, ClipHealth::zeroByte);
@@ -352,6 +353,11 @@ private Q_SLOTS:
         QCOMPARE(byCam["right_pillar"]->placeholderReason, SyncPlayerController::damagedReason);
         // Back's last minute is still there; the front's damaged minute isn't.
         QCOMPARE(c.duration(), 9.0);
+        // What doesn't play in the middle says why: a minute never there, a damaged one.
+        using Gaps = std::vector<EventTimeline::Gap>;
+        QCOMPARE(byCam["front"]->gaps, Gaps{});
+        QCOMPARE(byCam["back"]->gaps, (Gaps{{3, 6, SyncPlayerController::noFootageReason}}));
+        QCOMPARE(byCam["left_repeater"]->gaps, (Gaps{{0, 3, SyncPlayerController::damagedReason}}));
         QCOMPARE(c.triggerOffset(), std::optional<double>(7.5));
 
         attachSinks(c);

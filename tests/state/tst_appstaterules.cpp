@@ -1,3 +1,5 @@
+#include "engine/AsyncRun.h"
+#include "engine/EnginePools.h"
 #include "drive/TeslaCamParser.h"
 #include "engine/LiveEngine.h"
 #include "engine/MockEngine.h"
@@ -36,7 +38,9 @@ public:
     QFuture<DriveScan> scanDrive(const QString &root, ScanProgressCallback progress) override
     {
         const std::optional<VolumeFormat> format = freshFormat;
-        return inner.scanDrive(root, std::move(progress)).then([format](DriveScan scan) {
+        QFuture<DriveScan> scanning = inner.scanDrive(root, std::move(progress));
+        return AsyncRun::onPool(EnginePools::quick(), [scanning, format]() mutable {
+            DriveScan scan = scanning.result();
             if (format)
                 scan.format = *format;
             return scan;
@@ -180,6 +184,22 @@ private Q_SLOTS:
             QVERIFY(!state.currentFailure());
         // Health follows the scan on every path.
         QTRY_VERIFY(state.healthReport());
+    }
+
+    // The bundled footage may lie on any disk of the computer (a chroot's
+    // root is not even a mount): sample mode never judges its format.
+    void sampleModeNeverJudgesTheDisk()
+    {
+        QTemporaryDir tmp;
+        FormatEngine engine;
+        engine.freshFormat = formatOf(QStringLiteral("unknown"));
+        qputenv(AppState::sampleFootageEnv, driveWithOneEvent(tmp, QStringLiteral("S")).toLocal8Bit());
+        AppState state(engine);
+        state.loadSampleFootage();
+        QTRY_VERIFY(state.isSampleMode() && !state.isScanning() && state.driveScan());
+        QTRY_VERIFY(state.healthReport());
+        QVERIFY(!state.currentFailure());
+        qunsetenv(AppState::sampleFootageEnv);
     }
 
     // A cached scan says unreadable; the fresh scan behind it clears that only

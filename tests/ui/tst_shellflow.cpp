@@ -6,6 +6,7 @@
 #include "playback/TrackPlayer.h"
 #include "support/FaultyFs.h"
 #include "support/IsolatedHome.h"
+#include "support/MountedVolume.h"
 #include "support/TestClips.h"
 #include "support/TeslaCamFixture.h"
 
@@ -117,63 +118,6 @@ void shoot(QQuickWindow *window, const QString &name)
     window->grabWindow().save(dir + QLatin1Char('/') + name + QStringLiteral(".png"));
 }
 
-bool run(const QString &program, const QStringList &args, QString *out = nullptr)
-{
-    QProcess p;
-    p.start(program, args);
-    if (!p.waitForFinished(30000) || p.exitStatus() != QProcess::NormalExit || p.exitCode() != 0)
-        return false;
-    if (out)
-        *out = QString::fromLocal8Bit(p.readAllStandardOutput()).trimmed();
-    return true;
-}
-
-// A real volume mounted under /media for the length of a test (needs root).
-// "exfat" is a loop image through FUSE, as a car's drive mounts here;
-// "tmpfs" and "ramfs" are kernel file systems.
-class MountedVolume {
-public:
-    MountedVolume(const QString &type, const QString &name) : mountPoint_(QStringLiteral("/media/") + name)
-    {
-        if (geteuid() != 0 || QFileInfo::exists(mountPoint_) || !QDir().mkpath(mountPoint_))
-            return;
-        if (type == QLatin1String("exfat")) {
-            image_ = QDir::temp().filePath(name + QStringLiteral(".img"));
-            QFile f(image_);
-            if (!f.open(QIODevice::WriteOnly) || !f.resize(64 * 1024 * 1024))
-                return;
-            f.close();
-            if (!run(QStringLiteral("mkfs.exfat"), {QStringLiteral("-L"), name.left(11), image_})
-                || !run(QStringLiteral("losetup"), {QStringLiteral("-f"), QStringLiteral("--show"), image_}, &loop_)
-                || !run(QStringLiteral("mount.exfat-fuse"), {loop_, mountPoint_}))
-                return;
-        } else if (!run(QStringLiteral("mount"), {QStringLiteral("-t"), type, type, mountPoint_})) {
-            return;
-        }
-        mounted_ = true;
-    }
-    ~MountedVolume() { unmount(); QDir().rmdir(mountPoint_); }
-    bool ok() const { return mounted_; }
-    const QString &path() const { return mountPoint_; }
-    void unmount()
-    {
-        if (mounted_)
-            run(QStringLiteral("umount"), {QStringLiteral("-l"), mountPoint_}); // as a drive pulled out: open files or not
-        mounted_ = false;
-        if (!loop_.isEmpty())
-            run(QStringLiteral("losetup"), {QStringLiteral("-d"), loop_});
-        loop_.clear();
-        if (!image_.isEmpty())
-            QFile::remove(image_);
-        image_.clear();
-    }
-
-private:
-    QString mountPoint_;
-    QString image_;
-    QString loop_;
-    bool mounted_ = false;
-};
 
 // A drive with one Sentry event of one sparse clip under `root`.
 void addOneEvent(const QString &teslaCamRoot)
@@ -678,22 +622,28 @@ private Q_SLOTS:
         QVERIFY(click(window, QStringLiteral("getStarted")));
         QTRY_VERIFY(visibleItem(window, QStringLiteral("chooseManually")));
 
-        // Plugged in while the picker is up: it appears without a click.
+        // An owner's own drive of the same name may be plugged in already:
+        // the test's drive is known by where it is mounted, not by its name.
         const QString name = QStringLiteral("TESLADRIVE");
+        MountedVolume namesake(QStringLiteral("exfat"), name);
+        // Plugged in while the picker is up: it appears without a click.
         MountedVolume volume(QStringLiteral("exfat"), name);
-        if (!volume.ok())
+        if (!volume.ok() || !namesake.ok())
             QSKIP("could not mount an exFAT image under /media");
+        addOneEvent(namesake.path() + QStringLiteral("/TeslaCam"));
         addOneEvent(volume.path() + QStringLiteral("/TeslaCam"));
-        const QString heading = QStringLiteral("Is this your Tesla drive? — ") + name;
-        QTRY_VERIFY_WITH_TIMEOUT(showing(heading), 10000);
+        const auto rowOf = [&] {
+            const auto &candidates = app->appState().driveVolumeCandidates();
+            for (size_t i = 0; i < candidates.size(); ++i)
+                if (candidates[i].volumeURL == volume.path())
+                    return int(i);
+            return -1;
+        };
+        QTRY_VERIFY_WITH_TIMEOUT(rowOf() >= 0, 10000);
+        const int row = rowOf();
+        QTRY_VERIFY_WITH_TIMEOUT(showingPrefix(QStringLiteral("Is this your Tesla drive?")), 10000);
         QVERIFY(showingPrefix(QStringLiteral("Connected drives appear here the moment your system mounts them.")));
-        int row = -1;
-        const auto &candidates = app->appState().driveVolumeCandidates();
-        for (size_t i = 0; i < candidates.size(); ++i)
-            if (candidates[i].volumeURL == volume.path())
-                row = int(i);
-        QVERIFY(row >= 0);
-        QVERIFY(candidates[size_t(row)].capacityBytes.has_value());
+        QVERIFY(app->appState().driveVolumeCandidates()[size_t(row)].capacityBytes.has_value());
         shoot(window, QStringLiteral("wizard-drive-picker"));
 
         // A click on the row opens the panel at the volume; picking it scans its TeslaCam folder.

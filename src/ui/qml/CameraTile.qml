@@ -21,7 +21,15 @@ Rectangle {
     property real mediaTime: 0
     readonly property var player: tileData && tileData.player ? tileData.player : null
     readonly property bool footageEnded: player !== null && tileData.contentEnd > 0 && mediaTime > tileData.contentEnd + 0.05
-    readonly property bool showsVideo: player !== null && !footageEnded
+    // A minute in the middle that doesn't play says why, as a camera without footage does.
+    readonly property string gapReason: {
+        const gaps = player !== null && tileData.gaps ? tileData.gaps : []
+        for (let i = 0; i < gaps.length; ++i)
+            if (mediaTime >= gaps[i].start && mediaTime < gaps[i].end)
+                return gaps[i].reason
+        return ""
+    }
+    readonly property bool showsVideo: player !== null && !footageEnded && gapReason.length === 0
     objectName: (small ? "stripTile_" : "cameraTile_") + (tileData ? tileData.camera : "")
     color: "black"
     clip: true
@@ -60,7 +68,9 @@ Rectangle {
             horizontalAlignment: Text.AlignHCenter
             wrapMode: Text.WordWrap
             color: "#dddddd"
-            text: !tile.footageEnded && tile.tileData && tile.tileData.placeholderReason ? tile.tileData.placeholderReason : (tile.texts.noFootage || "")
+            text: tile.gapReason.length > 0 ? tile.gapReason
+                  : !tile.footageEnded && tile.tileData && tile.tileData.placeholderReason ? tile.tileData.placeholderReason
+                  : (tile.texts.noFootage || "")
         }
     }
 

@@ -115,8 +115,18 @@ Item {
                         color: Qt.rgba(1, 1, 1, 0.85)
                         Label { id: pinLabel; anchors.centerIn: parent; text: modelData.label; font.pixelSize: 10; color: "#111" }
                     }
+                    // Kept events carry a small check on their pin.
+                    Rectangle {
+                        objectName: "pinKept"
+                        visible: modelData.kept
+                        x: head.x + head.width - 10; y: head.y - 4
+                        width: 14; height: 14; radius: 7
+                        color: "#2e7d32"
+                        border.color: "white"; border.width: 1.5
+                        UrlIcon { anchors.centerIn: parent; source: eventMap.texts.keptIcon; size: 9; color: "white" }
+                    }
                     Accessible.role: Accessible.Button
-                    Accessible.name: modelData.label
+                    Accessible.name: modelData.kept ? modelData.label + ", " + eventMap.texts.kept : modelData.label
                     TapHandler { onTapped: eventMap.select(modelData.id) }
                 }
             }
@@ -217,6 +227,13 @@ Item {
                     }
                     Label { text: modelData.timestamp; font.pixelSize: 12 }
                     Label { visible: modelData.city.length > 0; text: modelData.city; font.pixelSize: 11; opacity: 0.7 }
+                    RowLayout {
+                        objectName: "mapRowKept"
+                        visible: modelData.kept
+                        spacing: 4
+                        UrlIcon { source: eventMap.texts.keptIcon; size: 12 }
+                        Label { text: eventMap.texts.kept; font.pixelSize: 11; opacity: 0.8 }
+                    }
                 }
             }
         }

@@ -69,6 +69,18 @@ Item {
                 width: implicitWidth
                 height: implicitHeight
             }
+            Label {
+                objectName: "drivingDataNotice"
+                visible: text.length > 0
+                text: playerPresenter.drivingData.notice
+                anchors.horizontalCenter: parent.horizontalCenter
+                anchors.top: parent.top
+                anchors.topMargin: 12
+                padding: 8
+                leftPadding: 14; rightPadding: 14
+                color: "white"
+                background: Rectangle { radius: height / 2; color: Qt.rgba(0, 0, 0, 0.72) }
+            }
             RouteInset {
                 objectName: "routeInset"
                 drivingData: playerPresenter.drivingData
@@ -104,6 +116,7 @@ Item {
     PlayerKeyboardShortcuts {
         state: view.stateObject
         eventID: playerPresenter.hasEvent ? view.eventID : ""
+        drivingData: playerPresenter.drivingData
         active: view.visible && playerPresenter.hasEvent
     }
 

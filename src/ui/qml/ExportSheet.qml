@@ -118,9 +118,12 @@ Popup {
                     CheckBox {
                         id: drivingDataBox
                         objectName: "exportShowDrivingData"
-                        enabled: sheet.flow !== null && sheet.flow.drivingDataOffered
-                        text: enabled ? sheet.texts.overlayDrivingData || "" : sheet.texts.noDrivingData || ""
-                        opacity: enabled ? 1 : 0.5
+                        // Its word follows the clips, not the whole block being
+                        // greyed while the movie is made.
+                        readonly property bool offered: sheet.flow !== null && sheet.flow.drivingDataOffered
+                        enabled: offered
+                        text: offered ? sheet.texts.overlayDrivingData || "" : sheet.texts.noDrivingData || ""
+                        opacity: offered ? 1 : 0.5
                         checked: sheet.flow !== null && sheet.flow.showDrivingData
                         onToggled: sheet.flow.showDrivingData = checked
                     }

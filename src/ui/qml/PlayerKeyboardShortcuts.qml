@@ -9,7 +9,8 @@ Item {
     property QtObject state: null
     property string eventID: ""
     property bool active: true
-    PlayerKeyboardShortcutsRouter { id: router; appState: keys.state; eventID: keys.eventID }
+    property QtObject drivingData: null
+    PlayerKeyboardShortcutsRouter { id: router; appState: keys.state; eventID: keys.eventID; drivingData: keys.drivingData }
     Repeater {
         model: router.keys
         delegate: Item {

@@ -73,6 +73,17 @@ RowLayout {
         onClicked: bar.controller.jumpToMoment()
     }
     Item { Layout.fillWidth: true }
+    Label {
+        objectName: "speedShortfall"
+        visible: bar.controller !== null && bar.controller.isFallingBehind
+        text: visible ? rules.speedShortfall(bar.controller.rate, bar.controller.playingRate) : ""
+        color: "#c77700"
+        elide: Text.ElideRight
+        Layout.maximumWidth: bar.narrow ? 160 : 320
+        ToolTip.visible: shortfallHover.hovered && truncated
+        ToolTip.text: text
+        HoverHandler { id: shortfallHover }
+    }
     Label { visible: !bar.narrow; text: bar.texts.speed; opacity: 0.8 }
     ComboBox {
         id: speed

@@ -39,17 +39,27 @@ Item {
         y: badgeButton.height + 4
         width: 460
         padding: 14
+        // Kept inside the window, however many files the event has: the list scrolls.
+        margins: 12
         contentItem: ColumnLayout {
             spacing: 8
             Label { text: vault.texts.popoverTitle; font.pixelSize: 16; font.weight: Font.DemiBold }
             Label { text: vault.texts.popoverText; wrapMode: Text.WordWrap; Layout.fillWidth: true; opacity: 0.8 }
             Label { objectName: "archivedLine"; text: badge.info.archivedLine || ""; Layout.fillWidth: true; wrapMode: Text.WordWrap }
             Rectangle { Layout.fillWidth: true; height: 1; color: palette.mid }
-            Repeater {
+            ListView {
+                objectName: "verifiedFiles"
+                Layout.fillWidth: true
+                Layout.fillHeight: true
+                Layout.preferredHeight: contentHeight
+                Layout.minimumHeight: Math.min(contentHeight, 60)
+                clip: true
+                spacing: 4
                 model: badge.info.files || []
+                ScrollBar.vertical: ScrollBar { policy: ScrollBar.AsNeeded }
                 delegate: ColumnLayout {
                     spacing: 0
-                    Layout.fillWidth: true
+                    width: ListView.view.width - 12
                     Label { text: modelData.name; font.weight: Font.DemiBold; font.pixelSize: 12 }
                     Label { text: modelData.sha256; font.family: "monospace"; font.pixelSize: 10; opacity: 0.75
                             Layout.fillWidth: true; wrapMode: Text.WrapAnywhere }

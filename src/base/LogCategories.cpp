@@ -1,0 +1,16 @@
+#include "LogCategories.h"
+
+// Warnings and above by default: debug lines are for a developer's session.
+Q_LOGGING_CATEGORY(lcBase, "keelhold.base", QtWarningMsg)
+Q_LOGGING_CATEGORY(lcModel, "keelhold.model", QtWarningMsg)
+Q_LOGGING_CATEGORY(lcMedia, "keelhold.media", QtWarningMsg)
+Q_LOGGING_CATEGORY(lcDrive, "keelhold.drive", QtWarningMsg)
+Q_LOGGING_CATEGORY(lcVault, "keelhold.vault", QtWarningMsg)
+Q_LOGGING_CATEGORY(lcTimeline, "keelhold.timeline", QtWarningMsg)
+Q_LOGGING_CATEGORY(lcPlayback, "keelhold.playback", QtWarningMsg)
+Q_LOGGING_CATEGORY(lcExport, "keelhold.export", QtWarningMsg)
+Q_LOGGING_CATEGORY(lcHealth, "keelhold.health", QtWarningMsg)
+Q_LOGGING_CATEGORY(lcEngine, "keelhold.engine", QtWarningMsg)
+Q_LOGGING_CATEGORY(lcState, "keelhold.state", QtWarningMsg)
+Q_LOGGING_CATEGORY(lcUi, "keelhold.ui", QtWarningMsg)
+Q_LOGGING_CATEGORY(lcCli, "keelhold.cli", QtWarningMsg)
