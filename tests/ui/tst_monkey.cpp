@@ -208,8 +208,7 @@ class MonkeyTest : public QObject {
     QList<QQuickItem *> clickables()
     {
         QList<QQuickItem *> out;
-        QQuickItem *root = window()->contentItem()->parentItem() ? window()->contentItem()->parentItem()
-                                                                   : window()->contentItem();
+        QQuickItem *root = window()->contentItem(); // popups too: the overlay is its child
         const QRectF bounds(0, 0, window()->width(), window()->height());
         for (QQuickItem *item : itemsUnder(root)) {
             if (!item->isVisible() || !item->isEnabled() || item->width() < 3 || item->height() < 3)
@@ -229,8 +228,7 @@ class MonkeyTest : public QObject {
 
     QQuickItem *shown(const QString &name) const
     {
-        QQuickItem *root = window()->contentItem()->parentItem() ? window()->contentItem()->parentItem()
-                                                                   : window()->contentItem();
+        QQuickItem *root = window()->contentItem(); // popups too: the overlay is its child
         for (QQuickItem *item : itemsUnder(root))
             if (item->objectName() == name && item->isVisible() && item->width() > 0)
                 return item;

@@ -50,21 +50,30 @@ Item {
             controller: view.controller
             texts: playerPresenter.texts
 
-            // Over the cameras, clear of the strip of small tiles: the
-            // readings at the left, the route at the right where there is
-            // room for both.
+            // Over the cameras, clear of the strip of small tiles, and never
+            // hiding more than a quarter of any camera: the readings along the
+            // bottom at most a quarter of a tile high, the route in the top
+            // right corner at most half a tile each way. Where the readings
+            // would be too small to read they step aside, under the cameras.
             readonly property real overlayBottom: 10 + (mode === "focused" ? slotHeight + spacing : 0)
             readonly property bool showsDrivingData: playerPresenter.drivingData.hasData
                 && playerPresenter.drivingData.showOverlay && (mode === "grid" || mode === "focused")
+            // The tile the readings and the route lie over.
+            readonly property real coveredTileWidth: mode === "focused" ? width : cellWidth
+            readonly property real coveredTileHeight: mode === "focused" ? stripTop - spacing : cellHeight
+            readonly property real readingsScale: Math.min(1,
+                (width - 20) / Math.max(1, overlay.implicitWidth),
+                (coveredTileHeight * 0.25 - 10) / Math.max(1, overlay.implicitHeight))
+            readonly property bool readingsFit: readingsScale >= 0.6
             DrivingDataOverlay {
                 id: overlay
                 drivingData: playerPresenter.drivingData
-                visible: cameraGrid.showsDrivingData
+                visible: cameraGrid.showsDrivingData && cameraGrid.readingsFit
                 anchors.left: parent.left
                 anchors.bottom: parent.bottom
                 anchors.leftMargin: 10
                 anchors.bottomMargin: cameraGrid.overlayBottom
-                scale: Math.min(1, (parent.width - 20) / Math.max(1, implicitWidth))
+                scale: cameraGrid.readingsScale
                 transformOrigin: Item.BottomLeft
                 width: implicitWidth
                 height: implicitHeight
@@ -84,19 +93,26 @@ Item {
             RouteInset {
                 objectName: "routeInset"
                 drivingData: playerPresenter.drivingData
-                // Beside the readings where both fit, else just above them.
-                readonly property bool besideReadings: parent.width >= overlay.implicitWidth + width + 30
-                readonly property real lift: besideReadings ? 0 : overlay.height * overlay.scale + 8
-                visible: cameraGrid.showsDrivingData && playerPresenter.drivingData.hasRoute
-                         && parent.width >= width + 20
-                         && parent.height - cameraGrid.overlayBottom - lift >= height + 40
+                readonly property real fitScale: Math.min(1, (cameraGrid.coveredTileWidth * 0.5 - 10) / 180,
+                                                          (cameraGrid.coveredTileHeight * 0.5 - 10) / 120)
+                visible: cameraGrid.showsDrivingData && playerPresenter.drivingData.hasRoute && fitScale >= 0.6
                 anchors.right: parent.right
-                anchors.bottom: parent.bottom
+                anchors.top: parent.top
                 anchors.rightMargin: 10
-                anchors.bottomMargin: cameraGrid.overlayBottom + lift
-                width: 180
-                height: 120
+                anchors.topMargin: 10
+                width: 180 * fitScale
+                height: 120 * fitScale
             }
+        }
+        // The readings, when the cameras are too small to carry them.
+        DrivingDataOverlay {
+            objectName: "drivingDataBelow"
+            drivingData: playerPresenter.drivingData
+            visible: cameraGrid.showsDrivingData && !cameraGrid.readingsFit
+            Layout.alignment: Qt.AlignHCenter
+            Layout.preferredWidth: implicitWidth
+            Layout.preferredHeight: visible ? implicitHeight : 0
+            scale: Math.min(1, (view.width - 20) / Math.max(1, implicitWidth))
         }
         TimelineScrubber {
             Layout.fillWidth: true

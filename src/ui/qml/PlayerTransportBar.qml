@@ -10,8 +10,10 @@ RowLayout {
     property var presenter: null
     property var texts: ({})
     // Narrow panes drop the frame steps (the , and . keys remain) and the
-    // words beside icons; nothing is cut off.
-    readonly property bool narrow: width < 520
+    // words beside icons; nothing is cut off. Judged by the pane, not by the
+    // row itself, whose own width follows what it shows: a window made large
+    // before an event opened otherwise left the row laid out narrow.
+    readonly property bool narrow: (parent ? parent.width : width) < 520
     spacing: 4
     PlayerLayout { id: rules }
 

@@ -1,0 +1,171 @@
+#include "AppWindowHarness.h"
+#include "support/IsolatedHome.h"
+
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QSettings>
+#include <QtTest>
+
+// The player's screen holds together at the sizes people use: the smallest
+// window, a laptop, and full HD. The driving-data readings and the route
+// leave at least three quarters of every camera in view, the transport keeps
+// its controls apart, and popups stay inside the window.
+//
+// With KEELHOLD_SCREENSHOT_DIR set, each size is saved there as a PNG.
+
+namespace {
+
+QList<QQuickItem *> itemsUnder(QQuickItem *root)
+{
+    QList<QQuickItem *> out;
+    if (!root)
+        return out;
+    out << root;
+    for (QQuickItem *child : root->childItems())
+        out << itemsUnder(child);
+    return out;
+}
+
+QRectF sceneRect(QQuickItem *item)
+{
+    return item->mapRectToScene(QRectF(0, 0, item->width(), item->height()));
+}
+
+} // namespace
+
+class LayoutsTest : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<AppWindowHarness> app;
+
+    QQuickItem *shown(const QString &name) const
+    {
+        for (QQuickItem *item : itemsUnder(app->window()->contentItem()))
+            if (item->objectName() == name && item->isVisible() && item->width() > 0 && item->opacity() > 0)
+                return item;
+        return nullptr;
+    }
+
+    QList<QQuickItem *> shownWithPrefix(const QString &prefix) const
+    {
+        QList<QQuickItem *> out;
+        for (QQuickItem *item : itemsUnder(app->window()->contentItem()))
+            if (item->objectName().startsWith(prefix) && item->isVisible() && item->width() > 0)
+                out << item;
+        return out;
+    }
+
+    // The event of the sample footage that carries driving data and a route.
+    QString drivingEvent() const
+    {
+        for (const TeslaEvent &e : app->state.driveScan()->events)
+            if (e.kind == EventKind::saved)
+                return e.id();
+        return {};
+    }
+
+    void openDrivingEvent()
+    {
+        app->state.setSelectedEventID(drivingEvent());
+        QTRY_VERIFY_WITH_TIMEOUT(
+            shown(QStringLiteral("drivingDataOverlay")) || shown(QStringLiteral("drivingDataBelow")), 30000);
+        QTRY_VERIFY(!shownWithPrefix(QStringLiteral("cameraTile_")).isEmpty());
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        const QString sample = QStringLiteral(KEELHOLD_BUILD_DIR "/resources/SampleTeslaCam/TeslaCam");
+        if (!QFileInfo(sample).isDir())
+            QSKIP("the sample footage was not made in this build");
+        qputenv(AppState::sampleFootageEnv, sample.toLocal8Bit());
+        QSettings(QStringLiteral("Keelhold"), QStringLiteral("Keelhold")).setValue(AppState::onboardingKey, true);
+        app = std::make_unique<AppWindowHarness>();
+        QVERIFY(app->load());
+        app->state.loadSampleFootage();
+        QTRY_VERIFY_WITH_TIMEOUT(app->state.driveScan() && !app->state.isScanning(), 60000);
+        QVERIFY(!drivingEvent().isEmpty());
+    }
+
+    void cleanupTestCase() { app.reset(); }
+
+    void readingsLeaveEveryCameraInView_data()
+    {
+        QTest::addColumn<QSize>("size");
+        QTest::newRow("smallest") << QSize(900, 600);
+        QTest::newRow("laptop") << QSize(1280, 800);
+        QTest::newRow("full HD") << QSize(1920, 1080);
+    }
+
+    void readingsLeaveEveryCameraInView()
+    {
+        QFETCH(QSize, size);
+        app->window()->resize(size);
+        openDrivingEvent();
+        QVERIFY(app->waitForFrame());
+        QList<QQuickItem *> covering;
+        for (const QString &name : {QStringLiteral("drivingDataOverlay"), QStringLiteral("routeInset")})
+            if (QQuickItem *item = shown(name))
+                covering << item;
+        QVERIFY(!covering.isEmpty());
+        for (QQuickItem *tile : shownWithPrefix(QStringLiteral("cameraTile_"))) {
+            const QRectF area = sceneRect(tile);
+            double hidden = 0;
+            for (QQuickItem *over : covering) {
+                // The overlay may be drawn scaled from its corner.
+                const QRectF drawn = over->mapRectToScene(QRectF(0, 0, over->width(), over->height()));
+                const QRectF both = area.intersected(drawn);
+                hidden += both.width() * both.height();
+            }
+            const double share = hidden / (area.width() * area.height());
+            QVERIFY2(share <= 0.25, qPrintable(QStringLiteral("%1 is %2% covered at %3x%4")
+                                                    .arg(tile->objectName())
+                                                    .arg(qRound(share * 100))
+                                                    .arg(size.width())
+                                                    .arg(size.height())));
+        }
+        app->shot(QStringLiteral("player-%1x%2").arg(size.width()).arg(size.height()));
+    }
+
+    // The window at full size before any event opens, as when the app starts
+    // maximised: the transport lays out its whole row, nothing on top of
+    // anything.
+    void transportHoldsWhenTheWindowIsLargeFromTheStart()
+    {
+        app->state.setSelectedEventID(std::nullopt);
+        QVERIFY(app->waitForFrame());
+        app->window()->resize(1600, 1000);
+        QVERIFY(app->waitForFrame());
+        openDrivingEvent();
+        QVERIFY(app->waitForFrame());
+        const QStringList names{QStringLiteral("frameBackButton"), QStringLiteral("stepBackButton"),
+                                QStringLiteral("playPauseButton"), QStringLiteral("stepForwardButton"),
+                                QStringLiteral("frameForwardButton"), QStringLiteral("momentButton"),
+                                QStringLiteral("speedPicker")};
+        // Layouts settle over a frame or two; what counts is that they settle.
+        QString overlap;
+        const auto apart = [&] {
+            QList<QRectF> rects;
+            for (const QString &name : names) {
+                QQuickItem *item = shown(name);
+                if (!item) {
+                    overlap = name + QStringLiteral(" is not shown");
+                    return false;
+                }
+                rects << sceneRect(item);
+            }
+            for (int i = 0; i < rects.size(); ++i)
+                for (int j = i + 1; j < rects.size(); ++j)
+                    if (rects[i].intersects(rects[j])) {
+                        overlap = names[i] + QStringLiteral(" overlaps ") + names[j];
+                        return false;
+                    }
+            return true;
+        };
+        QTRY_VERIFY2_WITH_TIMEOUT(apart(), qPrintable(overlap), 5000);
+        app->shot(QStringLiteral("player-large-from-the-start"));
+    }
+};
+
+KEELHOLD_APP_TEST_MAIN(LayoutsTest)
+#include "tst_layouts.moc"
