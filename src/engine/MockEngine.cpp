@@ -313,6 +313,8 @@ QFuture<VaultVerifier::Result> MockEngine::verifyVault(const QString &, const QS
             if (eventIDs.isEmpty() || eventIDs.contains(e.eventID))
                 result.events.push_back(EventCheck{e.eventID, Date::now(), int(e.files.size()), {}, {}, {},
                                                    e.expectedFileCount, int(e.files.size())});
+        if (eventIDs.isEmpty())
+            result.vaultCheckedAt = Date::now();
         return result;
     });
 }

@@ -344,8 +344,8 @@ QCoro::Task<void> AppState::verifyTask(QPointer<AppState> self, QString vaultURL
     if (read && self->vaultURL_ == vaultURL) {
         VerificationLog log = self->verificationLog_;
         log.record(result.events);
-        if (eventIDs.isEmpty() && !result.cancelled)
-            log.wholeVaultCheckedAt = Date::now();
+        if (result.vaultCheckedAt)
+            log.wholeVaultCheckedAt = result.vaultCheckedAt;
         self->setVerificationLog(std::move(log));
     }
     Q_EMIT self->verificationProgressChanged();

@@ -33,6 +33,13 @@ const EventCheck *VaultMarks::currentCheck(const ArchivedEvent &newest, const Ev
     return check && !(check->checkedAt < newest.archivedAt) ? check : nullptr;
 }
 
+bool VaultMarks::vouchesFor(const ArchivedEvent &newest, const EventCheck *check)
+{
+    const EventCheck *current = currentCheck(newest, check);
+    return !newest.isIncomplete()
+        && (!current || (current->missing.isEmpty() && current->changed.isEmpty() && current->unreadable.isEmpty()));
+}
+
 QVariantMap VaultMarks::mark(const ArchivedEvent &newest, const EventCheck *check)
 {
     const EventCheck *current = currentCheck(newest, check);
@@ -143,8 +150,8 @@ QVariantMap VaultMarks::notice(const std::vector<TeslaEvent> &shown, const Vault
         + tr("Something changed these copies after they were kept. If the events are still on your drive, keep them "
              "again.");
     return {{QStringLiteral("present"), true},
-            {QStringLiteral("title"), events == 1 ? tr("A kept event has changed since it was kept")
-                                                  : tr("%1 kept events have changed since they were kept").arg(events)},
+            {QStringLiteral("title"), events == 1 ? tr("A kept event no longer matches what was kept")
+                                                  : tr("%1 kept events no longer match what was kept").arg(events)},
             {QStringLiteral("message"), message}};
 }
 

@@ -21,6 +21,10 @@ public:
     // was kept again after it.
     static const EventCheck *currentCheck(const ArchivedEvent &newest, const EventCheck *check);
 
+    // Whether the Vault holds the event whole and, as far as the last check
+    // saw, as it was kept: what lets a row call it safely kept.
+    static bool vouchesFor(const ArchivedEvent &newest, const EventCheck *check);
+
     // The badge and its detail: badge, badgeIcon, tone ("good", "warning",
     // "bad"), badgeTip, title, text, archivedLine, checkedLine, and files
     // [{name, sha256, problem}].

@@ -157,8 +157,10 @@ Result verify(const QString &vaultURL, const QStringList &eventIDs, const Progre
         return result;
     VerificationLog log = VerificationLog::load(vaultURL);
     log.record(result.events);
-    if (eventIDs.isEmpty() && !result.cancelled)
-        log.wholeVaultCheckedAt = Date::now();
+    if (eventIDs.isEmpty() && !result.cancelled) {
+        result.vaultCheckedAt = Date::now();
+        log.wholeVaultCheckedAt = result.vaultCheckedAt;
+    }
     // A Vault that can't be written still gets its answer; only the date is lost.
     (void)log.save(vaultURL);
     return result;

@@ -5,6 +5,7 @@
 #include <QString>
 #include <QStringList>
 #include <functional>
+#include <optional>
 #include <stop_token>
 #include <vector>
 
@@ -26,6 +27,8 @@ using ProgressCallback = std::function<void(const Progress &)>;
 struct Result {
     std::vector<EventCheck> events; // one per event, in the order first kept
     bool cancelled = false;         // stopped early: `events` holds those finished
+    // When a whole pass that ended dated the Vault's log.
+    std::optional<Date> vaultCheckedAt;
 };
 
 // The events named (all kept events when none are), each once. Blocking;

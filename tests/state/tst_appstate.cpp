@@ -1,6 +1,7 @@
 #include "engine/LiveEngine.h"
 #include "engine/MockEngine.h"
 #include "state/AppState.h"
+#include "vault/ArchiveEngine.h"
 #include "vault/VaultVerifier.h"
 #include "support/DriveBuilder.h"
 #include "support/FaultyFs.h"
@@ -375,18 +376,20 @@ private Q_SLOTS:
         QTRY_COMPARE(state.vaultEvents().size(), size_t(2));
         QVERIFY(state.healthReport());
 
-        // A file that fails is listed on the sheet; the event is kept exactly
-        // when the run recorded it (the engine records it with what arrived).
+        // A file that fails is listed on the sheet; the event is recorded with
+        // what arrived, as a part, and a part is never kept.
         QVERIFY(QFile::remove(doomedClip));
         state.setShowArchiveReport(false);
         state.keep({failing});
         QTRY_VERIFY_WITH_TIMEOUT(state.showArchiveReport(), 20000);
         QCOMPARE(state.lastArchiveReport()->failedFiles.size(), size_t(1));
         QCOMPARE(state.lastArchiveReport()->failedFiles[0].path, doomedClip);
-        bool recorded = false;
-        for (const ArchivedEvent &a : state.lastArchiveReport()->archivedEvents)
-            recorded = recorded || a.eventID == failing.id();
-        QCOMPARE(state.triageState(failing) == TriageState::kept, recorded);
+        QCOMPARE(state.lastArchiveReport()->archivedEvents.size(), size_t(1));
+        const ArchivedEvent &part = state.lastArchiveReport()->archivedEvents[0];
+        QCOMPARE(part.eventID, failing.id());
+        QVERIFY(part.isIncomplete());
+        QVERIFY(state.triageState(failing) != TriageState::kept);
+        QCOMPARE(state.vaultIndex().newestRecord(failing.id())->expectedFileCount, part.expectedFileCount);
 
         // Cancelled at once: the sheet still opens, marked cancelled.
         state.setShowArchiveReport(false);
@@ -407,6 +410,53 @@ private Q_SLOTS:
         state.dismiss({events[0]});
         state.removeFromVault(events[0]);
         QCOMPARE(state.triageState(events[0]), TriageState::dismissed);
+    }
+
+    // Once a week the Vault is read again by itself, unseen: only what it
+    // finds shows. Counted from the last whole check, or the first keep.
+    void weeklyCheckRunsUnseenWhenDue()
+    {
+        QTemporaryDir tmp;
+        DriveBuilder drive(tmp.filePath(QStringLiteral("drive/TeslaCam")));
+        drive.addEvent(QStringLiteral("SentryClips"), QStringLiteral("2026-07-18_09-15-32"), 2, 1000);
+        const QString vault = tmp.filePath(QStringLiteral("vault"));
+        ArchiveEngine::run(ArchiveEngine::plan(drive.scan(), VaultIndex{}), vault);
+        LiveEngine engine;
+        {
+            // Kept yesterday: not due.
+            VaultIndex index = VaultIndex::load(vault);
+            index.events[0].archivedAt = Date::now().addingTimeInterval(-24 * 3600);
+            index.save(vault);
+            AppState state(engine);
+            state.setVaultURL(vault);
+            QTRY_COMPARE(state.vaultIndex(), index);
+            QVERIFY(!state.verifyVaultIfDue());
+        }
+        VaultIndex index = VaultIndex::load(vault);
+        index.events[0].archivedAt = Date::now().addingTimeInterval(-8 * 24 * 3600);
+        index.save(vault);
+        // Switched off: never.
+        QSettings(QStringLiteral("Keelhold"), QStringLiteral("Keelhold")).setValue(AppState::verifyWeeklyKey, false);
+        {
+            AppState state(engine);
+            state.setVaultURL(vault);
+            QTRY_COMPARE(state.vaultIndex(), index);
+            QVERIFY(!state.verifyVaultIfDue());
+        }
+        QSettings(QStringLiteral("Keelhold"), QStringLiteral("Keelhold")).remove(AppState::verifyWeeklyKey);
+        AppState state(engine);
+        // Unseen: never a check in progress on the screens.
+        QObject watching;
+        bool everShown = false;
+        connect(&state, &AppState::verificationChanged, &watching, [&] { everShown = everShown || state.isVerifyingVault(); });
+        state.setVaultURL(vault);
+        QTRY_VERIFY_WITH_TIMEOUT(state.verificationLog().wholeVaultCheckedAt.has_value(), 20000);
+        QVERIFY(!everShown);
+        QVERIFY(!state.verificationProgress());
+        QVERIFY(state.verificationLog().find(index.events[0].eventID)->ok());
+        // Due again only a week after this check.
+        QVERIFY(!state.verifyVaultIfDue());
+        QCOMPARE(VerificationLog::load(vault).wholeVaultCheckedAt, state.verificationLog().wholeVaultCheckedAt);
     }
 
     // A keep cut off by a drive pulled out mid-copy waits for that drive:

@@ -13,6 +13,7 @@ Item {
     property bool showDetail: false
     readonly property var info: { vault.marksRevision; return vault.verification(eventID) }
     readonly property color toneColor: info.tone === "bad" ? "#dc2626" : info.tone === "warning" ? "#d97706" : "#16a34a"
+    readonly property color textColor: info.tone === "good" ? badge.palette.windowText : toneColor
     visible: info.present === true
     implicitWidth: badgeButton.implicitWidth
     implicitHeight: badgeButton.implicitHeight
@@ -23,7 +24,7 @@ Item {
         text: badge.info.badge || ""
         icon.source: badge.info.badgeIcon || ""
         icon.color: badge.toneColor
-        palette.buttonText: badge.info.tone === "good" ? palette.windowText : badge.toneColor
+        palette.buttonText: badge.textColor
         display: AbstractButton.TextBesideIcon
         font.pixelSize: 11
         padding: 2
