@@ -558,8 +558,18 @@ private Q_SLOTS:
         QCOMPARE(app->screens.vault()->rows()->data(app->screens.vault()->rows()->index(partRow),
                                                     EventListModel::OverlayKindRole).toString(),
                  QString());
-        QMetaObject::invokeMethod(list, "positionViewAtBeginning");
+        // Its detail says what is missing and what to do.
+        QQuickItem *partBadge = AppWindowHarness::findItem(vaultRow(fresh[0]), QStringLiteral("verificationButton"));
+        QVERIFY(partBadge);
+        app->click(partBadge);
+        QObject *popover = AppWindowHarness::findItem(vaultRow(fresh[0]), QStringLiteral("verificationBadge"))
+                               ->findChild<QObject *>(QStringLiteral("verificationPopover"));
+        QVERIFY(popover);
+        QTRY_VERIFY(popover->property("visible").toBool());
+        QCOMPARE(app->screens.vault()->verification(fresh[0].id()).value(QStringLiteral("title")).toString(),
+                 QStringLiteral("Incomplete Copy"));
         app->shot(QStringLiteral("vault-incomplete"));
+        QMetaObject::invokeMethod(popover, "close");
 
         // One byte changed in the second, a clip deleted from the third.
         const ArchivedEvent &changed = recordOf(fresh[1]);
