@@ -390,8 +390,7 @@ private:
     // The drive a running keep reads from, asked as it started.
     struct KeepDrive {
         DriveIdentity drive;
-        QString teslaCamRoot;   // as scanned
-        QString relativeRoot;   // the TeslaCam folder below the mount point
+        QString mountPoint; // where the events' paths say it is
     };
     std::optional<KeepDrive> keepDrive_;
     // A keep cut off by its drive going away, waiting for that drive.

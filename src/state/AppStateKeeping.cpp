@@ -113,31 +113,30 @@ QCoro::Task<void> AppState::keepTask(QPointer<AppState> self, ArchivePlan plan, 
     // The Vault may have been chosen before this drive was opened.
     // (No temporaries inside the awaits: GCC 12 frees them twice.)
     std::optional<bool> intoDrive;
-    const std::optional<QString> root =
-        earlier && self->keepDrive_ ? std::optional(self->keepDrive_->teslaCamRoot) : self->driveRootURL_;
+    const std::optional<QString> root = self->driveRootURL_;
     if (root) {
         QFuture<std::optional<bool>> check = AsyncRun::onPool(
             EnginePools::quick(), [drive = *root, vaultURL] { return DriveBoundary::writesInto(drive, vaultURL); });
         intoDrive = co_await check;
         if (!self)
             co_return;
-        // Which drive this is, asked while it is surely there: should it go
-        // away mid-run, only the same drive takes the keep up again.
-        QFuture<std::optional<KeepDrive>> where = AsyncRun::onPool(EnginePools::quick(), [drive = *root] {
-            std::optional<KeepDrive> found;
-            try {
-                const auto mounted = IOWatchdog::run(std::chrono::seconds(3),
-                                                     [drive](std::stop_token) { return DriveIdentity::of(drive); });
-                if (mounted) {
-                    QString relative = drive.mid(mounted->mountPoint.size());
-                    while (relative.startsWith(QLatin1Char('/')))
-                        relative.remove(0, 1);
-                    found = KeepDrive{mounted->drive, drive, relative};
+    }
+    // Which drive the events lie on, asked while it is surely there: should
+    // it go away mid-run, only the same drive takes the keep up again.
+    const std::vector<ArchivePlan::Item> fresh = plan.newItems();
+    if (!fresh.empty()) {
+        QFuture<std::optional<KeepDrive>> where =
+            AsyncRun::onPool(EnginePools::quick(), [folder = fresh.front().event.folderURL] {
+                std::optional<KeepDrive> found;
+                try {
+                    const auto mounted = IOWatchdog::run(std::chrono::seconds(3),
+                                                         [folder](std::stop_token) { return DriveIdentity::of(folder); });
+                    if (mounted)
+                        found = KeepDrive{mounted->drive, mounted->mountPoint};
+                } catch (...) {
                 }
-            } catch (...) {
-            }
-            return found;
-        });
+                return found;
+            });
         std::optional<KeepDrive> drive = co_await where;
         if (!self)
             co_return;
@@ -226,26 +225,36 @@ QCoro::Task<void> AppState::resumeTask(QPointer<AppState> self, QString mountPoi
     if (!self || !self->interruptedKeep_)
         co_return;
     const KeepDrive from = self->interruptedKeep_->from;
+    // The same TeslaCam folder: the first event not yet kept whole lies
+    // where it lay, seen through this mount.
+    QString folder;
+    for (const TeslaEvent &e : self->interruptedKeep_->events) {
+        const auto &done = self->interruptedKeep_->soFar.archivedEvents;
+        const bool whole = std::any_of(done.begin(), done.end(), [&](const ArchivedEvent &a) {
+            return a.eventID == e.id() && !a.isIncomplete();
+        });
+        if (!whole) {
+            folder = rebasedPath(e.folderURL, from.mountPoint, mountPoint);
+            break;
+        }
+    }
     // Asked off this thread: a drive just plugged in may be slow to answer.
-    QFuture<std::optional<QString>> look = AsyncRun::onPool(EnginePools::quick(), [from, mountPoint] {
-        std::optional<QString> root;
+    QFuture<bool> look = AsyncRun::onPool(EnginePools::quick(), [from, mountPoint, folder] {
         try {
             const auto mounted = IOWatchdog::run(std::chrono::seconds(3), [mountPoint](std::stop_token) {
                 return DriveIdentity::of(mountPoint);
             });
-            const QString teslaCam = from.relativeRoot.isEmpty() ? mountPoint : mountPoint + QLatin1Char('/') + from.relativeRoot;
-            if (mounted && mounted->mountPoint == mountPoint && mounted->drive.isSameDrive(from.drive)
-                && QFileInfo(teslaCam).isDir())
-                root = teslaCam;
+            return mounted && mounted->mountPoint == mountPoint && mounted->drive.isSameDrive(from.drive)
+                && (folder.isEmpty() || QFileInfo(folder).isDir());
         } catch (...) {
+            return false;
         }
-        return root;
     });
-    const std::optional<QString> root = co_await look;
+    const bool same = co_await look;
     // Another mount may have taken it up meanwhile, or the user ended it.
     if (!self || !self->interruptedKeep_)
         co_return;
-    if (!root) {
+    if (!same) {
         Q_EMIT self->keepDriveChecked(mountPoint, false);
         co_return;
     }
@@ -253,10 +262,10 @@ QCoro::Task<void> AppState::resumeTask(QPointer<AppState> self, QString mountPoi
     self->interruptedKeep_.reset();
     Q_EMIT self->isArchivePausedChanged();
 
-    std::vector<TeslaEvent> events = rebased(waiting.events, waiting.from.teslaCamRoot, *root);
+    std::vector<TeslaEvent> events = rebased(waiting.events, waiting.from.mountPoint, mountPoint);
     ArchiveReport soFar = waiting.soFar;
     for (ArchiveReport::FailedFile &f : soFar.failedFiles)
-        f.path = rebasedPath(f.path, waiting.from.teslaCamRoot, *root);
+        f.path = rebasedPath(f.path, waiting.from.mountPoint, mountPoint);
     ArchivePlan plan = self->engine_.planArchive(events, self->vaultIndex_);
     // Where it stopped: what the cut-off run placed is not copied again.
     for (ArchivePlan::Item &item : plan.items) {
@@ -268,7 +277,7 @@ QCoro::Task<void> AppState::resumeTask(QPointer<AppState> self, QString mountPoi
     self->setArchiveProgress(ArchiveProgress{0, plan.totalNewBytes(), 0, int(plan.newItems().size()), std::nullopt});
     auto task = std::make_shared<std::stop_source>();
     self->currentArchiveTask_ = task;
-    self->keepDrive_ = KeepDrive{waiting.from.drive, *root, waiting.from.relativeRoot};
+    self->keepDrive_ = KeepDrive{waiting.from.drive, mountPoint};
     keepTask(self, std::move(plan), waiting.vaultURL, std::move(events), task, std::move(soFar));
     Q_EMIT self->keepDriveChecked(mountPoint, true);
 }

@@ -1,3 +1,4 @@
+#include "drive/TeslaCamParser.h"
 #include "engine/LiveEngine.h"
 #include "engine/MockEngine.h"
 #include "state/AppState.h"
@@ -457,6 +458,43 @@ private Q_SLOTS:
         // Due again only a week after this check.
         QVERIFY(!state.verifyVaultIfDue());
         QCOMPARE(VerificationLog::load(vault).wholeVaultCheckedAt, state.verificationLog().wholeVaultCheckedAt);
+    }
+
+    // A keep waiting for its drive ends on Cancel with what it had done,
+    // and its report says why it stopped short.
+    void cancelWhilePausedEndsWithWhatWasDone()
+    {
+        if (!FaultyFs::available())
+            QSKIP("needs root and /dev/fuse");
+        QTemporaryDir mountPoint, vault;
+        FaultyFs fs(mountPoint.path());
+        QVERIFY(fs.isMounted());
+        for (const QString &name : {QStringLiteral("2026-07-18_09-15-32"), QStringLiteral("2026-07-17_09-15-32")})
+            for (const QString &clip : DriveBuilder::clipNames(name, 2))
+                fs.addFile(QStringLiteral("TeslaCam/SentryClips/") + name + QLatin1Char('/') + clip,
+                           DriveBuilder::randomBytes(1 << 20, 7));
+        LiveEngine engine;
+        AppState state(engine);
+        state.setVaultURL(vault.path());
+        const std::vector<TeslaEvent> events = TeslaCamParser::scan(mountPoint.filePath(QStringLiteral("TeslaCam"))).events;
+        QCOMPARE(events.size(), size_t(2));
+        // Gone during the second event's second clip.
+        fs.vanishAfterBytes(fs.bytesServed() + 3 * (1 << 20) + 1000);
+        state.keep(events);
+        QTRY_VERIFY_WITH_TIMEOUT(state.isArchivePaused(), 20000);
+        QVERIFY(!state.showArchiveReport());
+        state.cancelCurrentArchiveTask();
+        QVERIFY(!state.isArchivePaused());
+        QVERIFY(!state.isArchiving());
+        QVERIFY(state.showArchiveReport());
+        const ArchiveReport &report = *state.lastArchiveReport();
+        QVERIFY(report.cancelled);
+        QCOMPARE(report.stoppedBecause, std::optional(ArchiveReport::StopReason::driveDisconnected));
+        QCOMPARE(report.plannedEvents, 2);
+        QCOMPARE(report.completeEvents(), 1);
+        QCOMPARE(report.archivedEvents.size(), size_t(2));
+        QCOMPARE(state.triageState(events[0]), TriageState::kept);
+        QVERIFY(state.triageState(events[1]) != TriageState::kept);
     }
 
     // A keep cut off by a drive pulled out mid-copy waits for that drive:
