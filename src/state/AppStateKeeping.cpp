@@ -153,13 +153,27 @@ QCoro::Task<void> AppState::keepTask(QPointer<AppState> self, ArchivePlan plan, 
         if (!self)
             co_return;
     }
-    // One stretch, no await between the steps. The records of this run
-    // count at once, whatever comes next.
+    // One stretch, no await between the steps.
+    const std::vector<ArchivedEvent> recorded = report.archivedEvents;
+    if (earlier)
+        report = merged(*earlier, report, events);
+    // Cut off by its drive going away: paused, not over, and the same drive
+    // coming back takes it up again.
+    const bool paused = report.stoppedBecause == ArchiveReport::StopReason::driveDisconnected && !report.cancelled
+        && self->keepDrive_;
+    if (paused) {
+        self->currentArchiveTask_.reset();
+        self->interruptedKeep_ = InterruptedKeep{events, report, vaultURL, *self->keepDrive_};
+        Q_EMIT self->isArchivePausedChanged();
+    } else {
+        self->finishKeep(report);
+    }
+    // What this run recorded counts at once, whatever comes next; part of
+    // an event is no kept event.
     VaultIndex index = self->vaultIndex_;
-    index.events.insert(index.events.end(), report.archivedEvents.begin(), report.archivedEvents.end());
+    index.events.insert(index.events.end(), recorded.begin(), recorded.end());
     self->setVaultIndex(std::move(index));
-    for (const ArchivedEvent &a : report.archivedEvents) {
-        // Part of an event is no kept event.
+    for (const ArchivedEvent &a : recorded) {
         if (a.isIncomplete())
             continue;
         self->setTriageStateEntry(a.eventID, TriageState::kept);
@@ -167,22 +181,10 @@ QCoro::Task<void> AppState::keepTask(QPointer<AppState> self, ArchivePlan plan, 
     }
     self->recomputeHealth();
     self->loadVaultEvents();
-    if (earlier)
-        report = merged(*earlier, report, events);
-
-    if (report.stoppedBecause == ArchiveReport::StopReason::driveDisconnected && !report.cancelled
-        && self->keepDrive_) {
-        // Paused, not over: the same drive coming back takes it up again.
-        self->currentArchiveTask_.reset();
-        self->interruptedKeep_ = InterruptedKeep{events, report, vaultURL, *self->keepDrive_};
-        Q_EMIT self->isArchivePausedChanged();
-        // It may have come back before the run saw it go.
-        const QStringList mounts = std::exchange(self->mountsDuringKeep_, {});
-        for (const QString &mountPoint : mounts)
+    // It may have come back before the run saw it go.
+    if (paused)
+        for (const QString &mountPoint : std::exchange(self->mountsDuringKeep_, {}))
             resumeTask(self, mountPoint);
-        co_return;
-    }
-    self->finishKeep(report);
 }
 
 void AppState::finishKeep(const ArchiveReport &report)

@@ -230,6 +230,35 @@ private Q_SLOTS:
         QCOMPARE(report.archivedEvents[0].files.size(), size_t(2));
     }
 
+    // Pulled out mid-keep: the run stops there and says why, and what
+    // arrived of the event in copy is recorded as a part.
+    void pulledDriveStopsTheKeepAndSaysSo()
+    {
+        if (!FaultyFs::available())
+            QSKIP("needs root and /dev/fuse");
+        QTemporaryDir mountPoint, dir;
+        FaultyFs fs(mountPoint.path());
+        QVERIFY(fs.isMounted());
+        for (const QString &name : {QStringLiteral("2026-07-18_09-15-32"), QStringLiteral("2026-07-17_09-15-32")})
+            for (const QString &clip : DriveBuilder::clipNames(name, 3))
+                fs.addFile("TeslaCam/SentryClips/" + name + "/" + clip, DriveBuilder::randomBytes(1 << 20, 3));
+        fs.vanishAfterBytes(fs.bytesServed() + 4 * (1 << 20) + 1000);
+        const QString vault = dir.filePath("Vault");
+        const Result r = CliRun::run({"keep", mountPoint.filePath("TeslaCam"), "--vault", vault});
+        QCOMPARE(r.exitCode, 1);
+        QVERIFY2(r.err.contains("1 of 2 events were kept completely"), qPrintable(r.err));
+        const ArchiveReport report = parseReport(r.out);
+        QCOMPARE(report.stoppedBecause, std::optional(ArchiveReport::StopReason::driveDisconnected));
+        QCOMPARE(report.failedFiles.size(), size_t(1));
+        QCOMPARE(report.archivedEvents.size(), size_t(2));
+        QCOMPARE(report.archivedEvents[1].files.size(), size_t(1));
+        QCOMPARE(report.archivedEvents[1].expectedFileCount, std::optional(3));
+        QCOMPARE(VaultIndex::load(vault).events, report.archivedEvents);
+        const Result verified = CliRun::run({"vault", "verify", vault});
+        QCOMPARE(verified.exitCode, 1);
+        QVERIFY(verified.out.contains("incomplete (1 of 3 files kept)"));
+    }
+
     // Nothing of ours is written on the car's drive: not a Vault elsewhere on
     // it, not one reached through a link, not an exported movie.
     void writesOntoTheDriveAreRefused()

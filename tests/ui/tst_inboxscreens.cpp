@@ -574,14 +574,15 @@ private Q_SLOTS:
         // One byte changed in the second, a clip deleted from the third.
         const ArchivedEvent &changed = recordOf(fresh[1]);
         const QString changedPath = vaultPath + QLatin1Char('/') + changed.relativePath + QLatin1Char('/') + changed.files[0].name;
-        {
+        const auto flipByte = [&] {
             QFile f(changedPath);
             QVERIFY(f.open(QIODevice::ReadWrite));
             QVERIFY(f.seek(100));
             const char c = f.read(1).at(0);
             QVERIFY(f.seek(100));
             f.write(QByteArray(1, char(c ^ 0x20)));
-        }
+        };
+        flipByte();
         const ArchivedEvent &missing = recordOf(fresh[2]);
         QVERIFY(QFile::remove(vaultPath + QLatin1Char('/') + missing.relativePath + QLatin1Char('/') + missing.files[0].name));
 
@@ -609,14 +610,7 @@ private Q_SLOTS:
         app->shot(QStringLiteral("vault-changed-notice"));
 
         // Put right, the event's own Verify finds it whole again and dates its mark.
-        {
-            QFile f(changedPath);
-            QVERIFY(f.open(QIODevice::ReadWrite));
-            QVERIFY(f.seek(100));
-            const char c = f.read(1).at(0);
-            QVERIFY(f.seek(100));
-            f.write(QByteArray(1, char(c ^ 0x20)));
-        }
+        flipByte();
         QQuickItem *row = vaultRow(fresh[1]);
         QVERIFY(row);
         app->click(row, Qt::RightButton);

@@ -22,7 +22,8 @@ ColumnLayout {
             objectName: "verifyVault"
             text: vault.texts.verifyVault
             enabled: !vault.isVerifying
-            display: AbstractButton.TextBesideIcon
+            // In a narrow column the icon alone, named by its tool tip.
+            display: root.width < 360 ? AbstractButton.IconOnly : AbstractButton.TextBesideIcon
             icon.source: vault.texts.verifyVaultIcon
             icon.color: palette.buttonText
             ToolTip.visible: hovered; ToolTip.text: vault.texts.verifyVaultTip; ToolTip.delay: 500

@@ -51,11 +51,17 @@ Item {
             Label { objectName: "archivedLine"; text: badge.info.archivedLine || ""; Layout.fillWidth: true; wrapMode: Text.WordWrap }
             Label { objectName: "checkedLine"; text: badge.info.checkedLine || ""; Layout.fillWidth: true; wrapMode: Text.WordWrap; opacity: 0.8 }
             Rectangle { Layout.fillWidth: true; height: 1; color: palette.mid }
-            Repeater {
+            // An event of a long drive has many files: they scroll.
+            ListView {
+                objectName: "verifiedFiles"
+                Layout.fillWidth: true
+                Layout.preferredHeight: Math.min(contentHeight, 300)
+                clip: true
                 model: badge.info.files || []
+                ScrollBar.vertical: ScrollBar {}
                 delegate: ColumnLayout {
+                    width: ListView.view.width
                     spacing: 0
-                    Layout.fillWidth: true
                     RowLayout {
                         Layout.fillWidth: true
                         Label { text: modelData.name; font.weight: Font.DemiBold; font.pixelSize: 12 }
