@@ -2,13 +2,29 @@
 
 #include "cli/CliOutput.h"
 #include "drive/ClipProber.h"
+#include "drive/ReadOnlyFs.h"
 #include "drive/TeslaCamParser.h"
+
+#include <QDir>
+#include <QFileInfo>
 
 extern "C" {
 #include <libavutil/log.h>
 }
 
 namespace CliScan {
+
+QString teslaCamRoot(const QString &given)
+{
+    const QString path = QDir::cleanPath(QDir::current().absoluteFilePath(given));
+    if (QFileInfo(path).fileName() == QLatin1String("TeslaCam"))
+        return path;
+    for (const char *carFolder : {"SentryClips", "SavedClips", "RecentClips", "EncryptedClips"})
+        if (ReadOnlyFs::stat(path + QLatin1Char('/') + QLatin1String(carFolder)).exists)
+            return path;
+    const QString inside = path + QStringLiteral("/TeslaCam");
+    return ReadOnlyFs::stat(inside).isDirectory ? inside : path;
+}
 
 std::optional<DriveScan> read(const QString &root, std::optional<std::chrono::milliseconds> probeTimeout)
 {

@@ -1,6 +1,7 @@
 #include "cli/ExportCommand.h"
 
 #include "cli/CliOutput.h"
+#include "cli/CliScan.h"
 #include "drive/DriveBoundary.h"
 #include "drive/TeslaCamParser.h"
 #include "export/CombinedExport.h"
@@ -222,7 +223,7 @@ int run(const QStringList &arguments)
     if (from || to)
         range = std::make_pair(from.value_or(0.0), to.value_or(std::numeric_limits<double>::infinity()));
 
-    const QString root = QDir::cleanPath(QDir::current().absoluteFilePath(positional.first()));
+    const QString root = CliScan::teslaCamRoot(positional.first());
     const QString eventId = parser.value(eventOption);
     if (DriveBoundary::writesInto(root, parser.value(outputOption)).value_or(false))
         return fail(DriveBoundary::exportRefusal);

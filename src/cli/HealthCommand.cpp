@@ -20,7 +20,7 @@ int run(const QStringList &arguments)
         QStringLiteral("Reads a TeslaCam folder and prints its health report (fullness, damaged clips, format, "
                        "events not yet kept, recommendations) as JSON."));
     parser.addHelpOption();
-    parser.addPositionalArgument(QStringLiteral("folder"), QStringLiteral("The TeslaCam folder to read."));
+    parser.addPositionalArgument(QStringLiteral("folder"), QStringLiteral("The TeslaCam folder to read, or the drive that holds it."));
     const QCommandLineOption vault(QStringLiteral("vault"),
                                    QStringLiteral("The Vault folder whose index tells which events are kept."),
                                    QStringLiteral("DIR"));
@@ -37,7 +37,7 @@ int run(const QStringList &arguments)
         CliOutput::err(QStringLiteral("Usage: keelhold-cli health <TeslaCam folder> [--vault DIR] [--probe] [--pretty]"));
         return CliOutput::usageExit;
     }
-    const QString root = QDir::cleanPath(QDir::current().absoluteFilePath(positional.first()));
+    const QString root = CliScan::teslaCamRoot(positional.first());
 
     VaultIndex index;
     if (parser.isSet(vault)) {

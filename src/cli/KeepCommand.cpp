@@ -1,6 +1,7 @@
 #include "cli/KeepCommand.h"
 
 #include "cli/CliOutput.h"
+#include "cli/CliScan.h"
 #include "drive/DriveBoundary.h"
 #include "drive/TeslaCamParser.h"
 #include "model/JsonCoding.h"
@@ -74,7 +75,7 @@ int run(const QStringList &arguments)
         "Exit status: 0 when everything was kept, 1 when some files could not be kept, 130 when stopped with "
         "Ctrl-C, 2 when the drive could not be read."));
     parser.addHelpOption();
-    parser.addPositionalArgument(QStringLiteral("folder"), QStringLiteral("The TeslaCam folder to read."));
+    parser.addPositionalArgument(QStringLiteral("folder"), QStringLiteral("The TeslaCam folder to read, or the drive that holds it."));
     const QCommandLineOption vaultOption(QStringLiteral("vault"), QStringLiteral("The Vault folder."),
                                          QStringLiteral("DIR"));
     const QCommandLineOption eventOption(QStringLiteral("event"),
@@ -104,7 +105,7 @@ int run(const QStringList &arguments)
         }
         timeout = std::chrono::milliseconds(qint64(seconds * 1000));
     }
-    const QString root = QDir::cleanPath(QDir::current().absoluteFilePath(positional.first()));
+    const QString root = CliScan::teslaCamRoot(positional.first());
     const QString vault = QDir::cleanPath(QDir::current().absoluteFilePath(parser.value(vaultOption)));
 
     // Nothing on the car's drive is ever written, the Vault included.
@@ -198,6 +199,11 @@ int run(const QStringList &arguments)
 
     const QJsonObject json = report.toJson();
     CliOutput::printJson(json, parser.isSet(pretty));
+    if (report.stoppedBecause == ArchiveReport::StopReason::driveDisconnected)
+        CliOutput::err(QStringLiteral("The drive went away: %1 of %2 events were kept completely. Plug it back in and "
+                                      "run keep again to finish.")
+                           .arg(report.completeEvents())
+                           .arg(report.plannedEvents));
     if (report.cancelled)
         return 130;
     return report.failedFiles.empty() ? 0 : 1;

@@ -16,7 +16,7 @@ int run(const QStringList &arguments)
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Reads a TeslaCam folder and prints what it holds as JSON."));
     parser.addHelpOption();
-    parser.addPositionalArgument(QStringLiteral("folder"), QStringLiteral("The TeslaCam folder to read."));
+    parser.addPositionalArgument(QStringLiteral("folder"), QStringLiteral("The TeslaCam folder to read, or the drive that holds it."));
     const QCommandLineOption pretty(QStringLiteral("pretty"), QStringLiteral("Indent the JSON for reading."));
     parser.addOption(pretty);
     const QCommandLineOption probe(QStringLiteral("probe"),
@@ -47,7 +47,7 @@ int run(const QStringList &arguments)
         }
         timeout = std::chrono::milliseconds(std::llround(seconds * 1000));
     }
-    const QString root = QDir::cleanPath(QDir::current().absoluteFilePath(positional.first()));
+    const QString root = CliScan::teslaCamRoot(positional.first());
 
     const auto result = CliScan::read(root, parser.isSet(probe) ? std::optional(timeout) : std::nullopt);
     if (!result)

@@ -1,6 +1,7 @@
 #include "cli/TelemetryCommand.h"
 
 #include "cli/CliOutput.h"
+#include "cli/CliScan.h"
 #include "drive/DriveBoundary.h"
 #include "drive/TeslaCamParser.h"
 #include "model/EventTelemetry.h"
@@ -227,7 +228,7 @@ int run(const QStringList &arguments)
     if (!formats.contains(format))
         return fail(QStringLiteral("\u201c%1\u201d is not a format; use csv, json or gpx.").arg(parser.value(formatOption)));
 
-    const QString root = QDir::cleanPath(QDir::current().absoluteFilePath(positional.first()));
+    const QString root = CliScan::teslaCamRoot(positional.first());
     QString output;
     if (parser.isSet(outputOption)) {
         output = QDir::cleanPath(QDir::current().absoluteFilePath(parser.value(outputOption)));

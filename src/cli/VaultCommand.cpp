@@ -71,9 +71,9 @@ int verify(const QString &vault)
             return CliOutput::failureExit;
         }
     }
-    std::vector<VaultVerifier::EventResult> results;
+    VaultVerifier::Result result;
     try {
-        results = VaultVerifier::verify(vault);
+        result = VaultVerifier::verify(vault);
     } catch (const JsonCoding::DecodingError &) {
         CliOutput::err(QStringLiteral("The Vault's manifest.json can't be understood, so nothing could be checked."));
         return CliOutput::failureExit;
@@ -83,14 +83,20 @@ int verify(const QString &vault)
     }
     bool allGood = true;
     QByteArray text;
-    for (const auto &r : results) {
+    for (const EventCheck &r : result.events) {
+        const QString label = !r.changed.isEmpty() || !r.missing.isEmpty() || !r.unreadable.isEmpty()
+            ? QStringLiteral("DIFFERS   ")
+            : r.incomplete() ? QStringLiteral("INCOMPLETE") : QStringLiteral("OK        ");
         QString line = QStringLiteral("%1  %2: %3 verified, %4 changed, %5 missing")
-                           .arg(r.ok() ? QStringLiteral("OK     ") : QStringLiteral("DIFFERS"), r.eventID)
+                           .arg(label, r.eventID)
                            .arg(r.verified)
                            .arg(r.changed.size())
                            .arg(r.missing.size());
         if (!r.unreadable.isEmpty())
             line += QStringLiteral(", %1 unreadable").arg(r.unreadable.size());
+        // A keep cut off partway: what is there may be sound, but it is not all.
+        if (r.incomplete())
+            line += QStringLiteral(", incomplete (%1 of %2 files kept)").arg(r.keptFiles).arg(*r.expectedFiles);
         QStringList named;
         for (const auto &n : r.changed)
             named << QStringLiteral("changed ") + n;
@@ -114,7 +120,9 @@ int run(const QStringList &arguments)
     QCommandLineParser parser;
     parser.setApplicationDescription(
         QStringLiteral("Lists, removes or re-checks the events kept in a Vault folder.\n"
-                       "verify re-reads every file that manifest.json lists and exits 1 if any differs."));
+                       "verify re-reads every file that manifest.json lists, judging each by the newest record that "
+                       "lists it, notes the date in the Vault's .keelhold-verified.json, and exits 1 if any file "
+                       "differs or is missing, or an event was kept only in part."));
     parser.addHelpOption();
     parser.addPositionalArgument(QStringLiteral("action"), QStringLiteral("list, remove or verify."));
     parser.addPositionalArgument(QStringLiteral("folder"), QStringLiteral("The Vault folder."));
@@ -124,14 +132,25 @@ int run(const QStringList &arguments)
         return *done;
     const QStringList positional = parser.positionalArguments();
     const QString action = positional.value(0);
-    if (action == QLatin1String("list") && positional.size() == 2)
-        return list(absolute(positional[1]), parser.isSet(pretty));
-    if (action == QLatin1String("remove") && positional.size() == 3)
-        return remove(absolute(positional[1]), positional[2]);
-    if (action == QLatin1String("verify") && positional.size() == 2)
-        return verify(absolute(positional[1]));
-    CliOutput::err(usage);
-    return CliOutput::usageExit;
+    const bool known = (action == QLatin1String("list") && positional.size() == 2)
+        || (action == QLatin1String("remove") && positional.size() == 3)
+        || (action == QLatin1String("verify") && positional.size() == 2);
+    if (!known) {
+        CliOutput::err(usage);
+        return CliOutput::usageExit;
+    }
+    const QString vault = absolute(positional[1]);
+    const QFileInfo folder(vault);
+    if (!folder.isDir()) {
+        CliOutput::err(folder.exists() ? QStringLiteral("\u201c%1\u201d is a file, not a Vault folder.").arg(vault)
+                                       : QStringLiteral("There is no Vault folder at %1.").arg(vault));
+        return CliOutput::failureExit;
+    }
+    if (action == QLatin1String("list"))
+        return list(vault, parser.isSet(pretty));
+    if (action == QLatin1String("remove"))
+        return remove(vault, positional[2]);
+    return verify(vault);
 }
 
 } // namespace VaultCommand

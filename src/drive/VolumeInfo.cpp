@@ -27,11 +27,12 @@ DeviceProbe fromUdev(const QString &device)
             result.type = QString::fromUtf8(line.mid(13));
         else if (line.startsWith("E:ID_FS_LABEL="))
             result.label = QString::fromUtf8(line.mid(14));
+        else if (line.startsWith("E:ID_FS_UUID="))
+            result.uuid = QString::fromUtf8(line.mid(13));
     }
-    if (result.type && result.type->isEmpty())
-        result.type.reset();
-    if (result.label && result.label->isEmpty())
-        result.label.reset();
+    for (std::optional<QString> *value : {&result.type, &result.label, &result.uuid})
+        if (*value && (*value)->isEmpty())
+            value->reset();
     return result;
 }
 
@@ -42,7 +43,7 @@ DeviceProbe fromBlkid(const QString &device)
     if (!probe)
         return result;
     blkid_probe_enable_superblocks(probe, 1);
-    blkid_probe_set_superblocks_flags(probe, BLKID_SUBLKS_LABEL | BLKID_SUBLKS_TYPE);
+    blkid_probe_set_superblocks_flags(probe, BLKID_SUBLKS_LABEL | BLKID_SUBLKS_TYPE | BLKID_SUBLKS_UUID);
     if (blkid_do_safeprobe(probe) == 0) {
         const char *value = nullptr;
         size_t length = 0;
@@ -50,6 +51,8 @@ DeviceProbe fromBlkid(const QString &device)
             result.type = QString::fromUtf8(value);
         if (blkid_probe_lookup_value(probe, "LABEL", &value, &length) == 0 && value && *value)
             result.label = QString::fromUtf8(value);
+        if (blkid_probe_lookup_value(probe, "UUID", &value, &length) == 0 && value && *value)
+            result.uuid = QString::fromUtf8(value);
     }
     blkid_free_probe(probe);
     return result;
@@ -92,12 +95,14 @@ DeviceProbe probeDevice(const QString &device)
     if (!device.startsWith(QLatin1String("/dev/")))
         return {};
     DeviceProbe probe = fromUdev(device);
-    if (!probe.type || !probe.label) {
+    if (!probe.type || !probe.label || !probe.uuid) {
         const DeviceProbe direct = fromBlkid(device);
         if (!probe.type)
             probe.type = direct.type;
         if (!probe.label)
             probe.label = direct.label;
+        if (!probe.uuid)
+            probe.uuid = direct.uuid;
     }
     return probe;
 }

@@ -23,10 +23,11 @@ std::optional<Info> query(const QString &path);
 // where a plugged-in drive appears.
 bool isRemovableMediaPath(const QString &mountPoint);
 
-// Label and type straight from the block device (udev data, else libblkid).
+// Label, type and UUID straight from the block device (udev data, else libblkid).
 struct DeviceProbe {
     std::optional<QString> type;
     std::optional<QString> label;
+    std::optional<QString> uuid;
 };
 DeviceProbe probeDevice(const QString &device);
 

@@ -16,6 +16,8 @@
 #include "model/VolumeCandidate.h"
 #include "vault/ArchivePlan.h"
 #include "vault/VaultIndex.h"
+#include "vault/VaultVerifier.h"
+#include "vault/VerificationLog.h"
 
 #include <QFuture>
 #include <QHash>
@@ -73,6 +75,15 @@ public:
     virtual bool removeFromVault(const QString &eventID, const QString &vaultURL) = 0;
     // Raises when the Vault folder can't be read.
     virtual QFuture<std::vector<TeslaEvent>> scanVault(const QString &url) = 0;
+    // Re-reads the kept files of the events named (every kept event when
+    // none are) against their records, and notes what it found in the
+    // Vault's verification log. A stop ends it early with what was done.
+    // Raises when the index can't be read.
+    virtual QFuture<VaultVerifier::Result> verifyVault(const QString &vaultURL, const QStringList &eventIDs,
+                                                       VaultVerifier::ProgressCallback progress,
+                                                       std::stop_token stop = {}) = 0;
+    // Forgiving: anything unreadable is an empty log.
+    virtual VerificationLog loadVerificationLog(const QString &vaultURL) = 0;
 
     virtual TriageState triageState(const QString &eventID) = 0;
     virtual void setTriageState(TriageState state, const QString &eventID) = 0;

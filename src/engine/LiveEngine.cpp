@@ -77,6 +77,19 @@ QFuture<std::vector<TeslaEvent>> LiveEngine::scanVault(const QString &url)
     return AsyncRun::onPool(EnginePools::quick(), [url] { return VaultBrowser::scanVault(url); });
 }
 
+QFuture<VaultVerifier::Result> LiveEngine::verifyVault(const QString &vaultURL, const QStringList &eventIDs,
+                                                       VaultVerifier::ProgressCallback progress, std::stop_token stop)
+{
+    return AsyncRun::cancellable(
+        EnginePools::quick(),
+        [vaultURL, eventIDs, progress](std::stop_token token) {
+            return VaultVerifier::verify(vaultURL, eventIDs, progress, token);
+        },
+        stop);
+}
+
+VerificationLog LiveEngine::loadVerificationLog(const QString &vaultURL) { return VerificationLog::load(vaultURL); }
+
 TriageState LiveEngine::triageState(const QString &) { return TriageState::new_; }
 
 void LiveEngine::setTriageState(TriageState state, const QString &eventID)

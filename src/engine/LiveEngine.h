@@ -31,6 +31,10 @@ public:
     VaultIndex loadVaultIndex(const QString &vaultURL) override;
     bool removeFromVault(const QString &eventID, const QString &vaultURL) override;
     QFuture<std::vector<TeslaEvent>> scanVault(const QString &url) override;
+    QFuture<VaultVerifier::Result> verifyVault(const QString &vaultURL, const QStringList &eventIDs,
+                                               VaultVerifier::ProgressCallback progress,
+                                               std::stop_token stop = {}) override;
+    VerificationLog loadVerificationLog(const QString &vaultURL) override;
     // Always `new`: the true marks come from loadAllTriageStates(), and
     // callers keep them in memory.
     TriageState triageState(const QString &eventID) override;

@@ -3,6 +3,7 @@
 #include "model/JsonCoding.h"
 
 #include <QHashFunctions>
+#include <algorithm>
 
 QJsonObject ArchiveReport::FailedFile::toJson() const
 {
@@ -18,6 +19,27 @@ ArchiveReport::FailedFile ArchiveReport::FailedFile::fromJson(const QJsonValue &
     return {JsonCoding::requireString(o, "path"), JsonCoding::requireString(o, "reason")};
 }
 
+QString ArchiveReport::rawValue(StopReason reason)
+{
+    switch (reason) {
+    case StopReason::driveDisconnected: return QStringLiteral("driveDisconnected");
+    }
+    return {};
+}
+
+std::optional<ArchiveReport::StopReason> ArchiveReport::stopReasonFromRawValue(const QString &raw)
+{
+    if (raw == rawValue(StopReason::driveDisconnected))
+        return StopReason::driveDisconnected;
+    return std::nullopt;
+}
+
+int ArchiveReport::completeEvents() const
+{
+    return int(std::count_if(archivedEvents.begin(), archivedEvents.end(),
+                             [](const ArchivedEvent &e) { return !e.isIncomplete(); }));
+}
+
 QJsonObject ArchiveReport::toJson() const
 {
     using namespace JsonCoding;
@@ -27,6 +49,9 @@ QJsonObject ArchiveReport::toJson() const
     o.insert(QStringLiteral("failedFiles"), encodeArray(failedFiles));
     o.insert(QStringLiteral("bytesCopied"), bytesCopied);
     o.insert(QStringLiteral("cancelled"), cancelled);
+    if (stoppedBecause)
+        o.insert(QStringLiteral("stoppedBecause"), rawValue(*stoppedBecause));
+    o.insert(QStringLiteral("plannedEvents"), plannedEvents);
     return o;
 }
 
@@ -40,6 +65,9 @@ ArchiveReport ArchiveReport::fromJson(const QJsonValue &value)
     r.failedFiles = decodeArray<FailedFile>(requireArray(o, "failedFiles"));
     r.bytesCopied = requireInt64(o, "bytesCopied");
     r.cancelled = requireBool(o, "cancelled");
+    if (const auto reason = optionalString(o, "stoppedBecause"))
+        r.stoppedBecause = stopReasonFromRawValue(*reason);
+    r.plannedEvents = int(optionalInt64(o, "plannedEvents").value_or(0));
     return r;
 }
 

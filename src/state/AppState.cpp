@@ -7,6 +7,7 @@
 #include "engine/EnginePools.h"
 #include "health/HealthComputer.h"
 #include "playback/SyncPlayerController.h"
+#include "state/OnMainThread.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -14,6 +15,7 @@
 #include <QJsonObject>
 #include <QSettings>
 #include <QStorageInfo>
+#include <QTimer>
 #include <QWindow>
 #include <QtConcurrent/QtConcurrentRun>
 #include <qcoro/qcorofuture.h>
@@ -52,28 +54,17 @@ QVariant optionalJson(const std::optional<T> &v)
 
 } // namespace
 
-namespace {
-// A progress callback for the engine's threads: each value hops to the main
-// thread and is applied there only if the state still exists.
-template <typename Value, typename Apply> auto onMainThread(QPointer<AppState> weak, Apply apply)
-{
-    return [weak, apply](const Value &value) {
-        QMetaObject::invokeMethod(
-            weak.data(),
-            [weak, apply, value] {
-                if (weak)
-                    apply(*weak, value);
-            },
-            Qt::QueuedConnection);
-    };
-}
-} // namespace
 
 AppState::AppState(EngineFacade &engine, QObject *parent) : QObject(parent), engine_(engine)
 {
     hasCompletedOnboarding_ = settings().value(onboardingKey, false).toBool();
     showOnboarding_ = !hasCompletedOnboarding_;
     loadTriageTask(QPointer<AppState>(this));
+    // The weekly check of the Vault, for an app left open for days.
+    weeklyVerification_ = new QTimer(this);
+    weeklyVerification_->setInterval(std::chrono::hours(6));
+    connect(weeklyVerification_, &QTimer::timeout, this, [this] { verifyVaultIfDue(); });
+    weeklyVerification_->start();
     if (auto *app = QCoreApplication::instance()) {
         QPointer<AppState> self(this);
         connect(app, &QCoreApplication::aboutToQuit, this, [self] {
@@ -352,6 +343,7 @@ void AppState::handleDriveEvent(const DriveEvent &event)
         setDriveVolumeCandidates(std::move(list));
         if (event.kind() == DriveEvent::renamed)
             return;
+        noteMountForKeep(c.volumeURL);
         if (!currentFailure_ || currentFailure_->kind() != DriveFailure::DriveDisconnected)
             return;
         if (!driveRootURL_)
@@ -564,78 +556,6 @@ std::vector<TeslaEvent> AppState::visibleInboxEvents() const
     return out;
 }
 
-void AppState::keep(const std::vector<TeslaEvent> &events)
-{
-    if (auto *player = activePlayerController())
-        player->pause();
-    if (!vaultURL_) {
-        setCurrentFailure(DriveFailure::staleBookmark(BookmarkKey::vaultFolder));
-        return;
-    }
-    ArchivePlan plan = engine_.planArchive(events, vaultIndex_);
-    setIsArchiving(true);
-    setArchiveProgress(ArchiveProgress{0, plan.totalNewBytes(), 0, int(plan.newItems().size()), std::nullopt});
-    auto task = std::make_shared<std::stop_source>();
-    currentArchiveTask_ = task;
-    keepTask(QPointer<AppState>(this), std::move(plan), *vaultURL_, events, task);
-}
-
-QCoro::Task<void> AppState::keepTask(QPointer<AppState> self, ArchivePlan plan, QString vaultURL,
-                                     std::vector<TeslaEvent> events, std::shared_ptr<std::stop_source> task)
-{
-    auto progress = onMainThread<ArchiveProgress>(self, [](AppState &state, const ArchiveProgress &p) { state.setArchiveProgress(p); });
-    ArchiveReport report;
-    // The Vault may have been chosen before this drive was opened.
-    // (No temporaries inside the awaits: GCC 12 frees them twice.)
-    std::optional<bool> intoDrive;
-    const std::optional<QString> root = self->driveRootURL_;
-    if (root) {
-        QFuture<std::optional<bool>> check = AsyncRun::onPool(
-            EnginePools::quick(), [drive = *root, vaultURL] { return DriveBoundary::writesInto(drive, vaultURL); });
-        intoDrive = co_await check;
-        if (!self)
-            co_return;
-    }
-    if (intoDrive.value_or(false)) {
-        report.failedFiles.push_back({vaultURL, DriveBoundary::vaultRefusal});
-    } else {
-        try {
-            report = co_await self->engine_.runArchive(plan, vaultURL, progress, task->get_token());
-        } catch (...) {
-            report.cancelled = task->stop_requested();
-        }
-        if (!self)
-            co_return;
-    }
-    // One stretch, no await between the steps.
-    self->setIsArchiving(false);
-    self->setArchiveProgress(std::nullopt);
-    self->currentArchiveTask_.reset();
-    self->setLastArchiveReport(report);
-    self->setShowArchiveReport(true);
-    VaultIndex index = self->vaultIndex_;
-    QSet<QString> archived;
-    for (const ArchivedEvent &a : report.archivedEvents) {
-        index.events.push_back(a);
-        archived.insert(a.eventID);
-    }
-    self->setVaultIndex(std::move(index));
-    for (const TeslaEvent &e : events) {
-        if (archived.contains(e.id())) {
-            self->setTriageStateEntry(e.id(), TriageState::kept);
-            self->engine_.setTriageState(TriageState::kept, e.id());
-        }
-    }
-    self->recomputeHealth();
-    self->loadVaultEvents();
-}
-
-void AppState::cancelCurrentArchiveTask()
-{
-    if (currentArchiveTask_)
-        currentArchiveTask_->request_stop();
-}
-
 void AppState::setVaultURL(const QString &url)
 {
     beginVaultAccess(url);
@@ -647,16 +567,33 @@ void AppState::setVaultURL(const QString &url)
         engine_.saveBookmark(url, BookmarkKey::vaultFolder);
     } catch (...) {
     }
+    // A check of the Vault before belongs to that Vault: it ends unheard.
+    if (currentVerification_) {
+        currentVerification_->request_stop();
+        currentVerification_.reset();
+        verificationProgress_.reset();
+        Q_EMIT verificationProgressChanged();
+        Q_EMIT verificationChanged();
+    }
     QPointer<AppState> self(this);
     EngineFacade *engine = &engine_;
     // Detached: the index load runs off the main thread and hops back.
     detachedLoads_.addFuture(QtConcurrent::run(&EnginePools::quick(), [self, engine, url] {
         VaultIndex index = engine->loadVaultIndex(url);
+        VerificationLog log = engine->loadVerificationLog(url);
         QMetaObject::invokeMethod(
             self.data(),
-            [self, index = std::move(index)]() mutable {
-                if (self)
-                    self->setVaultIndex(std::move(index));
+            [self, url, index = std::move(index), log = std::move(log)]() mutable {
+                if (!self || self->vaultURL_ != url)
+                    return;
+                self->setVaultIndex(std::move(index));
+                self->setVerificationLog(std::move(log));
+                // A first keep that waited for this folder goes on, planned
+                // against what the folder already holds.
+                if (!self->keepAwaitingVault_.empty() && !self->isArchiving_)
+                    self->keep(std::exchange(self->keepAwaitingVault_, {}));
+                else
+                    self->verifyVaultIfDue();
             },
             Qt::QueuedConnection);
     }));
@@ -908,6 +845,7 @@ void AppState::setLastArchiveReport(std::optional<ArchiveReport> v)
 {
     KH_SET(lastArchiveReport_, v, lastArchiveReportChanged);
 }
+void AppState::setVerificationLog(VerificationLog v) { KH_SET(verificationLog_, v, verificationLogChanged); }
 void AppState::setShowArchiveReport(bool v) { KH_SET(showArchiveReport_, v, showArchiveReportChanged); }
 void AppState::setHealthReport(std::optional<HealthReport> v) { KH_SET(healthReport_, v, healthReportChanged); }
 void AppState::setFilterState(std::optional<TriageState> v)

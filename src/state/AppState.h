@@ -15,7 +15,10 @@
 #include "state/EventItem.h"
 #include "state/FocusWindow.h"
 #include "state/SidebarSection.h"
+#include "drive/DriveIdentity.h"
 #include "vault/VaultIndex.h"
+#include "vault/VaultVerifier.h"
+#include "vault/VerificationLog.h"
 
 #include <QFutureSynchronizer>
 #include <QHash>
@@ -31,6 +34,7 @@
 #include <stop_token>
 
 class SyncPlayerController;
+class QTimer;
 
 // The single application state. Every user action and drive event enters
 // here; every screen draws from it. Lives on the main thread; its tasks are
@@ -70,6 +74,8 @@ class AppState : public QObject {
     Q_PROPERTY(bool isArchiving READ isArchiving NOTIFY isArchivingChanged)
     Q_PROPERTY(QVariant archiveProgress READ archiveProgressForQml NOTIFY archiveProgressChanged)
     Q_PROPERTY(QVariant lastArchiveReport READ lastArchiveReportForQml NOTIFY lastArchiveReportChanged)
+    Q_PROPERTY(bool isArchivePaused READ isArchivePaused NOTIFY isArchivePausedChanged)
+    Q_PROPERTY(bool isVerifyingVault READ isVerifyingVault NOTIFY verificationChanged)
     Q_PROPERTY(bool showArchiveReport READ showArchiveReport WRITE setShowArchiveReport NOTIFY showArchiveReportChanged)
     Q_PROPERTY(QVariant healthReport READ healthReportForQml NOTIFY healthReportChanged)
     Q_PROPERTY(QString filterState READ filterStateForQml WRITE setFilterStateForQml NOTIFY filterStateChanged)
@@ -83,6 +89,9 @@ public:
     Q_ENUM(ColumnVisibility)
 
     static inline const QString onboardingKey = QStringLiteral("hasCompletedOnboarding");
+    // Whether the Vault is re-read in the background once a week (on unless set off).
+    static inline const QString verifyWeeklyKey = QStringLiteral("KHVerifyVaultWeekly");
+    static constexpr double verifyEverySeconds = 7 * 24 * 3600;
     static inline const QString gettingStartedPhase = QStringLiteral("Getting started…");
     static inline const QString loadingSamplePhase = QStringLiteral("Loading sample footage…");
     // Overrides where the sample footage is looked for (tests, odd installs).
@@ -144,8 +153,31 @@ public:
     Q_INVOKABLE void dismissBulkSelection();
 
     // The running keep's handle; the progress overlay cancels through it.
-    bool hasCurrentArchiveTask() const { return bool(currentArchiveTask_); }
+    // A keep paused for its drive ends there, with what it had done.
+    bool hasCurrentArchiveTask() const { return bool(currentArchiveTask_) || bool(interruptedKeep_); }
     Q_INVOKABLE void cancelCurrentArchiveTask();
+    // A keep whose drive went away waits for that drive: it goes on by
+    // itself when the same drive (and TeslaCam folder) is mounted again.
+    bool isArchivePaused() const { return interruptedKeep_.has_value(); }
+
+    // A keep asked for with no Vault folder waits for one: the screens ask
+    // (vaultFolderWanted), and the keep goes on once a folder is set, or is
+    // dropped when the question is declined.
+    bool hasKeepAwaitingVault() const { return !keepAwaitingVault_.empty(); }
+    Q_INVOKABLE void declineVaultFolder();
+
+    // Re-reading the Vault: the events named, or all. One check at a time;
+    // one the user asked for shows its progress (verificationProgress),
+    // the weekly one runs unseen and only its findings show.
+    void verifyVault(const QStringList &eventIDs = {});
+    Q_INVOKABLE void verifyWholeVault() { verifyVault(); }
+    Q_INVOKABLE void verifyEvent(const QString &eventID) { verifyVault({eventID}); }
+    Q_INVOKABLE void cancelVerification();
+    bool isVerifyingVault() const { return currentVerification_ && verificationShown_; }
+    const std::optional<VaultVerifier::Progress> &verificationProgress() const { return verificationProgress_; }
+    const VerificationLog &verificationLog() const { return verificationLog_; }
+    // Starts the weekly check when it is due and allowed; answers whether it did.
+    bool verifyVaultIfDue();
 
     // Typed accessors.
     bool hasCompletedOnboarding() const { return hasCompletedOnboarding_; }
@@ -255,6 +287,14 @@ Q_SIGNALS:
     void isArchivingChanged();
     void archiveProgressChanged();
     void lastArchiveReportChanged();
+    void isArchivePausedChanged();
+    void vaultFolderWanted();
+    // A drive mounted while a keep waits was looked at: the keep's own
+    // drive (it goes on), or another one (it goes on waiting).
+    void keepDriveChecked(const QString &mountPoint, bool sameDrive);
+    void verificationChanged();
+    void verificationProgressChanged();
+    void verificationLogChanged();
     void showArchiveReportChanged();
     void healthReportChanged();
     void filterStateChanged();
@@ -285,8 +325,16 @@ private:
     // True while the scan started as `run` is still the one on screen.
     static bool scanIsCurrent(const QPointer<AppState> &self, quint64 run) { return self && self->scanRun_ == run; }
     static QCoro::Task<void> watchTask(QPointer<AppState> self);
+    // earlier: the report of the same keep before its drive went away.
     static QCoro::Task<void> keepTask(QPointer<AppState> self, ArchivePlan plan, QString vaultURL,
-                                      std::vector<TeslaEvent> events, std::shared_ptr<std::stop_source> task);
+                                      std::vector<TeslaEvent> events, std::shared_ptr<std::stop_source> task,
+                                      std::optional<ArchiveReport> earlier);
+    void finishKeep(const ArchiveReport &report);
+    // Where the drive of a keep is: asked as the keep starts, while it is there.
+    static QCoro::Task<void> resumeTask(QPointer<AppState> self, QString mountPoint);
+    void noteMountForKeep(const QString &mountPoint);
+    static QCoro::Task<void> verifyTask(QPointer<AppState> self, QString vaultURL, QStringList eventIDs,
+                                        std::shared_ptr<std::stop_source> task);
     static QCoro::Task<void> vaultEventsTask(QPointer<AppState> self, QString vaultURL);
 
     void setDriveScan(std::optional<DriveScan> v);
@@ -306,6 +354,7 @@ private:
     void setIsArchiving(bool v);
     void setArchiveProgress(std::optional<ArchiveProgress> v);
     void setLastArchiveReport(std::optional<ArchiveReport> v);
+    void setVerificationLog(VerificationLog v);
     void setHealthReport(std::optional<HealthReport> v);
     void raiseResourceAccessEpoch();
 
@@ -338,6 +387,30 @@ private:
     std::optional<ArchiveReport> lastArchiveReport_;
     bool showArchiveReport_ = false;
     std::shared_ptr<std::stop_source> currentArchiveTask_;
+    // The drive a running keep reads from, asked as it started.
+    struct KeepDrive {
+        DriveIdentity drive;
+        QString mountPoint; // where the events' paths say it is
+    };
+    std::optional<KeepDrive> keepDrive_;
+    // A keep cut off by its drive going away, waiting for that drive.
+    struct InterruptedKeep {
+        std::vector<TeslaEvent> events; // as handed to keep, paths on the old mount
+        ArchiveReport soFar;
+        QString vaultURL;
+        KeepDrive from;
+    };
+    std::optional<InterruptedKeep> interruptedKeep_;
+    // Mount points that appeared while a keep ran: its drive may have come
+    // back before the run saw it go.
+    QStringList mountsDuringKeep_;
+    bool resumeCheckRunning_ = false;
+    std::vector<TeslaEvent> keepAwaitingVault_;
+    std::shared_ptr<std::stop_source> currentVerification_;
+    bool verificationShown_ = false; // the user asked for it, so its progress shows
+    std::optional<VaultVerifier::Progress> verificationProgress_;
+    VerificationLog verificationLog_;
+    QTimer *weeklyVerification_ = nullptr;
     std::optional<HealthReport> healthReport_;
     std::optional<TriageState> filterState_;
     std::optional<ReasonCategory> filterReason_;

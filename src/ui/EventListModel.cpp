@@ -1,5 +1,7 @@
 #include "EventListModel.h"
 
+#include "VaultMarks.h"
+
 #include "InboxPresenter.h"
 #include "SymbolIcons.h"
 #include "state/AppState.h"
@@ -24,6 +26,8 @@ EventListModel::EventListModel(AppState *state, Source source, QObject *parent)
         });
     }
     connect(state, &AppState::triageStatesChanged, this, &EventListModel::refreshAllRows);
+    connect(state, &AppState::vaultIndexChanged, this, &EventListModel::refreshAllRows);
+    connect(state, &AppState::verificationLogChanged, this, &EventListModel::refreshAllRows);
     connect(state, &AppState::selectedEventIDsForBulkChanged, this, &EventListModel::refreshAllRows);
     connect(state, &AppState::resourceAccessEpochChanged, this, &EventListModel::refreshAllRows);
 }
@@ -33,6 +37,19 @@ std::vector<TeslaEvent> EventListModel::currentEvents() const
     if (!state_)
         return {};
     return source_ == Source::inbox ? state_->visibleInboxEvents() : state_->vaultEvents();
+}
+
+TriageState EventListModel::shownState(const TeslaEvent &e) const
+{
+    const TriageState t = state_->triageState(e);
+    // Part of an event, or a copy found changed, is no verified copy safe in
+    // the Vault, whatever was kept of it before: its newest keep and the
+    // last check of it speak.
+    if (t == TriageState::kept)
+        if (const ArchivedEvent *newest = state_->vaultIndex().newestRecord(e.id());
+            newest && !VaultMarks::vouchesFor(*newest, state_->verificationLog().find(e.id())))
+            return TriageState::reviewed;
+    return t;
 }
 
 int EventListModel::rowCount(const QModelIndex &parent) const { return parent.isValid() ? 0 : int(events_.size()); }
@@ -100,13 +117,13 @@ QVariant EventListModel::data(const QModelIndex &index, int role) const
     case ThumbSourceRole:
         return thumbSource(e, state_->resourceAccessEpoch());
     case OverlayKindRole:
-        return InboxPresenter::triageOverlay(state_->triageState(e)).kind;
+        return InboxPresenter::triageOverlay(shownState(e)).kind;
     case OverlayIconRole: {
-        const QString symbol = InboxPresenter::triageOverlay(state_->triageState(e)).symbolName;
+        const QString symbol = InboxPresenter::triageOverlay(shownState(e)).symbolName;
         return symbol.isEmpty() ? QString() : SymbolIcons::iconUrl(symbol);
     }
     case OverlayToolTipRole:
-        return InboxPresenter::triageOverlay(state_->triageState(e)).toolTip;
+        return InboxPresenter::triageOverlay(shownState(e)).toolTip;
     case ReasonLabelRole:
         return e.reason.label();
     case ReasonShortLabelRole:

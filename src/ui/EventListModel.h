@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/TeslaEvent.h"
+#include "model/TriageState.h"
 
 #include <QAbstractListModel>
 #include <QPointer>
@@ -70,6 +71,8 @@ private:
     std::vector<TeslaEvent> currentEvents() const;
     void refresh();
     void refreshAllRows();
+    // The triage mark as the row shows it.
+    TriageState shownState(const TeslaEvent &e) const;
 
     QPointer<AppState> state_;
     Source source_;

@@ -3,6 +3,7 @@
 #include "FileChooser.h"
 #include "InboxPresenter.h"
 #include "SymbolIcons.h"
+#include "VaultMarks.h"
 #include "base/Awaiting.h"
 #include "drive/DriveBoundary.h"
 #include "engine/AsyncRun.h"
@@ -38,7 +39,26 @@ VaultViewModel::VaultViewModel(AppState *state, QObject *parent)
         Q_EMIT summaryChanged();
     });
     connect(state, &AppState::archiveProgressChanged, this, &VaultViewModel::progressChanged);
+    connect(state, &AppState::isArchivePausedChanged, this, [this] {
+        otherDriveSeen_ = false;
+        Q_EMIT progressChanged();
+    });
+    connect(state, &AppState::keepDriveChecked, this, [this](const QString &, bool same) {
+        otherDriveSeen_ = !same;
+        Q_EMIT progressChanged();
+    });
     connect(state, &AppState::lastArchiveReportChanged, this, &VaultViewModel::reportChanged);
+    const auto marks = [this] {
+        ++marksRevision_;
+        Q_EMIT marksChanged();
+    };
+    connect(state, &AppState::vaultIndexChanged, this, marks);
+    connect(state, &AppState::verificationLogChanged, this, marks);
+    connect(state, &AppState::vaultEventsChanged, this, marks);
+    connect(state, &AppState::verificationChanged, this, &VaultViewModel::verificationChanged);
+    connect(state, &AppState::verificationProgressChanged, this, &VaultViewModel::verificationChanged);
+    // A keep with no Vault yet: the first choice of one, with its own words.
+    connect(state, &AppState::vaultFolderWanted, this, [this] { askForFolder(true); });
 }
 
 QVariantMap VaultViewModel::texts() const
@@ -57,16 +77,6 @@ QVariantMap VaultViewModel::texts() const
         {QStringLiteral("summaryIcon"), icon("internaldrive")},
         {QStringLiteral("summaryTip"),
          QStringLiteral("How much space your kept footage uses, and how much room the Vault's disk has left.")},
-        {QStringLiteral("badgeIcon"), icon("checkmark.seal")},
-        {QStringLiteral("badge"), QStringLiteral("Verified copy")},
-        {QStringLiteral("badgeTip"),
-         QStringLiteral("This copy was checked byte-for-byte against your drive when it was archived. Tap for the "
-                        "technical detail.")},
-        {QStringLiteral("popoverTitle"), QStringLiteral("Faithful Copy")},
-        {QStringLiteral("popoverText"),
-         QStringLiteral("Every file below was copied and its checksum (SHA-256) was compared to the original on your "
-                        "drive at the time — a faithful, unaltered copy. This is a technical integrity check, not a "
-                        "legal certification.")},
         {QStringLiteral("moveToTrashItem"), QStringLiteral("Move to Trash…")},
         {QStringLiteral("removalTitle"), QStringLiteral("Move this event to the Trash?")},
         {QStringLiteral("moveToTrash"), QStringLiteral("Move to Trash")},
@@ -79,6 +89,12 @@ QVariantMap VaultViewModel::texts() const
          QStringLiteral("Stops after the current file. Anything already copied and verified stays in your Vault — "
                         "nothing is undone.")},
         {QStringLiteral("done"), QStringLiteral("Done")},
+        {QStringLiteral("verifyVault"), tr("Verify Vault")},
+        {QStringLiteral("verifyVaultIcon"), icon("arrow.triangle.2.circlepath")},
+        {QStringLiteral("verifyVaultTip"),
+         tr("Read every kept file again and compare it with the checksum taken when it was kept.")},
+        {QStringLiteral("verifyItem"), tr("Verify")},
+        {QStringLiteral("noticeIcon"), icon("exclamationmark.triangle")},
     };
 }
 
@@ -144,41 +160,32 @@ double VaultViewModel::progressFraction() const
     return p.totalBytes > 0 ? std::clamp(double(p.bytesCopied) / double(p.totalBytes), 0.0, 1.0) : 0.0;
 }
 
-QString VaultViewModel::progressLineFor(const ArchiveProgress &p)
+QString VaultViewModel::progressLineFor(const ArchiveProgress &p, bool paused, bool otherDriveSeen)
 {
-    return QString::number(p.eventsCompleted) + QStringLiteral(" of ") + QString::number(p.totalEvents)
+    const QString counts = QString::number(p.eventsCompleted) + QStringLiteral(" of ") + QString::number(p.totalEvents)
         + QStringLiteral(" events");
+    if (!paused)
+        return counts;
+    return otherDriveSeen ? tr("Paused at %1 — that is a different drive; plug in the one this keep was reading").arg(counts)
+                          : tr("Paused at %1 — plug the drive back in to go on").arg(counts);
 }
 
 QString VaultViewModel::progressLine() const
 {
-    return showsProgress() ? progressLineFor(*state_->archiveProgress()) : QString();
+    return showsProgress() ? progressLineFor(*state_->archiveProgress(), state_->isArchivePaused(), otherDriveSeen_)
+                           : QString();
 }
 
 QVariantMap VaultViewModel::reportFor(const ArchiveReport &r)
 {
-    const QString headingIcon = icon(r.cancelled ? "pause.circle" : "checkmark.seal.fill");
     QVariantList lines;
-    const int archived = int(r.archivedEvents.size());
-    if (archived > 0)
-        lines.append(QVariantMap{{QStringLiteral("icon"), headingIcon},
-                                 {QStringLiteral("text"),
-                                  plural(archived, "event")
-                                      + QStringLiteral(" copied and verified, byte-for-byte. The original on your drive "
-                                                       "is untouched.")}});
-    if (r.skippedDuplicates > 0)
-        lines.append(QVariantMap{{QStringLiteral("icon"), icon("doc.on.doc")},
-                                 {QStringLiteral("text"), QString::number(r.skippedDuplicates)
-                                      + QStringLiteral(" were already in your Vault, so we skipped them.")}});
-    const int failed = int(r.failedFiles.size());
-    if (failed > 0)
-        lines.append(QVariantMap{{QStringLiteral("icon"), icon("exclamationmark.triangle")},
-                                 {QStringLiteral("text"),
-                                  plural(failed, "file")
-                                      + QStringLiteral(" couldn't be read — your drive may be failing. Nothing was "
-                                                       "deleted or changed; you can try again.")}});
-    return {{QStringLiteral("heading"), r.cancelled ? QStringLiteral("Backup Stopped") : QStringLiteral("Backup Complete")},
-            {QStringLiteral("headingIcon"), headingIcon},
+    for (const QVariant &v : VaultMarks::reportLines(r)) {
+        const QVariantMap line = v.toMap();
+        lines.append(QVariantMap{{QStringLiteral("icon"), SymbolIcons::iconUrl(line.value(QStringLiteral("symbol")).toString())},
+                                 {QStringLiteral("text"), line.value(QStringLiteral("text"))}});
+    }
+    return {{QStringLiteral("heading"), VaultMarks::reportHeading(r)},
+            {QStringLiteral("headingIcon"), SymbolIcons::iconUrl(VaultMarks::reportHeadingSymbol(r))},
             {QStringLiteral("lines"), lines}};
 }
 
@@ -187,25 +194,65 @@ QVariantMap VaultViewModel::report() const
     return state_ && state_->lastArchiveReport() ? reportFor(*state_->lastArchiveReport()) : QVariantMap();
 }
 
-QVariantMap VaultViewModel::verificationFor(const ArchivedEvent &a)
+QVariantMap VaultViewModel::verificationFor(const ArchivedEvent &newest, const EventCheck *check)
 {
-    QVariantList files;
-    for (const ArchivedFile &f : a.files)
-        files.append(QVariantMap{{QStringLiteral("name"), f.name}, {QStringLiteral("sha256"), f.sha256}});
-    return {{QStringLiteral("present"), true},
-            {QStringLiteral("archivedLine"), QStringLiteral("Archived ")
-                 + a.archivedAt.formatLocal(QStringLiteral("MMM d, yyyy 'at' h:mm AP")) + QStringLiteral(" from ")
-                 + a.sourceVolume},
-            {QStringLiteral("files"), files}};
+    QVariantMap m = VaultMarks::mark(newest, check);
+    m.insert(QStringLiteral("badgeIcon"), SymbolIcons::iconUrl(m.value(QStringLiteral("badgeSymbol")).toString()));
+    return m;
 }
 
 QVariantMap VaultViewModel::verification(const QString &eventID) const
 {
     if (state_)
-        for (const ArchivedEvent &a : state_->vaultIndex().events)
-            if (a.eventID == eventID)
-                return verificationFor(a);
+        if (const ArchivedEvent *newest = state_->vaultIndex().newestRecord(eventID))
+            return verificationFor(*newest, state_->verificationLog().find(eventID));
     return {{QStringLiteral("present"), false}};
+}
+
+QVariantMap VaultViewModel::notice() const
+{
+    if (!state_)
+        return {{QStringLiteral("present"), false}};
+    return VaultMarks::notice(state_->vaultEvents(), state_->vaultIndex(), state_->verificationLog());
+}
+
+bool VaultViewModel::isVerifying() const { return state_ && state_->isVerifyingVault(); }
+
+double VaultViewModel::verifyFraction() const
+{
+    if (!isVerifying() || !state_->verificationProgress())
+        return 0;
+    const VaultVerifier::Progress &p = *state_->verificationProgress();
+    return p.totalBytes > 0 ? std::clamp(double(p.bytesDone) / double(p.totalBytes), 0.0, 1.0) : 0.0;
+}
+
+QString VaultViewModel::verifyLine() const
+{
+    if (!isVerifying())
+        return {};
+    const std::optional<VaultVerifier::Progress> &p = state_->verificationProgress();
+    if (!p)
+        return tr("Reading your kept footage again…");
+    return p->totalEvents == 1 ? tr("Reading 1 kept event again…")
+                               : tr("Reading kept events again: %1 of %2 done").arg(p->eventsDone).arg(p->totalEvents);
+}
+
+void VaultViewModel::verifyAll()
+{
+    if (state_)
+        state_->verifyWholeVault();
+}
+
+void VaultViewModel::verifyEvent(const QString &eventID)
+{
+    if (state_)
+        state_->verifyEvent(eventID);
+}
+
+void VaultViewModel::cancelVerification()
+{
+    if (state_)
+        state_->cancelVerification();
 }
 
 QString VaultViewModel::removalMessageFor(const TeslaEvent &event)
@@ -251,6 +298,13 @@ void VaultViewModel::chooseFolder(const QVariant &url)
     });
 }
 
+void VaultViewModel::declineChoice()
+{
+    dismissChoiceRefusal();
+    if (state_)
+        state_->declineVaultFolder();
+}
+
 void VaultViewModel::dismissChoiceRefusal()
 {
     if (choiceRefusal_.isEmpty())
@@ -259,7 +313,9 @@ void VaultViewModel::dismissChoiceRefusal()
     Q_EMIT choiceRefusalChanged();
 }
 
-void VaultViewModel::presentFolderPicker()
+void VaultViewModel::presentFolderPicker() { askForFolder(false); }
+
+void VaultViewModel::askForFolder(bool forKeep)
 {
     const QVariantMap t = texts();
     FileChooser::Request request;
@@ -269,9 +325,13 @@ void VaultViewModel::presentFolderPicker()
     request.acceptLabel = t.value(QStringLiteral("pickerPrompt")).toString();
     request.startFolder = state_ && state_->vaultURL() ? *state_->vaultURL() : QDir::homePath();
     QPointer<VaultViewModel> self(this);
-    FileChooser::open(request, [self](std::optional<QString> chosen) {
-        if (self && chosen)
+    FileChooser::open(request, [self, forKeep](std::optional<QString> chosen) {
+        if (!self)
+            return;
+        if (chosen)
             self->chooseFolder(*chosen);
+        else if (forKeep && self->state_)
+            self->state_->declineVaultFolder();
     });
 }
 

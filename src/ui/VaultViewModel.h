@@ -4,6 +4,7 @@
 #include "model/ArchiveProgress.h"
 #include "model/ArchiveReport.h"
 #include "vault/ArchivedEvent.h"
+#include "vault/VerificationLog.h"
 
 #include <QObject>
 #include <QPointer>
@@ -28,6 +29,12 @@ class VaultViewModel : public QObject {
     Q_PROPERTY(QString progressLine READ progressLine NOTIFY progressChanged)
     Q_PROPERTY(QVariantMap report READ report NOTIFY reportChanged)
     Q_PROPERTY(QString choiceRefusal READ choiceRefusal NOTIFY choiceRefusalChanged)
+    // Raised whenever what the badges say may have changed (index, checks).
+    Q_PROPERTY(int marksRevision READ marksRevision NOTIFY marksChanged)
+    Q_PROPERTY(QVariantMap notice READ notice NOTIFY marksChanged)
+    Q_PROPERTY(bool isVerifying READ isVerifying NOTIFY verificationChanged)
+    Q_PROPERTY(double verifyFraction READ verifyFraction NOTIFY verificationChanged)
+    Q_PROPERTY(QString verifyLine READ verifyLine NOTIFY verificationChanged)
 public:
     explicit VaultViewModel(AppState *state, QObject *parent = nullptr);
 
@@ -44,6 +51,12 @@ public:
     QVariantMap report() const;
     // Why the folder just chosen can't be the Vault; empty when it could.
     QString choiceRefusal() const { return choiceRefusal_; }
+    int marksRevision() const { return marksRevision_; }
+    // {present, title, message}: what the last re-reading found wrong.
+    QVariantMap notice() const;
+    bool isVerifying() const;
+    double verifyFraction() const;
+    QString verifyLine() const;
 
     // {present, files: [{name, sha256}], archivedLine, …}; present false with no index entry.
     Q_INVOKABLE QVariantMap verification(const QString &eventID) const;
@@ -55,15 +68,21 @@ public:
     // drive is refused (choiceRefusal); the check runs off this thread.
     Q_INVOKABLE void chooseFolder(const QVariant &url);
     Q_INVOKABLE void dismissChoiceRefusal();
+    // The refusal's Cancel: no other folder, and a keep that waited for one is dropped.
+    Q_INVOKABLE void declineChoice();
     Q_INVOKABLE void remove(const QString &eventID);
     Q_INVOKABLE void cancelArchive();
+    // "Verify Vault" and an event's "Verify": re-read the kept files.
+    Q_INVOKABLE void verifyAll();
+    Q_INVOKABLE void verifyEvent(const QString &eventID);
+    Q_INVOKABLE void cancelVerification();
 
     // The pure rules behind the properties, for tests.
     static QVariantMap emptyStateFor(bool hasVaultFolder);
     static QString summaryFor(const std::vector<TeslaEvent> &events, std::optional<qint64> freeBytes);
-    static QString progressLineFor(const ArchiveProgress &progress);
+    static QString progressLineFor(const ArchiveProgress &progress, bool paused = false, bool otherDriveSeen = false);
     static QVariantMap reportFor(const ArchiveReport &report);
-    static QVariantMap verificationFor(const ArchivedEvent &archived);
+    static QVariantMap verificationFor(const ArchivedEvent &newest, const EventCheck *check = nullptr);
     static QString removalMessageFor(const TeslaEvent &event);
     // Free space on the disk that holds the folder; nothing without an answer.
     static std::optional<qint64> freeBytesAt(const QString &folder);
@@ -75,12 +94,18 @@ Q_SIGNALS:
     void progressChanged();
     void reportChanged();
     void choiceRefusalChanged();
+    void marksChanged();
+    void verificationChanged();
 
 private:
     void refreshFreeSpace();
+    // forKeep: a keep waits on the answer, and a cancel drops it.
+    void askForFolder(bool forKeep);
 
     QPointer<AppState> state_;
     EventListModel *rows_;
     std::optional<qint64> freeBytes_;
     QString choiceRefusal_;
+    int marksRevision_ = 0;
+    bool otherDriveSeen_ = false; // while a keep waits: the last drive plugged in wasn't its own
 };

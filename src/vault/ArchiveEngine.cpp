@@ -278,12 +278,87 @@ double clockSeconds()
     return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
 }
 
+// Asked when the event begins, while its drive is surely there, and under a
+// short limit: a drive that doesn't answer is an unknown one.
 QString volumeName(const QString &folder)
 {
-    const auto info = VolumeInfo::query(folder);
-    if (info && info->name && !info->name->isEmpty())
-        return *info->name;
-    return ArchivedEvent::unknownDrive;
+    try {
+        return IOWatchdog::run(std::chrono::seconds(2), [folder](std::stop_token) {
+            const auto info = VolumeInfo::query(folder);
+            if (info && info->name && !info->name->isEmpty())
+                return *info->name;
+            return ArchivedEvent::unknownDrive;
+        });
+    } catch (...) {
+        return ArchivedEvent::unknownDrive;
+    }
+}
+
+// The device that holds a folder of the drive; nothing when it can't be
+// seen. Asked under a short limit: a drive that stops answering is no
+// answer, not a reason to wait.
+struct FolderLook {
+    bool answered = false;
+    int error = 0;
+    dev_t device = 0;
+};
+
+FolderLook lookAtFolder(const QString &folder)
+{
+    try {
+        return IOWatchdog::run(std::chrono::seconds(2), [folder](std::stop_token) {
+            FolderLook look;
+            struct stat st {};
+            look.answered = true;
+            if (::stat(QFile::encodeName(folder).constData(), &st) != 0)
+                look.error = errno;
+            else
+                look.device = st.st_dev;
+            return look;
+        });
+    } catch (...) {
+        return {};
+    }
+}
+
+// A folder of the drive as it was last seen there.
+struct SeenFolder {
+    QString path;
+    dev_t device = 0;
+};
+
+// Whether the drive that held a folder seen earlier has gone: pulled out or
+// unmounted, so the folder is no longer there, or another file system now
+// stands in its place. A drive that is there but failing is not gone.
+bool driveLeft(const SeenFolder &seen)
+{
+    const FolderLook now = lookAtFolder(seen.path);
+    if (!now.answered)
+        return false;
+    switch (now.error) {
+    case 0: return now.device != seen.device;
+    case ENOENT:
+    case ENOTDIR:
+    case ENOTCONN:
+    case ENODEV:
+    case ENXIO: return true;
+    default: return false;
+    }
+}
+
+// A file an earlier, cut-off run already placed, still whole in the Vault
+// and still the same size on the drive: there is nothing to copy again.
+std::optional<ArchivedFile> stillKept(const std::vector<ArchivedFile> &kept, const QString &source, const QString &to)
+{
+    const QString name = lastPathComponent(to);
+    const auto it = std::find_if(kept.begin(), kept.end(), [&](const ArchivedFile &f) { return f.name == name; });
+    if (it == kept.end())
+        return std::nullopt;
+    const ReadOnlyFs::PathInfo onDrive = ReadOnlyFs::stat(source);
+    const ReadOnlyFs::PathInfo inVault = ReadOnlyFs::stat(to);
+    if (!onDrive.isRegularFile || !inVault.isRegularFile || onDrive.size != it->size || inVault.size != it->size)
+        return std::nullopt;
+    return *it;
 }
 
 // What a commit cut off earlier (a kill, a power cut) left beside the
@@ -331,12 +406,14 @@ ArchivePlan plan(const std::vector<TeslaEvent> &events, const VaultIndex &vault)
         candidate.eventID = event.id();
         candidate.kind = event.kind;
         candidate.folderName = event.folderName;
-        for (const QString &url : sourceFiles(event)) {
+        std::vector<QString> sources = sourceFiles(event);
+        for (const QString &url : sources) {
             // A file that is gone counts as 0 bytes, so the key misses.
             const ReadOnlyFs::PathInfo info = ReadOnlyFs::stat(url);
             candidate.files.push_back(ArchivedFile{lastPathComponent(url), info.exists ? info.size : 0, QString()});
         }
-        result.items.push_back({event, keys.contains(candidate.dedupeKey())});
+        const bool duplicate = keys.contains(candidate.dedupeKey());
+        result.items.push_back({event, duplicate, std::move(sources), {}});
     }
     return result;
 }
@@ -377,11 +454,16 @@ ArchiveReport run(const ArchivePlan &plan, const QString &vaultURL, const Archiv
 
     ArchiveReport report;
     report.skippedDuplicates = int(plan.items.size() - items.size());
+    report.plannedEvents = totalEvents;
     double lastEmit = 0.0;
+    // Files a cut-off run had placed and this one takes as they are: done
+    // as far as the progress goes, though not copied by this run.
+    qint64 bytesTaken = 0;
 
     auto emitProgress = [&](int eventsCompleted, std::optional<QString> fileName) {
         if (progress)
-            progress(ArchiveProgress{report.bytesCopied, totalBytes, eventsCompleted, totalEvents, std::move(fileName)});
+            progress(ArchiveProgress{report.bytesCopied + bytesTaken, totalBytes, eventsCompleted, totalEvents,
+                                     std::move(fileName)});
     };
     // Per-file emits share one throttle across the run; the run's last file always emits.
     auto maybeEmit = [&](int i, bool isLastFile, const QString &fileName) {
@@ -406,12 +488,14 @@ ArchiveReport run(const ArchivePlan &plan, const QString &vaultURL, const Archiv
         }
     }
 
-    for (int i = 0; i < totalEvents && !report.cancelled; ++i) {
+    std::optional<SeenFolder> driveSeen;
+    for (int i = 0; i < totalEvents && !report.cancelled && !report.stoppedBecause; ++i) {
         if (stop.stop_requested()) {
             report.cancelled = true;
             break;
         }
-        const TeslaEvent &event = items[size_t(i)].event;
+        const ArchivePlan::Item &item = items[size_t(i)];
+        const TeslaEvent &event = item.event;
         const QString relative = relativePath(event);
         const QString folder = QDir(vaultURL).filePath(relative);
         // A Vault that has gone (an unplugged drive) is never made again on
@@ -430,7 +514,14 @@ ArchiveReport run(const ArchivePlan &plan, const QString &vaultURL, const Archiv
             continue;
         }
 
-        const std::vector<QString> sources = sourceFiles(event);
+        // As planned: a file that has gone since is a failure of this event,
+        // not one fewer file to keep.
+        const std::vector<QString> sources = item.sources.empty() ? sourceFiles(event) : item.sources;
+        // The drive as this event begins. An event whose folder is already
+        // gone is judged by the drive of the event before.
+        if (const FolderLook look = lookAtFolder(event.folderURL); look.answered && look.error == 0)
+            driveSeen = SeenFolder{event.folderURL, look.device};
+        const QString sourceVolume = volumeName(event.folderURL);
         std::vector<ArchivedFile> files;
         for (size_t j = 0; j < sources.size(); ++j) {
             if (stop.stop_requested()) {
@@ -439,10 +530,17 @@ ArchiveReport run(const ArchivePlan &plan, const QString &vaultURL, const Archiv
             }
             const QString &source = sources[j];
             const QString name = lastPathComponent(source);
+            const QString destination = folder + QLatin1Char('/') + name;
             const bool isLastFile = i == totalEvents - 1 && j == sources.size() - 1;
             maybeEmit(i, isLastFile, name);
+            if (const auto kept = stillKept(item.alreadyKept, source, destination)) {
+                files.push_back(*kept);
+                bytesTaken += kept->size;
+                maybeEmit(i, isLastFile, name);
+                continue;
+            }
             try {
-                const ArchivedFile copied = copyFileWithHash(source, folder + QLatin1Char('/') + name, timeoutPerFile, stop);
+                const ArchivedFile copied = copyFileWithHash(source, destination, timeoutPerFile, stop);
                 files.push_back(copied);
                 report.bytesCopied += copied.size;
                 maybeEmit(i, isLastFile, name);
@@ -451,9 +549,15 @@ ArchiveReport run(const ArchivePlan &plan, const QString &vaultURL, const Archiv
                 break;
             } catch (...) {
                 report.failedFiles.push_back({source, friendlyReason(std::current_exception())});
+                // Every file left would fail the same way: the run stops
+                // here and says why, and what arrived is recorded as such.
+                if (driveSeen && driveLeft(*driveSeen)) {
+                    report.stoppedBecause = ArchiveReport::StopReason::driveDisconnected;
+                    break;
+                }
             }
         }
-        // A cut-off event keeps its files on disk but gets no record.
+        // A cancelled event keeps its files on disk but gets no record.
         if (report.cancelled || files.empty())
             continue;
 
@@ -464,8 +568,9 @@ ArchiveReport run(const ArchivePlan &plan, const QString &vaultURL, const Archiv
         record.timestamp = event.timestamp;
         record.files = std::move(files);
         record.archivedAt = Date::now();
-        record.sourceVolume = volumeName(event.folderURL);
+        record.sourceVolume = sourceVolume;
         record.relativePath = relative;
+        record.expectedFileCount = int(sources.size());
         report.archivedEvents.push_back(std::move(record));
         emitProgress(i + 1, std::nullopt);
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/TeslaEvent.h"
+#include "vault/ArchivedFile.h"
 
 #include <vector>
 
@@ -9,6 +10,12 @@ struct ArchivePlan {
     struct Item {
         TeslaEvent event;
         bool isDuplicate = false; // the Vault already holds this event with the same files
+        // The files to copy, as planned (ArchiveEngine::sourceFiles); empty
+        // means they are worked out when the run reaches the event.
+        std::vector<QString> sources;
+        // Files an earlier run cut off already placed in the Vault: taken as
+        // they are when the drive still holds the same name at the same size.
+        std::vector<ArchivedFile> alreadyKept;
 
         bool operator==(const Item &) const = default;
     };

@@ -4,6 +4,8 @@
 
 #include <QHashFunctions>
 #include <QStringList>
+#include <algorithm>
+#include <limits>
 
 qint64 ArchivedEvent::totalBytes() const
 {
@@ -38,6 +40,8 @@ QJsonObject ArchivedEvent::toJson() const
     o.insert(QStringLiteral("archivedAt"), encodeDate(archivedAt));
     o.insert(QStringLiteral("sourceVolume"), sourceVolume);
     o.insert(QStringLiteral("relativePath"), relativePath);
+    if (expectedFileCount)
+        o.insert(QStringLiteral("expectedFileCount"), *expectedFileCount);
     return o;
 }
 
@@ -54,13 +58,16 @@ ArchivedEvent ArchivedEvent::fromJson(const QJsonValue &value)
     e.archivedAt = decodeDate(require(o, "archivedAt"), "archivedAt");
     e.sourceVolume = requireString(o, "sourceVolume");
     e.relativePath = requireString(o, "relativePath");
+    // Absent in manifests written before it existed.
+    if (const auto expected = optionalInt64(o, "expectedFileCount"))
+        e.expectedFileCount = int(std::clamp<qint64>(*expected, 0, std::numeric_limits<int>::max()));
     return e;
 }
 
 size_t qHash(const ArchivedEvent &e, size_t seed) noexcept
 {
     size_t h = qHashMulti(seed, e.eventID, e.kind, e.folderName, e.timestamp, e.archivedAt, e.sourceVolume,
-                          e.relativePath);
+                          e.relativePath, e.expectedFileCount.value_or(-1));
     for (const auto &f : e.files)
         h = qHash(f, h);
     return h;

@@ -6,6 +6,7 @@
 
 #include <QJsonObject>
 #include <QString>
+#include <optional>
 #include <vector>
 
 // One kept event as recorded in the Vault's manifest.json.
@@ -18,6 +19,9 @@ struct ArchivedEvent {
     Date archivedAt;
     QString sourceVolume; // "Unknown Drive" when the name could not be read
     QString relativePath; // "<year>/<kind>/<folder name>" from the Vault root
+    // How many files the run meant to copy for the event. Nothing in records
+    // written before it was kept: unknown, so such a record is taken as whole.
+    std::optional<int> expectedFileCount;
 
     const QString &id() const { return eventID; }
 
@@ -25,6 +29,8 @@ struct ArchivedEvent {
     // Digests take no part: a returning drive is recognised without hashing.
     QString dedupeKey() const;
     qint64 totalBytes() const;
+    // Some of the files the run meant to copy never arrived.
+    bool isIncomplete() const { return expectedFileCount && int(files.size()) < *expectedFileCount; }
 
     bool operator==(const ArchivedEvent &) const = default;
 

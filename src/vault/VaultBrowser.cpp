@@ -72,7 +72,11 @@ std::vector<TeslaEvent> scanVault(const QString &url)
                 const auto stamp = TeslaCamParser::parseTimestamp(groups->date, groups->time);
                 if (!stamp)
                     continue;
-                if (auto event = TeslaCamParser::parseEventFolder(folder, *kind, *stamp, issues))
+                auto event = TeslaCamParser::parseEventFolder(folder, *kind, *stamp, issues);
+                // A keep cut off before its first file arrived leaves an
+                // empty folder (or one with only a hidden partial copy):
+                // nothing was kept, so there is no event to show.
+                if (event && (!event->clips.empty() || !event->missingEventJSON || event->thumbURL))
                     events.push_back(std::move(*event));
             }
         }

@@ -83,6 +83,12 @@ QString VaultIndex::manifestPath(const QString &vaultURL)
     return QDir(vaultURL).filePath(manifestFileName);
 }
 
+const ArchivedEvent *VaultIndex::newestRecord(const QString &eventID) const
+{
+    const auto it = std::find_if(events.rbegin(), events.rend(), [&](const ArchivedEvent &e) { return e.eventID == eventID; });
+    return it == events.rend() ? nullptr : &*it;
+}
+
 QSet<QString> VaultIndex::dedupeKeySet() const
 {
     QSet<QString> keys;

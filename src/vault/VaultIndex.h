@@ -25,6 +25,10 @@ struct VaultIndex {
     static inline const QString manifestFileName = QStringLiteral("manifest.json");
     static QString manifestPath(const QString &vaultURL);
 
+    // An event kept more than once has a record per keep; the newest one
+    // says what the Vault holds of it. Null when the event has none.
+    const ArchivedEvent *newestRecord(const QString &eventID) const;
+
     QSet<QString> dedupeKeySet() const;
     // Whether any event has the same dedupe key as the one given.
     bool contains(const ArchivedEvent &dedupeKeyOf) const;

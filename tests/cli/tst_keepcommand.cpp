@@ -5,6 +5,7 @@
 #include "support/TmpfsMount.h"
 #include "support/TreeSnapshot.h"
 #include "vault/VaultIndex.h"
+#include "vault/VerificationLog.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -76,6 +77,9 @@ private Q_SLOTS:
         QCOMPARE(report.archivedEvents.size(), size_t(3));
         QVERIFY(!report.cancelled);
         QVERIFY(report.failedFiles.empty());
+        QCOMPARE(report.plannedEvents, 3);
+        for (const ArchivedEvent &e : report.archivedEvents)
+            QCOMPARE(e.expectedFileCount, std::optional(int(e.files.size())));
         QCOMPARE(VaultIndex::load(vault.path()).events, report.archivedEvents);
         // Not a terminal: no progress line.
         QVERIFY2(r.err.isEmpty(), qPrintable(r.err));
@@ -144,9 +148,17 @@ private Q_SLOTS:
         }
         r = CliRun::run({"vault", "list"});
         QCOMPARE(r.exitCode, 64);
-        r = CliRun::run({"vault", "list", vault.filePath("missing")});
-        QCOMPARE(r.exitCode, 2);
-        QVERIFY(r.err.contains("no Vault folder"));
+        // A Vault folder that isn't there, for every vault command: one sentence.
+        for (const QStringList &command : {QStringList{"vault", "list", vault.filePath("missing")},
+                                           QStringList{"vault", "verify", vault.filePath("missing")},
+                                           QStringList{"vault", "remove", vault.filePath("missing"), "sentry|x"}}) {
+            r = CliRun::run(command);
+            QCOMPARE(r.exitCode, 2);
+            QCOMPARE(r.err.count('\n'), 1);
+            QVERIFY2(r.err.contains("no Vault folder"), qPrintable(r.err));
+            QVERIFY(r.out.isEmpty());
+        }
+        QVERIFY(!QFileInfo::exists(vault.filePath("missing")));
     }
 
     void ctrlCCancelsCleanlyWithAReport()
@@ -216,6 +228,35 @@ private Q_SLOTS:
         QVERIFY2(report.failedFiles[0].reason.contains("took too long"), qPrintable(report.failedFiles[0].reason));
         QCOMPARE(report.archivedEvents.size(), size_t(1));
         QCOMPARE(report.archivedEvents[0].files.size(), size_t(2));
+    }
+
+    // Pulled out mid-keep: the run stops there and says why, and what
+    // arrived of the event in copy is recorded as a part.
+    void pulledDriveStopsTheKeepAndSaysSo()
+    {
+        if (!FaultyFs::available())
+            QSKIP("needs root and /dev/fuse");
+        QTemporaryDir mountPoint, dir;
+        FaultyFs fs(mountPoint.path());
+        QVERIFY(fs.isMounted());
+        for (const QString &name : {QStringLiteral("2026-07-18_09-15-32"), QStringLiteral("2026-07-17_09-15-32")})
+            for (const QString &clip : DriveBuilder::clipNames(name, 3))
+                fs.addFile("TeslaCam/SentryClips/" + name + "/" + clip, DriveBuilder::randomBytes(1 << 20, 3));
+        fs.vanishAfterBytes(fs.bytesServed() + 4 * (1 << 20) + 1000);
+        const QString vault = dir.filePath("Vault");
+        const Result r = CliRun::run({"keep", mountPoint.filePath("TeslaCam"), "--vault", vault});
+        QCOMPARE(r.exitCode, 1);
+        QVERIFY2(r.err.contains("1 of 2 events were kept completely"), qPrintable(r.err));
+        const ArchiveReport report = parseReport(r.out);
+        QCOMPARE(report.stoppedBecause, std::optional(ArchiveReport::StopReason::driveDisconnected));
+        QCOMPARE(report.failedFiles.size(), size_t(1));
+        QCOMPARE(report.archivedEvents.size(), size_t(2));
+        QCOMPARE(report.archivedEvents[1].files.size(), size_t(1));
+        QCOMPARE(report.archivedEvents[1].expectedFileCount, std::optional(3));
+        QCOMPARE(VaultIndex::load(vault).events, report.archivedEvents);
+        const Result verified = CliRun::run({"vault", "verify", vault});
+        QCOMPARE(verified.exitCode, 1);
+        QVERIFY(verified.out.contains("incomplete (1 of 3 files kept)"));
     }
 
     // Nothing of ours is written on the car's drive: not a Vault elsewhere on
@@ -346,6 +387,38 @@ private Q_SLOTS:
         r = CliRun::run({"vault", "verify", vault.path()});
         QCOMPARE(r.exitCode, 2);
         QVERIFY(r.err.contains("manifest.json"));
+    }
+
+    // An event kept only in part is never a pass; kept again, it is one
+    // event with two records, checked once against the newer.
+    void verifyTellsAPartKeepAndChecksAnEventOnce()
+    {
+        QTemporaryDir vault;
+        QCOMPARE(CliRun::run({"keep", drive_.root(), "--vault", vault.path(), "--event", "saved|2026-07-19_10-00-00"})
+                     .exitCode,
+                 0);
+        // As a pulled drive leaves it: the record lists what arrived of more.
+        VaultIndex index = VaultIndex::load(vault.path());
+        const ArchivedFile lost = index.events[0].files.back();
+        index.events[0].files.pop_back();
+        QVERIFY(QFile::remove(vault.filePath(index.events[0].relativePath + "/" + lost.name)));
+        index.save(vault.path());
+
+        Result r = CliRun::run({"vault", "verify", vault.path()});
+        QCOMPARE(r.exitCode, 1);
+        QCOMPARE(r.out.count('\n'), 1);
+        QVERIFY2(r.out.startsWith("INCOMPLETE"), r.out.constData());
+        QVERIFY2(r.out.contains("incomplete (3 of 4 files kept)"), r.out.constData());
+        QVERIFY(VerificationLog::load(vault.path()).find("saved|2026-07-19_10-00-00"));
+
+        QCOMPARE(CliRun::run({"keep", drive_.root(), "--vault", vault.path(), "--event", "saved|2026-07-19_10-00-00"})
+                     .exitCode,
+                 0);
+        QCOMPARE(VaultIndex::load(vault.path()).events.size(), size_t(2));
+        r = CliRun::run({"vault", "verify", vault.path()});
+        QCOMPARE(r.exitCode, 0);
+        QCOMPARE(r.out.count('\n'), 1);
+        QVERIFY2(r.out.contains("saved|2026-07-19_10-00-00: 4 verified, 0 changed, 0 missing"), r.out.constData());
     }
 };
 

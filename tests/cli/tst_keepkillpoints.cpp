@@ -166,7 +166,7 @@ private Q_SLOTS:
             const ArchiveReport second =
                 ArchiveEngine::run(ArchiveEngine::plan(drive.scan(), VaultIndex::loadOrEmpty(vault)), vault);
             QVERIFY2(second.failedFiles.empty() && !second.cancelled, qPrintable(where));
-            for (const VaultVerifier::EventResult &result : VaultVerifier::verify(vault))
+            for (const EventCheck &result : VaultVerifier::verify(vault).events)
                 QVERIFY2(result.ok(), qPrintable(where + QStringLiteral(": after the second keep ") + result.eventID));
             const QString missing = missingFromIndex(vault, expected);
             QVERIFY2(missing.isEmpty(), qPrintable(where + QStringLiteral(": not all kept: ") + missing));

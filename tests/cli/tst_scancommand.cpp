@@ -76,6 +76,12 @@ private Q_SLOTS:
         QVERIFY(pretty.out.count('\n') > 20);
         QJsonObject a = JsonCoding::parseObject(r.out);
         QJsonObject b = JsonCoding::parseObject(pretty.out);
+        // A drive's root stands for its TeslaCam folder.
+        const Result fromTheTop = runCli({"scan", tmp.path()});
+        QCOMPARE(fromTheTop.exitCode, 0);
+        const DriveScan top = DriveScan::fromJson(JsonCoding::parseObject(fromTheTop.out));
+        QCOMPARE(top.teslaCamURL, root);
+        QCOMPARE(top.events.size(), printed.events.size());
         for (auto *o : {&a, &b}) {
             o->remove("scannedAt");
             o->remove("freeBytes");

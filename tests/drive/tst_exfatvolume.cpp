@@ -1,3 +1,4 @@
+#include "drive/DriveIdentity.h"
 #include "drive/TeslaCamParser.h"
 #include "support/TeslaCamFixture.h"
 #include "support/TreeSnapshot.h"
@@ -88,6 +89,58 @@ private Q_SLOTS:
         QCOMPARE(scan.events[0].clips.at(0).fileSize, qint64(200'000));
 
         QCOMPARE(before.differences(TreeSnapshot::take(fx.root())), QString());
+    }
+
+    // The same drive is known again at another mount point by its file
+    // system's UUID; another drive with the same label and size is not it.
+    void driveIdentityFollowsTheFileSystemNotTheMountPoint()
+    {
+        const auto first = DriveIdentity::of(mountPoint_ + "/TeslaCam");
+        QVERIFY(first);
+        QCOMPARE(first->mountPoint, mountPoint_);
+        QVERIFY(first->drive.uuid && !first->drive.uuid->isEmpty());
+        QCOMPARE(first->drive.name, QStringLiteral("TESLA CAM"));
+
+        int code = 0;
+        run("umount", {mountPoint_}, &code);
+        QCOMPARE(code, 0);
+        mounted_ = false;
+        mountPoint_ = tmp_.path() + "/elsewhere";
+        QDir().mkpath(mountPoint_);
+        run("mount.exfat-fuse", {loop_, mountPoint_}, &code);
+        QCOMPARE(code, 0);
+        mounted_ = true;
+        const auto again = DriveIdentity::of(mountPoint_);
+        QVERIFY(again);
+        QCOMPARE(again->mountPoint, mountPoint_);
+        QVERIFY(again->drive.isSameDrive(first->drive));
+
+        const QString otherImage = tmp_.path() + "/other.img";
+        run("truncate", {"-s", "96M", otherImage}, &code);
+        run("mkfs.exfat", {"-L", "TESLA CAM", otherImage}, &code);
+        QCOMPARE(code, 0);
+        const QString otherLoop = run("losetup", {"-f", "--show", otherImage}, &code);
+        if (code != 0 || otherLoop.isEmpty())
+            QSKIP("no second free loop device here");
+        const QString otherMount = tmp_.path() + "/other";
+        QDir().mkpath(otherMount);
+        run("mount.exfat-fuse", {otherLoop, otherMount}, &code);
+        const auto other = code == 0 ? DriveIdentity::of(otherMount) : std::nullopt;
+        run("umount", {otherMount});
+        run("losetup", {"-d", otherLoop});
+        QVERIFY(other);
+        QCOMPARE(other->drive.name, first->drive.name);
+        QCOMPARE(other->drive.capacityBytes, first->drive.capacityBytes);
+        QVERIFY(other->drive.uuid != first->drive.uuid);
+        QVERIFY(!other->drive.isSameDrive(first->drive));
+
+        // Without UUIDs on either side, name and size decide.
+        DriveIdentity plain{std::nullopt, QStringLiteral("USB"), 1000};
+        DriveIdentity same = plain;
+        QVERIFY(plain.isSameDrive(same));
+        same.capacityBytes = 2000;
+        QVERIFY(!plain.isSameDrive(same));
+        QVERIFY(!plain.isSameDrive(first->drive));
     }
 };
 

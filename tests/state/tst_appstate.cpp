@@ -1,11 +1,17 @@
+#include "drive/TeslaCamParser.h"
 #include "engine/LiveEngine.h"
 #include "engine/MockEngine.h"
 #include "state/AppState.h"
+#include "vault/ArchiveEngine.h"
+#include "vault/VaultVerifier.h"
+#include "support/DriveBuilder.h"
+#include "support/FaultyFs.h"
 #include "support/IsolatedHome.h"
 #include "support/TeslaCamFixture.h"
 #include "support/TestClips.h"
 
 #include <QDir>
+#include <QScopeGuard>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -334,14 +340,22 @@ private Q_SLOTS:
         const TeslaEvent failing = state.driveScan()->events.back();
         QCOMPARE(failing.folderName, QStringLiteral("2024-05-01_10-00-00"));
 
-        // No Vault: the failure asks for one.
-        state.keep({events[0]});
-        QCOMPARE(state.currentFailure(), DriveFailure::staleBookmark(BookmarkKey::vaultFolder));
+        // No Vault yet: the screens are asked for a first one, and the keep
+        // waits for it; declined, it is dropped.
+        QSignalSpy wanted(&state, &AppState::vaultFolderWanted);
+        state.keep({events[1]});
+        QCOMPARE(wanted.count(), 1);
+        QVERIFY(!state.currentFailure());
         QVERIFY(!state.isArchiving());
+        QVERIFY(state.hasKeepAwaitingVault());
+        state.declineVaultFolder();
+        QVERIFY(!state.hasKeepAwaitingVault());
 
-        state.setVaultURL(vault);
+        // Asked again and answered: the keep goes on by itself.
         state.keep({events[0]});
-        QVERIFY(state.isArchiving());
+        QCOMPARE(wanted.count(), 2);
+        state.setVaultURL(vault);
+        QTRY_VERIFY_WITH_TIMEOUT(state.isArchiving(), 10000);
         QVERIFY(state.hasCurrentArchiveTask());
         QCOMPARE(state.archiveProgress()->totalEvents, 1);
         QTRY_VERIFY_WITH_TIMEOUT(state.showArchiveReport(), 20000);
@@ -363,18 +377,20 @@ private Q_SLOTS:
         QTRY_COMPARE(state.vaultEvents().size(), size_t(2));
         QVERIFY(state.healthReport());
 
-        // A file that fails is listed on the sheet; the event is kept exactly
-        // when the run recorded it (the engine records it with what arrived).
+        // A file that fails is listed on the sheet; the event is recorded with
+        // what arrived, as a part, and a part is never kept.
         QVERIFY(QFile::remove(doomedClip));
         state.setShowArchiveReport(false);
         state.keep({failing});
         QTRY_VERIFY_WITH_TIMEOUT(state.showArchiveReport(), 20000);
         QCOMPARE(state.lastArchiveReport()->failedFiles.size(), size_t(1));
         QCOMPARE(state.lastArchiveReport()->failedFiles[0].path, doomedClip);
-        bool recorded = false;
-        for (const ArchivedEvent &a : state.lastArchiveReport()->archivedEvents)
-            recorded = recorded || a.eventID == failing.id();
-        QCOMPARE(state.triageState(failing) == TriageState::kept, recorded);
+        QCOMPARE(state.lastArchiveReport()->archivedEvents.size(), size_t(1));
+        const ArchivedEvent &part = state.lastArchiveReport()->archivedEvents[0];
+        QCOMPARE(part.eventID, failing.id());
+        QVERIFY(part.isIncomplete());
+        QVERIFY(state.triageState(failing) != TriageState::kept);
+        QCOMPARE(state.vaultIndex().newestRecord(failing.id())->expectedFileCount, part.expectedFileCount);
 
         // Cancelled at once: the sheet still opens, marked cancelled.
         state.setShowArchiveReport(false);
@@ -395,6 +411,205 @@ private Q_SLOTS:
         state.dismiss({events[0]});
         state.removeFromVault(events[0]);
         QCOMPARE(state.triageState(events[0]), TriageState::dismissed);
+    }
+
+    // Once a week the Vault is read again by itself, unseen: only what it
+    // finds shows. Counted from the last whole check, or the first keep.
+    void weeklyCheckRunsUnseenWhenDue()
+    {
+        QTemporaryDir tmp;
+        DriveBuilder drive(tmp.filePath(QStringLiteral("drive/TeslaCam")));
+        drive.addEvent(QStringLiteral("SentryClips"), QStringLiteral("2026-07-18_09-15-32"), 2, 1000);
+        const QString vault = tmp.filePath(QStringLiteral("vault"));
+        ArchiveEngine::run(ArchiveEngine::plan(drive.scan(), VaultIndex{}), vault);
+        LiveEngine engine;
+        {
+            // Kept yesterday: not due.
+            VaultIndex index = VaultIndex::load(vault);
+            index.events[0].archivedAt = Date::now().addingTimeInterval(-24 * 3600);
+            index.save(vault);
+            AppState state(engine);
+            state.setVaultURL(vault);
+            QTRY_COMPARE(state.vaultIndex(), index);
+            QVERIFY(!state.verifyVaultIfDue());
+        }
+        VaultIndex index = VaultIndex::load(vault);
+        index.events[0].archivedAt = Date::now().addingTimeInterval(-8 * 24 * 3600);
+        index.save(vault);
+        // Switched off: never.
+        QSettings(QStringLiteral("Keelhold"), QStringLiteral("Keelhold")).setValue(AppState::verifyWeeklyKey, false);
+        {
+            AppState state(engine);
+            state.setVaultURL(vault);
+            QTRY_COMPARE(state.vaultIndex(), index);
+            QVERIFY(!state.verifyVaultIfDue());
+        }
+        QSettings(QStringLiteral("Keelhold"), QStringLiteral("Keelhold")).remove(AppState::verifyWeeklyKey);
+        AppState state(engine);
+        // Unseen: never a check in progress on the screens.
+        QObject watching;
+        bool everShown = false;
+        connect(&state, &AppState::verificationChanged, &watching, [&] { everShown = everShown || state.isVerifyingVault(); });
+        state.setVaultURL(vault);
+        QTRY_VERIFY_WITH_TIMEOUT(state.verificationLog().wholeVaultCheckedAt.has_value(), 20000);
+        QVERIFY(!everShown);
+        QVERIFY(!state.verificationProgress());
+        QVERIFY(state.verificationLog().find(index.events[0].eventID)->ok());
+        // Due again only a week after this check.
+        QVERIFY(!state.verifyVaultIfDue());
+        QCOMPARE(VerificationLog::load(vault).wholeVaultCheckedAt, state.verificationLog().wholeVaultCheckedAt);
+    }
+
+    // A keep waiting for its drive ends on Cancel with what it had done,
+    // and its report says why it stopped short.
+    void cancelWhilePausedEndsWithWhatWasDone()
+    {
+        if (!FaultyFs::available())
+            QSKIP("needs root and /dev/fuse");
+        QTemporaryDir mountPoint, vault;
+        FaultyFs fs(mountPoint.path());
+        QVERIFY(fs.isMounted());
+        for (const QString &name : {QStringLiteral("2026-07-18_09-15-32"), QStringLiteral("2026-07-17_09-15-32")})
+            for (const QString &clip : DriveBuilder::clipNames(name, 2))
+                fs.addFile(QStringLiteral("TeslaCam/SentryClips/") + name + QLatin1Char('/') + clip,
+                           DriveBuilder::randomBytes(1 << 20, 7));
+        LiveEngine engine;
+        AppState state(engine);
+        state.setVaultURL(vault.path());
+        const std::vector<TeslaEvent> events = TeslaCamParser::scan(mountPoint.filePath(QStringLiteral("TeslaCam"))).events;
+        QCOMPARE(events.size(), size_t(2));
+        // Gone during the second event's second clip.
+        fs.vanishAfterBytes(fs.bytesServed() + 3 * (1 << 20) + 1000);
+        state.keep(events);
+        QTRY_VERIFY_WITH_TIMEOUT(state.isArchivePaused(), 20000);
+        QVERIFY(!state.showArchiveReport());
+        state.cancelCurrentArchiveTask();
+        QVERIFY(!state.isArchivePaused());
+        QVERIFY(!state.isArchiving());
+        QVERIFY(state.showArchiveReport());
+        const ArchiveReport &report = *state.lastArchiveReport();
+        QVERIFY(report.cancelled);
+        QCOMPARE(report.stoppedBecause, std::optional(ArchiveReport::StopReason::driveDisconnected));
+        QCOMPARE(report.plannedEvents, 2);
+        QCOMPARE(report.completeEvents(), 1);
+        QCOMPARE(report.archivedEvents.size(), size_t(2));
+        QCOMPARE(state.triageState(events[0]), TriageState::kept);
+        QVERIFY(state.triageState(events[1]) != TriageState::kept);
+    }
+
+    // A keep cut off by a drive pulled out mid-copy waits for that drive:
+    // another drive plugged in where it was doesn't take it up, the same one
+    // back does, from where it stopped, and one report tells the whole keep.
+    void keepCutOffByAPulledDriveGoesOnWhenTheSameDriveReturns()
+    {
+        if (!FaultyFs::available())
+            QSKIP("needs root and /dev/fuse");
+        // Under /media, where the drive watcher sees it come and go.
+        const QString mountPoint = QStringLiteral("/media/KHRESUME%1").arg(QCoreApplication::applicationPid());
+        QVERIFY(QDir().mkpath(mountPoint));
+        const auto removeMountPoint = qScopeGuard([&] { QDir().rmdir(mountPoint); });
+        const qint64 clipSize = 3 << 20;
+        const qint64 capacity = qint64(64) << 30;
+        const QStringList names{QStringLiteral("2026-07-18_09-15-32"), QStringLiteral("2026-07-17_09-15-32"),
+                                QStringLiteral("2026-07-16_09-15-32")};
+        QHash<QString, QByteArray> contents;
+        QHash<QString, qint64> jsonBytes;
+        const auto fill = [&](FaultyFs &fs, quint32 seed) {
+            for (const QString &name : names) {
+                const QString folder = QStringLiteral("TeslaCam/SentryClips/") + name + QLatin1Char('/');
+                const QByteArray json = TeslaCamFixture::eventJson(
+                    name.left(10) + QLatin1Char('T') + name.mid(11).replace(QLatin1Char('-'), QLatin1Char(':')),
+                    QStringLiteral("sentry_aware_object_detection"));
+                jsonBytes.insert(name, json.size());
+                fs.addFile(folder + QStringLiteral("event.json"), json);
+                for (const QString &clip : DriveBuilder::clipNames(name, 2)) {
+                    const QByteArray bytes = DriveBuilder::randomBytes(clipSize, seed++);
+                    if (seed < 1000)
+                        contents.insert(clip, bytes);
+                    fs.addFile(folder + clip, bytes);
+                }
+            }
+        };
+        QTemporaryDir vaultDir;
+        const QString vault = vaultDir.path();
+        LiveEngine engine;
+        AppState state(engine);
+        state.rootViewAppeared();
+        state.setVaultURL(vault);
+
+        auto drive = std::make_unique<FaultyFs>(mountPoint);
+        QVERIFY(drive->isMounted());
+        drive->setCapacity(capacity);
+        fill(*drive, 100);
+        state.beginScan(mountPoint + QStringLiteral("/TeslaCam"));
+        // Scanned and probed: nothing else reads the drive from here on.
+        QTRY_VERIFY_WITH_TIMEOUT(state.healthReport() && state.healthReport()->probedClipCount == 6, 30000);
+        const std::vector<TeslaEvent> events = state.driveScan()->events;
+        QCOMPARE(events.size(), size_t(3));
+        // Pulled halfway through the second event's second clip.
+        drive->vanishAfterBytes(drive->bytesServed() + 3 * clipSize + clipSize / 2 + jsonBytes.value(names[0]));
+        state.keep(events);
+        QTRY_VERIFY_WITH_TIMEOUT(state.isArchivePaused(), 30000);
+        QVERIFY(state.isArchiving());
+        QVERIFY(!state.showArchiveReport());
+        QVERIFY(state.hasCurrentArchiveTask());
+        // What arrived counts at once: the whole event is kept, the cut-off one isn't.
+        QCOMPARE(state.triageState(events[0]), TriageState::kept);
+        QCOMPARE(state.triageState(events[1]), TriageState::new_);
+        const ArchivedEvent *part = state.vaultIndex().newestRecord(events[1].id());
+        QVERIFY(part && part->isIncomplete());
+
+        // Pulled out for real.
+        drive.reset();
+        QTRY_VERIFY_WITH_TIMEOUT(state.currentFailure() && state.currentFailure()->kind() == DriveFailure::DriveDisconnected,
+                                 10000);
+
+        // Another drive at the same place, with the same name: not the one.
+        QSignalSpy checked(&state, &AppState::keepDriveChecked);
+        {
+            FaultyFs other(mountPoint);
+            QVERIFY(other.isMounted());
+            other.setCapacity(capacity / 2);
+            fill(other, 5000);
+            QTRY_VERIFY_WITH_TIMEOUT(checked.count() == 1, 10000);
+            QCOMPARE(checked.at(0).at(1).toBool(), false);
+            QVERIFY(state.isArchivePaused());
+        }
+        QTRY_VERIFY_WITH_TIMEOUT(std::none_of(state.driveVolumeCandidates().begin(), state.driveVolumeCandidates().end(),
+                                              [&](const VolumeCandidate &c) { return c.volumeURL == mountPoint; }),
+                                 10000);
+
+        // The same drive back: the keep goes on by itself, from where it stopped.
+        FaultyFs back(mountPoint);
+        QVERIFY(back.isMounted());
+        back.setCapacity(capacity);
+        fill(back, 100);
+        QTRY_VERIFY_WITH_TIMEOUT(state.showArchiveReport(), 30000);
+        QCOMPARE(checked.last().at(1).toBool(), true);
+        QVERIFY(!state.isArchivePaused());
+        QVERIFY(!state.isArchiving());
+        // Only what hadn't arrived was read again.
+        QCOMPARE(back.bytesServed(), 3 * clipSize + jsonBytes.value(names[1]) + jsonBytes.value(names[2]));
+        const ArchiveReport &report = *state.lastArchiveReport();
+        QCOMPARE(report.plannedEvents, 3);
+        QCOMPARE(report.completeEvents(), 3);
+        QVERIFY(!report.stoppedBecause);
+        QVERIFY(!report.cancelled);
+        QVERIFY(report.failedFiles.empty());
+        for (const TeslaEvent &e : events)
+            QCOMPARE(state.triageState(e), TriageState::kept);
+        // Every kept clip holds the first drive's bytes.
+        const VaultIndex index = VaultIndex::load(vault);
+        for (const TeslaEvent &e : events) {
+            const ArchivedEvent *newest = index.newestRecord(e.id());
+            QVERIFY(newest && !newest->isIncomplete());
+            for (const ArchivedFile &f : newest->files)
+                if (contents.contains(f.name))
+                    QCOMPARE(DriveBuilder::sha256Hex(vault + QLatin1Char('/') + newest->relativePath + QLatin1Char('/') + f.name),
+                             DriveBuilder::sha256Hex(contents.value(f.name)));
+        }
+        for (const EventCheck &check : VaultVerifier::verify(vault).events)
+            QVERIFY2(check.ok(), qPrintable(check.eventID));
     }
 };
 

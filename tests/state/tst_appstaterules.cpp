@@ -92,6 +92,12 @@ public:
         return inner.removeFromVault(eventID, vaultURL);
     }
     QFuture<std::vector<TeslaEvent>> scanVault(const QString &url) override { return inner.scanVault(url); }
+    QFuture<VaultVerifier::Result> verifyVault(const QString &vaultURL, const QStringList &eventIDs,
+                                               VaultVerifier::ProgressCallback progress, std::stop_token stop) override
+    {
+        return inner.verifyVault(vaultURL, eventIDs, std::move(progress), stop);
+    }
+    VerificationLog loadVerificationLog(const QString &vaultURL) override { return inner.loadVerificationLog(vaultURL); }
     TriageState triageState(const QString &eventID) override { return inner.triageState(eventID); }
     void setTriageState(TriageState state, const QString &eventID) override { inner.setTriageState(state, eventID); }
     QFuture<TriageStates> loadAllTriageStates() override { return inner.loadAllTriageStates(); }
@@ -273,7 +279,13 @@ private Q_SLOTS:
         engine.cached.reset();
         state.beginScan(driveWithOneEvent(tmp, QStringLiteral("G")));
         state.resolveVaultBookmark(); // nothing stored: no failure
-        state.keep({});              // no Vault folder: the failure asks for one
+        QVERIFY(!state.currentFailure());
+        // A Vault folder saved once and gone since: the failure asks for it.
+        const QString gone = tmp.filePath(QStringLiteral("gone-vault"));
+        QVERIFY(QDir().mkpath(gone));
+        engine.saveBookmark(gone, BookmarkKey::vaultFolder);
+        QVERIFY(QDir(gone).removeRecursively());
+        state.resolveVaultBookmark();
         QCOMPARE(state.currentFailure(), DriveFailure::staleBookmark(BookmarkKey::vaultFolder));
         QVERIFY(settled(state));
         QCOMPARE(state.currentFailure(), DriveFailure::staleBookmark(BookmarkKey::vaultFolder));
@@ -317,10 +329,12 @@ private Q_SLOTS:
         QCOMPARE(state.activePlayerController(), &player);
         QTRY_VERIFY_WITH_TIMEOUT(player.isPlaying(), 10000);
 
-        // No Vault yet: still paused, and the failure asks for a folder.
+        // No Vault yet: still paused, and a first folder is asked for.
+        QSignalSpy wanted(&state, &AppState::vaultFolderWanted);
         state.keep({event});
         QVERIFY(!player.isPlaying());
-        QCOMPARE(state.currentFailure(), DriveFailure::staleBookmark(BookmarkKey::vaultFolder));
+        QCOMPARE(wanted.count(), 1);
+        state.declineVaultFolder();
 
         const QString vault = tmp.filePath(QStringLiteral("vault"));
         QDir().mkpath(vault);

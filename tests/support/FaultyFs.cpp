@@ -41,6 +41,7 @@ struct FaultyFs::State {
     std::atomic<int> mostHeld{0};
     std::condition_variable held; // a request began to be held
     bool hangStatfs = false;
+    qint64 capacity = 0;
     std::map<std::string, File> files; // "/TeslaCam/…"
     std::set<std::string> folders{"/"};
     struct FolderFault {
@@ -194,10 +195,13 @@ int onStatfs(const char *, struct statvfs *out)
     std::unique_lock lock(s.mutex);
     if (s.hangStatfs && !s.releasing && !waitWhileHeld(s, lock))
         return -EIO;
-    // What libfuse answers when a file system has no statfs of its own.
+    // What libfuse answers when a file system has no statfs of its own,
+    // unless the test gave the drive a size.
     std::memset(out, 0, sizeof *out);
     out->f_namemax = 255;
     out->f_bsize = 512;
+    out->f_frsize = 512;
+    out->f_blocks = fsblkcnt_t(s.capacity / 512);
     return 0;
 }
 
@@ -387,6 +391,12 @@ void FaultyFs::hangStatfs()
     std::lock_guard lock(state_->mutex);
     state_->hangStatfs = true;
     state_->releasing = false;
+}
+
+void FaultyFs::setCapacity(qint64 bytes)
+{
+    std::lock_guard lock(state_->mutex);
+    state_->capacity = bytes;
 }
 
 void FaultyFs::release()

@@ -44,6 +44,8 @@ public:
     // Asking the drive for its size and free space doesn't answer until
     // release().
     void hangStatfs();
+    // The size the drive answers when asked (none by default, as libfuse).
+    void setCapacity(qint64 bytes);
     void release();
     bool isHanging() const;
     // How many reads (or size queries) the drive holds right now, and the

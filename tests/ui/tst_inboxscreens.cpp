@@ -6,10 +6,12 @@
 #include "VaultViewModel.h"
 #include "support/IsolatedHome.h"
 #include "support/TeslaCamFixture.h"
+#include "vault/VaultIndex.h"
 
 #include <QAccessible>
 #include <QDateTime>
 #include <QDirIterator>
+#include <QFile>
 #include <QSettings>
 #include <QGuiApplication>
 #include <QQuickItem>
@@ -507,6 +509,121 @@ private Q_SLOTS:
         QVERIFY2(inTrash, qPrintable(trash));
         QDirIterator vaultIt(vaultPath, {folderName}, QDir::Dirs, QDirIterator::Subdirectories);
         QVERIFY(!vaultIt.hasNext());
+    }
+
+    // The Vault read again from its screen: a kept event cut off partway
+    // says so, one byte changed and one file deleted are found and named,
+    // and an event's own Verify dates its mark.
+    void vaultVerifyFindsChangedAndMissingFilesAndPartKeeps()
+    {
+        std::vector<TeslaEvent> fresh;
+        for (const TeslaEvent &e : app->state.driveScan()->events)
+            if (e.kind != EventKind::recent && app->state.triageStateFor(e.id()) == QLatin1String("new") && fresh.size() < 4)
+                fresh.push_back(e);
+        app->state.keep(fresh);
+        waitForKeep();
+        app->state.setShowArchiveReport(false);
+
+        // As a pulled drive leaves it: the record of the first lists 2 of 3 files.
+        VaultIndex index = VaultIndex::load(vaultPath);
+        const auto recordOf = [&](const TeslaEvent &e) -> ArchivedEvent & {
+            return *std::find_if(index.events.rbegin(), index.events.rend(),
+                                 [&](const ArchivedEvent &a) { return a.eventID == e.id(); });
+        };
+        ArchivedEvent &part = recordOf(fresh[0]);
+        part.files.pop_back();
+        part.expectedFileCount = 3;
+        index.save(vaultPath);
+        app->state.setVaultURL(vaultPath); // read again, as at the next start
+        app->state.setSelectedSection(SidebarSection::vault);
+        auto *list = app->find(QStringLiteral("vaultList"));
+        QVERIFY(list);
+        // Brought into view first: rows out of view have no item.
+        const auto vaultRow = [&](const TeslaEvent &e) -> QQuickItem * {
+            const int index = app->screens.vault()->rows()->indexOf(e.id());
+            if (index < 0)
+                return nullptr;
+            QMetaObject::invokeMethod(list, "positionViewAtIndex", Q_ARG(int, index), Q_ARG(int, 1 /* Beginning */));
+            return AppWindowHarness::findItem(list, QStringLiteral("eventRow_") + e.id(), true);
+        };
+        const auto badgeText = [&](const TeslaEvent &e) {
+            QQuickItem *row = vaultRow(e);
+            QQuickItem *button = row ? AppWindowHarness::findItem(row, QStringLiteral("verificationButton")) : nullptr;
+            return button && button->isVisible() ? button->property("text").toString() : QString();
+        };
+        QTRY_COMPARE(badgeText(fresh[0]), QStringLiteral("Incomplete — 2 of 3 files"));
+        QCOMPARE(badgeText(fresh[1]), QStringLiteral("Verified copy"));
+        // Nor does its row call it safely kept.
+        const int partRow = app->screens.vault()->rows()->indexOf(fresh[0].id());
+        QCOMPARE(app->screens.vault()->rows()->data(app->screens.vault()->rows()->index(partRow),
+                                                    EventListModel::OverlayKindRole).toString(),
+                 QString());
+        // Its detail says what is missing and what to do.
+        QQuickItem *partBadge = AppWindowHarness::findItem(vaultRow(fresh[0]), QStringLiteral("verificationButton"));
+        QVERIFY(partBadge);
+        app->click(partBadge);
+        QObject *popover = AppWindowHarness::findItem(vaultRow(fresh[0]), QStringLiteral("verificationBadge"))
+                               ->findChild<QObject *>(QStringLiteral("verificationPopover"));
+        QVERIFY(popover);
+        QTRY_VERIFY(popover->property("visible").toBool());
+        QCOMPARE(app->screens.vault()->verification(fresh[0].id()).value(QStringLiteral("title")).toString(),
+                 QStringLiteral("Incomplete Copy"));
+        app->shot(QStringLiteral("vault-incomplete"));
+        QMetaObject::invokeMethod(popover, "close");
+
+        // One byte changed in the second, a clip deleted from the third.
+        const ArchivedEvent &changed = recordOf(fresh[1]);
+        const QString changedPath = vaultPath + QLatin1Char('/') + changed.relativePath + QLatin1Char('/') + changed.files[0].name;
+        const auto flipByte = [&] {
+            QFile f(changedPath);
+            QVERIFY(f.open(QIODevice::ReadWrite));
+            QVERIFY(f.seek(100));
+            const char c = f.read(1).at(0);
+            QVERIFY(f.seek(100));
+            f.write(QByteArray(1, char(c ^ 0x20)));
+        };
+        flipByte();
+        const ArchivedEvent &missing = recordOf(fresh[2]);
+        QVERIFY(QFile::remove(vaultPath + QLatin1Char('/') + missing.relativePath + QLatin1Char('/') + missing.files[0].name));
+
+        auto *notice = app->find(QStringLiteral("vaultNotice"));
+        QVERIFY(notice && !notice->isVisible());
+        auto *verify = app->find(QStringLiteral("verifyVault"));
+        QVERIFY(verify && verify->isVisible());
+        app->click(verify);
+        QTRY_VERIFY_WITH_TIMEOUT(!app->state.isVerifyingVault() && app->state.verificationLog().wholeVaultCheckedAt, 30000);
+        QTRY_COMPARE(badgeText(fresh[1]), QStringLiteral("Changed since it was kept"));
+        QCOMPARE(badgeText(fresh[2]), QStringLiteral("Missing"));
+        QCOMPARE(badgeText(fresh[0]), QStringLiteral("Incomplete — 2 of 3 files"));
+        const QString today = Date::now().formatLocal(QStringLiteral("d MMM yyyy"));
+        QCOMPARE(badgeText(fresh[3]), QStringLiteral("Verified ") + today);
+        // The notice at the top names both files.
+        QTRY_VERIFY(notice->isVisible());
+        const QString message = app->find(QStringLiteral("noticeMessage"))->property("text").toString();
+        QVERIFY2(message.contains(changed.files[0].name + QStringLiteral(" has changed")), qPrintable(message));
+        QVERIFY2(message.contains(missing.files[0].name + QStringLiteral(" is missing")), qPrintable(message));
+        // The detail names the file and what happened to it.
+        QVariantMap info = app->screens.vault()->verification(fresh[1].id());
+        QCOMPARE(info.value(QStringLiteral("files")).toList().at(0).toMap().value(QStringLiteral("problem")).toString(),
+                 QStringLiteral("Changed since it was kept"));
+        QMetaObject::invokeMethod(list, "positionViewAtBeginning");
+        app->shot(QStringLiteral("vault-changed-notice"));
+
+        // Put right, the event's own Verify finds it whole again and dates its mark.
+        flipByte();
+        QQuickItem *row = vaultRow(fresh[1]);
+        QVERIFY(row);
+        app->click(row, Qt::RightButton);
+        QObject *vaultMenu = app->find<QObject>(QStringLiteral("vaultRowMenu"));
+        QTRY_VERIFY(vaultMenu->property("visible").toBool());
+        QObject *item = AppWindowHarness::menuEntry(vaultMenu, QStringLiteral("menuVerify"));
+        QVERIFY(item);
+        QMetaObject::invokeMethod(item, "triggered");
+        QMetaObject::invokeMethod(vaultMenu, "close");
+        QTRY_COMPARE(badgeText(fresh[1]), QStringLiteral("Verified ") + today);
+        // Still one event changed or gone: the missing one.
+        QTRY_VERIFY(app->find(QStringLiteral("noticeTitle"))->property("text").toString().startsWith(QStringLiteral("A kept event")));
+        app->state.setSelectedSection(SidebarSection::drive);
     }
 
     void progressOverlayStandsOverDriveAndMapAndCancels()

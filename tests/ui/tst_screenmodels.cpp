@@ -158,11 +158,13 @@ private Q_SLOTS:
         state.setFilterState(std::nullopt);
         QCOMPARE(state.triageStateFor(rows->idAt(0)), QStringLiteral("new"));
 
-        // Keeping without a Vault asks for one; the failure stands above the filled list.
+        // Keeping without a Vault asks for a first one; the list stays.
+        QSignalSpy wanted(&state, &AppState::vaultFolderWanted);
         inbox.keepSelected();
-        QVERIFY(state.currentFailure());
-        QCOMPARE(inbox.content(), QStringLiteral("failure"));
-        QVERIFY(!state.driveScan()->events.empty());
+        QCOMPARE(wanted.count(), 1);
+        QVERIFY(!state.currentFailure());
+        QCOMPARE(inbox.content(), QStringLiteral("inbox"));
+        QVERIFY(state.hasKeepAwaitingVault());
     }
 
     void vaultTextsCountAndPluralise()
@@ -200,6 +202,68 @@ private Q_SLOTS:
         QCOMPARE(twoLines.size(), 2);
         QVERIFY(twoLines[0].toMap().value(QStringLiteral("text")).toString().startsWith(QStringLiteral("2 events copied")));
         QVERIFY(twoLines[1].toMap().value(QStringLiteral("text")).toString().startsWith(QStringLiteral("3 files couldn't")));
+
+        // Cut off by the drive: the event kept in part is never counted as
+        // kept or verified, and the heading says what happened.
+        ArchiveReport cut;
+        cut.plannedEvents = 6;
+        cut.archivedEvents.resize(6);
+        for (ArchivedEvent &e : cut.archivedEvents) {
+            e.files.resize(2);
+            e.expectedFileCount = 2;
+        }
+        cut.archivedEvents.back().files.resize(44);
+        cut.archivedEvents.back().expectedFileCount = 90;
+        cut.failedFiles.resize(1);
+        cut.stoppedBecause = ArchiveReport::StopReason::driveDisconnected;
+        r = VaultViewModel::reportFor(cut);
+        QCOMPARE(r.value(QStringLiteral("heading")).toString(), QStringLiteral("Drive disconnected — 5 of 6 events kept completely"));
+        const QVariantList cutLines = r.value(QStringLiteral("lines")).toList();
+        QCOMPARE(cutLines.size(), 3);
+        QVERIFY(cutLines[0].toMap().value(QStringLiteral("text")).toString().startsWith(QStringLiteral("5 events copied and verified")));
+        QVERIFY(cutLines[1].toMap().value(QStringLiteral("text")).toString().contains(QStringLiteral("(44 of 90 files)")));
+        // Not cut off, but one event short: no "Complete" either.
+        cut.stoppedBecause.reset();
+        QVERIFY(VaultViewModel::reportFor(cut).value(QStringLiteral("heading")).toString().startsWith(QStringLiteral("Backup Incomplete — 5 of 6")));
+        QCOMPARE(VaultViewModel::progressLineFor(ArchiveProgress{10, 100, 3, 7, std::nullopt}, true),
+                 QStringLiteral("Paused at 3 of 7 events — plug the drive back in to go on"));
+    }
+
+    // The mark of a kept event: its newest record, then its last check if
+    // that came after the record.
+    void vaultMarksNeverClaimMoreThanWasChecked()
+    {
+        ArchivedEvent kept;
+        kept.eventID = QStringLiteral("recent|2026-07-18_09-10-00");
+        kept.files = {ArchivedFile{QStringLiteral("a-front.mp4"), 10, QString(64, QLatin1Char('a'))},
+                      ArchivedFile{QStringLiteral("a-back.mp4"), 10, QString(64, QLatin1Char('b'))}};
+        kept.archivedAt = Date(1000);
+        kept.expectedFileCount = 2;
+        const auto badge = [](const ArchivedEvent &e, const EventCheck *c) {
+            return VaultViewModel::verificationFor(e, c).value(QStringLiteral("badge")).toString();
+        };
+        QCOMPARE(badge(kept, nullptr), QStringLiteral("Verified copy"));
+        EventCheck check{kept.eventID, Date(2000), 2, {}, {}, {}, 2, 2};
+        QVERIFY(badge(kept, &check).startsWith(QStringLiteral("Verified ")));
+        QVERIFY(badge(kept, &check) != QStringLiteral("Verified copy"));
+        check.changed = QStringList{QStringLiteral("a-back.mp4")};
+        QCOMPARE(badge(kept, &check), QStringLiteral("Changed since it was kept"));
+        const QVariantList files = VaultViewModel::verificationFor(kept, &check).value(QStringLiteral("files")).toList();
+        QVERIFY(files[0].toMap().value(QStringLiteral("problem")).toString().isEmpty());
+        QCOMPARE(files[1].toMap().value(QStringLiteral("problem")).toString(), QStringLiteral("Changed since it was kept"));
+        check.missing = QStringList{QStringLiteral("a-front.mp4")};
+        QCOMPARE(badge(kept, &check), QStringLiteral("Missing"));
+        // A check from before the event was kept again says nothing of it.
+        ArchivedEvent again = kept;
+        again.archivedAt = Date(3000);
+        QCOMPARE(badge(again, &check), QStringLiteral("Verified copy"));
+        // Part of an event is never a verified copy, checked or not.
+        again.files.pop_back();
+        QCOMPARE(badge(again, nullptr), QStringLiteral("Incomplete — 1 of 2 files"));
+        check.checkedAt = Date(4000);
+        check.changed.clear();
+        check.missing.clear();
+        QCOMPARE(badge(again, &check), QStringLiteral("Incomplete — 1 of 2 files"));
     }
 
     void vaultVerificationRemovalAndFreeSpace()

@@ -401,6 +401,42 @@ private Q_SLOTS:
         QVERIFY(std::holds_alternative<QString>(state.engine().resolveBookmark(BookmarkKey::vaultFolder)));
     }
 
+    // Keep before any Vault folder exists: the first-choice dialog (not the
+    // one that asks for a lost folder back), and the keep goes on once a
+    // folder is chosen; a cancelled dialog keeps nothing.
+    void firstKeepAsksForAVaultFolderAndGoesOn()
+    {
+        QTemporaryDir tmp;
+        addOneEvent(tmp.filePath(QStringLiteral("USBSTICK/TeslaCam")));
+        setOnboardingDone(true);
+        start();
+        AppState &state = app->appState();
+        state.beginScan(tmp.filePath(QStringLiteral("USBSTICK/TeslaCam")));
+        QTRY_VERIFY(state.driveScan() && state.driveScan()->events.size() == 1 && !state.isScanning());
+        const QString id = state.driveScan()->events.front().id();
+
+        state.keepIDs({id});
+        QFileDialog *dialog = FileDialogDriver::waitForDialog();
+        QVERIFY(dialog);
+        QCOMPARE(dialog->windowTitle(), QStringLiteral("Choose Your Vault Folder"));
+        QVERIFY(FileDialogDriver::message(dialog).startsWith(QStringLiteral("Pick (or create) a folder")));
+        QVERIFY(!state.currentFailure());
+        QVERIFY(!showingPrefix(QStringLiteral("We need you to point us back")));
+        QVERIFY(FileDialogDriver::cancel());
+        QVERIFY(!state.hasKeepAwaitingVault());
+        QVERIFY(!state.isArchiving());
+
+        state.keepIDs({id});
+        const QString vault = tmp.filePath(QStringLiteral("First Vault"));
+        QVERIFY(QDir().mkpath(vault));
+        QVERIFY(FileDialogDriver::answer(vault));
+        QTRY_COMPARE(state.vaultURL().value_or(QString()), vault);
+        QTRY_VERIFY_WITH_TIMEOUT(state.showArchiveReport(), 20000);
+        QCOMPARE(state.lastArchiveReport()->completeEvents(), 1);
+        QCOMPARE(state.triageStateFor(id), QStringLiteral("kept"));
+        QVERIFY(showing(QStringLiteral("Backup Complete")));
+    }
+
     // While a keep runs, no entry point starts another: the toolbar button,
     // K in the player and in the list, the row menu, the bulk bar and the
     // recent-driving banner. Cancel then reaches the one that runs. The keep

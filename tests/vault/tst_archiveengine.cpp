@@ -573,49 +573,91 @@ private Q_SLOTS:
         QVERIFY(report.archivedEvents.empty());
     }
 
-    void drivePulledMidCopy()
+    // Pulled mid-keep: what arrived is recorded as part of its event, the
+    // run stops and says why instead of failing every file left, and the
+    // same drive back takes it up where it stopped.
+    void drivePulledMidCopyStopsTheRunAndTheDriveBackFinishesIt()
     {
         if (!FaultyFs::available())
             QSKIP("needs root and /dev/fuse");
-        QTemporaryDir mountPoint;
-        FaultyFs fs(mountPoint.path());
-        if (!fs.isMounted())
-            QSKIP("FUSE mount failed");
         const qint64 clipSize = 3 << 20;
+        const QStringList names{QStringLiteral("2026-07-18_09-15-32"), QStringLiteral("2026-07-17_09-15-32"),
+                                QStringLiteral("2026-07-16_09-15-32")};
         QHash<QString, QByteArray> contents;
-        quint32 seed = 100;
-        for (const QString &name : {QStringLiteral("2026-07-18_09-15-32"), QStringLiteral("2026-07-17_09-15-32"),
-                                   QStringLiteral("2026-07-16_09-15-32")}) {
-            for (const QString &clip : DriveBuilder::clipNames(name, 2)) {
-                const QByteArray bytes = DriveBuilder::randomBytes(clipSize, seed++);
-                contents.insert(clip, bytes);
-                fs.addFile("TeslaCam/SentryClips/" + name + "/" + clip, bytes);
-            }
-        }
-        const QString root = mountPoint.filePath("TeslaCam");
-        const auto events = TeslaCamParser::scan(root).events;
-        QCOMPARE(events.size(), size_t(3));
-        // Pulled halfway through the second event's first clip.
-        fs.vanishAfterBytes(fs.bytesServed() + 2 * clipSize + clipSize / 2);
-
+        const auto fill = [&](FaultyFs &fs) {
+            quint32 seed = 100;
+            for (const QString &name : names)
+                for (const QString &clip : DriveBuilder::clipNames(name, 2)) {
+                    const QByteArray bytes = DriveBuilder::randomBytes(clipSize, seed++);
+                    contents.insert(clip, bytes);
+                    fs.addFile("TeslaCam/SentryClips/" + name + "/" + clip, bytes);
+                }
+        };
+        QTemporaryDir mountPoint;
         QTemporaryDir vault;
-        const ArchiveReport report = ArchiveEngine::run(ArchiveEngine::plan(events, VaultIndex{}), vault.path());
+        std::vector<TeslaEvent> events;
+        ArchiveReport report;
+        {
+            FaultyFs fs(mountPoint.path());
+            if (!fs.isMounted())
+                QSKIP("FUSE mount failed");
+            fill(fs);
+            events = TeslaCamParser::scan(mountPoint.filePath("TeslaCam")).events;
+            QCOMPARE(events.size(), size_t(3));
+            // Pulled halfway through the second event's second clip.
+            fs.vanishAfterBytes(fs.bytesServed() + 3 * clipSize + clipSize / 2);
+            report = ArchiveEngine::run(ArchiveEngine::plan(events, VaultIndex{}), vault.path());
+        }
         QVERIFY(!report.cancelled);
-        QCOMPARE(report.archivedEvents.size(), size_t(1));
-        QCOMPARE(report.failedFiles.size(), size_t(4));
-        for (const auto &failed : report.failedFiles) {
-            QVERIFY(failed.path.startsWith(root));
-            QCOMPARE(failed.reason, reason(ArchiveEngine::Reason::unreadable));
-        }
-        // What was kept before the pull is whole and matches the drive's bytes.
-        const ArchivedEvent &kept = report.archivedEvents[0];
-        for (const auto &file : kept.files) {
-            QCOMPARE(file.sha256, DriveBuilder::sha256Hex(contents.value(file.name)));
-            QCOMPARE(DriveBuilder::sha256Hex(vault.filePath(kept.relativePath + "/" + file.name)), file.sha256);
-        }
+        QCOMPARE(report.stoppedBecause, std::optional(ArchiveReport::StopReason::driveDisconnected));
+        QCOMPARE(report.plannedEvents, 3);
+        // Only the file in copy failed; the third event was never tried.
+        QCOMPARE(report.failedFiles.size(), size_t(1));
+        QCOMPARE(report.failedFiles[0].path, events[1].clips[1].url);
+        QCOMPARE(report.archivedEvents.size(), size_t(2));
+        QCOMPARE(report.completeEvents(), 1);
+        const ArchivedEvent &whole = report.archivedEvents[0];
+        const ArchivedEvent &part = report.archivedEvents[1];
+        QCOMPARE(whole.expectedFileCount, std::optional(2));
+        QVERIFY(!whole.isIncomplete());
+        QCOMPARE(part.eventID, events[1].id());
+        QCOMPARE(part.files.size(), size_t(1));
+        QCOMPARE(part.expectedFileCount, std::optional(2));
+        QVERIFY(part.isIncomplete());
+        // Taken while the drive was there, not after it went.
+        QVERIFY(part.sourceVolume != ArchivedEvent::unknownDrive);
+        for (const ArchivedEvent &kept : report.archivedEvents)
+            for (const auto &file : kept.files) {
+                QCOMPARE(file.sha256, DriveBuilder::sha256Hex(contents.value(file.name)));
+                QCOMPARE(DriveBuilder::sha256Hex(vault.filePath(kept.relativePath + "/" + file.name)), file.sha256);
+            }
         QCOMPARE(VaultIndex::load(vault.path()).events, report.archivedEvents);
-        // The read error left its partial copy behind.
-        QCOMPARE(DriveBuilder::temporaryFiles(vault.filePath("2026/sentry/2026-07-17_09-15-32")).size(), 1);
+
+        // The same drive back, at another mount point: the first clip of the
+        // cut-off event is taken as it lies in the Vault, not read again.
+        QTemporaryDir again;
+        FaultyFs back(again.path());
+        QVERIFY(back.isMounted());
+        fill(back);
+        std::vector<TeslaEvent> moved = TeslaCamParser::scan(again.filePath("TeslaCam")).events;
+        ArchivePlan plan = ArchiveEngine::plan(moved, VaultIndex::load(vault.path()));
+        QCOMPARE(plan.newItems().size(), size_t(2)); // the whole one is a duplicate
+        for (ArchivePlan::Item &item : plan.items)
+            if (item.event.id() == part.eventID)
+                item.alreadyKept = part.files;
+        const qint64 servedBefore = back.bytesServed();
+        const ArchiveReport resumed = ArchiveEngine::run(plan, vault.path());
+        QCOMPARE(back.bytesServed() - servedBefore, 3 * clipSize);
+        QVERIFY(resumed.failedFiles.empty());
+        QVERIFY(!resumed.stoppedBecause);
+        QCOMPARE(resumed.completeEvents(), 2);
+        QCOMPARE(resumed.archivedEvents[0].eventID, part.eventID);
+        QCOMPARE(resumed.archivedEvents[0].files.size(), size_t(2));
+        QCOMPARE(resumed.archivedEvents[0].files[0], part.files[0]);
+        // Both records stay; the newest speaks for the event.
+        const VaultIndex index = VaultIndex::load(vault.path());
+        QCOMPARE(index.events.size(), size_t(4));
+        QVERIFY(!index.newestRecord(part.eventID)->isIncomplete());
     }
 
     void readErrorsOnTheDriveCostOneFile()

@@ -78,6 +78,10 @@ private Q_SLOTS:
         QFile::copy(drive.scan()[0].clips[0].url, vault.filePath("2026/sentry/not-an-event/2026-07-18_09-14-32-front.mp4"));
         const QString keptFolder = vault.filePath("2026/sentry/2026-07-18_09-15-32");
         TeslaCamFixture::writeFile(keptFolder + "/.tmp-ABC-2026-07-18_09-13-32-back.mp4", "partial");
+        // A keep cut off before any file of an event arrived: nothing kept, nothing shown.
+        const QString cutOff = vault.filePath("2026/saved/2026-07-02_00-00-00");
+        QDir().mkpath(cutOff);
+        TeslaCamFixture::writeFile(cutOff + "/.tmp-DEF-2026-07-01_23-59-00-front.mp4", "partial");
 
         for (int pass = 0; pass < 2; ++pass) {
             const auto kept = VaultBrowser::scanVault(vault.path());

@@ -147,6 +147,44 @@ private Q_SLOTS:
         QCOMPARE(VaultIndex::load(vault), index);
     }
 
+    // How many files a keep meant to copy: absent in manifests written before
+    // it existed (unknown, not partial), kept by every writer, and no part of
+    // what makes two keeps the same.
+    void expectedFileCountIsOptionalAndKeptByEveryWriter()
+    {
+        QTemporaryDir vault;
+        writeAll(vault.filePath("manifest.json"),
+                 R"({"events":[{"eventID":"saved|2026-07-18_09-15-32","kind":"saved","folderName":"2026-07-18_09-15-32",)"
+                 R"("timestamp":806058932,"files":[{"name":"a-front.mp4","size":3,"sha256":"aa"}],"archivedAt":806060000,)"
+                 R"("sourceVolume":"TESLA","relativePath":"2026/saved/2026-07-18_09-15-32"}]})");
+        const VaultIndex old = VaultIndex::load(vault.path());
+        QCOMPARE(old.events.size(), size_t(1));
+        QVERIFY(!old.events[0].expectedFileCount);
+        QVERIFY(!old.events[0].isIncomplete());
+
+        auto part = makeEvent(QStringLiteral("2026-07-19_10-00-00"), {{QStringLiteral("b-front.mp4"), 3, {}}});
+        part.expectedFileCount = 90;
+        QVERIFY(part.isIncomplete());
+        auto counted = old.events[0];
+        counted.expectedFileCount = 1;
+        QVERIFY(!counted.isIncomplete());
+        QCOMPARE(counted.dedupeKey(), old.events[0].dedupeKey());
+
+        VaultIndex index = old;
+        index.events.push_back(part);
+        index.events.push_back(counted);
+        index.save(vault.path());
+        QVERIFY(readAll(vault.filePath("manifest.json")).contains("\"expectedFileCount\":90"));
+        QCOMPARE(VaultIndex::load(vault.path()), index);
+        // The newest of an event's records speaks for it.
+        QCOMPARE(*index.newestRecord(counted.eventID), counted);
+        QVERIFY(!index.newestRecord(QStringLiteral("saved|nothing")));
+
+        // A removal rewrites the rest as they were.
+        QVERIFY(VaultIndex::removeEvent(counted.eventID, vault.path()));
+        QCOMPARE(VaultIndex::load(vault.path()).events, std::vector<ArchivedEvent>{part});
+    }
+
     void datesWithFractionsRoundTripBitForBit()
     {
         QTemporaryDir vault;

@@ -236,7 +236,7 @@ ApplicationWindow {
             Button {
                 text: vault.texts.cancel
                 DialogButtonBox.buttonRole: DialogButtonBox.RejectRole
-                onClicked: vault.dismissChoiceRefusal()
+                onClicked: vault.declineChoice()
             }
         }
     }

@@ -4,7 +4,8 @@ import QtQuick.Layouts
 import Keelhold
 
 // The Vault's list column: storage summary and the kept events, each with
-// its verification badge; removal goes to the Trash after a confirmation.
+// its verification badge; re-reading the Vault or one event; removal goes
+// to the Trash after a confirmation.
 ColumnLayout {
     id: root
     objectName: "vaultEventListColumn"
@@ -18,6 +19,18 @@ ColumnLayout {
         Layout.preferredHeight: 40
         Label { text: vault.texts.title; font.pixelSize: 16; font.weight: Font.DemiBold; Layout.fillWidth: true }
         ToolButton {
+            objectName: "verifyVault"
+            text: vault.texts.verifyVault
+            enabled: !vault.isVerifying
+            // In a narrow column the icon alone, named by its tool tip.
+            display: root.width < 360 ? AbstractButton.IconOnly : AbstractButton.TextBesideIcon
+            icon.source: vault.texts.verifyVaultIcon
+            icon.color: palette.buttonText
+            ToolTip.visible: hovered; ToolTip.text: vault.texts.verifyVaultTip; ToolTip.delay: 500
+            Accessible.name: vault.texts.verifyVault
+            onClicked: vault.verifyAll()
+        }
+        ToolButton {
             objectName: "changeVaultFolder"
             text: vault.texts.changeFolder
             display: AbstractButton.TextBesideIcon
@@ -29,6 +42,48 @@ ColumnLayout {
         }
     }
     Rectangle { Layout.fillWidth: true; height: 1; color: palette.mid }
+
+    // What the last re-reading found wrong, until the Vault is whole again.
+    Rectangle {
+        objectName: "vaultNotice"
+        visible: vault.notice.present === true
+        Layout.fillWidth: true
+        Layout.margins: 8
+        implicitHeight: noticeText.implicitHeight + 20
+        radius: 8
+        color: Qt.rgba(0.86, 0.15, 0.15, 0.12)
+        border.color: "#dc2626"
+        RowLayout {
+            id: noticeText
+            anchors.left: parent.left; anchors.right: parent.right; anchors.top: parent.top
+            anchors.margins: 10
+            spacing: 10
+            UrlIcon { source: vault.texts.noticeIcon; size: 20; color: "#dc2626"; Layout.alignment: Qt.AlignTop }
+            ColumnLayout {
+                Layout.fillWidth: true
+                spacing: 2
+                Label { objectName: "noticeTitle"; text: vault.notice.title || ""; font.weight: Font.DemiBold; wrapMode: Text.WordWrap; Layout.fillWidth: true }
+                Label { objectName: "noticeMessage"; text: vault.notice.message || ""; wrapMode: Text.WordWrap; Layout.fillWidth: true; font.pixelSize: 12 }
+            }
+        }
+    }
+
+    // A re-reading the user asked for: its progress, and a way to stop it.
+    RowLayout {
+        objectName: "verifyProgress"
+        visible: vault.isVerifying
+        Layout.fillWidth: true
+        Layout.leftMargin: 10
+        Layout.rightMargin: 6
+        spacing: 8
+        ColumnLayout {
+            Layout.fillWidth: true
+            spacing: 4
+            Label { objectName: "verifyLine"; text: vault.verifyLine; font.pixelSize: 12; elide: Text.ElideRight; Layout.fillWidth: true }
+            ProgressBar { objectName: "verifyBar"; Layout.fillWidth: true; from: 0; to: 1; value: vault.verifyFraction }
+        }
+        Button { objectName: "cancelVerify"; text: vault.texts.cancel; onClicked: vault.cancelVerification() }
+    }
 
     RowLayout {
         objectName: "vaultStorageSummary"
@@ -66,6 +121,7 @@ ColumnLayout {
         id: rowMenu
         objectName: "vaultRowMenu"
         property string eventID: ""
+        MenuItem { objectName: "menuVerify"; text: vault.texts.verifyItem; enabled: !vault.isVerifying; onTriggered: vault.verifyEvent(rowMenu.eventID) }
         MenuItem { objectName: "menuMoveToTrash"; text: vault.texts.moveToTrashItem; onTriggered: root.pendingRemoval = rowMenu.eventID }
     }
 

@@ -1,0 +1,364 @@
+// Keeping: the run, its pause while the drive is away and its resumption
+// when the same drive returns, and the re-reading of the Vault.
+#include "state/AppState.h"
+
+#include "drive/DriveBoundary.h"
+#include "drive/IOWatchdog.h"
+#include "engine/AsyncRun.h"
+#include "engine/EnginePools.h"
+#include "playback/SyncPlayerController.h"
+#include "state/OnMainThread.h"
+
+#include <QFileInfo>
+#include <QSet>
+#include <QSettings>
+#include <qcoro/qcorofuture.h>
+
+#include <algorithm>
+
+namespace {
+
+QString rebasedPath(const QString &path, const QString &from, const QString &to)
+{
+    if (path == from)
+        return to;
+    if (path.startsWith(from + QLatin1Char('/')))
+        return to + path.mid(from.size());
+    return path;
+}
+
+// The same events as seen through another mount of their drive.
+std::vector<TeslaEvent> rebased(std::vector<TeslaEvent> events, const QString &from, const QString &to)
+{
+    for (TeslaEvent &e : events) {
+        e.folderURL = rebasedPath(e.folderURL, from, to);
+        for (ClipRef &clip : e.clips)
+            clip.url = rebasedPath(clip.url, from, to);
+        if (e.thumbURL)
+            e.thumbURL = rebasedPath(*e.thumbURL, from, to);
+    }
+    return events;
+}
+
+bool belongsTo(const QString &path, const TeslaEvent &event)
+{
+    if (path == event.folderURL + QStringLiteral("/event.json") || (event.thumbURL && path == *event.thumbURL))
+        return true;
+    return std::any_of(event.clips.begin(), event.clips.end(), [&](const ClipRef &c) { return c.url == path; });
+}
+
+// One report for a keep that went on after its drive came back: the later
+// run's records tell about the events it went back to, the earlier run's
+// about the rest.
+ArchiveReport merged(const ArchiveReport &earlier, const ArchiveReport &later, const std::vector<TeslaEvent> &events)
+{
+    ArchiveReport out = later;
+    out.plannedEvents = earlier.plannedEvents;
+    out.skippedDuplicates = earlier.skippedDuplicates;
+    out.bytesCopied = earlier.bytesCopied + later.bytesCopied;
+    QSet<QString> redone;
+    for (const ArchivedEvent &a : later.archivedEvents)
+        redone.insert(a.eventID);
+    out.archivedEvents.clear();
+    for (const ArchivedEvent &a : earlier.archivedEvents)
+        if (!redone.contains(a.eventID))
+            out.archivedEvents.push_back(a);
+    out.archivedEvents.insert(out.archivedEvents.end(), later.archivedEvents.begin(), later.archivedEvents.end());
+    out.failedFiles.clear();
+    for (const ArchiveReport::FailedFile &f : earlier.failedFiles) {
+        const bool superseded = std::any_of(events.begin(), events.end(), [&](const TeslaEvent &e) {
+            return redone.contains(e.id()) && belongsTo(f.path, e);
+        });
+        if (!superseded)
+            out.failedFiles.push_back(f);
+    }
+    out.failedFiles.insert(out.failedFiles.end(), later.failedFiles.begin(), later.failedFiles.end());
+    return out;
+}
+
+} // namespace
+
+void AppState::keep(const std::vector<TeslaEvent> &events)
+{
+    if (auto *player = activePlayerController())
+        player->pause();
+    if (!vaultURL_) {
+        // The first keep: the screens ask for a folder, and the keep goes on
+        // once one is set.
+        keepAwaitingVault_ = events;
+        Q_EMIT vaultFolderWanted();
+        return;
+    }
+    ArchivePlan plan = engine_.planArchive(events, vaultIndex_);
+    setIsArchiving(true);
+    setArchiveProgress(ArchiveProgress{0, plan.totalNewBytes(), 0, int(plan.newItems().size()), std::nullopt});
+    auto task = std::make_shared<std::stop_source>();
+    currentArchiveTask_ = task;
+    mountsDuringKeep_.clear();
+    keepDrive_.reset();
+    keepTask(QPointer<AppState>(this), std::move(plan), *vaultURL_, events, task, std::nullopt);
+}
+
+void AppState::declineVaultFolder() { keepAwaitingVault_.clear(); }
+
+QCoro::Task<void> AppState::keepTask(QPointer<AppState> self, ArchivePlan plan, QString vaultURL,
+                                     std::vector<TeslaEvent> events, std::shared_ptr<std::stop_source> task,
+                                     std::optional<ArchiveReport> earlier)
+{
+    auto progress = onMainThread<ArchiveProgress>(self, [](AppState &state, const ArchiveProgress &p) {
+        if (!state.interruptedKeep_)
+            state.setArchiveProgress(p);
+    });
+    ArchiveReport report;
+    // The Vault may have been chosen before this drive was opened.
+    // (No temporaries inside the awaits: GCC 12 frees them twice.)
+    std::optional<bool> intoDrive;
+    const std::optional<QString> root = self->driveRootURL_;
+    if (root) {
+        QFuture<std::optional<bool>> check = AsyncRun::onPool(
+            EnginePools::quick(), [drive = *root, vaultURL] { return DriveBoundary::writesInto(drive, vaultURL); });
+        intoDrive = co_await check;
+        if (!self)
+            co_return;
+    }
+    // Which drive the events lie on, asked while it is surely there: should
+    // it go away mid-run, only the same drive takes the keep up again.
+    const std::vector<ArchivePlan::Item> fresh = plan.newItems();
+    if (!fresh.empty()) {
+        QFuture<std::optional<KeepDrive>> where =
+            AsyncRun::onPool(EnginePools::quick(), [folder = fresh.front().event.folderURL] {
+                std::optional<KeepDrive> found;
+                try {
+                    const auto mounted = IOWatchdog::run(std::chrono::seconds(3),
+                                                         [folder](std::stop_token) { return DriveIdentity::of(folder); });
+                    if (mounted)
+                        found = KeepDrive{mounted->drive, mounted->mountPoint};
+                } catch (...) {
+                }
+                return found;
+            });
+        std::optional<KeepDrive> drive = co_await where;
+        if (!self)
+            co_return;
+        self->keepDrive_ = std::move(drive);
+    }
+    if (intoDrive.value_or(false)) {
+        report.failedFiles.push_back({vaultURL, DriveBoundary::vaultRefusal});
+    } else {
+        try {
+            report = co_await self->engine_.runArchive(plan, vaultURL, progress, task->get_token());
+        } catch (...) {
+            report.cancelled = task->stop_requested();
+        }
+        if (!self)
+            co_return;
+    }
+    // One stretch, no await between the steps.
+    const std::vector<ArchivedEvent> recorded = report.archivedEvents;
+    if (earlier)
+        report = merged(*earlier, report, events);
+    // Cut off by its drive going away: paused, not over, and the same drive
+    // coming back takes it up again.
+    const bool paused = report.stoppedBecause == ArchiveReport::StopReason::driveDisconnected && !report.cancelled
+        && self->keepDrive_;
+    if (paused) {
+        self->currentArchiveTask_.reset();
+        self->interruptedKeep_ = InterruptedKeep{events, report, vaultURL, *self->keepDrive_};
+        Q_EMIT self->isArchivePausedChanged();
+    } else {
+        self->finishKeep(report);
+    }
+    // What this run recorded counts at once, whatever comes next; part of
+    // an event is no kept event.
+    VaultIndex index = self->vaultIndex_;
+    index.events.insert(index.events.end(), recorded.begin(), recorded.end());
+    self->setVaultIndex(std::move(index));
+    for (const ArchivedEvent &a : recorded) {
+        if (a.isIncomplete())
+            continue;
+        self->setTriageStateEntry(a.eventID, TriageState::kept);
+        self->engine_.setTriageState(TriageState::kept, a.eventID);
+    }
+    self->recomputeHealth();
+    self->loadVaultEvents();
+    // It may have come back before the run saw it go.
+    if (paused)
+        for (const QString &mountPoint : std::exchange(self->mountsDuringKeep_, {}))
+            resumeTask(self, mountPoint);
+}
+
+void AppState::finishKeep(const ArchiveReport &report)
+{
+    setIsArchiving(false);
+    setArchiveProgress(std::nullopt);
+    currentArchiveTask_.reset();
+    keepDrive_.reset();
+    mountsDuringKeep_.clear();
+    setLastArchiveReport(report);
+    setShowArchiveReport(true);
+}
+
+void AppState::cancelCurrentArchiveTask()
+{
+    if (currentArchiveTask_) {
+        currentArchiveTask_->request_stop();
+        return;
+    }
+    // A keep waiting for its drive ends with what it had done.
+    if (interruptedKeep_) {
+        InterruptedKeep waiting = std::move(*interruptedKeep_);
+        interruptedKeep_.reset();
+        Q_EMIT isArchivePausedChanged();
+        waiting.soFar.cancelled = true;
+        finishKeep(waiting.soFar);
+    }
+}
+
+void AppState::noteMountForKeep(const QString &mountPoint)
+{
+    if (interruptedKeep_)
+        resumeTask(QPointer<AppState>(this), mountPoint);
+    else if (isArchiving_)
+        mountsDuringKeep_ << mountPoint;
+}
+
+QCoro::Task<void> AppState::resumeTask(QPointer<AppState> self, QString mountPoint)
+{
+    if (!self || !self->interruptedKeep_)
+        co_return;
+    const KeepDrive from = self->interruptedKeep_->from;
+    // The same TeslaCam folder: the first event not yet kept whole lies
+    // where it lay, seen through this mount.
+    QString folder;
+    for (const TeslaEvent &e : self->interruptedKeep_->events) {
+        const auto &done = self->interruptedKeep_->soFar.archivedEvents;
+        const bool whole = std::any_of(done.begin(), done.end(), [&](const ArchivedEvent &a) {
+            return a.eventID == e.id() && !a.isIncomplete();
+        });
+        if (!whole) {
+            folder = rebasedPath(e.folderURL, from.mountPoint, mountPoint);
+            break;
+        }
+    }
+    // Asked off this thread: a drive just plugged in may be slow to answer.
+    QFuture<bool> look = AsyncRun::onPool(EnginePools::quick(), [from, mountPoint, folder] {
+        try {
+            const auto mounted = IOWatchdog::run(std::chrono::seconds(3), [mountPoint](std::stop_token) {
+                return DriveIdentity::of(mountPoint);
+            });
+            return mounted && mounted->mountPoint == mountPoint && mounted->drive.isSameDrive(from.drive)
+                && (folder.isEmpty() || QFileInfo(folder).isDir());
+        } catch (...) {
+            return false;
+        }
+    });
+    const bool same = co_await look;
+    // Another mount may have taken it up meanwhile, or the user ended it.
+    if (!self || !self->interruptedKeep_)
+        co_return;
+    if (!same) {
+        Q_EMIT self->keepDriveChecked(mountPoint, false);
+        co_return;
+    }
+    InterruptedKeep waiting = std::move(*self->interruptedKeep_);
+    self->interruptedKeep_.reset();
+    Q_EMIT self->isArchivePausedChanged();
+
+    std::vector<TeslaEvent> events = rebased(waiting.events, waiting.from.mountPoint, mountPoint);
+    ArchiveReport soFar = waiting.soFar;
+    for (ArchiveReport::FailedFile &f : soFar.failedFiles)
+        f.path = rebasedPath(f.path, waiting.from.mountPoint, mountPoint);
+    ArchivePlan plan = self->engine_.planArchive(events, self->vaultIndex_);
+    // Where it stopped: what the cut-off run placed is not copied again.
+    for (ArchivePlan::Item &item : plan.items) {
+        const auto record = std::find_if(soFar.archivedEvents.rbegin(), soFar.archivedEvents.rend(),
+                                         [&](const ArchivedEvent &a) { return a.eventID == item.event.id(); });
+        if (!item.isDuplicate && record != soFar.archivedEvents.rend())
+            item.alreadyKept = record->files;
+    }
+    self->setArchiveProgress(ArchiveProgress{0, plan.totalNewBytes(), 0, int(plan.newItems().size()), std::nullopt});
+    auto task = std::make_shared<std::stop_source>();
+    self->currentArchiveTask_ = task;
+    self->keepDrive_ = KeepDrive{waiting.from.drive, mountPoint};
+    keepTask(self, std::move(plan), waiting.vaultURL, std::move(events), task, std::move(soFar));
+    Q_EMIT self->keepDriveChecked(mountPoint, true);
+}
+
+// --- re-reading the Vault ----------------------------------------------------
+
+void AppState::verifyVault(const QStringList &eventIDs)
+{
+    if (!vaultURL_)
+        return;
+    if (currentVerification_) {
+        // The weekly check already on its way becomes the one asked for.
+        if (!verificationShown_) {
+            verificationShown_ = true;
+            Q_EMIT verificationChanged();
+        }
+        return;
+    }
+    verificationShown_ = true;
+    auto task = std::make_shared<std::stop_source>();
+    currentVerification_ = task;
+    Q_EMIT verificationChanged();
+    verifyTask(QPointer<AppState>(this), *vaultURL_, eventIDs, task);
+}
+
+void AppState::cancelVerification()
+{
+    if (currentVerification_)
+        currentVerification_->request_stop();
+}
+
+bool AppState::verifyVaultIfDue()
+{
+    if (!vaultURL_ || currentVerification_ || isArchiving_ || vaultIndex_.events.empty())
+        return false;
+    if (!QSettings(QStringLiteral("Keelhold"), QStringLiteral("Keelhold")).value(verifyWeeklyKey, true).toBool())
+        return false;
+    // A Vault never checked counts from its first keep.
+    Date last = vaultIndex_.events.front().archivedAt;
+    for (const ArchivedEvent &a : vaultIndex_.events)
+        last = std::min(last, a.archivedAt);
+    if (verificationLog_.wholeVaultCheckedAt)
+        last = *verificationLog_.wholeVaultCheckedAt;
+    if (Date::now().timeIntervalSince(last) < verifyEverySeconds)
+        return false;
+    verificationShown_ = false;
+    auto task = std::make_shared<std::stop_source>();
+    currentVerification_ = task;
+    verifyTask(QPointer<AppState>(this), *vaultURL_, {}, task);
+    return true;
+}
+
+QCoro::Task<void> AppState::verifyTask(QPointer<AppState> self, QString vaultURL, QStringList eventIDs,
+                                       std::shared_ptr<std::stop_source> task)
+{
+    auto progress = onMainThread<VaultVerifier::Progress>(self, [task](AppState &state, const VaultVerifier::Progress &p) {
+        if (state.currentVerification_ != task || !state.verificationShown_)
+            return;
+        state.verificationProgress_ = p;
+        Q_EMIT state.verificationProgressChanged();
+    });
+    VaultVerifier::Result result;
+    bool read = true;
+    try {
+        result = co_await self->engine_.verifyVault(vaultURL, eventIDs, progress, task->get_token());
+    } catch (...) {
+        read = false;
+    }
+    if (!self || self->currentVerification_ != task)
+        co_return;
+    self->currentVerification_.reset();
+    self->verificationProgress_.reset();
+    if (read && self->vaultURL_ == vaultURL) {
+        VerificationLog log = self->verificationLog_;
+        log.record(result.events);
+        if (result.vaultCheckedAt)
+            log.wholeVaultCheckedAt = result.vaultCheckedAt;
+        self->setVerificationLog(std::move(log));
+    }
+    Q_EMIT self->verificationProgressChanged();
+    Q_EMIT self->verificationChanged();
+}

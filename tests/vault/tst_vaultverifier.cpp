@@ -1,0 +1,140 @@
+#include "support/DriveBuilder.h"
+#include "vault/ArchiveEngine.h"
+#include "vault/VaultIndex.h"
+#include "vault/VaultVerifier.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+void overwrite(const QString &path, const QByteArray &bytes)
+{
+    QFile f(path);
+    QVERIFY(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    QCOMPARE(f.write(bytes), bytes.size());
+}
+
+QByteArray readAll(const QString &path)
+{
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+} // namespace
+
+class TestVaultVerifier : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    // Kept, then kept again after a clip's bytes changed on the drive under
+    // the same name: the Vault holds the new bytes, which the newest record
+    // lists. The event is checked once, against that record.
+    void eachFileIsJudgedByTheNewestRecordThatListsIt()
+    {
+        QTemporaryDir driveDir;
+        DriveBuilder drive(driveDir.filePath("TeslaCam"));
+        drive.addEvent("SentryClips", "2026-07-18_09-15-32", 2, 1000);
+        QTemporaryDir vault;
+        ArchiveEngine::run(ArchiveEngine::plan(drive.scan(), VaultIndex{}), vault.path());
+        const QString clip = drive.scan()[0].clips[1].url;
+        overwrite(clip, DriveBuilder::randomBytes(1200, 99));
+        const ArchiveReport again =
+            ArchiveEngine::run(ArchiveEngine::plan(drive.scan(), VaultIndex::load(vault.path())), vault.path());
+        QCOMPARE(again.archivedEvents.size(), size_t(1));
+        QCOMPARE(VaultIndex::load(vault.path()).events.size(), size_t(2));
+
+        const VaultVerifier::Result result = VaultVerifier::verify(vault.path());
+        QVERIFY(!result.cancelled);
+        QCOMPARE(result.events.size(), size_t(1));
+        const EventCheck &check = result.events[0];
+        QVERIFY2(check.ok(), qPrintable(check.changed.join(", ")));
+        QCOMPARE(check.verified, 4);
+    }
+
+    // Changed, missing and cut-off events are found, and what was found is
+    // noted with its date beside the manifest, which stays as it was.
+    void findingsAndTheirDatesGoToTheLog()
+    {
+        QTemporaryDir driveDir;
+        DriveBuilder drive(driveDir.filePath("TeslaCam"));
+        drive.addEvent("SentryClips", "2026-07-18_09-15-32", 2, 3 << 20);
+        drive.addEvent("SentryClips", "2026-07-17_09-15-32", 2, 1000);
+        drive.addEvent("SavedClips", "2026-07-16_09-15-32", 1, 1000);
+        QTemporaryDir vault;
+        const Date started = Date::now();
+        const ArchiveReport report = ArchiveEngine::run(ArchiveEngine::plan(drive.scan(), VaultIndex{}), vault.path());
+        QCOMPARE(report.completeEvents(), 3);
+        // One byte changed in the first event, a file gone from the second;
+        // the third was cut off (as a pulled drive leaves it).
+        const QString root = vault.path() + QLatin1Char('/');
+        const ArchivedEvent &first = report.archivedEvents[0];
+        const ArchivedEvent &second = report.archivedEvents[1];
+        const QString changedFile = root + first.relativePath + "/" + first.files[1].name;
+        QByteArray bytes = readAll(changedFile);
+        bytes[bytes.size() / 2] = char(bytes[bytes.size() / 2] ^ 0x01);
+        overwrite(changedFile, bytes);
+        QVERIFY(QFile::remove(root + second.relativePath + "/" + second.files[0].name));
+        VaultIndex index = VaultIndex::load(vault.path());
+        index.events[2].expectedFileCount = 5;
+        index.save(vault.path());
+        const QByteArray manifest = readAll(vault.filePath("manifest.json"));
+
+        // One event asked for: only it is read, and the Vault's date stays unset.
+        const auto one = VaultVerifier::verify(vault.path(), {second.eventID});
+        QCOMPARE(one.events.size(), size_t(1));
+        QCOMPARE(one.events[0].missing, QStringList{second.files[0].name});
+        QVERIFY(!VerificationLog::load(vault.path()).wholeVaultCheckedAt);
+
+        std::vector<VaultVerifier::Progress> seen;
+        const auto all = VaultVerifier::verify(vault.path(), {}, [&](const VaultVerifier::Progress &p) { seen.push_back(p); });
+        QCOMPARE(all.events.size(), size_t(3));
+        QCOMPARE(all.events[0].changed, QStringList{first.files[1].name});
+        QCOMPARE(all.events[0].verified, 3);
+        QVERIFY(!all.events[0].ok());
+        QCOMPARE(all.events[1].missing, QStringList{second.files[0].name});
+        QVERIFY(all.events[2].incomplete());
+        QCOMPARE(all.events[2].verified, 3);
+        QVERIFY(!all.events[2].ok());
+        QVERIFY(!seen.empty());
+        QCOMPARE(seen.back().eventsDone, 3);
+        QCOMPARE(seen.back().bytesDone, seen.back().totalBytes);
+
+        const VerificationLog log = VerificationLog::load(vault.path());
+        QVERIFY(log.wholeVaultCheckedAt && *log.wholeVaultCheckedAt >= started);
+        QCOMPARE(log.events.size(), 3);
+        for (const EventCheck &check : all.events)
+            QCOMPARE(*log.find(check.eventID), check);
+        QCOMPARE(readAll(vault.filePath("manifest.json")), manifest);
+        QVERIFY(QFile::exists(vault.filePath(VerificationLog::fileName)));
+    }
+
+    void stopEndsItWithTheEventsFinished()
+    {
+        QTemporaryDir driveDir;
+        DriveBuilder drive(driveDir.filePath("TeslaCam"));
+        drive.addEvent("SentryClips", "2026-07-18_09-15-32", 1, 1000);
+        drive.addEvent("SentryClips", "2026-07-17_09-15-32", 2, 4 << 20);
+        QTemporaryDir vault;
+        ArchiveEngine::run(ArchiveEngine::plan(drive.scan(), VaultIndex{}), vault.path());
+        std::stop_source stop;
+        // Stopped inside the second event's first clip.
+        const auto result = VaultVerifier::verify(
+            vault.path(), {},
+            [&](const VaultVerifier::Progress &p) {
+                if (p.eventsDone == 1 && p.bytesDone > p.totalBytes / 4)
+                    stop.request_stop();
+            },
+            stop.get_token());
+        QVERIFY(result.cancelled);
+        QCOMPARE(result.events.size(), size_t(1));
+        const VerificationLog log = VerificationLog::load(vault.path());
+        QCOMPARE(log.events.size(), 1);
+        QVERIFY(!log.wholeVaultCheckedAt);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestVaultVerifier)
+#include "tst_vaultverifier.moc"
