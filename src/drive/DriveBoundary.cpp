@@ -1,6 +1,6 @@
 #include "drive/DriveBoundary.h"
 
-#include "drive/IOWatchdog.h"
+#include "model/IOWatchdog.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,13 +1,39 @@
 #include "playback/EventTimeline.h"
 
-#include "drive/IOWatchdog.h"
-#include "drive/ReadOnlyFs.h"
+#include "media/MediaClip.h"
 #include "model/CancellationError.h"
-#include "playback/MediaSource.h"
+#include "model/IOWatchdog.h"
+#include "playback/PlaybackLog.h"
+
+extern "C" {
+#include <libavformat/avformat.h>
+}
 
 #include <algorithm>
 
 namespace EventTimeline {
+
+namespace {
+// How long the clip at path plays, reading only its header (and its first
+// sample, to measure the header against): 0 when it is gone, holds no
+// video, or its header doesn't hold for its data. Every read, the first
+// look at the path included, is under the clip's limit.
+double placeableSeconds(const QString &path, std::chrono::milliseconds limit, std::stop_token stop)
+{
+    MediaClip::Options options;
+    options.mp4Only = false;
+    options.streamInfo = MediaClip::StreamInfo::always;
+    options.checkHeader = true;
+    const auto clip = MediaClip::openWithin(limit, path, stop, options);
+    if (!clip->isOpened() || clip->facts().verdict != HeaderCheck::ClipFacts::Verdict::sound)
+        return 0.0;
+    const AVStream *video = clip->video();
+    if (video->duration > 0)
+        return double(video->duration) * av_q2d(video->time_base);
+    const AVFormatContext *format = clip->context();
+    return format->duration > 0 ? double(format->duration) / AV_TIME_BASE : 0.0;
+}
+} // namespace
 
 std::vector<CameraTrack> build(const TeslaEvent &event, std::chrono::milliseconds clipTimeout, std::stop_token stop)
 {
@@ -53,28 +79,16 @@ std::vector<CameraTrack> build(const TeslaEvent &event, std::chrono::millisecond
             const double offset = event.timelineOffset(clip);
             double placed = 0;
             try {
-                const QString path = clip.url;
-                // Reads only the header: duration and tracks. Nothing is decoded.
-                const double seconds = IOWatchdog::run(
-                    clipTimeout,
-                    [path](std::stop_token watch) -> double {
-                        if (!ReadOnlyFs::stat(path).exists)
-                            return 0.0;
-                        MediaSource source(path, [watch] { return watch.stop_requested(); }, false);
-                        if (source.duration() <= 0 || !source.hasVideo())
-                            return 0.0;
-                        return source.duration();
-                    },
-                    stop);
-                if (seconds > 0) {
-                    if (!composition.track(*trackIndex).placeClip(path, seconds, offset))
-                        continue;
+                const double seconds = placeableSeconds(clip.url, clipTimeout, stop);
+                if (seconds > 0 && composition.track(*trackIndex).placeClip(clip.url, seconds, offset))
                     placed = seconds;
-                }
             } catch (const CancellationError &) {
                 return tracks;
-            } catch (...) {
+            } catch (const IOWatchdog::TimedOut &) {
                 continue; // this clip only
+            } catch (const std::exception &e) {
+                qCWarning(lcPlayback) << "placing" << clip.url << "failed:" << e.what();
+                continue;
             }
             if (placed > 0) {
                 hasContent = true;

@@ -1,6 +1,6 @@
 #include "playback/TelemetryTimeline.h"
 
-#include "drive/IOWatchdog.h"
+#include "model/IOWatchdog.h"
 #include "drive/TelemetryReader.h"
 #include "model/CancellationError.h"
 #include "playback/Composition.h"

@@ -1,7 +1,7 @@
 #include "vault/ArchiveEngine.h"
 
-#include "drive/IOWatchdog.h"
-#include "drive/ReadOnlyFs.h"
+#include "model/IOWatchdog.h"
+#include "model/ReadOnlyFs.h"
 #include "drive/VolumeInfo.h"
 #include "model/CancellationError.h"
 #include "vault/Sha256.h"

@@ -1,4 +1,4 @@
-#include "drive/IOWatchdog.h"
+#include "model/IOWatchdog.h"
 #include "model/CancellationError.h"
 
 #include <QElapsedTimer>

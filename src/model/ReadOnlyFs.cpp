@@ -1,4 +1,4 @@
-#include "drive/ReadOnlyFs.h"
+#include "model/ReadOnlyFs.h"
 
 #include <QFile>
 #include <algorithm>

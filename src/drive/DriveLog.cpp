@@ -1,0 +1,3 @@
+#include "drive/DriveLog.h"
+
+Q_LOGGING_CATEGORY(lcDrive, "keelhold.drive", QtWarningMsg)
