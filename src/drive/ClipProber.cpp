@@ -1,10 +1,10 @@
 #include "drive/ClipProber.h"
 
-#include "drive/DriveLog.h"
+#include "base/LogCategories.h"
 #include "media/MediaClip.h"
-#include "model/CancellationError.h"
-#include "model/IOWatchdog.h"
-#include "model/ReadOnlyFs.h"
+#include "base/CancellationError.h"
+#include "base/IOWatchdog.h"
+#include "base/ReadOnlyFs.h"
 
 extern "C" {
 #include <libavformat/avformat.h>

@@ -1,6 +1,6 @@
 #include "drive/DriveBoundary.h"
 
-#include "model/IOWatchdog.h"
+#include "base/IOWatchdog.h"
 
 #include <QDir>
 #include <QFile>

@@ -3,7 +3,7 @@
 #include "drive/SeiTelemetry.h"
 #include "media/AvHandles.h"
 #include "media/MediaClip.h"
-#include "model/CancellationError.h"
+#include "base/CancellationError.h"
 
 extern "C" {
 #include <libavcodec/packet.h>

@@ -1,6 +1,6 @@
 #include "engine/DriveWatcher.h"
 
-#include "model/ReadOnlyFs.h"
+#include "base/ReadOnlyFs.h"
 #include "drive/VolumeInfo.h"
 
 #include <QCoreApplication>

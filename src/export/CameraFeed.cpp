@@ -2,7 +2,7 @@
 
 #include "export/ClipPacketReader.h"
 #include "media/VideoDecoder.h"
-#include "model/CancellationError.h"
+#include "base/CancellationError.h"
 
 extern "C" {
 #include <libavcodec/avcodec.h>

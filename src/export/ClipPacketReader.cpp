@@ -1,7 +1,7 @@
 #include "export/ClipPacketReader.h"
 
 #include "media/MediaClip.h"
-#include "model/IOWatchdog.h"
+#include "base/IOWatchdog.h"
 
 extern "C" {
 #include <libavcodec/avcodec.h>

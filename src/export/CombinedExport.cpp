@@ -6,8 +6,8 @@
 #include "export/Exporter.h"
 #include "export/OverlayText.h"
 #include "export/ProgressRelay.h"
-#include "model/CancellationError.h"
-#include "model/IOWatchdog.h"
+#include "base/CancellationError.h"
+#include "base/IOWatchdog.h"
 #include "playback/EventTimeline.h"
 #include "playback/TelemetryTimeline.h"
 

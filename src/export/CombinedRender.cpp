@@ -8,7 +8,7 @@
 #include "export/Mp4Writer.h"
 #include "export/OverlayText.h"
 #include "media/AvHandles.h"
-#include "model/CancellationError.h"
+#include "base/CancellationError.h"
 #include "model/DrivingDataText.h"
 
 extern "C" {

@@ -2,8 +2,8 @@
 
 #include "media/AvHandles.h"
 #include "media/MediaClip.h"
-#include "model/CancellationError.h"
-#include "model/IOWatchdog.h"
+#include "base/CancellationError.h"
+#include "base/IOWatchdog.h"
 
 extern "C" {
 #include <libavcodec/avcodec.h>

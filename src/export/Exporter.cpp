@@ -3,8 +3,8 @@
 #include "export/ExportComposition.h"
 #include "export/ExportSession.h"
 #include "export/ProgressRelay.h"
-#include "model/CancellationError.h"
-#include "model/IOWatchdog.h"
+#include "base/CancellationError.h"
+#include "base/IOWatchdog.h"
 
 #include <QScopeGuard>
 

@@ -1,6 +1,6 @@
 #include "media/FileClipReader.h"
 
-#include "model/ReadOnlyFs.h"
+#include "base/ReadOnlyFs.h"
 
 #include <cerrno>
 #include <sys/stat.h>

@@ -1,7 +1,7 @@
 #include "media/MediaClip.h"
 
-#include "media/MediaLog.h"
-#include "model/IOWatchdog.h"
+#include "base/LogCategories.h"
+#include "base/IOWatchdog.h"
 
 extern "C" {
 #include <libavformat/avformat.h>

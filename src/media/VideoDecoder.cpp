@@ -1,6 +1,6 @@
 #include "media/VideoDecoder.h"
 
-#include "media/MediaLog.h"
+#include "base/LogCategories.h"
 
 extern "C" {
 #include <libavcodec/avcodec.h>

@@ -1,9 +1,9 @@
 #include "playback/EventTimeline.h"
 
 #include "media/MediaClip.h"
-#include "model/CancellationError.h"
-#include "model/IOWatchdog.h"
-#include "playback/PlaybackLog.h"
+#include "base/CancellationError.h"
+#include "base/IOWatchdog.h"
+#include "base/LogCategories.h"
 
 extern "C" {
 #include <libavformat/avformat.h>
@@ -87,7 +87,7 @@ std::vector<CameraTrack> build(const TeslaEvent &event, std::chrono::millisecond
             } catch (const IOWatchdog::TimedOut &) {
                 continue; // this clip only
             } catch (const std::exception &e) {
-                qCWarning(lcPlayback) << "placing" << clip.url << "failed:" << e.what();
+                qCWarning(lcTimeline) << "placing" << clip.url << "failed:" << e.what();
                 continue;
             }
             if (placed > 0) {

@@ -1,9 +1,9 @@
 #include "vault/ArchiveEngine.h"
 
-#include "model/IOWatchdog.h"
-#include "model/ReadOnlyFs.h"
+#include "base/IOWatchdog.h"
+#include "base/ReadOnlyFs.h"
 #include "drive/VolumeInfo.h"
-#include "model/CancellationError.h"
+#include "base/CancellationError.h"
 #include "vault/Sha256.h"
 
 #include <QDir>

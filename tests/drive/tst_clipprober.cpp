@@ -1,6 +1,6 @@
 #include "drive/ClipProber.h"
 #include "drive/TeslaCamParser.h"
-#include "model/CancellationError.h"
+#include "base/CancellationError.h"
 #include "support/DamagedHeaders.h"
 #include "support/DriveBuilder.h"
 #include "support/FaultyFs.h"

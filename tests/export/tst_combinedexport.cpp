@@ -5,7 +5,7 @@
 #include "export/OverlayText.h"
 #include "export/TimeMarker.h"
 #include "drive/DriveBoundary.h"
-#include "model/CancellationError.h"
+#include "base/CancellationError.h"
 #include "support/DamagedHeaders.h"
 #include "support/FaultyFs.h"
 #include "support/FrameGrab.h"

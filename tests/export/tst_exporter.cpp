@@ -1,5 +1,5 @@
 #include "export/Exporter.h"
-#include "model/CancellationError.h"
+#include "base/CancellationError.h"
 #include "support/DamagedHeaders.h"
 #include "support/FaultyFs.h"
 #include "support/HeldClip.h"

@@ -3,7 +3,7 @@
 #include "drive/ClipCalendar.h"
 #include "drive/ClipProber.h"
 #include "drive/EventJSONPayload.h"
-#include "model/ReadOnlyFs.h"
+#include "base/ReadOnlyFs.h"
 #include "drive/ReasonMapper.h"
 #include "drive/TelemetryReader.h"
 #include "drive/TeslaCamParser.h"

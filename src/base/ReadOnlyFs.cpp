@@ -1,4 +1,4 @@
-#include "model/ReadOnlyFs.h"
+#include "base/ReadOnlyFs.h"
 
 #include <QFile>
 #include <algorithm>

@@ -1,3 +1,0 @@
-#include "drive/DriveLog.h"
-
-Q_LOGGING_CATEGORY(lcDrive, "keelhold.drive", QtWarningMsg)

@@ -1,3 +1,0 @@
-#include "playback/PlaybackLog.h"
-
-Q_LOGGING_CATEGORY(lcPlayback, "keelhold.playback", QtWarningMsg)
