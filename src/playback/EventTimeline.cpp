@@ -14,24 +14,30 @@ extern "C" {
 namespace EventTimeline {
 
 namespace {
+struct Placeable {
+    double seconds = 0; // 0: nothing to place
+    bool damaged = false; // a movie, but without pictures or with a header its data contradict
+};
+
 // How long the clip at path plays, reading only its header (and its first
-// sample, to measure the header against): 0 when it is gone, holds no
-// video, or its header doesn't hold for its data. Every read, the first
-// look at the path included, is under the clip's limit.
-double placeableSeconds(const QString &path, std::chrono::milliseconds limit, std::stop_token stop)
+// sample, to measure the header against). Every read, the first look at the
+// path included, is under the clip's limit.
+Placeable placeable(const QString &path, std::chrono::milliseconds limit, std::stop_token stop)
 {
     MediaClip::Options options;
     options.mp4Only = false;
     options.streamInfo = MediaClip::StreamInfo::always;
     options.checkHeader = true;
     const auto clip = MediaClip::openWithin(limit, path, stop, options);
+    if (clip->outcome() == MediaClip::Outcome::notAMovie)
+        return {0.0, !clip->facts().usable()}; // gone, or not a movie at all
     if (!clip->isOpened() || clip->facts().verdict != HeaderCheck::ClipFacts::Verdict::sound)
-        return 0.0;
+        return {0.0, true};
     const AVStream *video = clip->video();
     if (video->duration > 0)
-        return double(video->duration) * av_q2d(video->time_base);
+        return {double(video->duration) * av_q2d(video->time_base), false};
     const AVFormatContext *format = clip->context();
-    return format->duration > 0 ? double(format->duration) / AV_TIME_BASE : 0.0;
+    return {format->duration > 0 ? double(format->duration) / AV_TIME_BASE : 0.0, false};
 }
 } // namespace
 
@@ -61,27 +67,30 @@ std::vector<CameraTrack> build(const TeslaEvent &event, std::chrono::millisecond
         if (playable.empty()) {
             const bool allDamaged = !clips.empty()
                 && std::all_of(clips.begin(), clips.end(), [](const ClipRef &c) { return c.health.isDamaged(); });
-            tracks.push_back(CameraTrack{camera, std::nullopt, allDamaged ? damagedReason : noFootageReason, 0});
+            tracks.push_back(CameraTrack{camera, std::nullopt, allDamaged ? damagedReason : noFootageReason, 0, {}});
             continue;
         }
 
         Composition composition;
         const auto trackIndex = composition.addMutableTrack();
         if (!trackIndex) {
-            tracks.push_back(CameraTrack{camera, std::nullopt, damagedReason, 0});
+            tracks.push_back(CameraTrack{camera, std::nullopt, damagedReason, 0, {}});
             continue;
         }
         bool hasContent = false;
         double contentEnd = 0;
+        std::vector<double> damagedStarts;
         for (const ClipRef &clip : playable) {
             if (stop.stop_requested())
                 return tracks;
             const double offset = event.timelineOffset(clip);
             double placed = 0;
             try {
-                const double seconds = placeableSeconds(clip.url, clipTimeout, stop);
-                if (seconds > 0 && composition.track(*trackIndex).placeClip(clip.url, seconds, offset))
-                    placed = seconds;
+                const Placeable found = placeable(clip.url, clipTimeout, stop);
+                if (found.damaged)
+                    damagedStarts.push_back(offset);
+                if (found.seconds > 0 && composition.track(*trackIndex).placeClip(clip.url, found.seconds, offset))
+                    placed = found.seconds;
             } catch (const CancellationError &) {
                 return tracks;
             } catch (const IOWatchdog::TimedOut &) {
@@ -96,9 +105,10 @@ std::vector<CameraTrack> build(const TeslaEvent &event, std::chrono::millisecond
             }
         }
         if (hasContent)
-            tracks.push_back(CameraTrack{camera, std::move(composition), std::nullopt, contentEnd});
+            tracks.push_back(
+                CameraTrack{camera, std::move(composition), std::nullopt, contentEnd, std::move(damagedStarts)});
         else
-            tracks.push_back(CameraTrack{camera, std::nullopt, damagedReason, 0});
+            tracks.push_back(CameraTrack{camera, std::nullopt, damagedReason, 0, {}});
     }
     return tracks;
 }
@@ -111,6 +121,9 @@ std::vector<Gap> gaps(const TeslaEvent &event, const CameraTrack &track, double 
         return out;
     // A damaged clip of this camera that starts within the stretch is why it is empty.
     const auto reasonFor = [&](double start, double end) {
+        for (const double at : track.damagedStarts)
+            if (at >= start - minGap && at < end)
+                return damagedReason;
         for (const ClipRef &clip : event.clips) {
             if (clip.camera != track.camera || !clip.health.isDamaged())
                 continue;

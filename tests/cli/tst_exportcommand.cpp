@@ -9,7 +9,6 @@
 #include <QDir>
 #include <QFile>
 #include <QProcess>
-#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTest>
 #include <csignal>
@@ -22,6 +21,33 @@ struct Run {
     int exitCode = -1;
     QString out;
     QString err;
+};
+
+// The tool exporting a saved event from the failing test drive. Whatever ends
+// the test, the drive lets go and the tool ends: a process can't end while
+// the kernel waits on the drive for it.
+struct DriveExport {
+    static inline const QString folder = QStringLiteral("TeslaCam/SavedClips/2024-06-02_10-00-00/");
+
+    ~DriveExport()
+    {
+        fs.release();
+        process.waitForFinished(60000);
+    }
+    // options: what to make of the event, e.g. --camera front.
+    bool start(const QString &output, const QStringList &options)
+    {
+        process.start(QStringLiteral(KEELHOLD_CLI_PATH),
+                      QStringList{QStringLiteral("export"), mountPoint.filePath(QStringLiteral("TeslaCam")),
+                                  QStringLiteral("--event"), QStringLiteral("saved|2024-06-02_10-00-00"),
+                                  QStringLiteral("-o"), output}
+                          + options);
+        return process.waitForStarted();
+    }
+
+    QTemporaryDir mountPoint;
+    FaultyFs fs{mountPoint.path()};
+    QProcess process;
 };
 
 // Collects the tool's stderr into err until it holds needle; false when the
@@ -189,24 +215,21 @@ private Q_SLOTS:
     {
         if (!FaultyFs::available())
             QSKIP("needs FUSE");
-        QTemporaryDir mountPoint;
-        FaultyFs fs(mountPoint.path());
+        DriveExport run;
+        FaultyFs &fs = run.fs;
+        QProcess &process = run.process;
         QVERIFY(fs.isMounted());
         const QByteArray bytes = HeldClip::indexFirst(8.0, 10);
-        const QString folder = QStringLiteral("TeslaCam/SavedClips/2024-06-02_10-00-00/");
-        fs.addFile(folder + QStringLiteral("event.json"),
+        fs.addFile(DriveExport::folder + QStringLiteral("event.json"),
                    TeslaCamFixture::eventJson(QStringLiteral("2024-06-02T09:59:30"), QStringLiteral("user_interaction_honk")));
-        HeldClip::add(fs, folder + QStringLiteral("2024-06-02_09-59-00-front.mp4"), bytes, bytes.size() * 6 / 10);
-        fs.addFile(folder + QStringLiteral("2024-06-02_09-59-00-back.mp4"), bytes);
+        HeldClip::add(fs, DriveExport::folder + QStringLiteral("2024-06-02_09-59-00-front.mp4"), bytes,
+                      bytes.size() * 6 / 10);
+        fs.addFile(DriveExport::folder + QStringLiteral("2024-06-02_09-59-00-back.mp4"), bytes);
         const QString outputs = dir_.path() + QStringLiteral("/interrupted");
         QDir().mkpath(outputs);
 
-        QProcess process;
-        process.start(QStringLiteral(KEELHOLD_CLI_PATH),
-                      {QStringLiteral("export"), mountPoint.filePath(QStringLiteral("TeslaCam")), QStringLiteral("--event"),
-                       QStringLiteral("saved|2024-06-02_10-00-00"), QStringLiteral("--layout"), QStringLiteral("grid"),
-                       QStringLiteral("--size"), QStringLiteral("720"), QStringLiteral("-o"), outputs});
-        QVERIFY(process.waitForStarted());
+        QVERIFY(run.start(outputs, {QStringLiteral("--layout"), QStringLiteral("grid"), QStringLiteral("--size"),
+                                    QStringLiteral("720")}));
         QVERIFY(fs.waitUntilHeld());
         // Clips are read ahead of the movie, so the hold may come before the
         // first frame is written: the interrupt waits for both.
@@ -293,41 +316,30 @@ private Q_SLOTS:
     {
         if (!FaultyFs::available())
             QSKIP("needs root and /dev/fuse");
-        QTemporaryDir mountPoint;
-        FaultyFs fs(mountPoint.path());
-        QVERIFY(fs.isMounted());
-        // The process ends only once the drive answers the read it left behind.
-        QProcess process;
-        const auto letGo = qScopeGuard([&] {
-            fs.release();
-            process.waitForFinished(60000);
-        });
+        DriveExport run;
+        QVERIFY(run.fs.isMounted());
         const QByteArray clip = HeldClip::indexFirst(4.0, 36);
         const qint64 pictures = TestClips::topLevelBoxOffset(clip, "mdat");
         QVERIFY(pictures > 0);
-        HeldClip::add(fs, QStringLiteral("TeslaCam/SavedClips/2024-06-02_10-00-00/2024-06-02_09-59-00-front.mp4"), clip,
+        HeldClip::add(run.fs, DriveExport::folder + QStringLiteral("2024-06-02_09-59-00-front.mp4"), clip,
                       pictures + (clip.size() - pictures) / 2);
         const QString file = out(QStringLiteral("interrupted.mp4"));
 
-        process.start(QStringLiteral(KEELHOLD_CLI_PATH),
-                      {QStringLiteral("export"), mountPoint.filePath(QStringLiteral("TeslaCam")), QStringLiteral("--event"),
-                       QStringLiteral("saved|2024-06-02_10-00-00"), QStringLiteral("--camera"), QStringLiteral("front"),
-                       QStringLiteral("-o"), file});
-        QVERIFY(process.waitForStarted());
-        QVERIFY2(fs.waitUntilHeld(1, std::chrono::seconds(60)), "the export never reached the held pictures");
+        QVERIFY(run.start(file, {QStringLiteral("--camera"), QStringLiteral("front")}));
+        QVERIFY2(run.fs.waitUntilHeld(1, std::chrono::seconds(60)), "the export never reached the held pictures");
         // Clips are read ahead of the movie: the hold may come before the
         // movie is begun. The signal waits for both.
         QByteArray err;
-        QVERIFY2(readErrorsUntil(process, err, "Exporting", 60000), err.constData());
+        QVERIFY2(readErrorsUntil(run.process, err, "Exporting", 60000), err.constData());
         QVERIFY(QFile::exists(file));
-        process.terminate();
-        QVERIFY2(readErrorsUntil(process, err, "The export was stopped.", 60000), err.constData());
+        run.process.terminate();
+        QVERIFY2(readErrorsUntil(run.process, err, "The export was stopped.", 60000), err.constData());
         QCOMPARE(QString::fromUtf8(err).trimmed().split(QLatin1Char('\n')).last(), QStringLiteral("The export was stopped."));
         QVERIFY(!QFile::exists(file));
-        fs.release();
-        QVERIFY(process.waitForFinished(60000));
-        QCOMPARE(process.exitStatus(), QProcess::NormalExit);
-        QCOMPARE(process.exitCode(), 2);
+        run.fs.release();
+        QVERIFY(run.process.waitForFinished(60000));
+        QCOMPARE(run.process.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(run.process.exitCode(), 2);
     }
 
     // A read the drive never answers while the movie is being written costs
@@ -337,39 +349,28 @@ private Q_SLOTS:
     {
         if (!FaultyFs::available())
             QSKIP("needs root and /dev/fuse");
-        QTemporaryDir mountPoint;
-        FaultyFs fs(mountPoint.path());
-        QVERIFY(fs.isMounted());
-        QProcess process;
-        const auto letGo = qScopeGuard([&] {
-            fs.release();
-            process.waitForFinished(60000);
-        });
+        DriveExport run;
+        QVERIFY(run.fs.isMounted());
         const QByteArray clip = HeldClip::indexFirst(4.0, 36);
-        const QString folder = QStringLiteral("TeslaCam/SavedClips/2024-06-02_10-00-00/");
-        fs.addFile(folder + QStringLiteral("2024-06-02_09-57-00-front.mp4"), clip);
-        HeldClip::add(fs, folder + QStringLiteral("2024-06-02_09-58-00-front.mp4"), clip, clip.size() / 2);
-        fs.addFile(folder + QStringLiteral("2024-06-02_09-59-00-front.mp4"), clip);
+        run.fs.addFile(DriveExport::folder + QStringLiteral("2024-06-02_09-57-00-front.mp4"), clip);
+        HeldClip::add(run.fs, DriveExport::folder + QStringLiteral("2024-06-02_09-58-00-front.mp4"), clip, clip.size() / 2);
+        run.fs.addFile(DriveExport::folder + QStringLiteral("2024-06-02_09-59-00-front.mp4"), clip);
         const QString file = out(QStringLiteral("dead-read.mp4"));
 
-        process.start(QStringLiteral(KEELHOLD_CLI_PATH),
-                      {QStringLiteral("export"), mountPoint.filePath(QStringLiteral("TeslaCam")), QStringLiteral("--event"),
-                       QStringLiteral("saved|2024-06-02_10-00-00"), QStringLiteral("--camera"), QStringLiteral("front"),
-                       QStringLiteral("-o"), file});
-        QVERIFY(process.waitForStarted());
+        QVERIFY(run.start(file, {QStringLiteral("--camera"), QStringLiteral("front")}));
         // Done once the path is printed; the process itself ends only when
         // the drive gives up the read it left behind.
         QByteArray printed;
         const QDeadlineTimer limit(120000);
-        while (!printed.contains('\n') && !limit.hasExpired() && process.state() == QProcess::Running) {
-            process.waitForReadyRead(100);
-            printed += process.readAllStandardOutput();
+        while (!printed.contains('\n') && !limit.hasExpired() && run.process.state() == QProcess::Running) {
+            run.process.waitForReadyRead(100);
+            printed += run.process.readAllStandardOutput();
         }
         QCOMPARE(QString::fromUtf8(printed).trimmed(), file);
-        QCOMPARE(fs.heldRequests(), 1);
-        fs.release();
-        QVERIFY(process.waitForFinished(60000));
-        QCOMPARE(process.exitCode(), 0);
+        QCOMPARE(run.fs.heldRequests(), 1);
+        run.fs.release();
+        QVERIFY(run.process.waitForFinished(60000));
+        QCOMPARE(run.process.exitCode(), 0);
         const MovieFacts facts = MovieFacts::read(file);
         const MovieFacts::Stream *video = facts.firstOf(QStringLiteral("video"));
         QVERIFY(video);

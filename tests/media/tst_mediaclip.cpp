@@ -111,9 +111,7 @@ private Q_SLOTS:
     // trusted; the good clip is sound at its own length.
     void everyDamagedHeaderIsContradicted_data()
     {
-        QTest::addColumn<int>("damage");
-        for (size_t i = 0; i < DamagedHeaders::family().size(); ++i)
-            QTest::newRow(qPrintable(DamagedHeaders::family()[i].name)) << int(i);
+        DamagedHeaders::addRows();
     }
     void everyDamagedHeaderIsContradicted()
     {
@@ -121,7 +119,7 @@ private Q_SLOTS:
         QCOMPARE(factsOf(good_).verdict, Verdict::sound);
         QVERIFY(std::abs(factsOf(good_).lengthSeconds - 2.0) < 0.01);
         const QString path = dir_.filePath(QStringLiteral("damaged-%1.mp4").arg(damage));
-        writeBytes(path, DamagedHeaders::family()[size_t(damage)].apply(bytesOf(good_)));
+        writeBytes(path, DamagedHeaders::damaged(damage, good_));
         const HeaderCheck::ClipFacts facts = factsOf(path);
         QVERIFY2(facts.verdict == Verdict::contradicted, qPrintable(facts.reason));
         QVERIFY(!facts.reason.isEmpty());

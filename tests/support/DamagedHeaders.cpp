@@ -3,6 +3,8 @@
 #include "support/Mp4Boxes.h"
 #include "support/TestClips.h"
 
+#include <QFile>
+#include <QTest>
 #include <QtEndian>
 #include <stdexcept>
 
@@ -134,6 +136,21 @@ const std::vector<Damage> &family()
         {QStringLiteral("track not video"), &trackNotVideo},
     };
     return all;
+}
+
+void addRows()
+{
+    QTest::addColumn<int>("damage");
+    for (size_t i = 0; i < family().size(); ++i)
+        QTest::newRow(qPrintable(family()[i].name)) << int(i);
+}
+
+QByteArray damaged(int damage, const QString &clipPath)
+{
+    QFile clip(clipPath);
+    if (!clip.open(QIODevice::ReadOnly))
+        throw std::runtime_error("can't read " + clipPath.toStdString());
+    return family().at(size_t(damage)).apply(clip.readAll());
 }
 
 QByteArray cutShort(const QByteArray &indexFirstClip, double fraction)

@@ -19,6 +19,11 @@ struct Damage {
 // Every damage of the family, by name.
 const std::vector<Damage> &family();
 
+// The family as the rows of a data-driven test, an int column "damage".
+void addRows();
+// That damage done to a copy of the clip at path.
+QByteArray damaged(int damage, const QString &clipPath);
+
 // The clip's data cut short with its header intact: index first, then
 // only `fraction` of its samples.
 QByteArray cutShort(const QByteArray &indexFirstClip, double fraction);
