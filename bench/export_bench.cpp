@@ -1,9 +1,9 @@
 // Exporter::exportFootage against `ffmpeg -f concat -c copy -movflags +faststart`
 // on the same ten one-minute 1280x960 H.264 clips (~30 MB each). Best of 3.
+#include "BenchFootage.h"
 #include "export/Exporter.h"
 
 extern "C" {
-#include <libavformat/avformat.h>
 #include <libavutil/log.h>
 }
 
@@ -13,73 +13,23 @@ extern "C" {
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QTextStream>
 #include <algorithm>
 #include <cstdio>
 
 namespace {
-
-bool runFfmpeg(const QStringList &arguments, QString *error = nullptr)
-{
-    QProcess process;
-    process.start(QStringLiteral("ffmpeg"),
-                  QStringList{QStringLiteral("-hide_banner"), QStringLiteral("-loglevel"), QStringLiteral("error"),
-                              QStringLiteral("-y")}
-                      + arguments);
-    const bool ok = process.waitForFinished(-1) && process.exitStatus() == QProcess::NormalExit
-        && process.exitCode() == 0;
-    if (!ok && error)
-        *error = QString::fromUtf8(process.readAllStandardError());
-    return ok;
-}
-
-// One minute as the car writes it: 1280x960, full-range 4:2:0, 36 fps,
-// about 4 Mbit/s. Kept between runs, since making it takes a while.
-QString sourceClip()
-{
-    const QString dir = QDir::tempPath() + QStringLiteral("/keelhold-export-bench");
-    QDir().mkpath(dir);
-    const QString path = dir + QStringLiteral("/minute-1280x960.mp4");
-    if (QFileInfo(path).size() > 20'000'000)
-        return path;
-    std::fprintf(stderr, "making a one-minute 1280x960 clip (once)...\n");
-    QString error;
-    if (!runFfmpeg({QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"),
-                    QStringLiteral("testsrc2=size=1280x960:rate=36"), QStringLiteral("-t"), QStringLiteral("60"),
-                    QStringLiteral("-c:v"), QStringLiteral("libx264"), QStringLiteral("-preset"),
-                    QStringLiteral("ultrafast"), QStringLiteral("-pix_fmt"), QStringLiteral("yuvj420p"),
-                    QStringLiteral("-g"), QStringLiteral("36"), QStringLiteral("-b:v"), QStringLiteral("4M"),
-                    QStringLiteral("-maxrate"), QStringLiteral("4M"), QStringLiteral("-bufsize"), QStringLiteral("8M"),
-                    QStringLiteral("-an"), path + QStringLiteral(".part.mp4")},
-                   &error)) {
-        std::fprintf(stderr, "ffmpeg failed: %s\n", qPrintable(error));
-        return QString();
-    }
-    QFile::remove(path);
-    QFile::rename(path + QStringLiteral(".part.mp4"), path);
-    return path;
-}
-
-// The container's length in seconds, to show both outputs hold the same.
-double durationOf(const QString &path)
-{
-    AVFormatContext *format = nullptr;
-    if (avformat_open_input(&format, QFile::encodeName(path).constData(), nullptr, nullptr) < 0)
-        return -1.0;
-    const double seconds = format->duration == AV_NOPTS_VALUE ? -1.0 : double(format->duration) / AV_TIME_BASE;
-    avformat_close_input(&format);
-    return seconds;
-}
-
+using BenchFootage::durationOf;
+using BenchFootage::runFfmpeg;
 } // namespace
 
 int main(int argc, char **argv)
 {
     QCoreApplication app(argc, argv);
     av_log_set_level(AV_LOG_QUIET);
-    const QString source = sourceClip();
+    // One minute as the car writes it: 1280x960, about 4 Mbit/s.
+    const QString source = BenchFootage::minute({QStringLiteral("keelhold-export-bench"),
+                                                 QStringLiteral("minute-1280x960.mp4"), 1280, 960, 4, QString()});
     if (source.isEmpty())
         return 1;
 

@@ -132,7 +132,7 @@ int main(int argc, char **argv)
     timer.restart();
     size_t decoded = 0;
     for (const ClipRef &c : event.clips) {
-        MediaSource source(c.url, [] { return false; }, true, 1);
+        MediaSource source(c.url, {}, 1);
         double t = 0;
         while (source.nextFrame(&t))
             ++decoded;

@@ -6,7 +6,7 @@
 #include "drive/TeslaCamParser.h"
 #include "export/CombinedExport.h"
 #include "export/Exporter.h"
-#include "model/CancellationError.h"
+#include "base/CancellationError.h"
 
 extern "C" {
 #include <libavutil/log.h>

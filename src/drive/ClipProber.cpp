@@ -1,14 +1,17 @@
 #include "drive/ClipProber.h"
 
-#include <QtEndian>
+#include "base/LogCategories.h"
+#include "media/MediaClip.h"
+#include "base/CancellationError.h"
+#include "base/IOWatchdog.h"
+#include "base/ReadOnlyFs.h"
 
-#include "drive/IOWatchdog.h"
-#include "drive/MediaInput.h"
-#include "drive/ReadOnlyFs.h"
-#include "model/CancellationError.h"
+extern "C" {
+#include <libavformat/avformat.h>
+}
 
-#include <QFile>
 #include <QThreadPool>
+#include <QtEndian>
 #include <QtGlobal>
 
 #include <algorithm>
@@ -19,15 +22,7 @@
 #include <deque>
 #include <memory>
 #include <mutex>
-#include <sys/stat.h>
 #include <unistd.h>
-
-extern "C" {
-#include <libavcodec/avcodec.h>
-#include <libavformat/avformat.h>
-#include <libavformat/avio.h>
-#include <libavutil/mem.h>
-}
 
 namespace ClipProber {
 
@@ -35,48 +30,37 @@ namespace {
 
 constexpr int signatureLength = 12;
 
-// What the load under the watchdog learns about one file.
+// What opening the file under the watchdog learns about it.
 struct Loaded {
     bool playable = false;
+    bool headerHolds = true; // false: the header promises what the data don't hold
     std::optional<double> duration;
 };
 
-class LoadFailed : public std::exception {
-public:
-    const char *what() const noexcept override { return "The file could not be opened as a movie."; }
-};
-
-struct CodecContextDeleter {
-    void operator()(AVCodecContext *codec) const { avcodec_free_context(&codec); }
-};
-
-// Throws when the file can't be opened as a movie at all; returns
-// not-playable when it opens but holds no video that can be decoded.
+// Not playable when the file can't be opened as a movie, or holds no video
+// that can be decoded.
 Loaded load(const QString &path, std::stop_token stop)
 {
     // Opened here, under the limit: an open that hangs (a dead drive, a FIFO)
     // is the watchdog's to bound, so non-regular files are not refused early.
-    const auto input = MediaInput::open(path, stop, {.mp4Only = true});
-    if (!input)
-        throw LoadFailed();
-    AVFormatContext *format = input->context();
-    if (avformat_find_stream_info(format, nullptr) < 0)
-        throw LoadFailed();
-
-    Loaded loaded;
-    const AVCodec *decoder = nullptr;
-    const int streamIndex = av_find_best_stream(format, AVMEDIA_TYPE_VIDEO, -1, -1, &decoder, 0);
-    if (streamIndex < 0 || !decoder)
-        return loaded;
-    std::unique_ptr<AVCodecContext, CodecContextDeleter> codec(avcodec_alloc_context3(decoder));
-    if (!codec || avcodec_parameters_to_context(codec.get(), format->streams[streamIndex]->codecpar) < 0)
-        return loaded;
+    MediaClip::Options options;
+    options.streamInfo = MediaClip::StreamInfo::always;
+    options.checkHeader = true;
     // One thread: we only ask whether the decoder opens, and frame threads cost.
-    codec->thread_count = 1;
-    if (avcodec_open2(codec.get(), decoder, nullptr) < 0)
+    options.decode = VideoDecoder::Options{};
+    const auto clip = MediaClip::open(path, stop, options);
+    Loaded loaded;
+    // A movie whose header describes its pictures as something else holds
+    // them all the same: damage, not encryption.
+    if (!clip->facts().usable()) {
+        loaded.headerHolds = false;
         return loaded;
-
+    }
+    if (!clip->isOpened())
+        return loaded;
     loaded.playable = true;
+    loaded.headerHolds = clip->facts().verdict == HeaderCheck::ClipFacts::Verdict::sound;
+    const AVFormatContext *format = clip->context();
     if (format->duration != AV_NOPTS_VALUE) {
         const double seconds = double(format->duration) / AV_TIME_BASE;
         if (std::isfinite(seconds))
@@ -170,14 +154,14 @@ ProbeResult probeDetailed(const ClipRef &clip, std::chrono::milliseconds timeout
                 const ClipHealth refused = sniffFtyp(path) ? ClipHealth::encrypted : ClipHealth::unreadable;
                 if (token.stop_requested())
                     throw CancellationError();
-                try {
-                    const Loaded loaded = load(path, token);
-                    if (loaded.playable)
-                        return {ClipHealth::ok, loaded.duration};
-                } catch (const LoadFailed &) {
-                }
+                const Loaded loaded = load(path, token);
                 if (token.stop_requested())
                     throw CancellationError();
+                // Opens, but its data stop short of (or don't fit) what its header says.
+                if (!loaded.headerHolds)
+                    return {ClipHealth::truncated, std::nullopt};
+                if (loaded.playable)
+                    return {ClipHealth::ok, loaded.duration};
                 return {refused, std::nullopt};
             },
             stop);
@@ -185,7 +169,9 @@ ProbeResult probeDetailed(const ClipRef &clip, std::chrono::milliseconds timeout
         return {ClipHealth::timedOut, std::nullopt};
     } catch (const CancellationError &) {
         throw;
-    } catch (...) {
+    } catch (const std::exception &e) {
+        // No thread for the watchdog, no memory: the clip is not known to play.
+        qCWarning(lcDrive) << "probing" << clip.url << "failed:" << e.what();
         return {ClipHealth::unreadable, std::nullopt};
     }
 }

@@ -1,6 +1,6 @@
 #include "drive/DriveBoundary.h"
 
-#include "drive/IOWatchdog.h"
+#include "base/IOWatchdog.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,8 +1,9 @@
 #include "drive/TelemetryReader.h"
 
-#include "drive/MediaInput.h"
 #include "drive/SeiTelemetry.h"
-#include "model/CancellationError.h"
+#include "media/AvHandles.h"
+#include "media/MediaClip.h"
+#include "base/CancellationError.h"
 
 extern "C" {
 #include <libavcodec/packet.h>
@@ -13,26 +14,17 @@ extern "C" {
 
 namespace TelemetryReader {
 
-namespace {
-struct PacketFree {
-    void operator()(AVPacket *p) const { av_packet_free(&p); }
-};
-} // namespace
-
 std::optional<TelemetryTrack> readClip(const ClipRef &clip, std::stop_token stop)
 {
-    const auto input = MediaInput::open(clip.url, stop, {.mp4Only = true});
+    const auto opened = MediaClip::open(clip.url, stop, MediaClip::Options{});
     if (stop.stop_requested())
         throw CancellationError();
-    if (!input)
+    if (!opened->isOpened())
         return std::nullopt;
-    AVFormatContext *format = input->context();
-    const int video = input->bestStream(AVMEDIA_TYPE_VIDEO);
-    if (video < 0)
-        return std::nullopt;
+    AVFormatContext *format = opened->context();
+    const int video = opened->videoStream();
     // Only the video's packets are read; the rest is skipped unread.
-    for (unsigned i = 0; i < format->nb_streams; ++i)
-        format->streams[i]->discard = int(i) == video ? AVDISCARD_DEFAULT : AVDISCARD_ALL;
+    opened->demuxer()->keepOnly(video);
     const AVStream *stream = format->streams[video];
     const AVCodecParameters *params = stream->codecpar;
     const auto nal = SeiTelemetry::NalFormat::fromStream(params->codec_id, params->extradata,
@@ -49,7 +41,7 @@ std::optional<TelemetryTrack> readClip(const ClipRef &clip, std::stop_token stop
     std::vector<TelemetryTrack::Frame> frames;
     if (const int indexed = avformat_index_get_entries_count(stream); indexed > 0)
         frames.reserve(size_t(indexed));
-    const std::unique_ptr<AVPacket, PacketFree> packet(av_packet_alloc());
+    const Av::Packet packet(av_packet_alloc());
     if (!packet)
         return std::nullopt;
     while (av_read_frame(format, packet.get()) >= 0) {

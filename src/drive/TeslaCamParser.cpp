@@ -2,7 +2,7 @@
 
 #include "drive/ClipCalendar.h"
 #include "drive/EventJSONPayload.h"
-#include "drive/ReadOnlyFs.h"
+#include "base/ReadOnlyFs.h"
 #include "drive/ReasonMapper.h"
 #include "drive/VolumeInfo.h"
 

@@ -1,6 +1,6 @@
 #include "engine/DriveWatcher.h"
 
-#include "drive/ReadOnlyFs.h"
+#include "base/ReadOnlyFs.h"
 #include "drive/VolumeInfo.h"
 
 #include <QCoreApplication>

@@ -1,7 +1,7 @@
 #include "engine/MockEngine.h"
 
 #include "engine/AsyncRun.h"
-#include "model/CancellationError.h"
+#include "base/CancellationError.h"
 #include "playback/TelemetryTimeline.h"
 #include "vault/ArchivedEvent.h"
 

@@ -1,7 +1,8 @@
 #include "export/CameraFeed.h"
 
 #include "export/ClipPacketReader.h"
-#include "model/CancellationError.h"
+#include "media/VideoDecoder.h"
+#include "base/CancellationError.h"
 
 extern "C" {
 #include <libavcodec/avcodec.h>
@@ -9,7 +10,6 @@ extern "C" {
 }
 
 #include <cmath>
-#include <new>
 
 namespace {
 // Pictures that stop before the clip says it ends (a damaged tail) are held
@@ -40,42 +40,26 @@ CameraFeed::CameraFeed(Camera camera, const std::optional<Composition> &composit
             segments_.push_back(segment);
         }
     }
-    shown_ = av_frame_alloc();
-    next_ = av_frame_alloc();
-    packet_ = av_packet_alloc();
-    decoded_ = av_frame_alloc();
-    if (!shown_ || !next_ || !packet_ || !decoded_) {
-        av_frame_free(&shown_);
-        av_frame_free(&next_);
-        av_packet_free(&packet_);
-        av_frame_free(&decoded_);
-        throw std::bad_alloc();
-    }
+    shown_ = Av::makeFrame();
+    next_ = Av::makeFrame();
 }
 
 CameraFeed::~CameraFeed()
 {
     close();
-    av_frame_free(&shown_);
-    av_frame_free(&next_);
-    av_packet_free(&packet_);
-    av_frame_free(&decoded_);
 }
 
 void CameraFeed::close()
 {
+    decoder_.reset();
     // A reader left on a stuck read ends on its own when the read does.
     reader_.reset();
-    avcodec_free_context(&decoder_);
-    av_packet_unref(packet_);
-    av_frame_unref(decoded_);
     videoStream_ = -1;
-    inputEnded_ = false;
     failed_ = false;
     hasShown_ = false;
     hasNext_ = false;
-    av_frame_unref(shown_);
-    av_frame_unref(next_);
+    av_frame_unref(shown_.get());
+    av_frame_unref(next_.get());
 }
 
 bool CameraFeed::open(size_t index, double local)
@@ -90,28 +74,18 @@ bool CameraFeed::open(size_t index, double local)
     const auto streams = reader_->open();
     if (stop_.stop_requested())
         throw CancellationError();
-    const AVCodec *codec = streams ? avcodec_find_decoder(streams->videoParameters->codec_id) : nullptr;
-    if (codec)
-        decoder_ = avcodec_alloc_context3(codec);
-    if (!decoder_ || avcodec_parameters_to_context(decoder_, streams->videoParameters.get()) < 0) {
-        close();
-        failed_ = true;
-        return false;
+    if (streams) {
+        const AVRational base = streams->timeBases[size_t(streams->video)];
+        decoder_ = VideoDecoder::open(streams->videoParameters.get(), base,
+                                      VideoDecoder::Options{.threads = decoderThreads_});
+        videoStream_ = streams->video;
+        timeBase_ = av_q2d(base);
+        videoStart_ = streams->videoStart;
+        if (streams->videoFrameRate.num > 0)
+            frameRate_ = av_q2d(streams->videoFrameRate);
     }
-    videoStream_ = streams->video;
-    const AVRational base = streams->timeBases[size_t(videoStream_)];
-    timeBase_ = av_q2d(base);
-    videoStart_ = streams->videoStart;
-    decoder_->pkt_timebase = base;
-    decoder_->thread_count = decoderThreads_;
-    if (avcodec_open2(decoder_, codec, nullptr) < 0) {
-        close();
-        failed_ = true;
-        return false;
-    }
-    if (streams->videoFrameRate.num > 0)
-        frameRate_ = av_q2d(streams->videoFrameRate);
-    pull();
+    if (decoder_)
+        pull();
     if (!hasNext_) {
         close();
         failed_ = true;
@@ -125,42 +99,33 @@ bool CameraFeed::open(size_t index, double local)
 // didn't answer in time (the decoder still gives what it holds).
 const AVFrame *CameraFeed::decodeNext(double *time)
 {
-    for (;;) {
-        const int received = avcodec_receive_frame(decoder_, decoded_);
-        if (received == 0) {
-            int64_t pts = decoded_->best_effort_timestamp;
-            if (pts == AV_NOPTS_VALUE)
-                pts = decoded_->pts;
-            if (pts == AV_NOPTS_VALUE)
-                pts = videoStart_;
-            *time = double(pts - videoStart_) * timeBase_;
-            return decoded_;
-        }
-        if (received != AVERROR(EAGAIN) || inputEnded_)
-            return nullptr;
-        const ClipPacketReader::Read read = reader_->next(packet_);
-        if (stop_.stop_requested())
-            throw CancellationError();
-        if (read != ClipPacketReader::Read::packet) {
-            inputEnded_ = true;
-            avcodec_send_packet(decoder_, nullptr);
-            continue;
-        }
-        if (packet_->stream_index == videoStream_) {
-            const int sent = avcodec_send_packet(decoder_, packet_);
-            if (sent < 0 && sent != AVERROR(EAGAIN) && sent != AVERROR_INVALIDDATA) {
-                av_packet_unref(packet_);
-                return nullptr;
+    const AVFrame *frame = decoder_->next([this](AVPacket *into) {
+        for (;;) {
+            const ClipPacketReader::Read read = reader_->next(into);
+            if (stop_.stop_requested()) {
+                av_packet_unref(into);
+                throw CancellationError();
             }
+            if (read != ClipPacketReader::Read::packet)
+                return false;
+            if (into->stream_index == videoStream_)
+                return true;
+            av_packet_unref(into);
         }
-        av_packet_unref(packet_);
-    }
+    });
+    if (!frame)
+        return nullptr;
+    int64_t pts = VideoDecoder::timestampOf(frame);
+    if (pts == AV_NOPTS_VALUE)
+        pts = videoStart_;
+    *time = double(pts - videoStart_) * timeBase_;
+    return frame;
 }
 
 void CameraFeed::pull()
 {
     hasNext_ = false;
-    av_frame_unref(next_);
+    av_frame_unref(next_.get());
     if (!decoder_)
         return;
     if (stop_.stop_requested())
@@ -171,7 +136,8 @@ void CameraFeed::pull()
     // Past the length the clip was placed with, its pictures belong to nothing.
     if (!frame || time >= segment.sourceStart + (segment.end - segment.start) - epsilon)
         return;
-    av_frame_move_ref(next_, decoded_);
+    if (av_frame_ref(next_.get(), frame) < 0)
+        return;
     nextTime_ = time;
     hasNext_ = true;
 }
@@ -216,10 +182,10 @@ CameraFeed::Picture CameraFeed::at(double t)
     if (!hasShown_) {
         // Before the clip's first picture: that picture, when it is near.
         if (hasNext_ && nextTime_ - local < holdAfterLastPicture)
-            return Picture{next_, segment.clipStart.addingTimeInterval(nextTime_)};
+            return Picture{next_.get(), segment.clipStart.addingTimeInterval(nextTime_)};
         return {};
     }
     if (!hasNext_ && local - shownTime_ > holdAfterLastPicture)
         return {};
-    return Picture{shown_, segment.clipStart.addingTimeInterval(shownTime_)};
+    return Picture{shown_.get(), segment.clipStart.addingTimeInterval(shownTime_)};
 }

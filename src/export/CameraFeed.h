@@ -1,5 +1,6 @@
 #pragma once
 
+#include "media/AvHandles.h"
 #include "model/Camera.h"
 #include "model/ClipRef.h"
 #include "model/Date.h"
@@ -12,10 +13,9 @@
 #include <stop_token>
 #include <vector>
 
-struct AVCodecContext;
 struct AVFrame;
-struct AVPacket;
 class ClipPacketReader;
+class VideoDecoder;
 
 // The pictures of one camera along the event's axis, decoded in order: for
 // each moment asked for, the frame on show then, or nothing where the
@@ -75,16 +75,13 @@ private:
 
     size_t current_ = 0;
     std::unique_ptr<ClipPacketReader> reader_;
-    AVCodecContext *decoder_ = nullptr;
-    AVPacket *packet_ = nullptr;
-    AVFrame *decoded_ = nullptr;
+    std::unique_ptr<VideoDecoder> decoder_;
     int videoStream_ = -1;
     double timeBase_ = 0;
     int64_t videoStart_ = 0;
-    bool inputEnded_ = false;
     bool failed_ = false;
-    AVFrame *shown_ = nullptr;
-    AVFrame *next_ = nullptr;
+    Av::Frame shown_;
+    Av::Frame next_;
     bool hasShown_ = false;
     bool hasNext_ = false;
     double shownTime_ = 0;

@@ -1,7 +1,7 @@
 #include "export/ClipPacketReader.h"
 
-#include "drive/IOWatchdog.h"
-#include "drive/MediaInput.h"
+#include "media/MediaClip.h"
+#include "base/IOWatchdog.h"
 
 extern "C" {
 #include <libavcodec/avcodec.h>
@@ -26,13 +26,7 @@ struct ClipPacketReader::State {
     bool opened = false;
     bool ended = false;
     std::optional<Streams> streams;
-    std::deque<AVPacket *> packets;
-
-    ~State()
-    {
-        for (AVPacket *packet : packets)
-            av_packet_free(&packet);
-    }
+    std::deque<Av::Packet> packets;
 
     void end()
     {
@@ -47,35 +41,25 @@ void ClipPacketReader::readClip(const std::shared_ptr<State> &state, const QStri
                                 std::optional<int64_t> seekTo, Options options)
 {
     const std::stop_token stop = state->stop.get_token();
-    const auto input = MediaInput::open(path, stop);
-    if (!input) {
+    MediaClip::Options open;
+    open.mp4Only = false;
+    open.streamInfo = options.probe ? MediaClip::StreamInfo::always : MediaClip::StreamInfo::never;
+    const auto clip = MediaClip::open(path, stop, open);
+    if (!clip->isOpened()) {
         state->end();
         return;
     }
-    AVFormatContext *format = input->context();
-    if (options.probe && avformat_find_stream_info(format, nullptr) < 0) {
-        state->end();
-        return;
-    }
+    AVFormatContext *format = clip->context();
     Streams streams;
-    streams.video = input->bestStream(AVMEDIA_TYPE_VIDEO);
-    streams.audio = input->bestStream(AVMEDIA_TYPE_AUDIO);
-    if (streams.video < 0) {
-        state->end();
-        return;
-    }
+    streams.video = clip->videoStream();
+    streams.audio = clip->demuxer()->bestStream(AVMEDIA_TYPE_AUDIO);
     for (unsigned i = 0; i < format->nb_streams; ++i)
         streams.timeBases.push_back(format->streams[i]->time_base);
-    AVCodecParameters *parameters = avcodec_parameters_alloc();
-    if (!parameters || avcodec_parameters_copy(parameters, format->streams[streams.video]->codecpar) < 0) {
-        avcodec_parameters_free(&parameters);
+    streams.videoParameters = Av::copyParameters(format->streams[streams.video]->codecpar);
+    if (!streams.videoParameters) {
         state->end();
         return;
     }
-    streams.videoParameters = std::shared_ptr<const AVCodecParameters>(parameters, [](const AVCodecParameters *p) {
-        auto *owned = const_cast<AVCodecParameters *>(p);
-        avcodec_parameters_free(&owned);
-    });
     const AVStream *video = format->streams[streams.video];
     if (video->start_time != AV_NOPTS_VALUE)
         streams.videoStart = video->start_time;
@@ -94,18 +78,14 @@ void ClipPacketReader::readClip(const std::shared_ptr<State> &state, const QStri
         state->changed.notify_all();
     }
     while (!stop.stop_requested()) {
-        AVPacket *packet = av_packet_alloc();
-        if (!packet || av_read_frame(format, packet) < 0) {
-            av_packet_free(&packet);
+        Av::Packet packet(av_packet_alloc());
+        if (!packet || av_read_frame(format, packet.get()) < 0)
             break;
-        }
         std::unique_lock lock(state->mutex);
         state->changed.wait(lock, [&] { return state->packets.size() < readAhead || stop.stop_requested(); });
-        if (stop.stop_requested()) {
-            av_packet_free(&packet);
+        if (stop.stop_requested())
             break;
-        }
-        state->packets.push_back(packet);
+        state->packets.push_back(std::move(packet));
         state->changed.notify_all();
     }
     state->end();
@@ -156,11 +136,9 @@ ClipPacketReader::Read ClipPacketReader::next(AVPacket *into)
         return !state_->packets.empty() || state_->ended || state_->stop.stop_requested();
     });
     if (!state_->packets.empty()) {
-        AVPacket *packet = state_->packets.front();
+        av_packet_move_ref(into, state_->packets.front().get());
         state_->packets.pop_front();
         state_->changed.notify_all();
-        av_packet_move_ref(into, packet);
-        av_packet_free(&packet);
         return Read::packet;
     }
     if (!answered) {

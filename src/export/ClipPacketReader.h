@@ -1,5 +1,7 @@
 #pragma once
 
+#include "media/AvHandles.h"
+
 #include <QString>
 #include <chrono>
 #include <functional>
@@ -26,7 +28,7 @@ public:
         int video = -1;
         int audio = -1;
         std::vector<AVRational> timeBases; // of every stream, by index
-        std::shared_ptr<const AVCodecParameters> videoParameters;
+        Av::SharedCodecParameters videoParameters;
         // With Options::probe: the video's first moment, in its time base,
         // and its average rate (0/1 when the file doesn't say).
         int64_t videoStart = 0;

@@ -1,12 +1,13 @@
 #include "export/CombinedExport.h"
 
 #include "drive/DriveBoundary.h"
-#include "drive/IOWatchdog.h"
 #include "export/CombinedRender.h"
 #include "export/ExportError.h"
 #include "export/Exporter.h"
 #include "export/OverlayText.h"
-#include "model/CancellationError.h"
+#include "export/ProgressRelay.h"
+#include "base/CancellationError.h"
+#include "base/IOWatchdog.h"
 #include "playback/EventTimeline.h"
 #include "playback/TelemetryTimeline.h"
 
@@ -17,12 +18,10 @@
 #include <QUuid>
 
 #include <algorithm>
-#include <atomic>
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
 #include <memory>
-#include <mutex>
 #include <unistd.h>
 
 using Exporter::ExportError;
@@ -168,38 +167,23 @@ void exportMovie(const TeslaEvent &event, const CombinedExportOptions &options, 
     // A read stuck in the kernel must not hold a stopped export: the work
     // runs on a thread of its own, left behind if it can't end when asked.
     // It owns what it uses, and its progress goes quiet once it is left.
-    struct Relay {
-        std::mutex mutex;
-        CombinedExportProgressCallback progress;
-        std::atomic<bool> begun{false}; // the first report comes once the file is made
-    };
-    auto relay = std::make_shared<Relay>();
-    relay->progress = std::move(progress);
-    const auto silence = qScopeGuard([relay] {
-        std::lock_guard lock(relay->mutex);
-        relay->progress = nullptr;
-    });
+    const auto relay = ProgressRelay<CombinedExportProgress>::make(std::move(progress));
+    const auto silence = qScopeGuard([relay] { relay->silence(); });
     try {
         IOWatchdog::runUntilStopped(
             [render, temporary, relay](std::stop_token workStop) {
                 // Whatever becomes of the caller, a movie that isn't whole goes.
                 auto cleanUp = qScopeGuard([temporary] { QFile::remove(temporary); });
                 render->run(
-                    temporary,
-                    [relay](const CombinedExportProgress &p) {
-                        relay->begun = true;
-                        std::lock_guard lock(relay->mutex);
-                        if (relay->progress)
-                            relay->progress(p);
-                    },
-                    workStop);
+                    temporary, [relay](const CombinedExportProgress &p) { relay->report(p); }, workStop);
                 cleanUp.dismiss();
                 return true;
             },
             stop);
     } catch (const CancellationError &) {
-        // Once the file was begun, a stop is the export's own.
-        if (relay->begun)
+        // Once the file was begun (its first report comes then), a stop is
+        // the export's own.
+        if (relay->hasReported())
             throw ExportError(ExportError::cancelled);
         throw;
     }

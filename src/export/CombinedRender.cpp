@@ -7,7 +7,8 @@
 #include "export/H264Encoder.h"
 #include "export/Mp4Writer.h"
 #include "export/OverlayText.h"
-#include "model/CancellationError.h"
+#include "media/AvHandles.h"
+#include "base/CancellationError.h"
 #include "model/DrivingDataText.h"
 
 extern "C" {
@@ -31,15 +32,6 @@ constexpr int mostFramesPerSecond = 60;
 // The reader's frame times and the axis's may differ in the last bits.
 constexpr double recordSlack = 1e-3;
 
-struct BufferUnref {
-    void operator()(AVBufferRef *b) const { av_buffer_unref(&b); }
-};
-using BufferPtr = std::unique_ptr<AVBufferRef, BufferUnref>;
-struct FrameFree {
-    void operator()(AVFrame *f) const { av_frame_free(&f); }
-};
-using FramePtr = std::unique_ptr<AVFrame, FrameFree>;
-
 // The large front camera of newer cars decodes at a third of the others' speed.
 int decoderThreadsFor(const EventTimeline::CameraTrack &track)
 {
@@ -47,9 +39,9 @@ int decoderThreadsFor(const EventTimeline::CameraTrack &track)
 }
 
 // Pictures uploaded to the graphics hardware for its encoder.
-BufferPtr hardwareFrames(AVBufferRef *device, int width, int height)
+Av::Buffer hardwareFrames(AVBufferRef *device, int width, int height)
 {
-    BufferPtr frames(av_hwframe_ctx_alloc(device));
+    Av::Buffer frames(av_hwframe_ctx_alloc(device));
     if (!frames)
         return nullptr;
     auto *context = reinterpret_cast<AVHWFramesContext *>(frames->data);
@@ -87,7 +79,7 @@ void CombinedRender::run(const QString &path, const CombinedExportProgressCallba
 void CombinedRender::attempt(const QString &path, bool hardware, const CombinedExportProgressCallback &progress,
                              std::stop_token stop)
 {
-    BufferPtr device;
+    Av::Buffer device;
     if (hardware) {
         device.reset(H264Encoder::openHardwareDevice(options_.hardwareDevice));
         if (!device)
@@ -127,7 +119,7 @@ void CombinedRender::attempt(const QString &path, bool hardware, const CombinedE
     texts.drivingData = telemetry != nullptr;
     const bool miles = options_.speedInMiles.value_or(DrivingDataText::milesByDefault());
 
-    BufferPtr frames;
+    Av::Buffer frames;
     std::unique_ptr<H264Encoder> encoder;
     if (hardware) {
         frames = hardwareFrames(device.get(), layout.width(), layout.height());
@@ -145,17 +137,11 @@ void CombinedRender::attempt(const QString &path, bool hardware, const CombinedE
     Mp4Writer writer(path, stop);
     int stream = -1;
     {
-        AVCodecParameters *parameters = avcodec_parameters_alloc();
+        const Av::CodecParameters parameters(avcodec_parameters_alloc());
         if (!parameters)
             throw ExportError(ExportError::compositionFailed);
-        encoder->parametersInto(parameters);
-        try {
-            stream = writer.addStream(parameters, encoder->timeBase());
-        } catch (...) {
-            avcodec_parameters_free(&parameters);
-            throw;
-        }
-        avcodec_parameters_free(&parameters);
+        encoder->parametersInto(parameters.get());
+        stream = writer.addStream(parameters.get(), encoder->timeBase());
     }
     writer.begin();
     const AVRational streamBase = writer.timeBase(stream);
@@ -194,9 +180,9 @@ void CombinedRender::attempt(const QString &path, bool hardware, const CombinedE
         wrote = true;
     };
     const CompositeGraph::Sink encode = [&](AVFrame *canvas) {
-        FramePtr owned(canvas);
+        Av::Frame owned(canvas);
         if (hardware) {
-            FramePtr uploaded(av_frame_alloc());
+            Av::Frame uploaded(av_frame_alloc());
             if (!uploaded || av_hwframe_get_buffer(frames.get(), uploaded.get(), 0) < 0
                 || av_hwframe_transfer_data(uploaded.get(), canvas, 0) < 0)
                 throw HardwareUnusable();

@@ -47,11 +47,10 @@ AVFilterContext *addFilter(AVFilterGraph *graph, const char *filter, const QStri
     AVFilterContext *context = avfilter_graph_alloc_filter(graph, type, name.toUtf8().constData());
     if (!context)
         unavailable(QString::fromLatin1(filter), AVERROR(ENOMEM));
-    AVDictionary *dictionary = nullptr;
+    Av::Dictionary dictionary;
     for (const auto &[key, value] : options)
-        av_dict_set(&dictionary, key, value.toUtf8().constData(), 0);
-    const int result = avfilter_init_dict(context, &dictionary);
-    av_dict_free(&dictionary);
+        dictionary.set(key, value.toUtf8().constData());
+    const int result = avfilter_init_dict(context, dictionary.out());
     if (result < 0)
         unavailable(QString::fromLatin1(filter), result);
     return context;
@@ -115,19 +114,11 @@ void configure(AVFilterGraph *graph)
         unavailable(QStringLiteral("configuring"), result);
 }
 
-struct FrameFree {
-    void operator()(AVFrame *f) const { av_frame_free(&f); }
-};
-using FramePtr = std::unique_ptr<AVFrame, FrameFree>;
-struct GraphFree {
-    void operator()(AVFilterGraph *g) const { avfilter_graph_free(&g); }
-};
-
 // A copy of the picture with words in its middle, in grey.
-AVFrame *withWords(const AVFrame *picture, const QString &words, int size, const QString &timeBase,
+Av::Frame withWords(const AVFrame *picture, const QString &words, int size, const QString &timeBase,
                    const QString &rate)
 {
-    std::unique_ptr<AVFilterGraph, GraphFree> graph(avfilter_graph_alloc());
+    const Av::FilterGraph graph(avfilter_graph_alloc());
     if (!graph)
         unavailable(QStringLiteral("memory"), AVERROR(ENOMEM));
     AVFilterContext *source = addFilter(
@@ -142,8 +133,8 @@ AVFrame *withWords(const AVFrame *picture, const QString &words, int size, const
     AVFilterContext *sink = addFilter(graph.get(), "buffersink", QStringLiteral("done"), {});
     link(text, sink);
     configure(graph.get());
-    FramePtr in(av_frame_clone(picture));
-    FramePtr out(av_frame_alloc());
+    Av::Frame in(av_frame_clone(picture));
+    Av::Frame out(av_frame_alloc());
     if (!in || !out)
         unavailable(QStringLiteral("memory"), AVERROR(ENOMEM));
     in->pts = 0;
@@ -154,7 +145,7 @@ AVFrame *withWords(const AVFrame *picture, const QString &words, int size, const
         result = av_buffersink_get_frame(sink, out.get());
     if (result < 0)
         unavailable(QStringLiteral("drawing a name"), result);
-    return out.release();
+    return out;
 }
 } // namespace
 
@@ -165,7 +156,7 @@ CompositeGraph::CompositeGraph(const CombinedLayout &layout, const std::vector<I
     const auto &cells = layout.cells();
     if (cells.empty() || cells.size() != inputs.size())
         unavailable(QStringLiteral("no cameras"));
-    compose_ = avfilter_graph_alloc();
+    compose_.reset(avfilter_graph_alloc());
     if (!compose_)
         unavailable(QStringLiteral("memory"), AVERROR(ENOMEM));
     const QString timeBase = QStringLiteral("1/%1").arg(framesPerSecond);
@@ -184,7 +175,7 @@ CompositeGraph::CompositeGraph(const CombinedLayout &layout, const std::vector<I
         if (!formatName)
             unavailable(QStringLiteral("unknown picture format"));
         const QString suffix = QString::number(i);
-        AVFilterContext *source = addFilter(compose_, "buffer", QStringLiteral("in") + suffix,
+        AVFilterContext *source = addFilter(compose_.get(), "buffer", QStringLiteral("in") + suffix,
                                             {{"video_size", QStringLiteral("%1x%2").arg(input.width).arg(input.height)},
                                              {"pix_fmt", QString::fromLatin1(formatName)},
                                              {"time_base", timeBase},
@@ -193,8 +184,7 @@ CompositeGraph::CompositeGraph(const CombinedLayout &layout, const std::vector<I
         sources_.push_back(source);
 
         // The black a missing minute shows, in the camera's own format.
-        AVFrame *black = av_frame_alloc();
-        black_.push_back(black);
+        Av::Frame black(av_frame_alloc());
         if (!black)
             unavailable(QStringLiteral("memory"), AVERROR(ENOMEM));
         black->format = format;
@@ -203,23 +193,22 @@ CompositeGraph::CompositeGraph(const CombinedLayout &layout, const std::vector<I
         const bool fullRange = format == AV_PIX_FMT_YUVJ420P || format == AV_PIX_FMT_YUVJ422P
             || format == AV_PIX_FMT_YUVJ444P;
         black->color_range = fullRange ? AVCOL_RANGE_JPEG : AVCOL_RANGE_MPEG;
-        if (av_frame_get_buffer(black, 0) < 0)
+        if (av_frame_get_buffer(black.get(), 0) < 0)
             unavailable(QStringLiteral("memory"), AVERROR(ENOMEM));
         ptrdiff_t linesizes[4] = {black->linesize[0], black->linesize[1], black->linesize[2], black->linesize[3]};
         av_image_fill_black(black->data, linesizes, format, black->color_range, input.width, input.height);
         // The camera's name goes on once, at the size it will have in its
         // cell, instead of onto every frame.
         const int gapSize = std::max(8, labelSize * 3 / 2 * input.height / std::max(2, cell.picture.height));
-        black_.back() = withWords(black, OverlayText::noFootage(cell.camera), gapSize, timeBase, rate);
-        av_frame_free(&black);
+        black_.push_back(withWords(black.get(), OverlayText::noFootage(cell.camera), gapSize, timeBase, rate));
 
-        AVFilterContext *last = chain(compose_, source, "scale", QStringLiteral("scale") + suffix,
+        AVFilterContext *last = chain(compose_.get(), source, "scale", QStringLiteral("scale") + suffix,
                                       {{"w", number(cell.picture.width)},
                                        {"h", number(cell.picture.height)},
                                        {"flags", QString::fromLatin1(scaleFlags)}});
-        last = chain(compose_, last, "format", QStringLiteral("format") + suffix, {{"pix_fmts", QStringLiteral("yuv420p")}});
+        last = chain(compose_.get(), last, "format", QStringLiteral("format") + suffix, {{"pix_fmts", QStringLiteral("yuv420p")}});
         if (cell.picture.width != cell.area.width || cell.picture.height != cell.area.height)
-            last = chain(compose_, last, "pad", QStringLiteral("pad") + suffix,
+            last = chain(compose_.get(), last, "pad", QStringLiteral("pad") + suffix,
                          {{"width", number(cell.area.width)},
                           {"height", number(cell.area.height)},
                           {"x", number(cell.picture.x)},
@@ -228,7 +217,7 @@ CompositeGraph::CompositeGraph(const CombinedLayout &layout, const std::vector<I
         // Placed by the font's size, not the words' own height, so that
         // names with and without descenders stand on one line.
         if (texts.names)
-            last = drawText(compose_, last, QStringLiteral("name") + suffix, cell.camera.displayName(), false,
+            last = drawText(compose_.get(), last, QStringLiteral("name") + suffix, cell.camera.displayName(), false,
                             labelSize, number(margin), QStringLiteral("h-%1").arg(labelSize * 5 / 4 + margin), true);
         cellOutputs.push_back(last);
     }
@@ -238,25 +227,25 @@ CompositeGraph::CompositeGraph(const CombinedLayout &layout, const std::vector<I
         QStringList places;
         for (const CombinedLayout::Cell &cell : cells)
             places << QStringLiteral("%1_%2").arg(cell.area.x).arg(cell.area.y);
-        canvas = addFilter(compose_, "xstack", QStringLiteral("stack"),
+        canvas = addFilter(compose_.get(), "xstack", QStringLiteral("stack"),
                            {{"inputs", number(int(cellOutputs.size()))},
                             {"layout", places.join(QLatin1Char('|'))},
                             {"fill", QStringLiteral("black")}});
         for (size_t i = 0; i < cellOutputs.size(); ++i)
             link(cellOutputs[i], canvas, unsigned(i));
     }
-    composed_ = addFilter(compose_, "buffersink", QStringLiteral("composed"), {});
+    composed_ = addFilter(compose_.get(), "buffersink", QStringLiteral("composed"), {});
     link(canvas, composed_);
-    configure(compose_);
+    configure(compose_.get());
 
     // The whole canvas's words need each frame's own text, which the
     // stacking above doesn't pass on: they are drawn in a graph of their own.
     if (!texts.time && !texts.reason && !texts.drivingData && !nv12)
         return;
-    overlay_ = avfilter_graph_alloc();
+    overlay_.reset(avfilter_graph_alloc());
     if (!overlay_)
         unavailable(QStringLiteral("memory"), AVERROR(ENOMEM));
-    overlayIn_ = addFilter(overlay_, "buffer", QStringLiteral("canvas"),
+    overlayIn_ = addFilter(overlay_.get(), "buffer", QStringLiteral("canvas"),
                            {{"video_size", QStringLiteral("%1x%2").arg(layout.width()).arg(layout.height())},
                             {"pix_fmt", QStringLiteral("yuv420p")},
                             {"time_base", timeBase},
@@ -265,32 +254,26 @@ CompositeGraph::CompositeGraph(const CombinedLayout &layout, const std::vector<I
     AVFilterContext *last = overlayIn_;
     if (texts.time) {
         const int left = margin + (texts.marker ? TimeMarker::blocks * layout.markerBlock() + margin : 0);
-        last = drawText(overlay_, last, QStringLiteral("time"),
+        last = drawText(overlay_.get(), last, QStringLiteral("time"),
                         QStringLiteral("%{metadata:%1}").arg(QString::fromLatin1(timeKey)), true,
                         layout.timeTextSize(), number(left), number(margin), true);
     }
     if (texts.reason)
-        last = drawText(overlay_, last, QStringLiteral("reason"), *texts.reason, false, layout.labelTextSize(),
+        last = drawText(overlay_.get(), last, QStringLiteral("reason"), *texts.reason, false, layout.labelTextSize(),
                         QStringLiteral("w-text_w-%1").arg(margin), number(margin), true);
     if (texts.drivingData) {
         panel_.emplace(layout);
         for (const DrivingDataPanel::Words &words : panel_->words())
-            last = drawPanelWords(overlay_, last, words);
+            last = drawPanelWords(overlay_.get(), last, words);
     }
     if (nv12)
-        last = chain(overlay_, last, "format", QStringLiteral("upload"), {{"pix_fmts", QStringLiteral("nv12")}});
-    overlayOut_ = addFilter(overlay_, "buffersink", QStringLiteral("finished"), {});
+        last = chain(overlay_.get(), last, "format", QStringLiteral("upload"), {{"pix_fmts", QStringLiteral("nv12")}});
+    overlayOut_ = addFilter(overlay_.get(), "buffersink", QStringLiteral("finished"), {});
     link(last, overlayOut_);
-    configure(overlay_);
+    configure(overlay_.get());
 }
 
-CompositeGraph::~CompositeGraph()
-{
-    avfilter_graph_free(&compose_);
-    avfilter_graph_free(&overlay_);
-    for (AVFrame *&frame : black_)
-        av_frame_free(&frame);
-}
+CompositeGraph::~CompositeGraph() = default;
 
 void CompositeGraph::add(int64_t tick, const std::vector<const AVFrame *> &pictures, const Label &label,
                          const Sink &sink)
@@ -298,7 +281,7 @@ void CompositeGraph::add(int64_t tick, const std::vector<const AVFrame *> &pictu
     labels_[tick] = label;
     for (size_t i = 0; i < sources_.size(); ++i) {
         const AVFrame *picture = i < pictures.size() ? pictures[i] : nullptr;
-        FramePtr frame(av_frame_clone(picture ? picture : black_[i]));
+        Av::Frame frame(av_frame_clone(picture ? picture : black_[i].get()));
         if (!frame)
             unavailable(QStringLiteral("memory"), AVERROR(ENOMEM));
         frame->pts = tick;
@@ -327,7 +310,7 @@ void CompositeGraph::drain(const Sink &sink)
 {
     const AVRational base = av_buffersink_get_time_base(composed_);
     for (;;) {
-        FramePtr canvas(av_frame_alloc());
+        Av::Frame canvas(av_frame_alloc());
         if (!canvas)
             unavailable(QStringLiteral("memory"), AVERROR(ENOMEM));
         const int result = av_buffersink_get_frame(composed_, canvas.get());
@@ -358,6 +341,7 @@ void CompositeGraph::decorate(AVFrame *canvas, const Sink &sink)
         return;
     }
     if (canvas) {
+        const Av::Frame owned(canvas);
         const auto label = labels_.find(canvas->pts);
         av_dict_set(&canvas->metadata, timeKey, label != labels_.end() ? label->second.time.toUtf8().constData() : "", 0);
         if (panel_) {
@@ -368,14 +352,13 @@ void CompositeGraph::decorate(AVFrame *canvas, const Sink &sink)
                 panel_->paint(canvas, *reading);
             panel_->label(canvas, reading);
         }
-        const int result = av_buffersrc_add_frame_flags(overlayIn_, canvas, 0);
-        av_frame_free(&canvas);
+        const int result = av_buffersrc_add_frame_flags(overlayIn_, owned.get(), 0);
         if (result < 0)
             unavailable(QStringLiteral("drawing the time"), result);
     }
     const AVRational base = av_buffersink_get_time_base(overlayOut_);
     for (;;) {
-        FramePtr finished(av_frame_alloc());
+        Av::Frame finished(av_frame_alloc());
         if (!finished)
             unavailable(QStringLiteral("memory"), AVERROR(ENOMEM));
         const int result = av_buffersink_get_frame(overlayOut_, finished.get());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "media/AvHandles.h"
 #include "export/CombinedExportOptions.h"
 #include "export/CombinedLayout.h"
 #include "export/DrivingDataPanel.h"
@@ -69,13 +70,13 @@ private:
     Texts texts_;
     int framesPerSecond_;
 
-    AVFilterGraph *compose_ = nullptr;
+    Av::FilterGraph compose_;
     std::vector<AVFilterContext *> sources_;
-    std::vector<AVFrame *> black_;
+    std::vector<Av::Frame> black_;
     AVFilterContext *composed_ = nullptr;
 
     std::optional<DrivingDataPanel> panel_;
-    AVFilterGraph *overlay_ = nullptr; // null when nothing is drawn over the whole canvas
+    Av::FilterGraph overlay_; // null when nothing is drawn over the whole canvas
     AVFilterContext *overlayIn_ = nullptr;
     AVFilterContext *overlayOut_ = nullptr;
     std::map<int64_t, Label> labels_;

@@ -1,8 +1,9 @@
 #include "export/ExportComposition.h"
 
-#include "drive/IOWatchdog.h"
-#include "drive/MediaInput.h"
-#include "model/CancellationError.h"
+#include "media/AvHandles.h"
+#include "media/MediaClip.h"
+#include "base/CancellationError.h"
+#include "base/IOWatchdog.h"
 
 extern "C" {
 #include <libavcodec/avcodec.h>
@@ -17,43 +18,6 @@ extern "C" {
 #include <optional>
 
 namespace {
-
-std::shared_ptr<const AVCodecParameters> copyParameters(const AVCodecParameters *source)
-{
-    AVCodecParameters *copy = avcodec_parameters_alloc();
-    if (!copy)
-        return nullptr;
-    if (avcodec_parameters_copy(copy, source) < 0) {
-        avcodec_parameters_free(&copy);
-        return nullptr;
-    }
-    return std::shared_ptr<const AVCodecParameters>(copy, [](const AVCodecParameters *p) {
-        auto *mutableP = const_cast<AVCodecParameters *>(p);
-        avcodec_parameters_free(&mutableP);
-    });
-}
-
-// The clip is playable when a decoder for its video exists and accepts
-// the stream's configuration.
-bool decoderOpens(const AVCodecParameters *params)
-{
-    const AVCodec *codec = avcodec_find_decoder(params->codec_id);
-    if (!codec)
-        return false;
-    AVCodecContext *context = avcodec_alloc_context3(codec);
-    if (!context)
-        return false;
-    bool ok = avcodec_parameters_to_context(context, params) >= 0;
-    context->thread_count = 1;
-    ok = ok && avcodec_open2(context, codec, nullptr) >= 0;
-    avcodec_free_context(&context);
-    return ok;
-}
-
-bool incomplete(const AVCodecParameters *params)
-{
-    return params->codec_id == AV_CODEC_ID_NONE || params->width <= 0 || params->height <= 0;
-}
 
 // Where the clip's media starts and ends, in seconds. A clip whose edit
 // list begins with empty time (a non-zero start) counts from its first
@@ -81,68 +45,47 @@ std::optional<std::pair<double, double>> mediaExtent(const AVFormatContext *form
     return std::make_pair(start, start + double(format->duration) / AV_TIME_BASE);
 }
 
-// How long the clip's own pictures last, from the container's index of its
-// samples (nothing more is read). A damaged header can claim far more.
-std::optional<double> indexedLength(AVStream *stream)
-{
-    const int count = avformat_index_get_entries_count(stream);
-    if (count < 2)
-        return std::nullopt;
-    const AVIndexEntry *first = avformat_index_get_entry(stream, 0);
-    const AVIndexEntry *last = avformat_index_get_entry(stream, count - 1);
-    if (!first || !last || last->timestamp <= first->timestamp)
-        return std::nullopt;
-    const double span = double(last->timestamp - first->timestamp) * av_q2d(stream->time_base);
-    return span + span / (count - 1); // the last picture lasts one frame too
-}
-
+// The clip as one camera's export uses it: a movie with video that decodes,
+// whose header holds for its data, as long as its pictures (and sound) really go.
 std::optional<ExportSegment> judge(const QString &path, std::stop_token stop)
 {
-    const auto input = MediaInput::open(path, stop);
-    if (!input)
-        return std::nullopt;
-    AVFormatContext *format = input->context();
-    int video = input->bestStream(AVMEDIA_TYPE_VIDEO);
+    MediaClip::Options options;
+    options.mp4Only = false;
     // MP4 headers already describe their streams; probing packets is only
     // needed for containers that don't.
-    if (video < 0 || incomplete(format->streams[video]->codecpar) || format->duration == AV_NOPTS_VALUE) {
-        if (avformat_find_stream_info(format, nullptr) < 0)
-            return std::nullopt;
-        video = input->bestStream(AVMEDIA_TYPE_VIDEO);
-    }
-    if (video < 0 || incomplete(format->streams[video]->codecpar))
+    options.streamInfo = MediaClip::StreamInfo::whenIncomplete;
+    options.checkHeader = true;
+    options.decode = VideoDecoder::Options{};
+    const auto clip = MediaClip::open(path, stop, options);
+    if (!clip->isOpened() || !clip->facts().usable())
         return std::nullopt;
-    const AVStream *videoStream = format->streams[video];
-    if (!decoderOpens(videoStream->codecpar))
-        return std::nullopt;
-    int audio = input->bestStream(AVMEDIA_TYPE_AUDIO);
+    const AVFormatContext *format = clip->context();
+    const int video = clip->videoStream();
+    const AVStream *videoStream = clip->video();
+    int audio = clip->demuxer()->bestStream(AVMEDIA_TYPE_AUDIO);
     if (audio >= 0 && format->streams[audio]->codecpar->codec_id == AV_CODEC_ID_NONE)
         audio = -1;
     const std::optional<std::pair<double, double>> extent = mediaExtent(format, {video, audio});
     if (!extent)
         return std::nullopt;
     double seconds = extent->second - extent->first;
+    // Never longer than the pictures the file really holds.
+    if (clip->facts().verdict == HeaderCheck::ClipFacts::Verdict::shortened)
+        seconds = std::min(seconds, clip->facts().lengthSeconds);
     if (!std::isfinite(seconds) || seconds <= 0.0)
         return std::nullopt;
-    if (audio < 0) {
-        // Trusted only as far as the pictures go.
-        AVStream *stream = format->streams[video];
-        const auto indexed = indexedLength(stream);
-        if (indexed && seconds - *indexed > *indexed / avformat_index_get_entries_count(stream))
-            seconds = *indexed;
-    }
 
     ExportSegment segment;
     segment.path = path;
     segment.origin = extent->first;
     segment.duration = seconds;
-    segment.video = copyParameters(videoStream->codecpar);
+    segment.video = Av::copyParameters(videoStream->codecpar);
     segment.videoTimeBase = videoStream->time_base;
     segment.frameRate = videoStream->avg_frame_rate.num > 0 ? videoStream->avg_frame_rate : videoStream->r_frame_rate;
     if (!segment.video)
         return std::nullopt;
     if (audio >= 0) {
-        segment.audio = copyParameters(format->streams[audio]->codecpar);
+        segment.audio = Av::copyParameters(format->streams[audio]->codecpar);
         segment.audioTimeBase = format->streams[audio]->time_base;
     }
     return segment;

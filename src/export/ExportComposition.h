@@ -2,6 +2,8 @@
 
 #include "model/ClipRef.h"
 
+#include "media/AvHandles.h"
+
 extern "C" {
 #include <libavutil/rational.h>
 }
@@ -20,10 +22,10 @@ struct ExportSegment {
     double start = 0.0;    // seconds on the joined timeline
     double origin = 0.0;   // the clip's own time of its first moment, in seconds
     double duration = 0.0; // the clip's own length in seconds
-    std::shared_ptr<const AVCodecParameters> video;
+    Av::SharedCodecParameters video;
     AVRational videoTimeBase{1, 1};
     AVRational frameRate{0, 1};
-    std::shared_ptr<const AVCodecParameters> audio; // null without audio
+    Av::SharedCodecParameters audio; // null without audio
     AVRational audioTimeBase{1, 1};
 
     double end() const { return start + duration; }
@@ -36,7 +38,8 @@ struct ExportComposition {
     double duration = 0.0; // the running cursor after the last clip
 
     // Opens each clip in order, one at a time, and keeps those that open,
-    // have video and a finite positive length. Throws CancellationError
+    // have video that decodes, a header that holds for their data and a
+    // finite positive length: as long as the pictures the file really holds. Throws CancellationError
     // when stop is requested before the next clip.
     static ExportComposition build(const std::vector<ClipRef> &clips, std::stop_token stop,
                                    std::chrono::milliseconds clipLimit);

@@ -21,10 +21,6 @@ namespace {
 // the index to the front, which rewrites the whole file once more.
 constexpr double writingShare = 0.8;
 constexpr auto reportInterval = std::chrono::milliseconds(100);
-
-struct PacketDeleter {
-    void operator()(AVPacket *p) const { av_packet_free(&p); }
-};
 } // namespace
 
 struct ExportSession::OutputStream {
@@ -74,17 +70,11 @@ void ExportSession::run()
     if (copy) {
         video_->index = writer_->addStream(first.video.get(), first.videoTimeBase);
     } else {
-        AVCodecParameters *parameters = avcodec_parameters_alloc();
+        const Av::CodecParameters parameters(avcodec_parameters_alloc());
         if (!parameters)
             throw ExportError(ExportError::compositionFailed);
-        reencoder_->parametersInto(parameters);
-        try {
-            video_->index = writer_->addStream(parameters, reencoder_->timeBase());
-        } catch (...) {
-            avcodec_parameters_free(&parameters);
-            throw;
-        }
-        avcodec_parameters_free(&parameters);
+        reencoder_->parametersInto(parameters.get());
+        video_->index = writer_->addStream(parameters.get(), reencoder_->timeBase());
     }
     if (withAudio) {
         audio_ = std::make_unique<OutputStream>();
@@ -185,7 +175,7 @@ void ExportSession::copyClip(const ExportSegment &segment)
     std::optional<int64_t> videoShift;
     std::optional<int64_t> audioShift;
 
-    std::unique_ptr<AVPacket, PacketDeleter> packet(av_packet_alloc());
+    const Av::Packet packet(av_packet_alloc());
     if (!packet)
         throw ExportError::failed(QStringLiteral("There wasn't enough memory to export the footage."));
     // How far into the clip its pictures and sound really went.
@@ -219,10 +209,10 @@ void ExportSession::copyClip(const ExportSegment &segment)
             report(writingShare * (clipOffset + local) / span);
             // No sample lasts past what the clip's pictures span, and no
             // picture for more than a few frames' time: a damaged table can
-            // give one seconds or days.
+            // give one seconds or days. One without a time lasts a frame.
             const int64_t shown = packet->pts != AV_NOPTS_VALUE ? packet->pts : dts;
             const double shownFrom = clipTime(shown, inBase);
-            if (isVideo && double(packet->duration) * av_q2d(inBase) > 4 * frame)
+            if (isVideo && (packet->duration <= 0 || double(packet->duration) * av_q2d(inBase) > 4 * frame))
                 packet->duration = std::llround(frame / av_q2d(inBase));
             const double trustedEnd = std::min(localUpper, segment.duration);
             if (shownFrom + double(packet->duration) * av_q2d(inBase) > trustedEnd)

@@ -1,15 +1,15 @@
 #include "export/Exporter.h"
 
 #include "export/ExportComposition.h"
-#include "drive/IOWatchdog.h"
 #include "export/ExportSession.h"
-#include "model/CancellationError.h"
+#include "export/ProgressRelay.h"
+#include "base/CancellationError.h"
+#include "base/IOWatchdog.h"
 
 #include <QScopeGuard>
 
 #include <algorithm>
 #include <memory>
-#include <mutex>
 #include <vector>
 
 namespace Exporter {
@@ -50,26 +50,14 @@ void exportFootage(Camera camera, const TeslaEvent &event, std::optional<std::pa
     // A read stuck in the kernel must not hold a stopped export: the session
     // runs on a thread of its own, left behind if it can't end when asked.
     // It owns what it uses, and its progress goes quiet once it is left.
-    struct Relay {
-        std::mutex mutex;
-        std::function<void(double)> progress;
-    };
     if (stop.stop_requested())
         throw CancellationError();
-    auto relay = std::make_shared<Relay>();
-    relay->progress = std::move(progress);
-    const auto silence = qScopeGuard([relay] {
-        std::lock_guard lock(relay->mutex);
-        relay->progress = nullptr;
-    });
+    const auto relay = ProgressRelay<double>::make(std::move(progress));
+    const auto silence = qScopeGuard([relay] { relay->silence(); });
     try {
         IOWatchdog::runUntilStopped(
             [composition, lower, upper, destination, relay, readLimit](std::stop_token sessionStop) {
-                const auto report = [relay](double fraction) {
-                    std::lock_guard lock(relay->mutex);
-                    if (relay->progress)
-                        relay->progress(fraction);
-                };
+                const auto report = [relay](double fraction) { relay->report(fraction); };
                 ExportSession session(*composition, lower, upper, destination, report, sessionStop, readLimit);
                 session.run();
                 return true;

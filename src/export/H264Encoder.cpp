@@ -44,18 +44,17 @@ std::unique_ptr<H264Encoder> H264Encoder::software(int width, int height, int fr
     if (!codec)
         throw ExportError(ExportError::exportSessionUnavailable);
     std::unique_ptr<H264Encoder> self(new H264Encoder);
-    self->context_ = avcodec_alloc_context3(codec);
-    self->packet_ = av_packet_alloc();
+    self->context_.reset(avcodec_alloc_context3(codec));
+    self->packet_.reset(av_packet_alloc());
     if (!self->context_ || !self->packet_)
         throw ExportError::failed(QStringLiteral("There wasn't enough memory to export the footage."));
-    setCommon(self->context_, width, height, framesPerSecond);
+    setCommon(self->context_.get(), width, height, framesPerSecond);
     self->context_->pix_fmt = AV_PIX_FMT_YUV420P;
     self->context_->thread_count = 0;
-    AVDictionary *options = nullptr;
-    av_dict_set(&options, "preset", x264Preset, 0);
-    av_dict_set_int(&options, "crf", x264Quality, 0);
-    const int opened = avcodec_open2(self->context_, codec, &options);
-    av_dict_free(&options);
+    Av::Dictionary options;
+    options.set("preset", x264Preset);
+    options.set("crf", (long long)x264Quality);
+    const int opened = avcodec_open2(self->context_.get(), codec, options.out());
     if (opened < 0)
         throw ExportError::failed(
             QStringLiteral("The movie's video encoder couldn't be started: %1.").arg(errorText(opened)));
@@ -83,28 +82,23 @@ std::unique_ptr<H264Encoder> H264Encoder::hardware(AVBufferRef *framesContext, i
         return nullptr;
     std::unique_ptr<H264Encoder> self(new H264Encoder);
     self->hardware_ = true;
-    self->context_ = avcodec_alloc_context3(codec);
-    self->packet_ = av_packet_alloc();
+    self->context_.reset(avcodec_alloc_context3(codec));
+    self->packet_.reset(av_packet_alloc());
     if (!self->context_ || !self->packet_)
         return nullptr;
-    setCommon(self->context_, width, height, framesPerSecond);
+    setCommon(self->context_.get(), width, height, framesPerSecond);
     self->context_->pix_fmt = AV_PIX_FMT_VAAPI;
     self->context_->hw_frames_ctx = av_buffer_ref(framesContext);
-    AVDictionary *options = nullptr;
-    av_dict_set(&options, "rc_mode", "CQP", 0);
-    av_dict_set_int(&options, "qp", hardwareQuality, 0);
-    const int opened = avcodec_open2(self->context_, codec, &options);
-    av_dict_free(&options);
+    Av::Dictionary options;
+    options.set("rc_mode", "CQP");
+    options.set("qp", (long long)hardwareQuality);
+    const int opened = avcodec_open2(self->context_.get(), codec, options.out());
     if (opened < 0)
         return nullptr;
     return self;
 }
 
-H264Encoder::~H264Encoder()
-{
-    avcodec_free_context(&context_);
-    av_packet_free(&packet_);
-}
+H264Encoder::~H264Encoder() = default;
 
 AVRational H264Encoder::timeBase() const
 {
@@ -113,19 +107,19 @@ AVRational H264Encoder::timeBase() const
 
 void H264Encoder::parametersInto(AVCodecParameters *parameters) const
 {
-    avcodec_parameters_from_context(parameters, context_);
+    avcodec_parameters_from_context(parameters, context_.get());
 }
 
 void H264Encoder::encode(const AVFrame *frame, const PacketSink &sink)
 {
-    const int sent = avcodec_send_frame(context_, frame);
+    const int sent = avcodec_send_frame(context_.get(), frame);
     if (sent < 0 && sent != AVERROR_EOF) {
         if (hardware_)
             throw HardwareFailed();
         throw ExportError::failed(QStringLiteral("The footage couldn't be encoded: %1.").arg(errorText(sent)));
     }
     for (;;) {
-        const int received = avcodec_receive_packet(context_, packet_);
+        const int received = avcodec_receive_packet(context_.get(), packet_.get());
         if (received == AVERROR(EAGAIN) || received == AVERROR_EOF)
             return;
         if (received < 0) {
@@ -136,7 +130,7 @@ void H264Encoder::encode(const AVFrame *frame, const PacketSink &sink)
         }
         if (packet_->duration <= 0)
             packet_->duration = 1; // one frame in the time base
-        sink(packet_);
-        av_packet_unref(packet_);
+        sink(packet_.get());
+        av_packet_unref(packet_.get());
     }
 }

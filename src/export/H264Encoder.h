@@ -1,5 +1,7 @@
 #pragma once
 
+#include "media/AvHandles.h"
+
 #include <QString>
 #include <exception>
 #include <functional>
@@ -53,7 +55,7 @@ public:
 private:
     H264Encoder() = default;
 
-    AVCodecContext *context_ = nullptr;
-    AVPacket *packet_ = nullptr;
+    Av::CodecContext context_;
+    Av::Packet packet_;
     bool hardware_ = false;
 };

@@ -45,34 +45,34 @@ Mp4Writer::Mp4Writer(const QString &path, std::stop_token stop) : path_(path), s
     }
     // The muxer reopens the file by name to move the index to the front.
     const QByteArray url = "file:" + QFile::encodeName(path);
-    if (avformat_alloc_output_context2(&format_, nullptr, "mp4", url.constData()) < 0 || !format_)
+    AVFormatContext *format = nullptr;
+    if (avformat_alloc_output_context2(&format, nullptr, "mp4", url.constData()) < 0 || !format)
         throw ExportError(ExportError::compositionFailed);
+    format_.reset(format);
     auto *buffer = static_cast<uint8_t *>(av_malloc(ioBufferSize));
-    io_ = buffer ? avio_alloc_context(buffer, ioBufferSize, 1, this, nullptr, &Mp4Writer::writeBytes, &Mp4Writer::seek)
-                 : nullptr;
+    io_.reset(buffer ? avio_alloc_context(buffer, ioBufferSize, 1, this, nullptr, &Mp4Writer::writeBytes,
+                                          &Mp4Writer::seek)
+                     : nullptr);
     if (!io_) {
         av_free(buffer);
         throw ExportError(ExportError::compositionFailed);
     }
-    format_->pb = io_;
+    format_->pb = io_.get();
 }
 
 Mp4Writer::~Mp4Writer()
 {
-    if (io_) {
-        avio_flush(io_);
-        av_freep(&io_->buffer);
-        avio_context_free(&io_);
-    }
-    if (format_)
-        avformat_free_context(format_);
+    if (io_)
+        avio_flush(io_.get());
+    io_.reset();
+    format_.reset();
     if (fd_ >= 0)
         ::close(fd_);
 }
 
 int Mp4Writer::addStream(const AVCodecParameters *parameters, AVRational timeBase)
 {
-    AVStream *stream = avformat_new_stream(format_, nullptr);
+    AVStream *stream = avformat_new_stream(format_.get(), nullptr);
     if (!stream || avcodec_parameters_copy(stream->codecpar, parameters) < 0)
         throw ExportError(ExportError::compositionFailed);
     // A source's tag that MP4 doesn't know for this codec would fail the
@@ -88,10 +88,9 @@ int Mp4Writer::addStream(const AVCodecParameters *parameters, AVRational timeBas
 
 void Mp4Writer::begin()
 {
-    AVDictionary *options = nullptr;
-    av_dict_set(&options, "movflags", "+faststart", 0);
-    const int result = avformat_write_header(format_, &options);
-    av_dict_free(&options);
+    Av::Dictionary options;
+    options.set("movflags", "+faststart");
+    const int result = avformat_write_header(format_.get(), options.out());
     if (result < 0)
         fail(QStringLiteral("The movie couldn't be started"), result);
 }
@@ -113,7 +112,7 @@ void Mp4Writer::write(AVPacket *packet)
     if (packet->dts != AV_NOPTS_VALUE)
         last = packet->dts;
     packet->pos = -1;
-    const int result = av_interleaved_write_frame(format_, packet);
+    const int result = av_interleaved_write_frame(format_.get(), packet);
     if (result < 0 && !fileFailed_ && !stop_.stop_requested())
         throw PacketRefused();
     if (result < 0)
@@ -122,10 +121,10 @@ void Mp4Writer::write(AVPacket *packet)
 
 void Mp4Writer::finish()
 {
-    const int result = av_write_trailer(format_);
+    const int result = av_write_trailer(format_.get());
     if (result < 0)
         fail(QStringLiteral("The movie couldn't be finished"), result);
-    avio_flush(io_);
+    avio_flush(io_.get());
     if (io_->error < 0)
         fail(QStringLiteral("The movie couldn't be finished"), io_->error);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "media/AvHandles.h"
+
 #include <QString>
 #include <cstdint>
 #include <exception>
@@ -59,8 +61,8 @@ private:
     QString path_;
     std::stop_token stop_;
     int fd_ = -1;
-    AVIOContext *io_ = nullptr;
-    AVFormatContext *format_ = nullptr;
+    Av::IoContext io_;
+    Av::OutputContext format_;
     std::vector<int64_t> lastDts_;
     int64_t bytesWritten_ = 0;
     bool fileFailed_ = false;

@@ -1,6 +1,7 @@
 #include "export/VideoReencoder.h"
 
 #include "export/ExportError.h"
+#include "media/VideoDecoder.h"
 
 extern "C" {
 #include <libavcodec/avcodec.h>
@@ -63,12 +64,13 @@ std::unique_ptr<VideoReencoder> VideoReencoder::create(int width, int height, AV
         || int64_t((width + 15) / 16) * ((height + 15) / 16) > largestMacroblocks)
         return nullptr;
     std::unique_ptr<VideoReencoder> self(new VideoReencoder);
-    self->encoder_ = avcodec_alloc_context3(codec);
-    self->decoded_ = av_frame_alloc();
-    self->encoded_ = av_packet_alloc();
-    if (!self->encoder_ || !self->decoded_ || !self->encoded_)
+    self->encoder_.reset(avcodec_alloc_context3(codec));
+    if (!self->encoder_)
         return nullptr;
-    AVCodecContext *enc = self->encoder_;
+    self->encoded_.reset(av_packet_alloc());
+    if (!self->encoded_)
+        return nullptr;
+    AVCodecContext *enc = self->encoder_.get();
     enc->width = width & ~1; // 4:2:0 needs even sizes
     enc->height = height & ~1;
     enc->pix_fmt = choosePixelFormat(codec);
@@ -83,31 +85,22 @@ std::unique_ptr<VideoReencoder> VideoReencoder::create(int width, int height, AV
     if (globalHeader)
         enc->flags |= AV_CODEC_FLAG_GLOBAL_HEADER;
 
-    AVDictionary *options = nullptr;
+    Av::Dictionary options;
     if (std::string_view(codec->name) == "libx264") {
-        av_dict_set(&options, "preset", "medium", 0);
-        av_dict_set(&options, "crf", "18", 0);
+        options.set("preset", "medium");
+        options.set("crf", "18");
     } else if (codec->id == AV_CODEC_ID_MPEG4) {
         enc->flags |= AV_CODEC_FLAG_QSCALE;
         enc->global_quality = FF_QP2LAMBDA * 2;
     } else {
         enc->bit_rate = 20'000'000;
     }
-    const int opened = avcodec_open2(enc, codec, &options);
-    av_dict_free(&options);
-    if (opened < 0)
+    if (avcodec_open2(enc, codec, options.out()) < 0)
         return nullptr;
     return self;
 }
 
-VideoReencoder::~VideoReencoder()
-{
-    sws_freeContext(scaler_);
-    avcodec_free_context(&decoder_);
-    avcodec_free_context(&encoder_);
-    av_frame_free(&decoded_);
-    av_packet_free(&encoded_);
-}
+VideoReencoder::~VideoReencoder() = default;
 
 AVRational VideoReencoder::timeBase() const
 {
@@ -116,27 +109,13 @@ AVRational VideoReencoder::timeBase() const
 
 void VideoReencoder::parametersInto(AVCodecParameters *parameters) const
 {
-    avcodec_parameters_from_context(parameters, encoder_);
+    avcodec_parameters_from_context(parameters, encoder_.get());
 }
 
 bool VideoReencoder::beginClip(const AVCodecParameters *parameters, AVRational streamTimeBase)
 {
-    avcodec_free_context(&decoder_);
-    const AVCodec *codec = avcodec_find_decoder(parameters->codec_id);
-    if (!codec)
-        return false;
-    decoder_ = avcodec_alloc_context3(codec);
-    if (!decoder_ || avcodec_parameters_to_context(decoder_, parameters) < 0) {
-        avcodec_free_context(&decoder_);
-        return false;
-    }
-    decoder_->pkt_timebase = streamTimeBase;
-    decoder_->thread_count = 0;
-    if (avcodec_open2(decoder_, codec, nullptr) < 0) {
-        avcodec_free_context(&decoder_);
-        return false;
-    }
-    return true;
+    decoder_ = VideoDecoder::open(parameters, streamTimeBase, VideoDecoder::Options{.threads = 0});
+    return decoder_ != nullptr;
 }
 
 void VideoReencoder::decode(const AVPacket *packet, const Placement &place, const PacketSink &sink)
@@ -144,8 +123,7 @@ void VideoReencoder::decode(const AVPacket *packet, const Placement &place, cons
     if (!decoder_)
         return;
     // A damaged packet costs that picture only.
-    if (avcodec_send_packet(decoder_, packet) < 0 && packet)
-        return;
+    decoder_->send(packet);
     receiveFrames(place, sink);
 }
 
@@ -154,64 +132,55 @@ void VideoReencoder::endClip(const Placement &place, const PacketSink &sink)
     if (!decoder_)
         return;
     decode(nullptr, place, sink);
-    avcodec_free_context(&decoder_);
+    decoder_.reset();
 }
 
 void VideoReencoder::receiveFrames(const Placement &place, const PacketSink &sink)
 {
-    while (avcodec_receive_frame(decoder_, decoded_) >= 0) {
-        const int64_t timestamp = decoded_->best_effort_timestamp != AV_NOPTS_VALUE ? decoded_->best_effort_timestamp
-                                                                                    : decoded_->pts;
+    while (const AVFrame *decoded = decoder_->receive()) {
+        const int64_t timestamp = VideoDecoder::timestampOf(decoded);
         const std::optional<int64_t> pts = timestamp == AV_NOPTS_VALUE ? std::nullopt : place(timestamp);
-        if (!pts) {
-            av_frame_unref(decoded_);
+        if (!pts)
             continue;
-        }
-        scaler_ = sws_getCachedContext(scaler_, decoded_->width, decoded_->height, AVPixelFormat(decoded_->format),
-                                       encoder_->width, encoder_->height, encoder_->pix_fmt, SWS_BICUBIC, nullptr,
-                                       nullptr, nullptr);
-        AVFrame *out = av_frame_alloc();
-        if (!scaler_ || !out) {
-            av_frame_free(&out);
-            av_frame_unref(decoded_);
+        scaler_.reset(sws_getCachedContext(scaler_.release(), decoded->width, decoded->height,
+                                           AVPixelFormat(decoded->format), encoder_->width, encoder_->height,
+                                           encoder_->pix_fmt, SWS_BICUBIC, nullptr, nullptr, nullptr));
+        if (!scaler_)
             throw ExportError::failed(QStringLiteral("The footage couldn't be converted for the movie."));
-        }
         const int *coefficients = sws_getCoefficients(SWS_CS_DEFAULT);
-        sws_setColorspaceDetails(scaler_, coefficients, isFullRange(decoded_) ? 1 : 0, coefficients, 0, 0, 1 << 16,
-                                 1 << 16);
+        sws_setColorspaceDetails(scaler_.get(), coefficients, isFullRange(decoded) ? 1 : 0, coefficients, 0, 0,
+                                 1 << 16, 1 << 16);
+        Av::Frame out(av_frame_alloc());
+        if (!out)
+            throw ExportError::failed(QStringLiteral("There wasn't enough memory to convert the footage."));
         out->format = encoder_->pix_fmt;
         out->width = encoder_->width;
         out->height = encoder_->height;
         out->color_range = AVCOL_RANGE_MPEG;
-        if (av_frame_get_buffer(out, 0) < 0) {
-            av_frame_free(&out);
-            av_frame_unref(decoded_);
+        if (av_frame_get_buffer(out.get(), 0) < 0)
             throw ExportError::failed(QStringLiteral("There wasn't enough memory to convert the footage."));
-        }
-        sws_scale(scaler_, decoded_->data, decoded_->linesize, 0, decoded_->height, out->data, out->linesize);
-        av_frame_unref(decoded_);
+        sws_scale(scaler_.get(), decoded->data, decoded->linesize, 0, decoded->height, out->data, out->linesize);
         out->pts = *pts > lastPts_ ? *pts : lastPts_ + 1;
         lastPts_ = out->pts;
-        encode(out, sink);
-        av_frame_free(&out);
+        encode(out.get(), sink);
     }
 }
 
 void VideoReencoder::encode(AVFrame *frame, const PacketSink &sink)
 {
-    int result = avcodec_send_frame(encoder_, frame);
+    int result = avcodec_send_frame(encoder_.get(), frame);
     if (result < 0 && result != AVERROR_EOF) {
         char text[AV_ERROR_MAX_STRING_SIZE] = {};
         av_strerror(result, text, sizeof text);
         throw ExportError::failed(
             QStringLiteral("The footage couldn't be encoded: %1.").arg(QString::fromLocal8Bit(text)));
     }
-    while (avcodec_receive_packet(encoder_, encoded_) >= 0) {
+    while (avcodec_receive_packet(encoder_.get(), encoded_.get()) >= 0) {
         // Encoders leave the duration out; the last picture needs one.
         if (encoded_->duration <= 0 && encoder_->framerate.num > 0)
             encoded_->duration = av_rescale_q(1, av_inv_q(encoder_->framerate), encoder_->time_base);
-        sink(encoded_);
-        av_packet_unref(encoded_);
+        sink(encoded_.get());
+        av_packet_unref(encoded_.get());
     }
 }
 

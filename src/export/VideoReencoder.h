@@ -1,5 +1,7 @@
 #pragma once
 
+#include "media/AvHandles.h"
+
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -14,7 +16,7 @@ struct AVCodecContext;
 struct AVCodecParameters;
 struct AVFrame;
 struct AVPacket;
-struct SwsContext;
+class VideoDecoder;
 
 // The fallback when clips can't be joined as they are: decodes each clip
 // and encodes all of them into one H.264 stream of one picture size, at the
@@ -34,7 +36,7 @@ public:
     VideoReencoder(const VideoReencoder &) = delete;
     VideoReencoder &operator=(const VideoReencoder &) = delete;
 
-    const AVCodecContext *encoder() const { return encoder_; }
+    const AVCodecContext *encoder() const { return encoder_.get(); }
     AVRational timeBase() const;
     void parametersInto(AVCodecParameters *parameters) const;
 
@@ -51,10 +53,9 @@ private:
     void encode(AVFrame *frame, const PacketSink &sink);
     void receiveFrames(const Placement &place, const PacketSink &sink);
 
-    AVCodecContext *encoder_ = nullptr;
-    AVCodecContext *decoder_ = nullptr;
-    SwsContext *scaler_ = nullptr;
-    AVFrame *decoded_ = nullptr;
-    AVPacket *encoded_ = nullptr;
+    Av::CodecContext encoder_;
+    std::unique_ptr<VideoDecoder> decoder_;
+    Av::Scaler scaler_;
+    Av::Packet encoded_;
     int64_t lastPts_ = INT64_MIN;
 };

@@ -1,13 +1,45 @@
 #include "playback/EventTimeline.h"
 
-#include "drive/IOWatchdog.h"
-#include "drive/ReadOnlyFs.h"
-#include "model/CancellationError.h"
-#include "playback/MediaSource.h"
+#include "media/MediaClip.h"
+#include "base/CancellationError.h"
+#include "base/IOWatchdog.h"
+#include "base/LogCategories.h"
+
+extern "C" {
+#include <libavformat/avformat.h>
+}
 
 #include <algorithm>
 
 namespace EventTimeline {
+
+namespace {
+struct Placeable {
+    double seconds = 0; // 0: nothing to place
+    bool damaged = false; // a movie, but without pictures or with a header its data contradict
+};
+
+// How long the clip at path plays, reading only its header (and its first
+// sample, to measure the header against). Every read, the first look at the
+// path included, is under the clip's limit.
+Placeable placeable(const QString &path, std::chrono::milliseconds limit, std::stop_token stop)
+{
+    MediaClip::Options options;
+    options.mp4Only = false;
+    options.streamInfo = MediaClip::StreamInfo::always;
+    options.checkHeader = true;
+    const auto clip = MediaClip::openWithin(limit, path, stop, options);
+    if (clip->outcome() == MediaClip::Outcome::notAMovie)
+        return {0.0, !clip->facts().usable()}; // gone, or not a movie at all
+    if (!clip->isOpened() || clip->facts().verdict != HeaderCheck::ClipFacts::Verdict::sound)
+        return {0.0, true};
+    const AVStream *video = clip->video();
+    if (video->duration > 0)
+        return {double(video->duration) * av_q2d(video->time_base), false};
+    const AVFormatContext *format = clip->context();
+    return {format->duration > 0 ? double(format->duration) / AV_TIME_BASE : 0.0, false};
+}
+} // namespace
 
 std::vector<CameraTrack> build(const TeslaEvent &event, std::chrono::milliseconds clipTimeout, std::stop_token stop)
 {
@@ -35,46 +67,37 @@ std::vector<CameraTrack> build(const TeslaEvent &event, std::chrono::millisecond
         if (playable.empty()) {
             const bool allDamaged = !clips.empty()
                 && std::all_of(clips.begin(), clips.end(), [](const ClipRef &c) { return c.health.isDamaged(); });
-            tracks.push_back(CameraTrack{camera, std::nullopt, allDamaged ? damagedReason : noFootageReason, 0});
+            tracks.push_back(CameraTrack{camera, std::nullopt, allDamaged ? damagedReason : noFootageReason, 0, {}});
             continue;
         }
 
         Composition composition;
         const auto trackIndex = composition.addMutableTrack();
         if (!trackIndex) {
-            tracks.push_back(CameraTrack{camera, std::nullopt, damagedReason, 0});
+            tracks.push_back(CameraTrack{camera, std::nullopt, damagedReason, 0, {}});
             continue;
         }
         bool hasContent = false;
         double contentEnd = 0;
+        std::vector<double> damagedStarts;
         for (const ClipRef &clip : playable) {
             if (stop.stop_requested())
                 return tracks;
             const double offset = event.timelineOffset(clip);
             double placed = 0;
             try {
-                const QString path = clip.url;
-                // Reads only the header: duration and tracks. Nothing is decoded.
-                const double seconds = IOWatchdog::run(
-                    clipTimeout,
-                    [path](std::stop_token watch) -> double {
-                        if (!ReadOnlyFs::stat(path).exists)
-                            return 0.0;
-                        MediaSource source(path, [watch] { return watch.stop_requested(); }, false);
-                        if (source.duration() <= 0 || !source.hasVideo())
-                            return 0.0;
-                        return source.duration();
-                    },
-                    stop);
-                if (seconds > 0) {
-                    if (!composition.track(*trackIndex).placeClip(path, seconds, offset))
-                        continue;
-                    placed = seconds;
-                }
+                const Placeable found = placeable(clip.url, clipTimeout, stop);
+                if (found.damaged)
+                    damagedStarts.push_back(offset);
+                if (found.seconds > 0 && composition.track(*trackIndex).placeClip(clip.url, found.seconds, offset))
+                    placed = found.seconds;
             } catch (const CancellationError &) {
                 return tracks;
-            } catch (...) {
+            } catch (const IOWatchdog::TimedOut &) {
                 continue; // this clip only
+            } catch (const std::exception &e) {
+                qCWarning(lcTimeline) << "placing" << clip.url << "failed:" << e.what();
+                continue;
             }
             if (placed > 0) {
                 hasContent = true;
@@ -82,9 +105,10 @@ std::vector<CameraTrack> build(const TeslaEvent &event, std::chrono::millisecond
             }
         }
         if (hasContent)
-            tracks.push_back(CameraTrack{camera, std::move(composition), std::nullopt, contentEnd});
+            tracks.push_back(
+                CameraTrack{camera, std::move(composition), std::nullopt, contentEnd, std::move(damagedStarts)});
         else
-            tracks.push_back(CameraTrack{camera, std::nullopt, damagedReason, 0});
+            tracks.push_back(CameraTrack{camera, std::nullopt, damagedReason, 0, {}});
     }
     return tracks;
 }
@@ -97,6 +121,9 @@ std::vector<Gap> gaps(const TeslaEvent &event, const CameraTrack &track, double 
         return out;
     // A damaged clip of this camera that starts within the stretch is why it is empty.
     const auto reasonFor = [&](double start, double end) {
+        for (const double at : track.damagedStarts)
+            if (at >= start - minGap && at < end)
+                return damagedReason;
         for (const ClipRef &clip : event.clips) {
             if (clip.camera != track.camera || !clip.health.isDamaged())
                 continue;

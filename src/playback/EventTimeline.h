@@ -24,6 +24,9 @@ struct CameraTrack {
     std::optional<Composition> composition;   // one track; absent when the camera has nothing to show
     std::optional<QString> placeholderReason; // set exactly when composition is absent
     double contentEnd = 0;                    // where this camera's footage ends on the axis
+    // Where clips the scan thought playable start, that turned out damaged
+    // when opened (no pictures, or a header its own data contradict).
+    std::vector<double> damagedStarts;
 };
 
 // Every camera of the event, in grid order. Reads each usable clip's header
@@ -40,7 +43,8 @@ struct Gap {
 };
 
 // Where, up to the end of its footage, a camera that has a track shows
-// nothing: a damaged minute says the camera didn't record properly; a
+// nothing: a damaged minute (by its health, or found so when opened) says
+// the camera didn't record properly; a
 // minute the car never wrote, or one that can't be read yet, says there is
 // no footage. Gaps shorter than minGap are the frame-timing seams between
 // clips, not gaps.

@@ -47,11 +47,6 @@ void copyPlane(uchar *dst, int dstStride, const uint8_t *src, int srcStride, int
 }
 } // namespace
 
-FrameConverter::~FrameConverter()
-{
-    sws_freeContext(sws_);
-}
-
 QVideoFrame FrameConverter::convert(const AVFrame *f, double startSeconds, double durationSeconds)
 {
     const int w = f->width;
@@ -83,15 +78,15 @@ QVideoFrame FrameConverter::convert(const AVFrame *f, double startSeconds, doubl
         copyPlane(out.bits(2), out.bytesPerLine(2), f->data[2], f->linesize[2], cw, ch);
     } else {
         // Anything else (10-bit, 4:2:2, NV12) goes through swscale.
-        sws_ = sws_getCachedContext(sws_, w, h, pix, w, h, AV_PIX_FMT_YUV420P, SWS_BILINEAR, nullptr, nullptr,
-                                    nullptr);
+        sws_.reset(sws_getCachedContext(sws_.release(), w, h, pix, w, h, AV_PIX_FMT_YUV420P, SWS_BILINEAR, nullptr,
+                                        nullptr, nullptr));
         if (!sws_) {
             out.unmap();
             return {};
         }
         uint8_t *dst[4] = {out.bits(0), out.bits(1), out.bits(2), nullptr};
         int dstStride[4] = {out.bytesPerLine(0), out.bytesPerLine(1), out.bytesPerLine(2), 0};
-        sws_scale(sws_, f->data, f->linesize, 0, h, dst, dstStride);
+        sws_scale(sws_.get(), f->data, f->linesize, 0, h, dst, dstStride);
     }
     out.unmap();
     out.setStartTime(qint64(startSeconds * 1e6));

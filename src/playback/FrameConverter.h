@@ -1,9 +1,10 @@
 #pragma once
 
+#include "media/AvHandles.h"
+
 #include <QVideoFrame>
 
 struct AVFrame;
-struct SwsContext;
 
 // Copies a decoded picture into a QVideoFrame of planar YUV 4:2:0 (the
 // GPU converts it to RGB), carrying the colour space and range of the
@@ -11,7 +12,6 @@ struct SwsContext;
 class FrameConverter {
 public:
     FrameConverter() = default;
-    ~FrameConverter();
     FrameConverter(const FrameConverter &) = delete;
     FrameConverter &operator=(const FrameConverter &) = delete;
 
@@ -19,5 +19,5 @@ public:
     QVideoFrame convert(const AVFrame *frame, double startSeconds, double durationSeconds);
 
 private:
-    SwsContext *sws_ = nullptr;
+    Av::Scaler sws_;
 };

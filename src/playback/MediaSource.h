@@ -1,21 +1,20 @@
 #pragma once
 
 #include <QString>
-#include <functional>
 #include <memory>
 #include <optional>
 #include <stdexcept>
+#include <stop_token>
 
 struct AVFormatContext;
-struct AVCodecContext;
 struct AVFrame;
-struct AVPacket;
-class MediaInput;
+class MediaClip;
 
-// One clip file opened read-only through libavformat, with its video
-// decoder. Every blocking call answers shouldStop, so a watchdog or a closing
-// player can end a read that is still in progress. Times are the file's own
-// media time in seconds, with its first frame at 0.
+// One clip file opened for playing: the media layer's clip with its video
+// decoder, positioned and read in the player's terms. Every blocking call
+// answers the stop token, so a watchdog or a closing player can end a read
+// that is still in progress. Times are the file's own media time in
+// seconds, with its first frame at 0.
 class MediaSource {
 public:
     class Error : public std::runtime_error {
@@ -31,16 +30,15 @@ public:
     // Which FFmpeg device type to try (AVHWDeviceType); VAAPI unless a test says otherwise.
     static void setHardwareDeviceType(int type);
 
-    // Opens and reads the container's header. With decode false only the
-    // duration and the presence of video are read (nothing is decoded).
-    // decoderThreads 0 picks by picture size.
-    MediaSource(const QString &path, std::function<bool()> shouldStop, bool decode, int decoderThreads = 0);
+    // Opens and reads the container's header and its video decoder.
+    // decoderThreads 0 picks by picture size. Throws Error when the clip
+    // has no video that can be decoded.
+    MediaSource(const QString &path, std::stop_token stop, int decoderThreads = 0);
     ~MediaSource();
     MediaSource(const MediaSource &) = delete;
     MediaSource &operator=(const MediaSource &) = delete;
 
     const QString &path() const { return path_; }
-    bool hasVideo() const { return streamIndex_ >= 0; }
     double duration() const { return duration_; }
     // Frames per second on average, as the container states it; 0 when it doesn't.
     double frameRate() const { return frameRate_; }
@@ -54,23 +52,14 @@ public:
     // the computer's memory, whichever way it was decoded.
     const AVFrame *nextFrame(double *time);
     // True while the decoder runs on the graphics hardware.
-    bool decodesOnHardware() const { return onHardware_; }
+    bool decodesOnHardware() const;
 
 private:
-    void close();
-    bool openDecoder(bool hardware);
     bool fallBackToSoftware();
 
     QString path_;
-    std::unique_ptr<MediaInput> input_;
-    AVFormatContext *format_ = nullptr; // owned by input_
-    AVCodecContext *codec_ = nullptr;
-    AVPacket *packet_ = nullptr;
-    AVFrame *frame_ = nullptr;
-    AVFrame *softwareFrame_ = nullptr;
-    int decoderThreads_ = 1;
-    bool onHardware_ = false;
-    int hardwareFormat_ = -1; // AVPixelFormat of the device's frames
+    std::unique_ptr<MediaClip> clip_;
+    AVFormatContext *format_ = nullptr; // owned by clip_
     std::optional<double> lastTime_;  // of the last frame given
     std::optional<double> skipUntil_; // after a fall back: frames given already
     int streamIndex_ = -1;
@@ -78,5 +67,4 @@ private:
     int64_t startPts_ = 0;
     double duration_ = 0;
     double frameRate_ = 0;
-    bool demuxEnded_ = false;
 };

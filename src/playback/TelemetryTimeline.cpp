@@ -1,8 +1,8 @@
 #include "playback/TelemetryTimeline.h"
 
-#include "drive/IOWatchdog.h"
+#include "base/IOWatchdog.h"
 #include "drive/TelemetryReader.h"
-#include "model/CancellationError.h"
+#include "base/CancellationError.h"
 #include "playback/Composition.h"
 
 #include <QHash>

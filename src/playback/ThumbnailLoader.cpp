@@ -1,18 +1,16 @@
 #include "playback/ThumbnailLoader.h"
 
-#include "drive/ReadOnlyFs.h"
 #include "engine/AsyncRun.h"
 #include "engine/EnginePools.h"
+#include "media/ClipReaderDevice.h"
 
 #include <QCache>
-#include <QFile>
 #include <QImageReader>
 #include <QThreadPool>
 
 #include <algorithm>
 #include <cmath>
 #include <mutex>
-#include <unistd.h>
 
 namespace ThumbnailLoader {
 
@@ -42,14 +40,11 @@ std::optional<QImage> loadNow(const QString &path)
 {
     if (auto hit = cached(path))
         return hit;
-    const int fd = ReadOnlyFs::openRead(path);
-    if (fd < 0)
+    // Through the same reader as the event's clips.
+    auto bytes = ClipReaders::open({}, path, {});
+    if (!bytes)
         return std::nullopt;
-    QFile file;
-    if (!file.open(fd, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
-        ::close(fd);
-        return std::nullopt;
-    }
+    ClipReaderDevice file(std::move(bytes));
     QImageReader reader(&file);
     reader.setAutoTransform(true);
     QImage image = reader.read();

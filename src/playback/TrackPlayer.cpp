@@ -1,5 +1,6 @@
 #include "playback/TrackPlayer.h"
 
+#include "media/AvHandles.h"
 #include "playback/FrameConverter.h"
 #include "playback/HostClock.h"
 #include "playback/MediaSource.h"
@@ -16,6 +17,7 @@ extern "C" {
 #include <condition_variable>
 #include <deque>
 #include <mutex>
+#include <stop_token>
 #include <thread>
 
 namespace {
@@ -31,10 +33,6 @@ constexpr double previewDistance = 0.1;    // a seek this far past its key frame
 std::atomic<int> decoderThreads{0}; // 0: by picture size
 std::atomic<bool> catchUpEnabled{true};
 
-struct AVFrameDeleter {
-    void operator()(AVFrame *f) const { av_frame_free(&f); }
-};
-using FramePtr = std::unique_ptr<AVFrame, AVFrameDeleter>;
 } // namespace
 
 struct TrackPlayer::Shared {
@@ -50,7 +48,7 @@ struct TrackPlayer::Shared {
 
     std::mutex mutex;
     std::condition_variable changed;
-    std::atomic<bool> stop{false};
+    std::stop_source stop;
     std::atomic<quint64> decoded{0};
     std::atomic<int> decodeDelayMs{0};
     bool finished = false;
@@ -101,7 +99,7 @@ public:
     {
         for (;;) {
             std::unique_lock lock(s_->mutex);
-            while (!s_->stop && !s_->seekRequested && (atEnd_ || s_->queue.size() >= queueLimit)) {
+            while (!s_->stop.stop_requested() && !s_->seekRequested && (atEnd_ || s_->queue.size() >= queueLimit)) {
                 if (wantsPreopen()) {
                     lock.unlock();
                     preopen();
@@ -110,7 +108,7 @@ public:
                 }
                 s_->changed.wait(lock);
             }
-            if (s_->stop)
+            if (s_->stop.stop_requested())
                 break;
             if (s_->seekRequested) {
                 s_->seekRequested = false;
@@ -144,8 +142,7 @@ private:
     std::unique_ptr<MediaSource> openSource(const QString &path)
     {
         try {
-            auto shared = s_;
-            return std::make_unique<MediaSource>(path, [shared] { return shared->stop.load(); }, true, threads_);
+            return std::make_unique<MediaSource>(path, s_->stop.get_token(), threads_);
         } catch (const std::exception &) {
             return nullptr;
         }
@@ -154,7 +151,7 @@ private:
     bool wantsPreopen() const
     {
         const size_t next = size_t(curSeg_ + 1);
-        return curSeg_ >= 0 && next < segs_.size() && preSeg_ != int(next) && !s_->stop
+        return curSeg_ >= 0 && next < segs_.size() && preSeg_ != int(next) && !s_->stop.stop_requested()
             && (!cur_ || segs_[next].file != cur_->path());
     }
 
@@ -335,12 +332,12 @@ private:
                 carried.reset();
                 seekSource(sourceTarget - back);
             }
-            FramePtr prev;
+            Av::Frame prev;
             double prevTime = 0;
             bool retry = false;
             bool previewPushed = false;
             for (;;) {
-                if (s_->stop || newerSeekWaiting())
+                if (s_->stop.stop_requested() || newerSeekWaiting())
                     return;
                 double st = 0;
                 const AVFrame *f = cur_->nextFrame(&st);
@@ -534,7 +531,7 @@ TrackPlayer::~TrackPlayer()
 {
     std::unique_lock lock(shared_->mutex);
     shared_->owner = nullptr;
-    shared_->stop = true;
+    shared_->stop.request_stop();
     shared_->changed.notify_all();
     // A read stuck in the kernel (a dead drive) can't be interrupted: wait a
     // moment, then leave the worker to end by itself; it owns what it uses.
@@ -550,7 +547,7 @@ void TrackPlayer::requestStop()
     stopRequested_ = true;
     presentTimer_.stop();
     std::lock_guard lock(shared_->mutex);
-    shared_->stop = true;
+    shared_->stop.request_stop();
     shared_->changed.notify_all();
 }
 

@@ -7,7 +7,7 @@
 #include "engine/AsyncRun.h"
 #include "export/CombinedExport.h"
 #include "export/Exporter.h"
-#include "model/CancellationError.h"
+#include "base/CancellationError.h"
 #include "model/PlatformWords.h"
 #include "drive/DriveBoundary.h"
 #include "engine/EnginePools.h"

@@ -1,9 +1,9 @@
 #include "vault/ArchiveEngine.h"
 
-#include "drive/IOWatchdog.h"
-#include "drive/ReadOnlyFs.h"
+#include "base/IOWatchdog.h"
+#include "base/ReadOnlyFs.h"
 #include "drive/VolumeInfo.h"
-#include "model/CancellationError.h"
+#include "base/CancellationError.h"
 #include "vault/Sha256.h"
 
 #include <QDir>

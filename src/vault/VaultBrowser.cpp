@@ -1,6 +1,6 @@
 #include "vault/VaultBrowser.h"
 
-#include "drive/ReadOnlyFs.h"
+#include "base/ReadOnlyFs.h"
 #include "drive/TeslaCamParser.h"
 #include "model/ClipRef.h"
 

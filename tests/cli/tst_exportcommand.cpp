@@ -1,4 +1,5 @@
 #include "support/FaultyFs.h"
+#include "support/HeldClip.h"
 #include "support/MovieFacts.h"
 #include "support/TeslaCamFixture.h"
 #include "support/TestClips.h"
@@ -6,10 +7,8 @@
 
 #include <QDeadlineTimer>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
-#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTest>
 #include <csignal>
@@ -23,6 +22,47 @@ struct Run {
     QString out;
     QString err;
 };
+
+// The tool exporting a saved event from the failing test drive. Whatever ends
+// the test, the drive lets go and the tool ends: a process can't end while
+// the kernel waits on the drive for it.
+struct DriveExport {
+    static inline const QString folder = QStringLiteral("TeslaCam/SavedClips/2024-06-02_10-00-00/");
+
+    ~DriveExport()
+    {
+        fs.release();
+        process.waitForFinished(60000);
+    }
+    // options: what to make of the event, e.g. --camera front.
+    bool start(const QString &output, const QStringList &options)
+    {
+        process.start(QStringLiteral(KEELHOLD_CLI_PATH),
+                      QStringList{QStringLiteral("export"), mountPoint.filePath(QStringLiteral("TeslaCam")),
+                                  QStringLiteral("--event"), QStringLiteral("saved|2024-06-02_10-00-00"),
+                                  QStringLiteral("-o"), output}
+                          + options);
+        return process.waitForStarted();
+    }
+
+    QTemporaryDir mountPoint;
+    FaultyFs fs{mountPoint.path()};
+    QProcess process;
+};
+
+// Collects the tool's stderr into err until it holds needle; false when the
+// tool ended or the limit passed first.
+bool readErrorsUntil(QProcess &process, QByteArray &err, const char *needle, int limitMs)
+{
+    const QDeadlineTimer limit(limitMs);
+    while (!err.contains(needle) && !limit.hasExpired()) {
+        if (!process.waitForReadyRead(100) && process.state() != QProcess::Running)
+            break;
+        err += process.readAllStandardError();
+    }
+    err += process.readAllStandardError();
+    return err.contains(needle);
+}
 
 Run runCli(const QStringList &arguments)
 {
@@ -175,54 +215,31 @@ private Q_SLOTS:
     {
         if (!FaultyFs::available())
             QSKIP("needs FUSE");
-        QTemporaryDir mountPoint;
-        FaultyFs fs(mountPoint.path());
+        DriveExport run;
+        FaultyFs &fs = run.fs;
+        QProcess &process = run.process;
         QVERIFY(fs.isMounted());
-        TestClips::ClipOptions busy;
-        busy.seconds = 8.0;
-        busy.width = 640;
-        busy.height = 480;
-        busy.fps = 10;
-        busy.gop = 10;
-        busy.faststart = true;
-        QFile clip(TestClips::clip(busy));
-        QVERIFY(clip.open(QIODevice::ReadOnly));
-        const QByteArray bytes = clip.readAll();
-        const QString folder = QStringLiteral("TeslaCam/SavedClips/2024-06-02_10-00-00/");
-        fs.addFile(folder + QStringLiteral("event.json"),
+        const QByteArray bytes = HeldClip::indexFirst(8.0, 10);
+        fs.addFile(DriveExport::folder + QStringLiteral("event.json"),
                    TeslaCamFixture::eventJson(QStringLiteral("2024-06-02T09:59:30"), QStringLiteral("user_interaction_honk")));
-        fs.addFile(folder + QStringLiteral("2024-06-02_09-59-00-front.mp4"), bytes);
-        fs.addFile(folder + QStringLiteral("2024-06-02_09-59-00-back.mp4"), bytes);
-        fs.hangReadsFrom(folder + QStringLiteral("2024-06-02_09-59-00-front.mp4"), bytes.size() * 6 / 10);
+        HeldClip::add(fs, DriveExport::folder + QStringLiteral("2024-06-02_09-59-00-front.mp4"), bytes,
+                      bytes.size() * 6 / 10);
+        fs.addFile(DriveExport::folder + QStringLiteral("2024-06-02_09-59-00-back.mp4"), bytes);
         const QString outputs = dir_.path() + QStringLiteral("/interrupted");
         QDir().mkpath(outputs);
 
-        QProcess process;
-        process.start(QStringLiteral(KEELHOLD_CLI_PATH),
-                      {QStringLiteral("export"), mountPoint.filePath(QStringLiteral("TeslaCam")), QStringLiteral("--event"),
-                       QStringLiteral("saved|2024-06-02_10-00-00"), QStringLiteral("--layout"), QStringLiteral("grid"),
-                       QStringLiteral("--size"), QStringLiteral("720"), QStringLiteral("-o"), outputs});
-        QVERIFY(process.waitForStarted());
+        QVERIFY(run.start(outputs, {QStringLiteral("--layout"), QStringLiteral("grid"), QStringLiteral("--size"),
+                                    QStringLiteral("720")}));
         QVERIFY(fs.waitUntilHeld());
         // Clips are read ahead of the movie, so the hold may come before the
         // first frame is written: the interrupt waits for both.
         QByteArray err;
-        QElapsedTimer waited;
-        waited.start();
-        while (!err.contains(" frames") && waited.elapsed() < 20000) {
-            process.waitForReadyRead(100);
-            err += process.readAllStandardError();
-        }
-        QVERIFY2(err.contains(" frames"), err.constData()); // it is writing
+        QVERIFY2(readErrorsUntil(process, err, " frames", 20000), err.constData()); // it is writing
         ::kill(pid_t(process.processId()), SIGINT);
         // The tool says so while the read is still held: a process can't
         // end while the kernel waits on the drive for it, so it ends once
         // the drive lets go.
-        waited.restart();
-        while (!err.contains("The export was stopped.") && waited.elapsed() < 10000) {
-            process.waitForReadyRead(100);
-            err += process.readAllStandardError();
-        }
+        readErrorsUntil(process, err, "The export was stopped.", 10000);
         QCOMPARE(QString::fromUtf8(err).trimmed().split(QLatin1Char('\n')).last(), QStringLiteral("The export was stopped."));
         QCOMPARE(QDir(outputs).entryList(QDir::Files | QDir::Hidden | QDir::NoDotAndDotDot), QStringList());
         fs.release();
@@ -293,54 +310,74 @@ private Q_SLOTS:
 
     // Interrupted while writing: stops like the app's Stop and leaves no
     // half-written movie. The drive stops answering halfway through the
-    // clip's pictures, so the export is still writing when the signal comes.
+    // clip's pictures, and the signal comes once the movie is being written
+    // and the read is held, well within the read limit.
     void interruptStopsAndCleansUp()
     {
         if (!FaultyFs::available())
             QSKIP("needs root and /dev/fuse");
-        QTemporaryDir mountPoint;
-        FaultyFs fs(mountPoint.path());
-        QVERIFY(fs.isMounted());
-        // The process ends only once the drive answers the read it left behind.
-        QProcess process;
-        const auto letGo = qScopeGuard([&] {
-            fs.release();
-            process.waitForFinished(60000);
-        });
-        TestClips::ClipOptions options;
-        options.seconds = 4.0;
-        options.faststart = true; // opening the clip reads only its index, far from the held part
-        QFile source(TestClips::clip(options));
-        QVERIFY(source.open(QIODevice::ReadOnly));
-        const QByteArray clip = source.readAll();
+        DriveExport run;
+        QVERIFY(run.fs.isMounted());
+        const QByteArray clip = HeldClip::indexFirst(4.0, 36);
         const qint64 pictures = TestClips::topLevelBoxOffset(clip, "mdat");
         QVERIFY(pictures > 0);
-        const QString relative = QStringLiteral("TeslaCam/SavedClips/2024-06-02_10-00-00/2024-06-02_09-59-00-front.mp4");
-        fs.addFile(relative, clip);
-        fs.hangReadsFrom(relative, pictures + (clip.size() - pictures) / 2);
+        HeldClip::add(run.fs, DriveExport::folder + QStringLiteral("2024-06-02_09-59-00-front.mp4"), clip,
+                      pictures + (clip.size() - pictures) / 2);
         const QString file = out(QStringLiteral("interrupted.mp4"));
 
-        process.start(QStringLiteral(KEELHOLD_CLI_PATH),
-                      {QStringLiteral("export"), mountPoint.filePath(QStringLiteral("TeslaCam")), QStringLiteral("--event"),
-                       QStringLiteral("saved|2024-06-02_10-00-00"), QStringLiteral("--camera"), QStringLiteral("front"),
-                       QStringLiteral("-o"), file});
-        QVERIFY(process.waitForStarted());
-        QVERIFY2(fs.waitUntilHeld(1, std::chrono::seconds(60)), "the export never reached the held pictures");
-        QCOMPARE(process.state(), QProcess::Running);
-        QVERIFY(QFile::exists(file));
-        process.terminate();
+        QVERIFY(run.start(file, {QStringLiteral("--camera"), QStringLiteral("front")}));
+        QVERIFY2(run.fs.waitUntilHeld(1, std::chrono::seconds(60)), "the export never reached the held pictures");
+        // Clips are read ahead of the movie: the hold may come before the
+        // movie is begun. The signal waits for both.
         QByteArray err;
-        const QDeadlineTimer limit(60000);
-        while (!err.contains("The export was stopped.") && !limit.hasExpired()) {
-            process.waitForReadyRead(100);
-            err += process.readAllStandardError();
-        }
+        QVERIFY2(readErrorsUntil(run.process, err, "Exporting", 60000), err.constData());
+        QVERIFY(QFile::exists(file));
+        run.process.terminate();
+        QVERIFY2(readErrorsUntil(run.process, err, "The export was stopped.", 60000), err.constData());
         QCOMPARE(QString::fromUtf8(err).trimmed().split(QLatin1Char('\n')).last(), QStringLiteral("The export was stopped."));
         QVERIFY(!QFile::exists(file));
-        fs.release();
-        QVERIFY(process.waitForFinished(60000));
-        QCOMPARE(process.exitStatus(), QProcess::NormalExit);
-        QCOMPARE(process.exitCode(), 2);
+        run.fs.release();
+        QVERIFY(run.process.waitForFinished(60000));
+        QCOMPARE(run.process.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(run.process.exitCode(), 2);
+    }
+
+    // A read the drive never answers while the movie is being written costs
+    // that clip after the read limit, as a keep's dead read costs its file:
+    // the minutes around it are written and the movie is whole.
+    void deadReadWhileWritingCostsOnlyItsClip()
+    {
+        if (!FaultyFs::available())
+            QSKIP("needs root and /dev/fuse");
+        DriveExport run;
+        QVERIFY(run.fs.isMounted());
+        const QByteArray clip = HeldClip::indexFirst(4.0, 36);
+        run.fs.addFile(DriveExport::folder + QStringLiteral("2024-06-02_09-57-00-front.mp4"), clip);
+        HeldClip::add(run.fs, DriveExport::folder + QStringLiteral("2024-06-02_09-58-00-front.mp4"), clip, clip.size() / 2);
+        run.fs.addFile(DriveExport::folder + QStringLiteral("2024-06-02_09-59-00-front.mp4"), clip);
+        const QString file = out(QStringLiteral("dead-read.mp4"));
+
+        QVERIFY(run.start(file, {QStringLiteral("--camera"), QStringLiteral("front")}));
+        // Done once the path is printed; the process itself ends only when
+        // the drive gives up the read it left behind.
+        QByteArray printed;
+        const QDeadlineTimer limit(120000);
+        while (!printed.contains('\n') && !limit.hasExpired() && run.process.state() == QProcess::Running) {
+            run.process.waitForReadyRead(100);
+            printed += run.process.readAllStandardOutput();
+        }
+        QCOMPARE(QString::fromUtf8(printed).trimmed(), file);
+        QCOMPARE(run.fs.heldRequests(), 1);
+        run.fs.release();
+        QVERIFY(run.process.waitForFinished(60000));
+        QCOMPARE(run.process.exitCode(), 0);
+        const MovieFacts facts = MovieFacts::read(file);
+        const MovieFacts::Stream *video = facts.firstOf(QStringLiteral("video"));
+        QVERIFY(video);
+        QCOMPARE(video->decodeErrors, 0);
+        // Both whole clips and the held one's pictures up to the hold.
+        QVERIFY2(facts.duration > 8.0 && facts.duration < 11.5, qPrintable(QString::number(facts.duration)));
+        QVERIFY(video->dtsStrictlyIncreasing);
     }
 
     void missingOptionsShowTheUsage()

@@ -1,6 +1,7 @@
 #include "drive/ClipProber.h"
 #include "drive/TeslaCamParser.h"
-#include "model/CancellationError.h"
+#include "base/CancellationError.h"
+#include "support/DamagedHeaders.h"
 #include "support/DriveBuilder.h"
 #include "support/FaultyFs.h"
 #include "support/TeslaCamFixture.h"
@@ -278,6 +279,42 @@ private Q_SLOTS:
         QVERIFY(!ClipProber::sniffEcryptfs(near));
         QCOMPARE(ClipProber::probe(clipAt(near)), ClipHealth::unreadable);
         QVERIFY(!ClipProber::sniffEcryptfs(copyOf(h264_)));
+    }
+
+    // A clip that opens but whose header its data contradict, or whose data
+    // stop short of what the header promises, is truncated, not ok: the
+    // inbox marks it and the health report counts it. Among good clips it
+    // stays what it is.
+    void headerTheDataContradictIsTruncated_data()
+    {
+        DamagedHeaders::addRows();
+        QTest::newRow("cut to 100 kB with the header intact") << -1;
+    }
+    void headerTheDataContradictIsTruncated()
+    {
+        QFETCH(int, damage);
+        QByteArray bytes;
+        if (damage < 0) {
+            TestClips::ClipOptions indexFirst;
+            indexFirst.seconds = 6.0;
+            indexFirst.width = 640;
+            indexFirst.height = 480;
+            indexFirst.faststart = true;
+            QFile source(TestClips::clip(indexFirst));
+            QVERIFY(source.open(QIODevice::ReadOnly));
+            bytes = source.readAll().left(100 * 1024);
+            QVERIFY(source.size() > 1024 * 1024);
+        } else {
+            bytes = DamagedHeaders::damaged(damage, h264_);
+        }
+        const QString path = write(bytes);
+        const ClipProber::ProbeResult result = ClipProber::probeDetailed(clipAt(path));
+        QCOMPARE(result.health, ClipHealth::truncated);
+        QVERIFY(!result.duration);
+        const auto events = ClipProber::probeAll(
+            {eventWith({clipAt(copyOf(h264_)), clipAt(path), clipAt(copyOf(h264_)), clipAt(copyOf(h265_))})}, 5s, 4);
+        QCOMPARE(healthsOf(events), (std::vector<ClipHealth>{ClipHealth::ok, ClipHealth::truncated, ClipHealth::ok,
+                                                             ClipHealth::ok}));
     }
 
     void sniffNeedsTwelveBytesAndNeverBlocks()

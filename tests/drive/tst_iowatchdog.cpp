@@ -1,5 +1,5 @@
-#include "drive/IOWatchdog.h"
-#include "model/CancellationError.h"
+#include "base/IOWatchdog.h"
+#include "base/CancellationError.h"
 
 #include <QElapsedTimer>
 #include <QTest>

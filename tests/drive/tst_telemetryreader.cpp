@@ -1,7 +1,7 @@
-#include "drive/IOWatchdog.h"
+#include "base/IOWatchdog.h"
 #include "drive/SeiTelemetry.h"
 #include "drive/TelemetryReader.h"
-#include "model/CancellationError.h"
+#include "base/CancellationError.h"
 #include "support/FaultyFs.h"
 #include "support/TelemetryClipWriter.h"
 #include "support/TestClips.h"
@@ -315,7 +315,7 @@ private Q_SLOTS:
         });
         const auto track = TelemetryReader::readClip(clipAt(path));
         QVERIFY(track);
-        MediaSource source(path, [] { return false; }, true, 1);
+        MediaSource source(path, {}, 1);
         double time = 0;
         int frames = 0;
         while (const AVFrame *frame = source.nextFrame(&time)) {

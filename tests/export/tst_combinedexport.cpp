@@ -5,9 +5,11 @@
 #include "export/OverlayText.h"
 #include "export/TimeMarker.h"
 #include "drive/DriveBoundary.h"
-#include "model/CancellationError.h"
+#include "base/CancellationError.h"
+#include "support/DamagedHeaders.h"
 #include "support/FaultyFs.h"
 #include "support/FrameGrab.h"
+#include "support/HeldClip.h"
 #include "support/MovieFacts.h"
 #include "support/TelemetryClipWriter.h"
 #include "support/TeslaCamFixture.h"
@@ -230,22 +232,6 @@ QString blackClip(double seconds)
     return TestClips::clip(black);
 }
 
-// Index first, so a drive can hold a read well past what opening reads.
-QByteArray busyClipBytes(double seconds, int rate)
-{
-    TestClips::ClipOptions busy;
-    busy.seconds = seconds;
-    busy.width = 640;
-    busy.height = 480;
-    busy.fps = rate;
-    busy.gop = rate;
-    busy.faststart = true;
-    QFile clip(TestClips::clip(busy));
-    if (!clip.open(QIODevice::ReadOnly))
-        qFatal("could not read a test clip");
-    return clip.readAll();
-}
-
 const std::vector<Camera> sixCameras{Camera::front,      Camera::leftPillar,    Camera::rightPillar,
                                      Camera::leftRepeater, Camera::rightRepeater, Camera::back};
 
@@ -396,6 +382,40 @@ private Q_SLOTS:
             const auto grab = FrameGrab::at(footage.output(), t);
             const QColor seen = grab->meanColour(320, 200);
             QVERIFY2(near(seen, t == 3.0 ? QColor(Qt::black) : colourOf(Camera::front)), qPrintable(describe(seen)));
+        }
+    }
+
+    // A header its own data contradict costs its own stretch, black with
+    // the camera's name; the movie ends where the good footage ends and
+    // decodes cleanly throughout.
+    void damagedHeadersCostTheirOwnStretch_data()
+    {
+        DamagedHeaders::addRows();
+    }
+    void damagedHeadersCostTheirOwnStretch()
+    {
+        QFETCH(int, damage);
+        Footage footage;
+        const QString good = colourClip(Camera::front, 2.0);
+        footage.add(Camera::front, good, 0);
+        footage.addBytes(Camera::front, DamagedHeaders::damaged(damage, good), 2);
+        footage.add(Camera::front, good, 4);
+        CombinedExportOptions options = optionsFor(Layout::single);
+        options.timeMarker = false;
+        CombinedExport::exportMovie(footage.event, options, footage.output(), {});
+
+        const MovieFacts facts = MovieFacts::read(footage.output());
+        const MovieFacts::Stream *video = facts.firstOf(QStringLiteral("video"));
+        QVERIFY(video);
+        QCOMPARE(video->decodedFrames, 6 * fps);
+        QCOMPARE(video->decodeErrors, 0);
+        QVERIFY2(std::abs(facts.duration - 6.0) < 0.05, qPrintable(QString::number(facts.duration)));
+        for (const double t : {1.0, 3.0, 5.0}) {
+            const auto grab = FrameGrab::at(footage.output(), t);
+            QVERIFY(grab);
+            const QColor seen = grab->meanColour(video->width / 2, video->height / 4);
+            QVERIFY2(near(seen, t == 3.0 ? QColor(Qt::black) : colourOf(Camera::front)),
+                     qPrintable(QStringLiteral("%1 s: %2").arg(t).arg(describe(seen))));
         }
     }
 
@@ -785,10 +805,8 @@ private Q_SLOTS:
         Footage footage;
         footage.add(Camera::front, colourClip(Camera::front, 8.0, 30), 0);
         // 6 s of pictures whose reads stop answering past 70 % of the file.
-        const QByteArray bytes = busyClipBytes(6.0, 30);
-        fs.addFile(QStringLiteral("back.mp4"), bytes);
-        fs.hangReadsFrom(QStringLiteral("back.mp4"), bytes.size() * 7 / 10);
-        footage.place(Camera::back, mountPoint.filePath(QStringLiteral("back.mp4")), 0);
+        const QByteArray bytes = HeldClip::indexFirst(6.0, 30);
+        footage.place(Camera::back, HeldClip::add(fs, QStringLiteral("back.mp4"), bytes, bytes.size() * 7 / 10), 0);
         const QString after = footage.outputs() + QStringLiteral("/after.mp4");
         TeslaCamFixture::writeFile(after, bytes);
         footage.add(Camera::back, after, 6);
@@ -831,11 +849,9 @@ private Q_SLOTS:
         QVERIFY(fs.isMounted());
         Footage footage;
         footage.add(Camera::back, colourClip(Camera::back, 8.0), 0);
-        const QByteArray bytes = busyClipBytes(8.0, fps);
+        const QByteArray bytes = HeldClip::indexFirst(8.0, fps);
         QVERIFY(bytes.size() > 1024 * 1024);
-        fs.addFile(QStringLiteral("front.mp4"), bytes);
-        fs.hangReadsFrom(QStringLiteral("front.mp4"), bytes.size() * 6 / 10);
-        footage.place(Camera::front, mountPoint.filePath(QStringLiteral("front.mp4")), 0);
+        footage.place(Camera::front, HeldClip::add(fs, QStringLiteral("front.mp4"), bytes, bytes.size() * 6 / 10), 0);
 
         std::stop_source stop;
         std::atomic<bool> begun{false};

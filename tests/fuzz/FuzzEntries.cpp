@@ -3,13 +3,13 @@
 #include "drive/ClipCalendar.h"
 #include "drive/ClipProber.h"
 #include "drive/EventJSONPayload.h"
-#include "drive/MediaInput.h"
-#include "drive/ReadOnlyFs.h"
+#include "base/ReadOnlyFs.h"
 #include "drive/ReasonMapper.h"
 #include "drive/TelemetryReader.h"
 #include "drive/TeslaCamParser.h"
 #include "export/ExportError.h"
 #include "export/Exporter.h"
+#include "media/MediaClip.h"
 
 extern "C" {
 #include <libavformat/avformat.h>
@@ -157,16 +157,19 @@ QString exportClip(const QByteArray &input)
             return QStringLiteral("an export failed without a sentence to show (case %1)").arg(int(e.errorCase()));
         return {};
     }
-    // What the export wrote must read back as a movie with pictures. (Not
-    // necessarily as footage of the same length: a header that claims days
-    // for a few frames is copied as it is.)
-    const auto written = MediaInput::open(destination, std::stop_token(), {.mp4Only = true});
-    if (!written || avformat_find_stream_info(written->context(), nullptr) < 0
-        || written->bestStream(AVMEDIA_TYPE_VIDEO) < 0)
+    // What the export wrote must read back as a movie with pictures, whose
+    // own header holds for its data: no header value of the clip beyond
+    // what the clip held made it into the movie.
+    MediaClip::Options options;
+    options.streamInfo = MediaClip::StreamInfo::always;
+    options.checkHeader = true;
+    const auto written = MediaClip::open(destination, std::stop_token(), options);
+    if (!written->isOpened())
         return QStringLiteral("an export succeeded but wrote no movie with pictures");
-    const AVStream *video = written->context()->streams[written->bestStream(AVMEDIA_TYPE_VIDEO)];
-    if (video->nb_frames == 0)
+    if (written->video()->nb_frames == 0)
         return QStringLiteral("an export succeeded but its movie holds no pictures");
+    if (written->facts().verdict != HeaderCheck::ClipFacts::Verdict::sound)
+        return QStringLiteral("an export wrote a movie its own data contradict: %1").arg(written->facts().reason);
     return {};
 }
 

@@ -2,6 +2,7 @@
 
 #include "engine/EnginePools.h"
 #include "playback/SyncPlayerController.h"
+#include "support/DamagedHeaders.h"
 #include "support/FaultyFs.h"
 #include "support/TreeSnapshot.h"
 
@@ -652,6 +653,43 @@ private Q_SLOTS:
         QVERIFY(waitSettled(c, 20000));
         QTRY_VERIFY(!c.isShowingApproximateFrames());
         verifyAllAt(c, MediaTime::fromSeconds(last).seconds(), layout);
+    }
+
+    // A minute whose header its own data contradict, never probed: the
+    // player places the good minutes around it and shows no picture for its
+    // stretch, which says the camera didn't record properly.
+    void damagedHeaderMinuteShowsThePlaceholder_data()
+    {
+        DamagedHeaders::addRows();
+    }
+    void damagedHeaderMinuteShowsThePlaceholder()
+    {
+        QFETCH(int, damage);
+        EventBuilder b(tmp.path() + QStringLiteral("/damaged-%1").arg(damage));
+        b.add(Camera::front, 0);
+        ClipRef &damaged = b.add(Camera::front, 1, ClipHealth::unknown);
+        b.add(Camera::front, 2);
+        const QByteArray bytes = DamagedHeaders::damaged(damage, damaged.url);
+        QFile file(damaged.url);
+        QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate) && file.write(bytes) == bytes.size());
+        file.close();
+
+        SyncPlayerController c(b.event);
+        QTRY_VERIFY(!c.isLoadingTiles());
+        QCOMPARE(c.tiles().size(), size_t(1));
+        QVERIFY(c.tiles()[0].player);
+        QCOMPARE(c.duration(), 9.0);
+        QCOMPARE(c.tiles()[0].gaps, (std::vector<EventTimeline::Gap>{{3, 6, SyncPlayerController::damagedReason}}));
+        attachSinks(c);
+        QTRY_VERIFY(c.isPlaying());
+        c.pause();
+        const std::map<int, std::pair<std::vector<double>, std::vector<int>>> layout{
+            {int(Camera::front), {{0, 6}, {0, 2}}}};
+        for (double t : {1.0, 4.0, 7.0}) {
+            c.seek(t);
+            QVERIFY(waitSettled(c));
+            verifyAllAt(c, t, layout);
+        }
     }
 };
 

@@ -1,5 +1,5 @@
 #include "drive/TeslaCamParser.h"
-#include "model/CancellationError.h"
+#include "base/CancellationError.h"
 #include "playback/TelemetryTimeline.h"
 #include "support/TelemetryClipWriter.h"
 #include "support/TeslaCamFixture.h"

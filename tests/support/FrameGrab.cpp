@@ -1,5 +1,7 @@
 #include "support/FrameGrab.h"
 
+#include "media/AvHandles.h"
+
 extern "C" {
 #include <libavcodec/avcodec.h>
 #include <libavformat/avformat.h>
@@ -17,14 +19,13 @@ QImage toImages(const AVFrame *frame, QImage *luma)
     for (int y = 0; y < frame->height; ++y)
         std::memcpy(luma->scanLine(y), frame->data[0] + size_t(y) * size_t(frame->linesize[0]), size_t(frame->width));
     QImage rgb(frame->width, frame->height, QImage::Format_RGB888);
-    SwsContext *sws = sws_getContext(frame->width, frame->height, AVPixelFormat(frame->format), frame->width,
-                                     frame->height, AV_PIX_FMT_RGB24, SWS_POINT, nullptr, nullptr, nullptr);
+    const Av::Scaler sws(sws_getContext(frame->width, frame->height, AVPixelFormat(frame->format), frame->width,
+                                        frame->height, AV_PIX_FMT_RGB24, SWS_POINT, nullptr, nullptr, nullptr));
     if (!sws)
         return QImage();
     uint8_t *data[4] = {rgb.bits(), nullptr, nullptr, nullptr};
     int linesize[4] = {int(rgb.bytesPerLine()), 0, 0, 0};
-    sws_scale(sws, frame->data, frame->linesize, 0, frame->height, data, linesize);
-    sws_freeContext(sws);
+    sws_scale(sws.get(), frame->data, frame->linesize, 0, frame->height, data, linesize);
     return rgb;
 }
 } // namespace
@@ -34,23 +35,25 @@ std::optional<FrameGrab> FrameGrab::at(const QString &path, double seconds)
     AVFormatContext *format = nullptr;
     if (avformat_open_input(&format, QFile::encodeName(path).constData(), nullptr, nullptr) < 0)
         return std::nullopt;
-    std::unique_ptr<AVFormatContext *, void (*)(AVFormatContext **)> closeFormat(&format, avformat_close_input);
+    const Av::InputContext closeFormat(format);
     if (avformat_find_stream_info(format, nullptr) < 0)
         return std::nullopt;
     const AVCodec *codec = nullptr;
     const int stream = av_find_best_stream(format, AVMEDIA_TYPE_VIDEO, -1, -1, &codec, 0);
     if (stream < 0 || !codec)
         return std::nullopt;
-    AVCodecContext *decoder = avcodec_alloc_context3(codec);
-    std::unique_ptr<AVCodecContext *, void (*)(AVCodecContext **)> freeDecoder(&decoder, avcodec_free_context);
+    const Av::CodecContext decoding(avcodec_alloc_context3(codec));
+    AVCodecContext *decoder = decoding.get();
+    if (!decoder)
+        return std::nullopt;
     if (avcodec_parameters_to_context(decoder, format->streams[stream]->codecpar) < 0
         || avcodec_open2(decoder, codec, nullptr) < 0)
         return std::nullopt;
     const AVRational base = format->streams[stream]->time_base;
-    AVPacket *packet = av_packet_alloc();
-    AVFrame *frame = av_frame_alloc();
-    std::unique_ptr<AVPacket *, void (*)(AVPacket **)> freePacket(&packet, av_packet_free);
-    std::unique_ptr<AVFrame *, void (*)(AVFrame **)> freeFrame(&frame, av_frame_free);
+    const Av::Packet packing = Av::makePacket();
+    const Av::Frame framing = Av::makeFrame();
+    AVPacket *packet = packing.get();
+    AVFrame *frame = framing.get();
     std::optional<int64_t> first;
     bool draining = false;
     for (;;) {

@@ -1,5 +1,7 @@
 #include "support/MovieFacts.h"
 
+#include "media/AvHandles.h"
+
 extern "C" {
 #include <libavcodec/avcodec.h>
 #include <libavformat/avformat.h>
@@ -59,12 +61,13 @@ MovieFacts MovieFacts::read(const QString &path, bool decode)
     AVFormatContext *format = nullptr;
     if (avformat_open_input(&format, QFile::encodeName(path).constData(), nullptr, nullptr) < 0)
         return facts;
-    std::unique_ptr<AVFormatContext *, void (*)(AVFormatContext **)> closer(&format, avformat_close_input);
+    const Av::InputContext closer(format);
     if (avformat_find_stream_info(format, nullptr) < 0)
         return facts;
     facts.opened = true;
     facts.duration = format->duration == AV_NOPTS_VALUE ? 0.0 : double(format->duration) / AV_TIME_BASE;
 
+    std::vector<Av::CodecContext> owned(format->nb_streams);
     std::vector<AVCodecContext *> decoders(format->nb_streams, nullptr);
     std::vector<int64_t> lastDts(format->nb_streams, AV_NOPTS_VALUE);
     for (unsigned i = 0; i < format->nb_streams; ++i) {
@@ -83,16 +86,19 @@ MovieFacts MovieFacts::read(const QString &path, bool decode)
         facts.streams.push_back(s);
         if (decode && st->codecpar->codec_type == AVMEDIA_TYPE_VIDEO) {
             const AVCodec *codec = avcodec_find_decoder(st->codecpar->codec_id);
-            AVCodecContext *ctx = codec ? avcodec_alloc_context3(codec) : nullptr;
-            if (ctx && avcodec_parameters_to_context(ctx, st->codecpar) >= 0 && avcodec_open2(ctx, codec, nullptr) >= 0)
-                decoders[i] = ctx;
-            else
-                avcodec_free_context(&ctx);
+            Av::CodecContext ctx(codec ? avcodec_alloc_context3(codec) : nullptr);
+            if (ctx && avcodec_parameters_to_context(ctx.get(), st->codecpar) >= 0
+                && avcodec_open2(ctx.get(), codec, nullptr) >= 0) {
+                decoders[i] = ctx.get();
+                owned[i] = std::move(ctx);
+            }
         }
     }
 
-    AVPacket *packet = av_packet_alloc();
-    AVFrame *frame = av_frame_alloc();
+    const Av::Packet packing = Av::makePacket();
+    const Av::Frame framing = Av::makeFrame();
+    AVPacket *packet = packing.get();
+    AVFrame *frame = framing.get();
     const auto drain = [&](unsigned index) {
         while (avcodec_receive_frame(decoders[index], frame) >= 0) {
             ++facts.streams[index].decodedFrames;
@@ -126,9 +132,6 @@ MovieFacts MovieFacts::read(const QString &path, bool decode)
             continue;
         avcodec_send_packet(decoders[i], nullptr);
         drain(i);
-        avcodec_free_context(&decoders[i]);
     }
-    av_frame_free(&frame);
-    av_packet_free(&packet);
     return facts;
 }

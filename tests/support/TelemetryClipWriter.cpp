@@ -1,5 +1,7 @@
 #include "support/TelemetryClipWriter.h"
 
+#include "media/AvHandles.h"
+
 extern "C" {
 #include <libavcodec/avcodec.h>
 #include <libavformat/avformat.h>
@@ -37,10 +39,7 @@ void appendMessage(QByteArray &out, int type, const QByteArray &body)
     throw std::runtime_error(what);
 }
 
-struct PacketFree {
-    void operator()(AVPacket *p) const { av_packet_free(&p); }
-};
-using Packet = std::unique_ptr<AVPacket, PacketFree>;
+using Packet = Av::Packet;
 
 } // namespace
 
@@ -97,10 +96,11 @@ QByteArray seiUnit(const FrameRecord &record, bool hevc)
 
 void remux(const QString &source, const QString &dest, const RecordFor &recordFor, bool faststart)
 {
-    AVFormatContext *in = nullptr;
-    if (avformat_open_input(&in, QFile::encodeName(source).constData(), nullptr, nullptr) < 0)
+    AVFormatContext *opened = nullptr;
+    if (avformat_open_input(&opened, QFile::encodeName(source).constData(), nullptr, nullptr) < 0)
         fail("can't open " + source.toStdString());
-    const std::unique_ptr<AVFormatContext *, void (*)(AVFormatContext **)> closeIn(&in, avformat_close_input);
+    const Av::InputContext input(opened);
+    AVFormatContext *in = input.get();
     if (avformat_find_stream_info(in, nullptr) < 0)
         fail("can't read " + source.toStdString());
     const int video = av_find_best_stream(in, AVMEDIA_TYPE_VIDEO, -1, -1, nullptr, 0);
@@ -132,10 +132,11 @@ void remux(const QString &source, const QString &dest, const RecordFor &recordFo
     const AVStream *vs = in->streams[video];
     const int64_t first = vs->start_time != AV_NOPTS_VALUE ? vs->start_time : (times.empty() ? 0 : times.front());
 
-    AVFormatContext *out = nullptr;
-    if (avformat_alloc_output_context2(&out, nullptr, "mp4", QFile::encodeName(dest).constData()) < 0 || !out)
+    AVFormatContext *made = nullptr;
+    if (avformat_alloc_output_context2(&made, nullptr, "mp4", QFile::encodeName(dest).constData()) < 0 || !made)
         fail("can't make " + dest.toStdString());
-    const std::unique_ptr<AVFormatContext, void (*)(AVFormatContext *)> freeOut(out, avformat_free_context);
+    const Av::OutputContext output(made);
+    AVFormatContext *out = output.get();
     out->flags |= AVFMT_FLAG_BITEXACT; // the same bytes on every build
     for (unsigned i = 0; i < in->nb_streams; ++i) {
         AVStream *s = avformat_new_stream(out, nullptr);
@@ -149,11 +150,10 @@ void remux(const QString &source, const QString &dest, const RecordFor &recordFo
     if (avio_open(&out->pb, QFile::encodeName(dest).constData(), AVIO_FLAG_WRITE) < 0)
         fail("can't write " + dest.toStdString());
     const std::unique_ptr<AVIOContext *, int (*)(AVIOContext **)> closeOut(&out->pb, avio_closep);
-    AVDictionary *options = nullptr;
+    Av::Dictionary options;
     if (faststart)
-        av_dict_set(&options, "movflags", "+faststart", 0);
-    const int written = avformat_write_header(out, &options);
-    av_dict_free(&options);
+        options.set("movflags", "+faststart");
+    const int written = avformat_write_header(out, options.out());
     if (written < 0)
         fail("can't write the header of " + dest.toStdString());
 

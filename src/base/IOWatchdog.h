@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/CancellationError.h"
+#include "base/CancellationError.h"
 
 #include <chrono>
 #include <condition_variable>

@@ -1,4 +1,4 @@
-#include "drive/ReadOnlyFs.h"
+#include "base/ReadOnlyFs.h"
 
 #include <QFile>
 #include <algorithm>

@@ -1,4 +1,4 @@
-#include "drive/IOWatchdog.h"
+#include "base/IOWatchdog.h"
 
 #include <atomic>
 #include <thread>
