@@ -2,6 +2,7 @@
 
 #include <QtEndian>
 
+#include "drive/EcryptfsHeader.h"
 #include "drive/IOWatchdog.h"
 #include "drive/MediaInput.h"
 #include "drive/ReadOnlyFs.h"
@@ -135,11 +136,7 @@ QByteArray readHead(const QString &path, int size)
 
 bool sniffEcryptfs(const QString &path)
 {
-    const QByteArray head = readHead(path, 16);
-    if (head.size() < 16)
-        return false;
-    const auto word = [&](int at) { return qFromBigEndian<quint32>(head.constData() + at); };
-    return (word(8) ^ word(12)) == ecryptfsMarker;
+    return Ecryptfs::hasMarker(readHead(path, 16));
 }
 
 bool sniffFtyp(const QString &path)

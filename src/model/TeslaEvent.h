@@ -27,6 +27,9 @@ struct TeslaEvent {
     std::vector<ClipRef> clips;
     std::optional<QString> thumbURL;
     bool missingEventJSON = true;
+    // Recorded with the car's encryption on (under EncryptedClips): the
+    // clips play only with their keys, and event.json can't be read here.
+    bool encrypted = false;
 
     // The one identity of an event: "sentry|2026-07-21_02-11-05".
     QString id() const { return kind.rawValue() + QLatin1Char('|') + folderName; }

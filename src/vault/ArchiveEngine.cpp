@@ -1,5 +1,7 @@
 #include "vault/ArchiveEngine.h"
 
+#include "crypt/KeyStore.h"
+
 #include "drive/IOWatchdog.h"
 #include "drive/ReadOnlyFs.h"
 #include "drive/VolumeInfo.h"
@@ -466,6 +468,15 @@ ArchiveReport run(const ArchivePlan &plan, const QString &vaultURL, const Archiv
         record.archivedAt = Date::now();
         record.sourceVolume = volumeName(event.folderURL);
         record.relativePath = relative;
+        record.encrypted = event.encrypted;
+        // Keys already fetched go beside the copies, so the kept event plays
+        // offline and on any computer the Vault is taken to.
+        if (event.encrypted) {
+            std::vector<QString> copies;
+            for (const ArchivedFile &f : record.files)
+                copies.push_back(folder + QLatin1Char('/') + f.name);
+            KeyRing::storeBeside(folder, copies);
+        }
         report.archivedEvents.push_back(std::move(record));
         emitProgress(i + 1, std::nullopt);
     }

@@ -38,6 +38,8 @@ QJsonObject ArchivedEvent::toJson() const
     o.insert(QStringLiteral("archivedAt"), encodeDate(archivedAt));
     o.insert(QStringLiteral("sourceVolume"), sourceVolume);
     o.insert(QStringLiteral("relativePath"), relativePath);
+    if (encrypted)
+        o.insert(QStringLiteral("encrypted"), true);
     return o;
 }
 
@@ -54,13 +56,14 @@ ArchivedEvent ArchivedEvent::fromJson(const QJsonValue &value)
     e.archivedAt = decodeDate(require(o, "archivedAt"), "archivedAt");
     e.sourceVolume = requireString(o, "sourceVolume");
     e.relativePath = requireString(o, "relativePath");
+    e.encrypted = o.contains(QLatin1String("encrypted")) && requireBool(o, "encrypted");
     return e;
 }
 
 size_t qHash(const ArchivedEvent &e, size_t seed) noexcept
 {
     size_t h = qHashMulti(seed, e.eventID, e.kind, e.folderName, e.timestamp, e.archivedAt, e.sourceVolume,
-                          e.relativePath);
+                          e.relativePath, e.encrypted);
     for (const auto &f : e.files)
         h = qHash(f, h);
     return h;

@@ -18,6 +18,8 @@ struct ArchivedEvent {
     Date archivedAt;
     QString sourceVolume; // "Unknown Drive" when the name could not be read
     QString relativePath; // "<year>/<kind>/<folder name>" from the Vault root
+    // The car's encrypted footage, kept byte for byte; written only when true.
+    bool encrypted = false;
 
     const QString &id() const { return eventID; }
 

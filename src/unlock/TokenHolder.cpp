@@ -1,0 +1,82 @@
+#include "unlock/TokenHolder.h"
+
+#include <QCoreApplication>
+#include <qcoro/qcorosignal.h>
+#include <qt6keychain/keychain.h>
+
+namespace {
+
+// Waits for a keychain job of any kind; the job is owned here.
+template <typename Job> QCoro::Task<QKeychain::Error> run(Job &job)
+{
+    job.setAutoDelete(false);
+    // A plain file in place of a missing secret store is exactly what must never happen.
+    job.setInsecureFallback(false);
+    job.setKey(TokenHolder::entry);
+    job.start();
+    co_await qCoro(&job, &QKeychain::Job::finished);
+    co_return job.error();
+}
+
+} // namespace
+
+TokenHolder::TokenHolder(QObject *parent) : QObject(parent) {}
+
+QString TokenHolder::noSecretStoreSentence()
+{
+    return QCoreApplication::translate("TokenHolder",
+                                       "This computer has no secret store to remember your sign-in in, so it is kept "
+                                       "only until Keelhold quits.");
+}
+
+QByteArray TokenHolder::cleaned(QByteArray pasted)
+{
+    pasted = pasted.trimmed();
+    if (pasted.startsWith("Bearer ") || pasted.startsWith("bearer "))
+        pasted = pasted.mid(7).trimmed();
+    return pasted;
+}
+
+void TokenHolder::setToken(QByteArray token)
+{
+    token_ = std::move(token);
+    Q_EMIT changed();
+}
+
+QCoro::Task<TokenHolder::StoreResult> TokenHolder::remember()
+{
+    QKeychain::WritePasswordJob job(service);
+    job.setBinaryData(token_);
+    const QKeychain::Error error = co_await run(job);
+    if (error != QKeychain::NoError)
+        co_return StoreResult{false, noSecretStoreSentence()};
+    remembered_ = true;
+    Q_EMIT changed();
+    co_return StoreResult{true, {}};
+}
+
+QCoro::Task<bool> TokenHolder::loadRemembered()
+{
+    QKeychain::ReadPasswordJob job(service);
+    const QKeychain::Error error = co_await run(job);
+    if (error != QKeychain::NoError || job.binaryData().isEmpty())
+        co_return false;
+    token_ = job.binaryData();
+    remembered_ = true;
+    Q_EMIT changed();
+    co_return true;
+}
+
+QCoro::Task<TokenHolder::StoreResult> TokenHolder::forget()
+{
+    token_.clear();
+    const bool wasRemembered = remembered_;
+    remembered_ = false;
+    Q_EMIT changed();
+    QKeychain::DeletePasswordJob job(service);
+    const QKeychain::Error error = co_await run(job);
+    // Nothing stored is as good as removed.
+    if (error == QKeychain::NoError || error == QKeychain::EntryNotFound)
+        co_return StoreResult{true, {}};
+    co_return StoreResult{!wasRemembered, noSecretStoreSentence()};
+}
