@@ -54,9 +54,7 @@ QByteArray token(const QCommandLineParser &parser, const QCommandLineOption &opt
 {
     if (parser.isSet(option))
         return readTokenFile(parser.value(option), error).value_or(QByteArray());
-    TokenHolder holder;
-    QCoro::waitFor(holder.loadRemembered());
-    return holder.token();
+    return QCoro::waitFor(TokenHolder::stored()).value_or(QByteArray());
 }
 
 KeyCheck ensureKeys(const std::vector<ClipRef> &clips, const QByteArray &token, const QString &vaultURL)

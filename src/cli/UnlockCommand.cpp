@@ -52,9 +52,8 @@ int run(const QStringList &arguments)
         return CliOutput::usageExit;
     }
 
-    TokenHolder holder;
     if (parser.isSet(forget)) {
-        const TokenHolder::StoreResult forgotten = QCoro::waitFor(holder.forget());
+        const TokenHolder::StoreResult forgotten = QCoro::waitFor(TokenHolder::forgetStored());
         if (!forgotten.ok)
             return fail(forgotten.sentence);
         CliOutput::err(tr("Your Tesla sign-in is no longer remembered on this computer."));
@@ -74,8 +73,7 @@ int run(const QStringList &arguments)
                            "Tesla's dashcam viewer and copy a fresh one."));
         return fail(KeyService::sentence(outcome));
     }
-    holder.setToken(*token);
-    const TokenHolder::StoreResult remembered = QCoro::waitFor(holder.remember());
+    const TokenHolder::StoreResult remembered = QCoro::waitFor(TokenHolder::store(*token));
     if (!remembered.ok) {
         CliOutput::err(tr("Tesla's service accepted your sign-in, but this computer has no secret store to remember it "
                           "in: give it with --token-file to each command instead."));

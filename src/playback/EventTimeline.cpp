@@ -5,9 +5,15 @@
 #include "model/CancellationError.h"
 #include "playback/MediaSource.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 
 namespace EventTimeline {
+
+QString lockedReason()
+{
+    return QCoreApplication::translate("EventTimeline", "Unlock to watch");
+}
 
 std::vector<CameraTrack> build(const TeslaEvent &event, std::chrono::milliseconds clipTimeout, std::stop_token stop)
 {
@@ -35,7 +41,12 @@ std::vector<CameraTrack> build(const TeslaEvent &event, std::chrono::millisecond
         if (playable.empty()) {
             const bool allDamaged = !clips.empty()
                 && std::all_of(clips.begin(), clips.end(), [](const ClipRef &c) { return c.health.isDamaged(); });
-            tracks.push_back(CameraTrack{camera, std::nullopt, allDamaged ? damagedReason : noFootageReason, 0});
+            const bool locked = std::any_of(clips.begin(), clips.end(),
+                                            [](const ClipRef &c) { return c.health == ClipHealth::encrypted; });
+            if (locked)
+                tracks.push_back(CameraTrack{camera, std::nullopt, lockedReason(), 0, true});
+            else
+                tracks.push_back(CameraTrack{camera, std::nullopt, allDamaged ? damagedReason : noFootageReason, 0});
             continue;
         }
 

@@ -18,12 +18,15 @@ namespace EventTimeline {
 
 inline const QString damagedReason = QStringLiteral("This angle didn't record properly — a known Tesla drive issue.");
 inline const QString noFootageReason = QStringLiteral("No footage this minute.");
+// The car's encrypted footage with no key held yet.
+QString lockedReason();
 
 struct CameraTrack {
     Camera camera;
     std::optional<Composition> composition;   // one track; absent when the camera has nothing to show
     std::optional<QString> placeholderReason; // set exactly when composition is absent
     double contentEnd = 0;                    // where this camera's footage ends on the axis
+    bool locked = false;                      // encrypted footage that waits for its keys
 };
 
 // Every camera of the event, in grid order. Reads each usable clip's header

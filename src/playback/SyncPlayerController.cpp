@@ -105,7 +105,7 @@ void SyncPlayerController::applyTileOutcomes(const std::vector<TileOutcome> &out
         if (o.composition)
             tiles.push_back(Tile{o.camera, std::make_shared<TrackPlayer>(*o.composition), std::nullopt, o.contentEnd});
         else
-            tiles.push_back(Tile{o.camera, nullptr, o.placeholderReason, 0});
+            tiles.push_back(Tile{o.camera, nullptr, o.placeholderReason, 0, o.locked});
     }
     tiles_ = std::move(tiles);
     group_.clear();
@@ -123,6 +123,7 @@ void SyncPlayerController::applyTileOutcomes(const std::vector<TileOutcome> &out
         m.insert(QStringLiteral("placeholderReason"),
                  t.placeholderReason ? QVariant(*t.placeholderReason) : QVariant());
         m.insert(QStringLiteral("contentEnd"), t.contentEnd);
+        m.insert(QStringLiteral("locked"), t.locked);
         tilesForQml_.append(m);
     }
     Q_EMIT tilesChanged();

@@ -46,6 +46,7 @@ public:
         std::shared_ptr<TrackPlayer> player;      // absent when the camera can't be shown
         std::optional<QString> placeholderReason; // set exactly when player is absent
         double contentEnd = 0;                    // where this camera's footage ends on the axis
+        bool locked = false;                      // encrypted, no key held yet
         Camera id() const { return camera; }
     };
 

@@ -44,6 +44,9 @@ public:
         TickToolTipRole,
         IsSelectedRole,
         DayHeadingRole,
+        LockStateRole,
+        LockIconRole,
+        LockToolTipRole,
     };
 
     EventListModel(AppState *state, Source source, QObject *parent = nullptr);

@@ -1,5 +1,7 @@
 #include "unlock/KeyService.h"
 
+#include "model/TeslaViewer.h"
+
 #include <QHostAddress>
 #include <QSettings>
 
@@ -11,7 +13,7 @@ QUrl batchURL()
     const QSettings settings(QStringLiteral("Keelhold"), QStringLiteral("Keelhold"));
     QString base = settings.value(settingsKey).toString().trimmed();
     if (base.isEmpty())
-        base = defaultURL;
+        base = TeslaViewer::url();
     while (base.endsWith(QLatin1Char('/')))
         base.chop(1);
     return QUrl(base + batchPath);

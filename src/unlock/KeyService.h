@@ -13,7 +13,8 @@
 // the signed-in account owns the car; nothing but the key blocks is sent.
 namespace KeyService {
 
-inline const QString defaultURL = QStringLiteral("https://dashcam.tesla.com");
+// The service sits at the car maker's web viewer (TeslaViewer::url()) unless
+// the settings name another address.
 // In the settings file the app and the command-line tool share.
 inline const QString settingsKey = QStringLiteral("KHKeyServiceURL");
 inline const QString batchPath = QStringLiteral("/api/1/decrypt/batch");

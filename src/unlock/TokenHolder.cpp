@@ -43,40 +43,43 @@ void TokenHolder::setToken(QByteArray token)
     Q_EMIT changed();
 }
 
-QCoro::Task<TokenHolder::StoreResult> TokenHolder::remember()
+void TokenHolder::setRemembered(bool v)
+{
+    remembered_ = v;
+    Q_EMIT changed();
+}
+
+void TokenHolder::clear()
+{
+    token_.clear();
+    Q_EMIT changed();
+}
+
+QCoro::Task<TokenHolder::StoreResult> TokenHolder::store(QByteArray token)
 {
     QKeychain::WritePasswordJob job(service);
-    job.setBinaryData(token_);
+    job.setBinaryData(token);
     const QKeychain::Error error = co_await run(job);
     if (error != QKeychain::NoError)
         co_return StoreResult{false, noSecretStoreSentence()};
-    remembered_ = true;
-    Q_EMIT changed();
     co_return StoreResult{true, {}};
 }
 
-QCoro::Task<bool> TokenHolder::loadRemembered()
+QCoro::Task<std::optional<QByteArray>> TokenHolder::stored()
 {
     QKeychain::ReadPasswordJob job(service);
     const QKeychain::Error error = co_await run(job);
     if (error != QKeychain::NoError || job.binaryData().isEmpty())
-        co_return false;
-    token_ = job.binaryData();
-    remembered_ = true;
-    Q_EMIT changed();
-    co_return true;
+        co_return std::nullopt;
+    co_return job.binaryData();
 }
 
-QCoro::Task<TokenHolder::StoreResult> TokenHolder::forget()
+QCoro::Task<TokenHolder::StoreResult> TokenHolder::forgetStored()
 {
-    token_.clear();
-    const bool wasRemembered = remembered_;
-    remembered_ = false;
-    Q_EMIT changed();
     QKeychain::DeletePasswordJob job(service);
     const QKeychain::Error error = co_await run(job);
     // Nothing stored is as good as removed.
     if (error == QKeychain::NoError || error == QKeychain::EntryNotFound)
         co_return StoreResult{true, {}};
-    co_return StoreResult{!wasRemembered, noSecretStoreSentence()};
+    co_return StoreResult{false, noSecretStoreSentence()};
 }

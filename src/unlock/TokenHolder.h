@@ -24,16 +24,19 @@ public:
     // For this session only; a token remembered before stays remembered.
     void setToken(QByteArray token);
 
+    void setRemembered(bool v);
+    // Out of memory; the secret store is left to forgetStored().
+    void clear();
+
     struct StoreResult {
         bool ok = false;
         QString sentence; // why not, when not
     };
-    // Puts the held token into the secret store.
-    QCoro::Task<StoreResult> remember();
-    // The remembered token, if there is one, becomes the held one.
-    QCoro::Task<bool> loadRemembered();
-    // Out of memory and out of the secret store.
-    QCoro::Task<StoreResult> forget();
+    // The secret store's side, touching no holder, so that a holder that
+    // goes away while the store answers is never reached afterwards.
+    static QCoro::Task<StoreResult> store(QByteArray token);
+    static QCoro::Task<std::optional<QByteArray>> stored();
+    static QCoro::Task<StoreResult> forgetStored();
 
     // The sentence for a desktop with no secret store.
     static QString noSecretStoreSentence();
