@@ -1,0 +1,60 @@
+#include "support/SecretStoreSession.h"
+
+#include <QStandardPaths>
+
+SecretStoreSession::SecretStoreSession()
+{
+    const QString daemon = QStandardPaths::findExecutable(QStringLiteral("dbus-daemon"));
+    const QString keyring = QStandardPaths::findExecutable(QStringLiteral("gnome-keyring-daemon"));
+    const QString gdbus = QStandardPaths::findExecutable(QStringLiteral("gdbus"));
+    if (daemon.isEmpty() || keyring.isEmpty() || gdbus.isEmpty())
+        return;
+    bus_.start(daemon, {QStringLiteral("--session"), QStringLiteral("--nofork"), QStringLiteral("--print-address=1")});
+    if (!bus_.waitForStarted())
+        return;
+    // The address is the daemon's first line, written once it listens.
+    while (!bus_.canReadLine() && bus_.waitForReadyRead(10000)) {
+    }
+    address_ = QString::fromLocal8Bit(bus_.readLine()).trimmed();
+    if (address_.isEmpty())
+        return;
+
+    keyring_.setProcessEnvironment(environment());
+    keyring_.start(keyring, {QStringLiteral("--foreground"), QStringLiteral("--unlock"), QStringLiteral("--components=secrets")});
+    if (!keyring_.waitForStarted())
+        return;
+    // The login keyring's password, on standard input, unlocks (or makes) it.
+    keyring_.write("keelhold-test-keyring");
+    keyring_.closeWriteChannel();
+
+    QProcess wait;
+    wait.setProcessEnvironment(environment());
+    wait.start(gdbus, {QStringLiteral("wait"), QStringLiteral("--session"), QStringLiteral("--timeout"),
+                       QStringLiteral("20"), QStringLiteral("org.freedesktop.secrets")});
+    ok_ = wait.waitForFinished(30000) && wait.exitStatus() == QProcess::NormalExit && wait.exitCode() == 0;
+}
+
+SecretStoreSession::~SecretStoreSession()
+{
+    for (QProcess *p : {&keyring_, &bus_}) {
+        if (p->state() == QProcess::NotRunning)
+            continue;
+        p->terminate();
+        if (!p->waitForFinished(5000)) {
+            p->kill();
+            p->waitForFinished();
+        }
+    }
+}
+
+QProcessEnvironment SecretStoreSession::environment() const
+{
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), address_);
+    return env;
+}
+
+void SecretStoreSession::enterHere() const
+{
+    qputenv("DBUS_SESSION_BUS_ADDRESS", address_.toLocal8Bit());
+}
