@@ -27,7 +27,9 @@ Found find(const QString &root, const QString &id, QString *error)
             ? QCoreApplication::translate("keelhold-cli", "There is no folder at \u201c%1\u201d. Check that the drive "
                                                           "is plugged in and the path is right.")
                   .arg(root)
-            : QCoreApplication::translate("keelhold-cli", "\u201c%1\u201d is a file, not a folder.").arg(root);
+            : QCoreApplication::translate("keelhold-cli", "\u201c%1\u201d is a file, not a folder. Give the TeslaCam "
+                                                          "folder itself.")
+                  .arg(root);
         return found;
     } catch (const TeslaCamParser::ScanError &e) {
         *error = e.message();

@@ -1,6 +1,7 @@
 #include "cli/ExportCommand.h"
 
 #include "cli/CliOutput.h"
+#include "cli/CliUnlock.h"
 #include "drive/DriveBoundary.h"
 #include "drive/TeslaCamParser.h"
 #include "export/CombinedExport.h"
@@ -161,8 +162,9 @@ int run(const QStringList &arguments)
         QStringLiteral("size"),
         QStringLiteral("The new movie's picture height. One of: 720, 1080, full. The default is 1080."),
         QStringLiteral("size"));
+    const QCommandLineOption tokenFile = CliUnlock::tokenFileOption();
     parser.addOptions({eventOption, cameraOption, outputOption, fromOption, toOption, layoutOption, overlayOption,
-                       sizeOption});
+                       sizeOption, tokenFile});
     if (const auto done = CliOutput::parseArguments(parser, arguments))
         return *done;
     const QStringList positional = parser.positionalArguments();
@@ -235,6 +237,20 @@ int run(const QStringList &arguments)
                                         [&](const TeslaEvent &e) { return e.id() == eventId; });
         if (event == scan.events.end())
             return fail(QStringLiteral("There is no event \u201c%1\u201d in this TeslaCam folder.").arg(eventId));
+
+        // The car's encrypted footage: kept keys first, the missing ones fetched.
+        if (event->encrypted) {
+            std::vector<ClipRef> clips;
+            std::copy_if(event->clips.begin(), event->clips.end(), std::back_inserter(clips),
+                         [&](const ClipRef &c) { return combined || c.camera == *camera; });
+            QString error;
+            const QByteArray token = CliUnlock::token(parser, tokenFile, &error);
+            if (!error.isEmpty())
+                return fail(error);
+            const CliUnlock::KeyCheck keys = CliUnlock::ensureKeys(clips, token, QString());
+            if (keys.unlocked.empty() && !keys.failures.isEmpty())
+                return fail(keys.failures.first());
+        }
 
         QString output = QDir::cleanPath(QDir::current().absoluteFilePath(parser.value(outputOption)));
         if (QFileInfo(output).isDir())
