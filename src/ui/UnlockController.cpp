@@ -252,7 +252,10 @@ void UnlockController::loadRemembered()
 QCoro::Task<void> UnlockController::loadTask(QPointer<UnlockController> self)
 {
     const std::optional<QByteArray> stored = co_await TokenHolder::stored();
-    if (!self || !stored || self->token_.hasToken())
+    if (!self)
+        co_return;
+    self->storeAnswered_ = true;
+    if (!stored || self->token_.hasToken())
         co_return;
     self->token_.setToken(*stored);
     self->token_.setRemembered(true);

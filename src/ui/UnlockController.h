@@ -70,6 +70,8 @@ public:
     Q_INVOKABLE void openViewer() const;
     // The remembered sign-in, when there is one and none is held.
     void loadRemembered();
+    // The secret store has answered the question loadRemembered() asked.
+    bool storeAnswered() const { return storeAnswered_; }
 
 Q_SIGNALS:
     void showSheetChanged();
@@ -98,4 +100,5 @@ private:
     bool offersSignInAgain_ = false;
     QString rememberNote_;
     bool askedStore_ = false;
+    bool storeAnswered_ = false;
 };
