@@ -35,9 +35,9 @@ QCommandLineOption tokenFileOption()
 
 std::optional<QByteArray> readTokenFile(const QString &spec, QString *error)
 {
-    QFile file;
     const bool fromStdin = spec == QLatin1String("-");
-    const bool opened = fromStdin ? file.open(stdin, QIODevice::ReadOnly) : (file.setFileName(spec), file.open(QIODevice::ReadOnly));
+    QFile file(fromStdin ? QString() : spec);
+    const bool opened = fromStdin ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
     if (!opened) {
         *error = tr("The token file %1 can't be read.").arg(spec);
         return std::nullopt;

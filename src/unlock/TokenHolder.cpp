@@ -13,8 +13,12 @@ template <typename Job> QCoro::Task<QKeychain::Error> run(Job &job)
     // A plain file in place of a missing secret store is exactly what must never happen.
     job.setInsecureFallback(false);
     job.setKey(TokenHolder::entry);
+    // A job that fails at once (no store at all) may finish inside start().
+    bool finished = false;
+    QObject::connect(&job, &QKeychain::Job::finished, &job, [&finished] { finished = true; });
     job.start();
-    co_await qCoro(&job, &QKeychain::Job::finished);
+    if (!finished)
+        co_await qCoro(&job, &QKeychain::Job::finished);
     co_return job.error();
 }
 

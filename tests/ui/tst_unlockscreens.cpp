@@ -106,8 +106,8 @@ private Q_SLOTS:
         auto *bar = app->find(QStringLiteral("lockedBar"));
         QVERIFY(bar);
         QTRY_VERIFY(bar->isVisible());
-        auto *tile = app->find(QStringLiteral("cameraTile_front"));
-        QTRY_VERIFY(tile);
+        QQuickItem *tile = nullptr;
+        QTRY_VERIFY((tile = app->find(QStringLiteral("cameraTile_front"))) != nullptr);
         auto *text = AppWindowHarness::findItem(tile, QStringLiteral("placeholderText"));
         QVERIFY(text);
         QTRY_COMPARE(text->property("text").toString(), QStringLiteral("Unlock to watch"));

@@ -153,11 +153,11 @@ private Q_SLOTS:
         KeyServiceStandIn service;
         service.setAcceptedToken(token);
         service.setMode(KeyServiceStandIn::Mode(mode));
-        EncryptedDrive drive(dir_.filePath(QStringLiteral("d/%1/TeslaCam").arg(QTest::currentDataTag())), plainClip(),
+        EncryptedDrive drive(dir_.filePath(QStringLiteral("d/%1/TeslaCam").arg(QString::fromLatin1(QTest::currentDataTag()))), plainClip(),
                              &service);
         QStringList paths;
         for (quint32 i = 0; i < 32; ++i) // two requests, both failing alike
-            paths << drive.addClip(dir_.filePath(QStringLiteral("d/%1/more").arg(QTest::currentDataTag())),
+            paths << drive.addClip(dir_.filePath(QStringLiteral("d/%1/more").arg(QString::fromLatin1(QTest::currentDataTag()))),
                                    QStringLiteral("2026-07-25_10-%1-00").arg(i, 2, 10, QLatin1Char('0')),
                                    QStringLiteral("front"), 400 + i + 100 * quint32(mode));
         const auto outcomes = unlock(service, paths, sentToken, 400ms);
