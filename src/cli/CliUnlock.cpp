@@ -1,6 +1,7 @@
 #include "cli/CliUnlock.h"
 
 #include "crypt/KeyStore.h"
+#include "unlock/SignInLink.h"
 #include "unlock/TokenHolder.h"
 #include "unlock/Unlocker.h"
 
@@ -54,7 +55,8 @@ QByteArray token(const QCommandLineParser &parser, const QCommandLineOption &opt
 {
     if (parser.isSet(option))
         return readTokenFile(parser.value(option), error).value_or(QByteArray());
-    return QCoro::waitFor(TokenHolder::stored()).value_or(QByteArray());
+    QNetworkAccessManager network;
+    return QCoro::waitFor(SignInLink::restore(network)).access;
 }
 
 KeyCheck ensureKeys(const std::vector<ClipRef> &clips, const QByteArray &token, const QString &vaultURL)

@@ -65,6 +65,13 @@ QVariantMap UnlockController::texts() const
          tr("The keys are kept on this computer and beside the events in your Vault, so unlocked footage plays "
             "offline from then on.")},
         {QStringLiteral("tokenHeading"), tr("Your Tesla sign-in")},
+        {QStringLiteral("browserSignIn"), tr("Sign In with Your Browser…")},
+        {QStringLiteral("browserSignInDetail"),
+         tr("Opens Tesla's sign-in page in your browser. When you have signed in, copy the address the browser "
+            "shows and paste it here. This sign-in can be renewed for months without signing in again.")},
+        {QStringLiteral("landedPlaceholder"), tr("Paste the address your browser landed on")},
+        {QStringLiteral("continue"), tr("Continue")},
+        {QStringLiteral("orToken"), tr("Or copy the viewer's sign-in token:")},
         {QStringLiteral("tokenPlaceholder"), tr("Paste your sign-in token")},
         {QStringLiteral("remember"), tr("Remember on this computer")},
         {QStringLiteral("rememberTip"),
@@ -137,14 +144,46 @@ void UnlockController::unlock(const QString &pastedToken, bool remember)
 {
     if (busy_)
         return;
-    unlockTask(QPointer<UnlockController>(this), TokenHolder::cleaned(pastedToken.toUtf8()), remember);
+    unlockTask(QPointer<UnlockController>(this), TokenHolder::cleaned(pastedToken.toUtf8()), QString(), remember);
 }
 
-QCoro::Task<void> UnlockController::unlockTask(QPointer<UnlockController> self, QByteArray pasted, bool remember)
+void UnlockController::beginBrowserSignIn()
+{
+    attempt_ = SignInLink::begin();
+    Q_EMIT signInChanged();
+    QDesktopServices::openUrl(attempt_->address);
+}
+
+void UnlockController::finishBrowserSignIn(const QString &landedAddress, bool remember)
+{
+    if (busy_ || !attempt_)
+        return;
+    unlockTask(QPointer<UnlockController>(this), QByteArray(), landedAddress, remember);
+}
+
+QCoro::Task<void> UnlockController::unlockTask(QPointer<UnlockController> self, QByteArray pasted, QString landed,
+                                               bool remember)
 {
     self->setBusy(true);
     self->setResult({}, {}, false);
-    if (!pasted.isEmpty()) {
+    bool newSignIn = false;
+    if (!landed.isEmpty()) {
+        QString error;
+        const std::optional<QByteArray> code = SignInLink::codeFrom(landed, *self->attempt_, &error);
+        SignInLink::Tokens tokens;
+        if (code)
+            tokens = co_await SignInLink::exchange(self->network_, *self->attempt_, *code);
+        if (!self)
+            co_return;
+        if (!code || tokens.access.isEmpty()) {
+            self->setResult({code ? tokens.error : error}, {}, false);
+            self->setBusy(false);
+            co_return;
+        }
+        self->attempt_.reset();
+        self->token_.setTokens(tokens.access, tokens.refresh);
+        newSignIn = true;
+    } else if (!pasted.isEmpty()) {
         KeyServiceClient client(self->network_, self->batchURL_, self->answerLimit_);
         const KeyService::Outcome checked = co_await client.check(pasted);
         if (!self)
@@ -155,21 +194,45 @@ QCoro::Task<void> UnlockController::unlockTask(QPointer<UnlockController> self, 
             co_return;
         }
         self->token_.setToken(pasted);
+        newSignIn = true;
+    }
+    if (newSignIn) {
         self->rememberNote_.clear();
+        self->token_.setRemembered(false);
         if (remember) {
-            const TokenHolder::StoreResult stored = co_await TokenHolder::store(pasted);
+            const TokenHolder::StoreResult stored = co_await TokenHolder::store(self->token_.secretToStore());
             if (!self)
                 co_return;
             self->token_.setRemembered(stored.ok);
             self->rememberNote_ = stored.sentence;
-            Q_EMIT self->signInChanged();
         }
-    }
-    if (!self->state_) {
-        self->setBusy(false);
-        co_return;
+        Q_EMIT self->signInChanged();
     }
 
+    // A lapsed access token with a refresh token beside it: renew once, and ask again.
+    if (co_await fetchKeys(self) && self && !self->token_.refreshToken().isEmpty()) {
+        const SignInLink::Tokens renewed = co_await SignInLink::refresh(self->network_, self->token_.refreshToken());
+        if (!self)
+            co_return;
+        if (!renewed.access.isEmpty()) {
+            self->token_.setTokens(renewed.access, renewed.refresh);
+            if (self->token_.isRemembered())
+                co_await TokenHolder::store(self->token_.secretToStore());
+            if (self)
+                co_await fetchKeys(self);
+        }
+    }
+    if (!self)
+        co_return;
+    self->setBusy(false);
+    if (self->state_)
+        self->state_->refreshKeyCoverage();
+}
+
+QCoro::Task<bool> UnlockController::fetchKeys(QPointer<UnlockController> self)
+{
+    if (!self || !self->state_)
+        co_return false;
     std::vector<QString> paths;
     const std::vector<TeslaEvent> events = self->state_->eventsWithIDs(self->pending_);
     for (const TeslaEvent &e : events)
@@ -181,7 +244,7 @@ QCoro::Task<void> UnlockController::unlockTask(QPointer<UnlockController> self, 
     const std::vector<Unlocker::FileOutcome> outcomes =
         co_await unlocker.unlock(paths, self->token_.token(), vaultURL);
     if (!self)
-        co_return;
+        co_return false;
 
     // A drive event kept before its keys came: they go beside the Vault's copy too.
     if (self->state_ && !vaultURL.isEmpty()) {
@@ -203,7 +266,7 @@ QCoro::Task<void> UnlockController::unlockTask(QPointer<UnlockController> self, 
                     KeyRing::storeBeside(folder, copies);
             });
         if (!self)
-            co_return;
+            co_return false;
     }
 
     const int unlocked = Unlocker::unlockedCount(outcomes);
@@ -214,11 +277,9 @@ QCoro::Task<void> UnlockController::unlockTask(QPointer<UnlockController> self, 
                                     : tr("Unlocked %1 of %2 clips.").arg(unlocked).arg(total);
     bool signInAgain = false;
     for (const auto &o : outcomes)
-        signInAgain = signInAgain || KeyService::asksForSignIn(o.outcome);
+        signInAgain = signInAgain || o.outcome == KeyService::Outcome::signInExpired;
     self->setResult(Unlocker::sentences(outcomes), summary, signInAgain);
-    self->setBusy(false);
-    if (self->state_)
-        self->state_->refreshKeyCoverage();
+    co_return signInAgain;
 }
 
 void UnlockController::signInAgain()
@@ -251,13 +312,13 @@ void UnlockController::loadRemembered()
 
 QCoro::Task<void> UnlockController::loadTask(QPointer<UnlockController> self)
 {
-    const std::optional<QByteArray> stored = co_await TokenHolder::stored();
+    const SignInLink::Tokens restored = co_await SignInLink::restore(self->network_);
     if (!self)
         co_return;
     self->storeAnswered_ = true;
-    if (!stored || self->token_.hasToken())
+    if (restored.access.isEmpty() || self->token_.hasToken())
         co_return;
-    self->token_.setToken(*stored);
+    self->token_.setTokens(restored.access, restored.refresh);
     self->token_.setRemembered(true);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "unlock/SignInLink.h"
 #include "unlock/TokenHolder.h"
 
 #include <QNetworkAccessManager>
@@ -10,6 +11,7 @@
 #include <QVariantList>
 #include <QVariantMap>
 #include <chrono>
+#include <optional>
 #include <qcoro/qcorotask.h>
 
 class AppState;
@@ -30,6 +32,8 @@ class UnlockController : public QObject {
     Q_PROPERTY(bool isRemembered READ isRemembered NOTIFY signInChanged)
     Q_PROPERTY(QString rememberNote READ rememberNote NOTIFY signInChanged)
     Q_PROPERTY(int pendingEventCount READ pendingEventCount NOTIFY showSheetChanged)
+    // A browser sign-in was opened: the sheet asks for the address it lands on.
+    Q_PROPERTY(bool browserSignInStarted READ browserSignInStarted NOTIFY signInChanged)
     Q_PROPERTY(QVariantMap texts READ texts CONSTANT)
     Q_PROPERTY(QVariantList tokenSteps READ tokenSteps CONSTANT)
     // The notice above the inbox's list.
@@ -53,6 +57,7 @@ public:
     bool isRemembered() const { return token_.isRemembered(); }
     const QString &rememberNote() const { return rememberNote_; }
     int pendingEventCount() const { return int(pending_.size()); }
+    bool browserSignInStarted() const { return attempt_.has_value(); }
     QVariantMap texts() const;
     QVariantList tokenSteps() const;
     bool showsNotice() const;
@@ -64,6 +69,12 @@ public:
     // With a token pasted in the sheet: checked with the service first, kept
     // (remembered when asked), then used. Empty: the token held already.
     Q_INVOKABLE void unlock(const QString &pastedToken, bool remember);
+    // The friendlier way: the sign-in page in the user's browser, then the
+    // address it landed on pasted back.
+    Q_INVOKABLE void beginBrowserSignIn();
+    Q_INVOKABLE void finishBrowserSignIn(const QString &landedAddress, bool remember);
+    // The address beginBrowserSignIn() opened (tests follow it themselves).
+    QUrl browserSignInAddress() const { return attempt_ ? attempt_->address : QUrl(); }
     Q_INVOKABLE void forgetSignIn();
     // The held token has lapsed: the sheet asks for a new one (a remembered one stays until replaced).
     Q_INVOKABLE void signInAgain();
@@ -81,7 +92,10 @@ Q_SIGNALS:
     void noticeChanged();
 
 private:
-    static QCoro::Task<void> unlockTask(QPointer<UnlockController> self, QByteArray pasted, bool remember);
+    static QCoro::Task<void> unlockTask(QPointer<UnlockController> self, QByteArray pasted, QString landed,
+                                        bool remember);
+    // Asks for the pending events' keys; answers whether a renewed sign-in could help.
+    static QCoro::Task<bool> fetchKeys(QPointer<UnlockController> self);
     static QCoro::Task<void> forgetTask(QPointer<UnlockController> self);
     static QCoro::Task<void> loadTask(QPointer<UnlockController> self);
     void setBusy(bool v);
@@ -100,5 +114,6 @@ private:
     bool offersSignInAgain_ = false;
     QString rememberNote_;
     bool askedStore_ = false;
+    std::optional<SignInLink::Attempt> attempt_;
     bool storeAnswered_ = false;
 };

@@ -1,5 +1,7 @@
 #include "unlock/TokenHolder.h"
 
+#include "unlock/SignInLink.h"
+
 #include <QCoreApplication>
 #include <qcoro/qcorosignal.h>
 #include <qt6keychain/keychain.h>
@@ -44,7 +46,20 @@ QByteArray TokenHolder::cleaned(QByteArray pasted)
 void TokenHolder::setToken(QByteArray token)
 {
     token_ = std::move(token);
+    refresh_.clear();
     Q_EMIT changed();
+}
+
+void TokenHolder::setTokens(QByteArray access, QByteArray refresh)
+{
+    token_ = std::move(access);
+    refresh_ = std::move(refresh);
+    Q_EMIT changed();
+}
+
+QByteArray TokenHolder::secretToStore() const
+{
+    return refresh_.isEmpty() ? token_ : SignInLink::storedForm(refresh_);
 }
 
 void TokenHolder::setRemembered(bool v)
@@ -56,6 +71,7 @@ void TokenHolder::setRemembered(bool v)
 void TokenHolder::clear()
 {
     token_.clear();
+    refresh_.clear();
     Q_EMIT changed();
 }
 

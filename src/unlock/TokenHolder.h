@@ -23,6 +23,12 @@ public:
     bool isRemembered() const { return remembered_; }
     // For this session only; a token remembered before stays remembered.
     void setToken(QByteArray token);
+    // A browser sign-in: the access token and the refresh token that renews it.
+    void setTokens(QByteArray access, QByteArray refresh);
+    const QByteArray &refreshToken() const { return refresh_; }
+    // What the secret store keeps for this sign-in: the refresh token where
+    // there is one (it outlives the access token by months), else the token.
+    QByteArray secretToStore() const;
 
     void setRemembered(bool v);
     // Out of memory; the secret store is left to forgetStored().
@@ -48,5 +54,6 @@ Q_SIGNALS:
 
 private:
     QByteArray token_;
+    QByteArray refresh_;
     bool remembered_ = false;
 };

@@ -97,16 +97,16 @@ private Q_SLOTS:
         const QJsonArray events = QJsonDocument::fromJson(r.out).object().value("events").toArray();
         QMap<QString, QJsonObject> byID;
         for (const QJsonValue &v : events)
-            byID.insert(v["kind"].toString() + "|" + v["folderName"].toString(), v.toObject());
+            byID.insert(v[QStringLiteral("kind")].toString() + "|" + v[QStringLiteral("folderName")].toString(), v.toObject());
         QCOMPARE(byID.size(), 5);
         for (const QString &id : {EncryptedDrive::sentryID, EncryptedDrive::savedID, EncryptedDrive::recentID}) {
-            QVERIFY2(byID[id]["encrypted"].toBool(), qPrintable(id));
-            for (const QJsonValue &clip : byID[id]["clips"].toArray())
-                QCOMPARE(clip["health"].toString(), QStringLiteral("encrypted"));
+            QVERIFY2(byID[id][QStringLiteral("encrypted")].toBool(), qPrintable(id));
+            for (const QJsonValue &clip : byID[id][QStringLiteral("clips")].toArray())
+                QCOMPARE(clip[QStringLiteral("health")].toString(), QStringLiteral("encrypted"));
         }
-        QCOMPARE(byID[EncryptedDrive::sentryID]["clips"].toArray().size(), 4);
+        QCOMPARE(byID[EncryptedDrive::sentryID][QStringLiteral("clips")].toArray().size(), 4);
         QVERIFY(!byID[EncryptedDrive::clearID].contains("encrypted"));
-        QCOMPARE(byID[EncryptedDrive::clearID]["clips"].toArray()[0]["health"].toString(), QStringLiteral("ok"));
+        QCOMPARE(byID[EncryptedDrive::clearID][QStringLiteral("clips")].toArray()[0][QStringLiteral("health")].toString(), QStringLiteral("ok"));
         QVERIFY(QJsonDocument::fromJson(r.out).object().value("issues").toArray().isEmpty());
     }
 
@@ -128,8 +128,8 @@ private Q_SLOTS:
         }
         const QJsonObject manifest = QJsonDocument::fromJson(readAll(vault + "/manifest.json")).object();
         int flagged = 0;
-        for (const QJsonValue &e : manifest["events"].toArray())
-            flagged += e["encrypted"].toBool() ? 1 : 0;
+        for (const QJsonValue &e : manifest[QStringLiteral("events")].toArray())
+            flagged += e[QStringLiteral("encrypted")].toBool() ? 1 : 0;
         QCOMPARE(flagged, 3);
         const auto verify = cli({"vault", "verify", vault});
         QCOMPARE(verify.exitCode, 0);
@@ -137,7 +137,7 @@ private Q_SLOTS:
         const QJsonArray events = QJsonDocument::fromJson(listed.out).array();
         int sealedListed = 0;
         for (const QJsonValue &e : events)
-            sealedListed += e["encrypted"].toBool() ? 1 : 0;
+            sealedListed += e[QStringLiteral("encrypted")].toBool() ? 1 : 0;
         QCOMPARE(sealedListed, 3);
     }
 

@@ -1,6 +1,9 @@
 #include "support/KeyServiceStandIn.h"
 
+#include <QCryptographicHash>
 #include <QHash>
+#include <QUrl>
+#include <QUrlQuery>
 #include <QHostAddress>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -19,6 +22,11 @@ struct KeyServiceStandIn::State {
     QHash<QByteArray, QByteArray> keys; // base64 wrapped key -> base64 file key
     Mode mode = Mode::keys;
     std::vector<Request> requests;
+    // The sign-in service: codes given out, with the challenge each answers;
+    // the one refresh token that is good now.
+    QHash<QByteArray, QByteArray> challenges;
+    int issued = 0;
+    QByteArray liveRefresh;
 };
 
 namespace {
@@ -112,6 +120,9 @@ private:
             request.vinOfFirst = items.first().toObject().value(QLatin1String("vin")).toString().toLatin1();
         state_->requests.push_back(request);
 
+        if (request.path.startsWith("/oauth2/v3/"))
+            return signIn(request.path, QJsonDocument::fromJson(body).object());
+
         switch (state_->mode) {
         case Mode::silent: return {};
         case Mode::status401: return response(401, R"({"error":"unauthorized"})");
@@ -142,6 +153,46 @@ private:
         QJsonObject root;
         root.insert(QStringLiteral("results"), results);
         return response(200, json(root));
+    }
+
+    // authorize: straight back to the redirect address with a code, as the
+    // browser lands after a sign-in; token: the code (with its verifier) or
+    // a refresh token for the tokens.
+    QByteArray signIn(const QByteArray &target, const QJsonObject &body)
+    {
+        const QUrl url(QString::fromLatin1(target));
+        if (url.path() == QLatin1String("/oauth2/v3/authorize")) {
+            const QUrlQuery query(url);
+            const QByteArray code = "code-" + QByteArray::number(++state_->issued);
+            state_->challenges.insert(code, query.queryItemValue(QStringLiteral("code_challenge")).toLatin1());
+            QUrl landing(query.queryItemValue(QStringLiteral("redirect_uri"), QUrl::FullyDecoded));
+            QUrlQuery back;
+            back.addQueryItem(QStringLiteral("code"), QString::fromLatin1(code));
+            back.addQueryItem(QStringLiteral("state"), query.queryItemValue(QStringLiteral("state")));
+            landing.setQuery(back);
+            return "HTTP/1.1 302 Found\r\nLocation: " + landing.toEncoded()
+                + "\r\nConnection: close\r\nContent-Length: 0\r\n\r\n";
+        }
+        const QString grant = body.value(QLatin1String("grant_type")).toString();
+        if (grant == QLatin1String("authorization_code")) {
+            const QByteArray code = body.value(QLatin1String("code")).toString().toLatin1();
+            const QByteArray verifier = body.value(QLatin1String("code_verifier")).toString().toLatin1();
+            const QByteArray challenge = QCryptographicHash::hash(verifier, QCryptographicHash::Sha256)
+                                             .toBase64(QByteArray::Base64UrlEncoding | QByteArray::OmitTrailingEquals);
+            if (!state_->challenges.contains(code) || state_->challenges.take(code) != challenge)
+                return response(400, R"({"error":"invalid_grant"})");
+        } else if (grant == QLatin1String("refresh_token")) {
+            if (state_->liveRefresh.isEmpty()
+                || body.value(QLatin1String("refresh_token")).toString().toLatin1() != state_->liveRefresh)
+                return response(400, R"({"error":"invalid_grant"})");
+        } else {
+            return response(400, R"({"error":"unsupported_grant_type"})");
+        }
+        state_->liveRefresh = "refresh-" + QByteArray::number(++state_->issued);
+        QJsonObject tokens;
+        tokens.insert(QStringLiteral("access_token"), QString::fromLatin1(state_->token));
+        tokens.insert(QStringLiteral("refresh_token"), QString::fromLatin1(state_->liveRefresh));
+        return response(200, json(tokens));
     }
 
     std::shared_ptr<State> state_;

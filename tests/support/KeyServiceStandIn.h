@@ -8,7 +8,9 @@
 // The car maker's key service as the tests meet it: a real HTTP server on
 // 127.0.0.1 (a port of its own), on a thread of its own so a test may block
 // on a child process while it answers. It speaks the service's protocol and
-// holds the file keys of the synthetic encrypted files the tests write.
+// holds the file keys of the synthetic encrypted files the tests write; at
+// /oauth2/v3 it stands in for the sign-in service (PKCE, single-use refresh
+// tokens) too.
 class KeyServiceStandIn {
 public:
     enum class Mode {

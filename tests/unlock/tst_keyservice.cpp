@@ -5,10 +5,15 @@
 #include "support/KeyServiceStandIn.h"
 #include "support/TestClips.h"
 #include "unlock/KeyServiceClient.h"
+#include "unlock/SignInLink.h"
 #include "unlock/Unlocker.h"
 
+#include <QCryptographicHash>
 #include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QUrlQuery>
 #include <QSettings>
+#include <QSignalSpy>
 #include <QTcpServer>
 #include <QTemporaryDir>
 #include <QTest>
@@ -204,6 +209,65 @@ private Q_SLOTS:
         QCOMPARE(QCoro::waitFor(client.check("stale")), Outcome::signInExpired);
         QCOMPARE(service.requests().size(), size_t(2));
         QCOMPARE(service.requests()[0].items, 0);
+    }
+
+    // The browser's way, up to the address it lands on: the stand-in's sign-in
+    // page sends it straight back with a code, as Tesla's does after a sign-in.
+    void browserSignInUpToThePastedAddress()
+    {
+        KeyServiceStandIn service;
+        service.setAcceptedToken(token);
+        QSettings settings(QStringLiteral("Keelhold"), QStringLiteral("Keelhold"));
+        settings.setValue(SignInLink::settingsKey, service.baseURL() + QStringLiteral("/oauth2/v3"));
+        settings.sync();
+        const SignInLink::Attempt attempt = SignInLink::begin();
+        const QUrlQuery query(attempt.address);
+        QCOMPARE(query.queryItemValue("client_id"), QStringLiteral("dashcam"));
+        QCOMPARE(query.queryItemValue("redirect_uri", QUrl::FullyDecoded), QStringLiteral("https://dashcam.tesla.com/callback"));
+        QVERIFY(query.queryItemValue("scope", QUrl::FullyDecoded).split(' ').contains("offline_access"));
+        QCOMPARE(query.queryItemValue("code_challenge_method"), QStringLiteral("S256"));
+        QCOMPARE(query.queryItemValue("code_challenge").toLatin1(),
+                 QCryptographicHash::hash(attempt.verifier, QCryptographicHash::Sha256)
+                     .toBase64(QByteArray::Base64UrlEncoding | QByteArray::OmitTrailingEquals));
+
+        QNetworkRequest request(attempt.address);
+        request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
+        QNetworkReply *reply = network_.get(request);
+        QVERIFY(QSignalSpy(reply, &QNetworkReply::finished).wait(10000));
+        const QString landed = QString::fromLatin1(reply->rawHeader("Location"));
+        reply->deleteLater();
+        QVERIFY(landed.startsWith(QStringLiteral("https://dashcam.tesla.com/callback?")));
+
+        QString error;
+        QVERIFY(!SignInLink::codeFrom(QStringLiteral("https://example.com/?code=x"), attempt, &error));
+        QVERIFY(!error.isEmpty());
+        QVERIFY(!SignInLink::codeFrom(landed, SignInLink::begin(), &error)); // another attempt's state
+        const std::optional<QByteArray> code = SignInLink::codeFrom(landed, attempt, &error);
+        QVERIFY(code);
+
+        // A code comes once; its verifier must match the challenge.
+        SignInLink::Attempt forged = attempt;
+        forged.verifier = "not-the-verifier";
+        QVERIFY(QCoro::waitFor(SignInLink::exchange(network_, forged, *code)).access.isEmpty());
+        const QByteArray secondCode = *SignInLink::codeFrom(landed, attempt, &error);
+        QVERIFY(QCoro::waitFor(SignInLink::exchange(network_, attempt, secondCode)).access.isEmpty()); // spent above
+
+        // A fresh code, exchanged properly, then renewed: each refresh token once.
+        QNetworkReply *again = network_.get(request);
+        QVERIFY(QSignalSpy(again, &QNetworkReply::finished).wait(10000));
+        const QString landedAgain = QString::fromLatin1(again->rawHeader("Location"));
+        again->deleteLater();
+        const SignInLink::Tokens tokens =
+            QCoro::waitFor(SignInLink::exchange(network_, attempt, *SignInLink::codeFrom(landedAgain, attempt, &error)));
+        QCOMPARE(tokens.access, token);
+        QVERIFY(!tokens.refresh.isEmpty());
+        const SignInLink::Tokens renewed = QCoro::waitFor(SignInLink::refresh(network_, tokens.refresh));
+        QCOMPARE(renewed.access, token);
+        QVERIFY(renewed.refresh != tokens.refresh);
+        QVERIFY(!QCoro::waitFor(SignInLink::refresh(network_, tokens.refresh)).error.isEmpty());
+        KeyServiceClient client(network_, urlOf(service));
+        QCOMPARE(QCoro::waitFor(client.check(renewed.access)), Outcome::key);
+        settings.remove(SignInLink::settingsKey);
     }
 
     void addressComesFromTheSharedSettings()

@@ -38,6 +38,40 @@ Item {
                 Layout.fillWidth: true
                 spacing: 6
                 Label { text: unlock.texts.tokenHeading; font.weight: Font.DemiBold }
+                Label { text: unlock.texts.browserSignInDetail; wrapMode: Text.WordWrap; Layout.fillWidth: true; opacity: 0.8 }
+                RowLayout {
+                    Layout.fillWidth: true
+                    spacing: 8
+                    Button {
+                        objectName: "browserSignIn"
+                        text: unlock.texts.browserSignIn
+                        enabled: !unlock.busy
+                        onClicked: unlock.beginBrowserSignIn()
+                    }
+                    TextField {
+                        id: landedField
+                        objectName: "landedField"
+                        visible: unlock.browserSignInStarted
+                        Layout.fillWidth: true
+                        placeholderText: unlock.texts.landedPlaceholder
+                        inputMethodHints: Qt.ImhSensitiveData | Qt.ImhNoPredictiveText
+                        enabled: !unlock.busy
+                        onAccepted: continueButton.clicked()
+                    }
+                    Button {
+                        id: continueButton
+                        objectName: "continueSignIn"
+                        visible: unlock.browserSignInStarted
+                        text: unlock.texts["continue"]
+                        enabled: !unlock.busy && landedField.text.length > 0
+                        onClicked: {
+                            const landed = landedField.text
+                            landedField.text = ""
+                            unlock.finishBrowserSignIn(landed, rememberBox.checked)
+                        }
+                    }
+                }
+                Label { text: unlock.texts.orToken; font.weight: Font.DemiBold; Layout.topMargin: 4 }
                 Repeater {
                     model: unlock.tokenSteps
                     RowLayout {
