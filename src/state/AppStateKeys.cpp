@@ -29,7 +29,8 @@ QCoro::Task<void> AppState::keyCoverageTask(QPointer<AppState> self, std::vector
 {
     QHash<QString, KeyCoverage> coverage;
     try {
-        coverage = co_await self->engine_.keyCoverage(events);
+        QFuture<QHash<QString, KeyCoverage>> asking = self->engine_.keyCoverage(events);
+        coverage = co_await asking;
     } catch (...) {
         co_return;
     }

@@ -117,9 +117,10 @@ bool UnlockController::showsNotice() const
 QString UnlockController::noticeText() const
 {
     const int n = state_ ? state_->lockedEventCount() : 0;
-    return tr("%n event(s) here were recorded with your car's encryption on. Keelhold lists and keeps them like any "
-              "other; to watch them here, unlock them with your Tesla account.",
-              nullptr, n);
+    const QString lead = n == 1 ? tr("1 event here was recorded with your car's encryption on.")
+                                : tr("%1 events here were recorded with your car's encryption on.").arg(n);
+    return lead + QLatin1Char(' ')
+        + tr("Keelhold lists and keeps them like any other; to watch them here, unlock them with your Tesla account.");
 }
 
 void UnlockController::openFor(const QStringList &eventIDs)
@@ -171,8 +172,10 @@ QCoro::Task<void> UnlockController::unlockTask(QPointer<UnlockController> self, 
         QString error;
         const std::optional<QByteArray> code = SignInLink::codeFrom(landed, *self->attempt_, &error);
         SignInLink::Tokens tokens;
-        if (code)
-            tokens = co_await SignInLink::exchange(self->network_, *self->attempt_, *code);
+        if (code) {
+            QCoro::Task<SignInLink::Tokens> exchanging = SignInLink::exchange(self->network_, *self->attempt_, *code);
+            tokens = co_await exchanging;
+        }
         if (!self)
             co_return;
         if (!code || tokens.access.isEmpty()) {
@@ -185,7 +188,8 @@ QCoro::Task<void> UnlockController::unlockTask(QPointer<UnlockController> self, 
         newSignIn = true;
     } else if (!pasted.isEmpty()) {
         KeyServiceClient client(self->network_, self->batchURL_, self->answerLimit_);
-        const KeyService::Outcome checked = co_await client.check(pasted);
+        QCoro::Task<KeyService::Outcome> checking = client.check(pasted);
+        const KeyService::Outcome checked = co_await checking;
         if (!self)
             co_return;
         if (checked != KeyService::Outcome::key) {
@@ -200,7 +204,8 @@ QCoro::Task<void> UnlockController::unlockTask(QPointer<UnlockController> self, 
         self->rememberNote_.clear();
         self->token_.setRemembered(false);
         if (remember) {
-            const TokenHolder::StoreResult stored = co_await TokenHolder::store(self->token_.secretToStore());
+            QCoro::Task<TokenHolder::StoreResult> storing = TokenHolder::store(self->token_.secretToStore());
+            const TokenHolder::StoreResult stored = co_await storing;
             if (!self)
                 co_return;
             self->token_.setRemembered(stored.ok);
@@ -210,16 +215,23 @@ QCoro::Task<void> UnlockController::unlockTask(QPointer<UnlockController> self, 
     }
 
     // A lapsed access token with a refresh token beside it: renew once, and ask again.
-    if (co_await fetchKeys(self) && self && !self->token_.refreshToken().isEmpty()) {
-        const SignInLink::Tokens renewed = co_await SignInLink::refresh(self->network_, self->token_.refreshToken());
+    QCoro::Task<bool> fetching = fetchKeys(self);
+    const bool lapsed = co_await fetching;
+    if (lapsed && self && !self->token_.refreshToken().isEmpty()) {
+        QCoro::Task<SignInLink::Tokens> renewing = SignInLink::refresh(self->network_, self->token_.refreshToken());
+        const SignInLink::Tokens renewed = co_await renewing;
         if (!self)
             co_return;
         if (!renewed.access.isEmpty()) {
             self->token_.setTokens(renewed.access, renewed.refresh);
-            if (self->token_.isRemembered())
-                co_await TokenHolder::store(self->token_.secretToStore());
-            if (self)
-                co_await fetchKeys(self);
+            if (self->token_.isRemembered()) {
+                QCoro::Task<TokenHolder::StoreResult> storing = TokenHolder::store(self->token_.secretToStore());
+                co_await storing;
+            }
+            if (self) {
+                QCoro::Task<bool> again = fetchKeys(self);
+                co_await again;
+            }
         }
     }
     if (!self)
@@ -241,8 +253,8 @@ QCoro::Task<bool> UnlockController::fetchKeys(QPointer<UnlockController> self)
                 paths.push_back(clip.url);
     const QString vaultURL = self->state_->vaultURL().value_or(QString());
     Unlocker unlocker(self->network_, self->batchURL_, self->answerLimit_);
-    const std::vector<Unlocker::FileOutcome> outcomes =
-        co_await unlocker.unlock(paths, self->token_.token(), vaultURL);
+    QCoro::Task<std::vector<Unlocker::FileOutcome>> unlocking = unlocker.unlock(paths, self->token_.token(), vaultURL);
+    const std::vector<Unlocker::FileOutcome> outcomes = co_await unlocking;
     if (!self)
         co_return false;
 
@@ -260,11 +272,13 @@ QCoro::Task<bool> UnlockController::fetchKeys(QPointer<UnlockController> self)
                 besides.emplace_back(folder, std::move(copies));
             }
         }
-        if (!besides.empty())
-            co_await QtConcurrent::run([besides] {
+        if (!besides.empty()) {
+            QFuture<void> writing = QtConcurrent::run([besides] {
                 for (const auto &[folder, copies] : besides)
                     KeyRing::storeBeside(folder, copies);
             });
+            co_await writing;
+        }
         if (!self)
             co_return false;
     }
@@ -273,7 +287,7 @@ QCoro::Task<bool> UnlockController::fetchKeys(QPointer<UnlockController> self)
     const int total = int(outcomes.size());
     QString summary;
     if (total > 0)
-        summary = unlocked == total ? tr("Unlocked %n clip(s).", nullptr, total)
+        summary = unlocked == total ? (total == 1 ? tr("Unlocked 1 clip.") : tr("Unlocked %1 clips.").arg(total))
                                     : tr("Unlocked %1 of %2 clips.").arg(unlocked).arg(total);
     bool signInAgain = false;
     for (const auto &o : outcomes)
@@ -298,7 +312,8 @@ QCoro::Task<void> UnlockController::forgetTask(QPointer<UnlockController> self)
     const bool wasRemembered = self->token_.isRemembered();
     self->token_.clear();
     self->token_.setRemembered(false);
-    const TokenHolder::StoreResult result = co_await TokenHolder::forgetStored();
+    QCoro::Task<TokenHolder::StoreResult> forgetting = TokenHolder::forgetStored();
+    const TokenHolder::StoreResult result = co_await forgetting;
     if (!self)
         co_return;
     self->rememberNote_ = result.ok || !wasRemembered ? QString() : result.sentence;
@@ -312,7 +327,8 @@ void UnlockController::loadRemembered()
 
 QCoro::Task<void> UnlockController::loadTask(QPointer<UnlockController> self)
 {
-    const SignInLink::Tokens restored = co_await SignInLink::restore(self->network_);
+    QCoro::Task<SignInLink::Tokens> restoring = SignInLink::restore(self->network_);
+    const SignInLink::Tokens restored = co_await restoring;
     if (!self)
         co_return;
     self->storeAnswered_ = true;

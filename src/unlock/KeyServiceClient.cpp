@@ -64,7 +64,10 @@ QCoro::Task<std::vector<KeyServiceClient::Answer>> KeyServiceClient::fetch(QByte
     for (size_t start = 0; start < items.size(); start += KeyService::maxBatch) {
         const size_t end = std::min(items.size(), start + size_t(KeyService::maxBatch));
         std::vector<Item> batch(items.begin() + qsizetype(start), items.begin() + qsizetype(end));
-        for (Answer &a : co_await fetchBatch(token, std::move(batch)))
+        // Named, never a temporary of the awaited expression (g++ 12 destroys those twice).
+        QCoro::Task<std::vector<Answer>> asking = fetchBatch(token, std::move(batch));
+        std::vector<Answer> part = co_await asking;
+        for (Answer &a : part)
             answers.push_back(std::move(a));
     }
     co_return answers;
@@ -73,7 +76,8 @@ QCoro::Task<std::vector<KeyServiceClient::Answer>> KeyServiceClient::fetch(QByte
 QCoro::Task<KeyService::Outcome> KeyServiceClient::check(QByteArray token)
 {
     // An empty batch answers nothing but whether the token is taken.
-    const std::vector<Answer> answers = co_await fetchBatch(token, {});
+    QCoro::Task<std::vector<Answer>> asking = fetchBatch(token, std::vector<Item>());
+    const std::vector<Answer> answers = co_await asking;
     co_return answers.empty() ? Outcome::key : answers.front().outcome;
 }
 

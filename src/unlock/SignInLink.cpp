@@ -147,7 +147,8 @@ QCoro::Task<Tokens> exchange(QNetworkAccessManager &network, Attempt attempt, QB
     body.insert(QStringLiteral("code"), QString::fromUtf8(code));
     body.insert(QStringLiteral("code_verifier"), QString::fromLatin1(attempt.verifier));
     body.insert(QStringLiteral("redirect_uri"), redirectURI());
-    co_return co_await post(network, body);
+    QCoro::Task<Tokens> posting = post(network, body);
+    co_return co_await posting;
 }
 
 QCoro::Task<Tokens> refresh(QNetworkAccessManager &network, QByteArray refreshToken)
@@ -156,7 +157,8 @@ QCoro::Task<Tokens> refresh(QNetworkAccessManager &network, QByteArray refreshTo
     body.insert(QStringLiteral("grant_type"), QStringLiteral("refresh_token"));
     body.insert(QStringLiteral("client_id"), clientID);
     body.insert(QStringLiteral("refresh_token"), QString::fromUtf8(refreshToken));
-    co_return co_await post(network, body);
+    QCoro::Task<Tokens> posting = post(network, body);
+    co_return co_await posting;
 }
 
 QByteArray storedForm(const QByteArray &refreshToken)
@@ -173,16 +175,20 @@ std::optional<QByteArray> refreshTokenIn(const QByteArray &stored)
 
 QCoro::Task<Tokens> restore(QNetworkAccessManager &network)
 {
-    const std::optional<QByteArray> stored = co_await TokenHolder::stored();
+    QCoro::Task<std::optional<QByteArray>> reading = TokenHolder::stored();
+    const std::optional<QByteArray> stored = co_await reading;
     if (!stored)
         co_return Tokens{};
     const std::optional<QByteArray> refreshToken = refreshTokenIn(*stored);
     if (!refreshToken)
         co_return Tokens{*stored, {}, {}};
-    Tokens renewed = co_await refresh(network, *refreshToken);
+    QCoro::Task<Tokens> renewing = refresh(network, *refreshToken);
+    Tokens renewed = co_await renewing;
     // The old refresh token is spent: only its successor can renew again.
-    if (!renewed.refresh.isEmpty())
-        co_await TokenHolder::store(storedForm(renewed.refresh));
+    if (!renewed.refresh.isEmpty()) {
+        QCoro::Task<TokenHolder::StoreResult> storing = TokenHolder::store(storedForm(renewed.refresh));
+        co_await storing;
+    }
     co_return renewed;
 }
 

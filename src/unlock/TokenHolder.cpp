@@ -19,8 +19,10 @@ template <typename Job> QCoro::Task<QKeychain::Error> run(Job &job)
     bool finished = false;
     QObject::connect(&job, &QKeychain::Job::finished, &job, [&finished] { finished = true; });
     job.start();
-    if (!finished)
-        co_await qCoro(&job, &QKeychain::Job::finished);
+    if (!finished) {
+        auto done = qCoro(&job, &QKeychain::Job::finished);
+        co_await done;
+    }
     co_return job.error();
 }
 
@@ -79,7 +81,8 @@ QCoro::Task<TokenHolder::StoreResult> TokenHolder::store(QByteArray token)
 {
     QKeychain::WritePasswordJob job(service);
     job.setBinaryData(token);
-    const QKeychain::Error error = co_await run(job);
+    QCoro::Task<QKeychain::Error> running = run(job);
+    const QKeychain::Error error = co_await running;
     if (error != QKeychain::NoError)
         co_return StoreResult{false, noSecretStoreSentence()};
     co_return StoreResult{true, {}};
@@ -88,7 +91,8 @@ QCoro::Task<TokenHolder::StoreResult> TokenHolder::store(QByteArray token)
 QCoro::Task<std::optional<QByteArray>> TokenHolder::stored()
 {
     QKeychain::ReadPasswordJob job(service);
-    const QKeychain::Error error = co_await run(job);
+    QCoro::Task<QKeychain::Error> running = run(job);
+    const QKeychain::Error error = co_await running;
     if (error != QKeychain::NoError || job.binaryData().isEmpty())
         co_return std::nullopt;
     co_return job.binaryData();
@@ -97,7 +101,8 @@ QCoro::Task<std::optional<QByteArray>> TokenHolder::stored()
 QCoro::Task<TokenHolder::StoreResult> TokenHolder::forgetStored()
 {
     QKeychain::DeletePasswordJob job(service);
-    const QKeychain::Error error = co_await run(job);
+    QCoro::Task<QKeychain::Error> running = run(job);
+    const QKeychain::Error error = co_await running;
     // Nothing stored is as good as removed.
     if (error == QKeychain::NoError || error == QKeychain::EntryNotFound)
         co_return StoreResult{true, {}};

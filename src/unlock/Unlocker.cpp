@@ -75,7 +75,10 @@ Unlocker::Unlocker(QNetworkAccessManager &network, QUrl batchURL, std::chrono::m
 QCoro::Task<std::vector<Unlocker::FileOutcome>> Unlocker::unlock(std::vector<QString> paths, QByteArray token,
                                                                   QString vaultURL)
 {
-    const std::vector<Looked> looked = co_await QtConcurrent::run([paths] { return lookUp(paths); });
+    // Futures are named before they are awaited: g++ 12 destroys a lambda
+    // temporary of an awaited full-expression twice.
+    QFuture<std::vector<Looked>> lookup = QtConcurrent::run([paths] { return lookUp(paths); });
+    const std::vector<Looked> looked = co_await lookup;
 
     std::vector<FileOutcome> outcomes(paths.size());
     std::vector<KeyServiceClient::Item> items;
@@ -100,7 +103,8 @@ QCoro::Task<std::vector<Unlocker::FileOutcome>> Unlocker::unlock(std::vector<QSt
         co_return outcomes;
 
     KeyServiceClient client(network_, batchURL_, answerLimit_);
-    const std::vector<KeyServiceClient::Answer> answers = co_await client.fetch(token, items);
+    QCoro::Task<std::vector<KeyServiceClient::Answer>> asking = client.fetch(token, items);
+    const std::vector<KeyServiceClient::Answer> answers = co_await asking;
 
     std::vector<Fetched> fetched;
     std::vector<size_t> fetchedIndex;
@@ -114,8 +118,8 @@ QCoro::Task<std::vector<Unlocker::FileOutcome>> Unlocker::unlock(std::vector<QSt
     }
     if (fetched.empty())
         co_return outcomes;
-    const std::vector<bool> fits =
-        co_await QtConcurrent::run([fetched, vaultURL] { return keepFitting(fetched, vaultURL); });
+    QFuture<std::vector<bool>> keeping = QtConcurrent::run([fetched, vaultURL] { return keepFitting(fetched, vaultURL); });
+    const std::vector<bool> fits = co_await keeping;
     for (size_t k = 0; k < fits.size(); ++k) {
         outcomes[fetchedIndex[k]].outcome = fits[k] ? Outcome::key : Outcome::keyDoesNotFit;
         outcomes[fetchedIndex[k]].fetched = fits[k];
