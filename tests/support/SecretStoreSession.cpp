@@ -2,6 +2,20 @@
 
 #include <QStandardPaths>
 
+#include <csignal>
+#include <sys/prctl.h>
+#include <unistd.h>
+
+namespace {
+// The daemons end with the test, even one that crashes, and hold none of its
+// open files (a build lock among them) past it.
+void childSetUp()
+{
+    ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+    ::close_range(3, ~0U, 0);
+}
+} // namespace
+
 SecretStoreSession::SecretStoreSession()
 {
     const QString daemon = QStandardPaths::findExecutable(QStringLiteral("dbus-daemon"));
@@ -9,6 +23,8 @@ SecretStoreSession::SecretStoreSession()
     const QString gdbus = QStandardPaths::findExecutable(QStringLiteral("gdbus"));
     if (daemon.isEmpty() || keyring.isEmpty() || gdbus.isEmpty())
         return;
+    bus_.setChildProcessModifier(childSetUp);
+    keyring_.setChildProcessModifier(childSetUp);
     bus_.start(daemon, {QStringLiteral("--session"), QStringLiteral("--nofork"), QStringLiteral("--print-address=1")});
     if (!bus_.waitForStarted())
         return;

@@ -1,5 +1,6 @@
 #include "AppWindowHarness.h"
 
+#include "ColorScheme.h"
 #include "EventListModel.h"
 #include "InboxViewModel.h"
 #include "TileSource.h"
@@ -59,6 +60,25 @@ class UnlockScreensTest : public QObject {
         QCOMPARE(field->property("text").toString(), QString());
     }
 
+    // With KEELHOLD_SCREENSHOT_DIR set: the window at 900x600 and at full HD,
+    // named for the scheme it runs in (KEELHOLD_COLOR_SCHEME=dark for dark).
+    void shots(const QString &name)
+    {
+        if (qEnvironmentVariableIsEmpty("KEELHOLD_SCREENSHOT_DIR"))
+            return;
+        const QString scheme = ColorScheme::current() == ColorScheme::Scheme::dark ? QStringLiteral("-dark") : QString();
+        const QSize was = app->window()->size();
+        for (const QSize size : {QSize(900, 600), QSize(1920, 1080)}) {
+            app->window()->resize(size);
+            QTRY_COMPARE(app->window()->size(), size);
+            // Layouts and the list follow the size over a few frames.
+            for (int i = 0; i < 5; ++i)
+                app->waitForFrame();
+            app->shotNow(QStringLiteral("%1-%2x%3%4").arg(name).arg(size.width()).arg(size.height()).arg(scheme));
+        }
+        app->window()->resize(was);
+    }
+
 private Q_SLOTS:
     void initTestCase()
     {
@@ -97,7 +117,7 @@ private Q_SLOTS:
         QVERIFY(notice);
         QTRY_VERIFY(notice->isVisible());
         QVERIFY(app->find(QStringLiteral("noticeText"))->property("text").toString().startsWith(QStringLiteral("3 events")));
-        app->shot(QStringLiteral("unlock-inbox-locked"));
+        shots(QStringLiteral("unlock-inbox-locked"));
     }
 
     void aLockedEventShowsLockedTilesInThePlayer()
@@ -111,7 +131,7 @@ private Q_SLOTS:
         auto *text = AppWindowHarness::findItem(tile, QStringLiteral("placeholderText"));
         QVERIFY(text);
         QTRY_COMPARE(text->property("text").toString(), QStringLiteral("Unlock to watch"));
-        app->shot(QStringLiteral("unlock-player-locked"));
+        shots(QStringLiteral("unlock-player-locked"));
     }
 
     // A lapsed sign-in says so, and offers to sign in again.
@@ -119,7 +139,7 @@ private Q_SLOTS:
     {
         app->click(app->find(QStringLiteral("noticeUnlock")));
         QTRY_VERIFY(unlock().showSheet());
-        app->shot(QStringLiteral("unlock-sheet"));
+        shots(QStringLiteral("unlock-sheet"));
         pasteAndUnlock("an-expired-token", false);
         QCOMPARE(unlock().messages(), QStringList{KeyService::sentence(KeyService::Outcome::signInExpired)});
         QVERIFY(!unlock().hasToken());
@@ -142,10 +162,10 @@ private Q_SLOTS:
         QTRY_VERIFY(!app->find(QStringLiteral("encryptedNotice"))->isVisible());
         QVERIFY(unlock().hasToken());
         QCOMPARE(unlock().isRemembered(), store->ok());
-        app->shot(QStringLiteral("unlock-sheet-done"));
+        shots(QStringLiteral("unlock-sheet-done"));
         app->click(app->find(QStringLiteral("closeUnlock")));
         QTRY_VERIFY(!unlock().showSheet());
-        app->shot(QStringLiteral("unlock-inbox-unlocked"));
+        shots(QStringLiteral("unlock-inbox-unlocked"));
     }
 
     // Remembered in the desktop's secret store: a new window finds it there.
