@@ -219,7 +219,7 @@ private Q_SLOTS:
     {
         SecretStoreSession store;
         if (!store.ok())
-            QSKIP("no D-Bus daemon or gnome-keyring here");
+            QSKIP(qPrintable(store.why()));
         const auto remembered = CliRun::run({"unlock", "--token-file", tokenFile_}, store.environment());
         QCOMPARE(remembered.exitCode, 0);
         QVERIFY2(remembered.err.contains("remembered"), qPrintable(remembered.err));

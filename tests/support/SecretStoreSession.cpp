@@ -21,8 +21,10 @@ SecretStoreSession::SecretStoreSession()
     const QString daemon = QStandardPaths::findExecutable(QStringLiteral("dbus-daemon"));
     const QString keyring = QStandardPaths::findExecutable(QStringLiteral("gnome-keyring-daemon"));
     const QString gdbus = QStandardPaths::findExecutable(QStringLiteral("gdbus"));
-    if (daemon.isEmpty() || keyring.isEmpty() || gdbus.isEmpty())
+    if (daemon.isEmpty() || keyring.isEmpty() || gdbus.isEmpty()) {
+        why_ = QStringLiteral("dbus-daemon, gnome-keyring-daemon or gdbus is missing");
         return;
+    }
     bus_.setChildProcessModifier(childSetUp);
     keyring_.setChildProcessModifier(childSetUp);
     bus_.start(daemon, {QStringLiteral("--session"), QStringLiteral("--nofork"), QStringLiteral("--print-address=1")});
@@ -32,8 +34,10 @@ SecretStoreSession::SecretStoreSession()
     while (!bus_.canReadLine() && bus_.waitForReadyRead(10000)) {
     }
     address_ = QString::fromLocal8Bit(bus_.readLine()).trimmed();
-    if (address_.isEmpty())
+    if (address_.isEmpty()) {
+        why_ = QStringLiteral("the session bus gave no address: ") + QString::fromLocal8Bit(bus_.readAllStandardError());
         return;
+    }
 
     keyring_.setProcessEnvironment(environment());
     keyring_.start(keyring, {QStringLiteral("--foreground"), QStringLiteral("--unlock"), QStringLiteral("--components=secrets")});
@@ -48,6 +52,9 @@ SecretStoreSession::SecretStoreSession()
     wait.start(gdbus, {QStringLiteral("wait"), QStringLiteral("--session"), QStringLiteral("--timeout"),
                        QStringLiteral("20"), QStringLiteral("org.freedesktop.secrets")});
     ok_ = wait.waitForFinished(30000) && wait.exitStatus() == QProcess::NormalExit && wait.exitCode() == 0;
+    if (!ok_)
+        why_ = QStringLiteral("the keyring never came on the bus: ") + QString::fromLocal8Bit(wait.readAllStandardError())
+            + QString::fromLocal8Bit(keyring_.readAllStandardError());
 }
 
 SecretStoreSession::~SecretStoreSession()

@@ -15,6 +15,8 @@ public:
     SecretStoreSession &operator=(const SecretStoreSession &) = delete;
 
     bool ok() const { return ok_; }
+    // What went wrong, for a skip's message.
+    const QString &why() const { return why_; }
     const QString &busAddress() const { return address_; }
     // The system's environment with this bus as the session bus.
     QProcessEnvironment environment() const;
@@ -26,4 +28,5 @@ private:
     QProcess keyring_;
     QString address_;
     bool ok_ = false;
+    QString why_;
 };

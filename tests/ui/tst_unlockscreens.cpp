@@ -172,7 +172,7 @@ private Q_SLOTS:
     void rememberedSignInOutlivesTheWindow()
     {
         if (!store->ok())
-            QSKIP("no D-Bus daemon or gnome-keyring here");
+            QSKIP(qPrintable(store->why()));
         app.reset();
         app = std::make_unique<AppWindowHarness>();
         QVERIFY(app->load());
