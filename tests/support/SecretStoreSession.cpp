@@ -45,6 +45,8 @@ SecretStoreSession::SecretStoreSession()
         return;
     // The login keyring's password, on standard input, unlocks (or makes) it.
     keyring_.write("keelhold-test-keyring");
+    // Written now: the blocking wait below runs no event loop to flush it.
+    keyring_.waitForBytesWritten();
     keyring_.closeWriteChannel();
 
     QProcess wait;
