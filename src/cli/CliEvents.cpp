@@ -1,9 +1,9 @@
 #include "cli/CliEvents.h"
 
+#include "cli/CliOutput.h"
 #include "drive/TeslaCamParser.h"
 #include "vault/VaultBrowser.h"
 
-#include <QCoreApplication>
 
 namespace CliEvents {
 
@@ -24,10 +24,10 @@ Found find(const QString &root, const QString &id, QString *error)
             }
     } catch (const TeslaCamParser::ParserError &e) {
         *error = e.errorCase() == TeslaCamParser::ParserError::rootNotFound
-            ? QCoreApplication::translate("keelhold-cli", "There is no folder at \u201c%1\u201d. Check that the drive "
+            ? CliOutput::tr("There is no folder at \u201c%1\u201d. Check that the drive "
                                                           "is plugged in and the path is right.")
                   .arg(root)
-            : QCoreApplication::translate("keelhold-cli", "\u201c%1\u201d is a file, not a folder. Give the TeslaCam "
+            : CliOutput::tr("\u201c%1\u201d is a file, not a folder. Give the TeslaCam "
                                                           "folder itself.")
                   .arg(root);
         return found;
@@ -36,7 +36,7 @@ Found find(const QString &root, const QString &id, QString *error)
         return found;
     } catch (const VaultBrowser::VaultBrowserError &) {
     }
-    *error = QCoreApplication::translate("keelhold-cli", "There is no event \u201c%1\u201d in this folder.").arg(id);
+    *error = CliOutput::tr("There is no event \u201c%1\u201d in this folder.").arg(id);
     return found;
 }
 

@@ -1,5 +1,7 @@
 #include "cli/CliUnlock.h"
 
+#include "cli/CliOutput.h"
+
 #include "crypt/KeyStore.h"
 #include "unlock/SignInLink.h"
 #include "unlock/TokenHolder.h"
@@ -19,17 +21,13 @@ namespace CliUnlock {
 namespace {
 constexpr qint64 largestToken = 64 * 1024;
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("keelhold-cli", text);
-}
 } // namespace
 
 QCommandLineOption tokenFileOption()
 {
     return QCommandLineOption(
         QStringLiteral("token-file"),
-        tr("A file holding your Tesla sign-in token, or - to read it from standard input. Without it, the token "
+        CliOutput::tr("A file holding your Tesla sign-in token, or - to read it from standard input. Without it, the token "
            "keelhold-cli unlock remembered is used."),
         QStringLiteral("file"));
 }
@@ -40,12 +38,12 @@ std::optional<QByteArray> readTokenFile(const QString &spec, QString *error)
     QFile file(fromStdin ? QString() : spec);
     const bool opened = fromStdin ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
     if (!opened) {
-        *error = tr("The token file %1 can't be read.").arg(spec);
+        *error = CliOutput::tr("The token file %1 can't be read.").arg(spec);
         return std::nullopt;
     }
     const QByteArray token = TokenHolder::cleaned(file.read(largestToken + 1));
     if (token.size() > largestToken || token.isEmpty() || token.contains('\n')) {
-        *error = fromStdin ? tr("Standard input holds no sign-in token.") : tr("The file %1 holds no sign-in token.").arg(spec);
+        *error = fromStdin ? CliOutput::tr("Standard input holds no sign-in token.") : CliOutput::tr("The file %1 holds no sign-in token.").arg(spec);
         return std::nullopt;
     }
     return token;
@@ -85,7 +83,7 @@ KeyCheck ensureKeys(const std::vector<ClipRef> &clips, const QByteArray &token, 
 
 QString noTokenSentence()
 {
-    return tr("These clips are encrypted by your car and no key for them is kept here: give your Tesla sign-in token "
+    return CliOutput::tr("These clips are encrypted by your car and no key for them is kept here: give your Tesla sign-in token "
               "with --token-file, or run keelhold-cli unlock first.");
 }
 

@@ -18,17 +18,6 @@ namespace DecryptCommand {
 
 namespace {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("keelhold-cli", text);
-}
-
-int fail(const QString &sentence)
-{
-    CliOutput::err(sentence);
-    return CliOutput::failureExit;
-}
-
 // The plain movie inside one encrypted clip, written whole or not at all.
 bool writePlain(const QString &clip, const QString &destination)
 {
@@ -61,25 +50,25 @@ bool writePlain(const QString &clip, const QString &destination)
 int run(const QStringList &arguments)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(tr(
+    parser.setApplicationDescription(CliOutput::tr(
         "Writes each encrypted clip of an event as the plain MP4 movie it holds, under the same file name, into a\n"
         "folder of your choice. Keys kept before are used first; the missing ones are fetched from Tesla's service\n"
         "with your sign-in token. Exits with 1 when only some clips could be written."));
     parser.addHelpOption();
-    parser.addPositionalArgument(QStringLiteral("folder"), tr("The TeslaCam folder, or a Vault folder, to read."));
-    const QCommandLineOption eventOption(QStringLiteral("event"), tr("The event's id, as keelhold-cli scan prints it."),
+    parser.addPositionalArgument(QStringLiteral("folder"), CliOutput::tr("The TeslaCam folder, or a Vault folder, to read."));
+    const QCommandLineOption eventOption(QStringLiteral("event"), CliOutput::tr("The event's id, as keelhold-cli scan prints it."),
                                         QStringLiteral("id"));
-    const QCommandLineOption cameraOption(QStringLiteral("camera"), tr("Only this camera's clips."),
+    const QCommandLineOption cameraOption(QStringLiteral("camera"), CliOutput::tr("Only this camera's clips."),
                                          QStringLiteral("camera"));
     const QCommandLineOption outputOption(QStringList{QStringLiteral("o"), QStringLiteral("output")},
-                                         tr("The folder to write the movies into."), QStringLiteral("folder"));
+                                         CliOutput::tr("The folder to write the movies into."), QStringLiteral("folder"));
     const QCommandLineOption tokenFile = CliUnlock::tokenFileOption();
     parser.addOptions({eventOption, cameraOption, outputOption, tokenFile});
     if (const auto done = CliOutput::parseArguments(parser, arguments))
         return *done;
     const QStringList positional = parser.positionalArguments();
     if (positional.size() != 1 || !parser.isSet(eventOption) || !parser.isSet(outputOption)) {
-        CliOutput::err(tr("Usage: keelhold-cli decrypt <folder> --event ID [--camera CAMERA] -o FOLDER "
+        CliOutput::err(CliOutput::tr("Usage: keelhold-cli decrypt <folder> --event ID [--camera CAMERA] -o FOLDER "
                           "[--token-file FILE]"));
         return CliOutput::usageExit;
     }
@@ -87,32 +76,32 @@ int run(const QStringList &arguments)
     if (parser.isSet(cameraOption)) {
         camera = Camera::fromRawValue(parser.value(cameraOption));
         if (!camera)
-            return fail(tr("\u201c%1\u201d is not a camera; use one of %2.")
+            return CliOutput::fail(CliOutput::tr("\u201c%1\u201d is not a camera; use one of %2.")
                             .arg(parser.value(cameraOption), CliEvents::cameraNames().join(QStringLiteral(", "))));
     }
     const QString root = QDir::cleanPath(QDir::current().absoluteFilePath(positional.first()));
     const QString folder = QDir::cleanPath(QDir::current().absoluteFilePath(parser.value(outputOption)));
     if (DriveBoundary::writesInto(root, folder).value_or(false))
-        return fail(tr("Keelhold never writes to your Tesla drive, so choose a folder somewhere else."));
+        return CliOutput::fail(CliOutput::tr("Keelhold never writes to your Tesla drive, so choose a folder somewhere else."));
 
     QString error;
     const CliEvents::Found found = CliEvents::find(root, parser.value(eventOption), &error);
     if (!found.event)
-        return fail(error);
+        return CliOutput::fail(error);
     std::vector<ClipRef> clips;
     for (const ClipRef &clip : found.event->clips)
         if (clip.health == ClipHealth::encrypted && (!camera || clip.camera == *camera))
             clips.push_back(clip);
     if (clips.empty())
-        return fail(camera ? tr("The %1 camera has no encrypted footage in this event.").arg(camera->displayName())
-                           : tr("This event's footage isn't encrypted: its files are plain MP4 movies already."));
+        return CliOutput::fail(camera ? CliOutput::tr("The %1 camera has no encrypted footage in this event.").arg(camera->displayName())
+                           : CliOutput::tr("This event's footage isn't encrypted: its files are plain MP4 movies already."));
 
     const QByteArray token = CliUnlock::token(parser, tokenFile, &error);
     if (!error.isEmpty())
-        return fail(error);
+        return CliOutput::fail(error);
     const CliUnlock::KeyCheck keys = CliUnlock::ensureKeys(clips, token, found.vaultURL);
     if (!QDir().mkpath(folder))
-        return fail(tr("The folder %1 can't be made.").arg(QDir::toNativeSeparators(folder)));
+        return CliOutput::fail(CliOutput::tr("The folder %1 can't be made.").arg(QDir::toNativeSeparators(folder)));
     int written = 0;
     bool writeFailed = false;
     for (const QString &clip : keys.unlocked) {
@@ -123,18 +112,18 @@ int run(const QStringList &arguments)
             writeFailed = true;
     }
     const QString where = QDir::toNativeSeparators(folder);
-    const QString writeSentence = tr("The clips couldn't be read from the drive or written to %1.").arg(where);
+    const QString writeSentence = CliOutput::tr("The clips couldn't be read from the drive or written to %1.").arg(where);
     if (written == 0)
-        return fail(keys.failures.value(0, writeSentence));
+        return CliOutput::fail(keys.failures.value(0, writeSentence));
     if (written < int(clips.size())) {
         for (const QString &sentence : keys.failures)
             CliOutput::err(sentence);
         if (writeFailed)
             CliOutput::err(writeSentence);
-        CliOutput::err(tr("Wrote %1 of %2 clips to %3.").arg(written).arg(clips.size()).arg(where));
+        CliOutput::err(CliOutput::tr("Wrote %1 of %2 clips to %3.").arg(written).arg(clips.size()).arg(where));
         return 1;
     }
-    CliOutput::err(tr("Wrote %1 clips to %2.").arg(written).arg(where));
+    CliOutput::err(CliOutput::tr("Wrote %1 clips to %2.").arg(written).arg(where));
     return 0;
 }
 

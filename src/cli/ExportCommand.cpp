@@ -1,5 +1,6 @@
 #include "cli/ExportCommand.h"
 
+#include "cli/CliEvents.h"
 #include "cli/CliOutput.h"
 #include "cli/CliUnlock.h"
 #include "drive/DriveBoundary.h"
@@ -29,14 +30,6 @@ namespace {
 const char *usage = "Usage: keelhold-cli export <TeslaCam folder> --event ID -o FILE [--camera CAMERA] "
                     "[--layout grid|front-sides|single] [--overlay PARTS|none] [--size 720|1080|full] "
                     "[--from SECONDS] [--to SECONDS]";
-
-QStringList cameraNames()
-{
-    QStringList names;
-    for (const Camera c : Camera::allCases())
-        names << c.rawValue();
-    return names;
-}
 
 std::optional<double> seconds(const QCommandLineParser &parser, const QCommandLineOption &option, bool &bad)
 {
@@ -134,7 +127,7 @@ int run(const QStringList &arguments)
                                         QStringLiteral("The event's id, as keelhold-cli scan prints it."),
                                         QStringLiteral("id"));
     const QCommandLineOption cameraOption(QStringLiteral("camera"),
-                                         QStringLiteral("One of: %1.").arg(cameraNames().join(QStringLiteral(", "))),
+                                         QStringLiteral("One of: %1.").arg(CliEvents::cameraNames().join(QStringLiteral(", "))),
                                          QStringLiteral("camera"));
     const QCommandLineOption outputOption(
         QStringList{QStringLiteral("o"), QStringLiteral("output")},
@@ -187,7 +180,7 @@ int run(const QStringList &arguments)
         camera = Camera::fromRawValue(parser.value(cameraOption));
         if (!camera)
             return fail(QStringLiteral("\u201c%1\u201d is not a camera; use one of %2.")
-                            .arg(parser.value(cameraOption), cameraNames().join(QStringLiteral(", "))));
+                            .arg(parser.value(cameraOption), CliEvents::cameraNames().join(QStringLiteral(", "))));
     }
     CombinedExportOptions options;
     if (combined) {
