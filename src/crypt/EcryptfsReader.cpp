@@ -1,5 +1,6 @@
 #include "crypt/EcryptfsReader.h"
 
+#include "crypt/PageIV.h"
 #include "drive/ReadOnlyFs.h"
 
 extern "C" {
@@ -33,44 +34,20 @@ const EVP_CIPHER *aes128cbc()
     return cipher;
 }
 
-void md5Into(EVP_MD_CTX *ctx, const void *data, size_t size, unsigned char out[16])
-{
-    unsigned int length = 0;
-    EVP_DigestInit_ex(ctx, md5(), nullptr);
-    EVP_DigestUpdate(ctx, data, size);
-    EVP_DigestFinal_ex(ctx, out, &length);
-}
-
-// The 32 bytes hashed for a page's IV: the root IV, then the page number in
-// decimal digits padded with zero bytes to 16.
-void pageIVInput(const unsigned char rootIV[16], qint64 page, unsigned char out[32])
-{
-    std::memcpy(out, rootIV, 16);
-    std::memset(out + 16, 0, 16);
-    char digits[24];
-    const int n = std::snprintf(digits, sizeof digits, "%lld", static_cast<long long>(page));
-    std::memcpy(out + 16, digits, size_t(std::min(n, 16)));
-}
-
 } // namespace
 
 QByteArray EcryptfsReader::rootIV(const QByteArray &key)
 {
-    EVP_MD_CTX *ctx = EVP_MD_CTX_new();
-    QByteArray iv(16, '\0');
-    md5Into(ctx, key.constData(), size_t(key.size()), reinterpret_cast<unsigned char *>(iv.data()));
-    EVP_MD_CTX_free(ctx);
-    return iv;
+    unsigned char digest[EVP_MAX_MD_SIZE];
+    unsigned int length = 0;
+    EVP_Digest(key.constData(), size_t(key.size()), digest, &length, md5(), nullptr);
+    return QByteArray(reinterpret_cast<const char *>(digest), int(length));
 }
 
 QByteArray EcryptfsReader::pageIV(const QByteArray &root, qint64 page)
 {
-    unsigned char input[32];
-    pageIVInput(reinterpret_cast<const unsigned char *>(root.constData()), page, input);
-    EVP_MD_CTX *ctx = EVP_MD_CTX_new();
     QByteArray iv(16, '\0');
-    md5Into(ctx, input, sizeof input, reinterpret_cast<unsigned char *>(iv.data()));
-    EVP_MD_CTX_free(ctx);
+    PageIV::compute(reinterpret_cast<const uint8_t *>(root.constData()), page, reinterpret_cast<uint8_t *>(iv.data()));
     return iv;
 }
 
@@ -91,8 +68,7 @@ std::unique_ptr<EcryptfsReader> EcryptfsReader::open(const QString &path, const 
     reader->key_ = key;
     reader->rootIV_ = rootIV(key);
     reader->cipher_ = EVP_CIPHER_CTX_new();
-    reader->md5_ = EVP_MD_CTX_new();
-    if (!reader->cipher_ || !reader->md5_
+    if (!reader->cipher_
         || EVP_DecryptInit_ex2(reader->cipher_, aes128cbc(), reinterpret_cast<const unsigned char *>(key.constData()),
                                nullptr, nullptr)
             != 1)
@@ -105,20 +81,14 @@ EcryptfsReader::~EcryptfsReader()
 {
     if (cipher_)
         EVP_CIPHER_CTX_free(cipher_);
-    if (md5_)
-        EVP_MD_CTX_free(md5_);
     if (fd_ >= 0)
         ::close(fd_);
 }
 
-bool EcryptfsReader::fill(qint64 page)
+bool EcryptfsReader::readCipher(qint64 page, qint64 pages)
 {
-    const qint64 pages = std::min(pagesPerFill, Ecryptfs::pageCount(plainSize_) - page);
-    if (pages <= 0)
-        return false;
     const size_t bytes = size_t(pages * Ecryptfs::pageSize);
-    buffer_.resize(size_t(pagesPerFill * Ecryptfs::pageSize));
-    bufferFirstPage_ = -1;
+    cipherText_.resize(size_t(pagesPerFill * Ecryptfs::pageSize));
     size_t got = 0;
     const off_t start = off_t(Ecryptfs::payloadOffset + page * Ecryptfs::pageSize);
     while (got < bytes) {
@@ -126,7 +96,7 @@ bool EcryptfsReader::fill(qint64 page)
             lastError_ = ECANCELED;
             return false;
         }
-        const ssize_t n = ::pread(fd_, buffer_.data() + got, bytes - got, start + off_t(got));
+        const ssize_t n = ::pread(fd_, cipherText_.data() + got, bytes - got, start + off_t(got));
         if (n < 0 && errno == EINTR)
             continue;
         if (n <= 0) {
@@ -135,20 +105,43 @@ bool EcryptfsReader::fill(qint64 page)
         }
         got += size_t(n);
     }
-    const auto *root = reinterpret_cast<const unsigned char *>(rootIV_.constData());
-    for (qint64 i = 0; i < pages; ++i) {
-        unsigned char input[32];
-        unsigned char iv[16];
-        pageIVInput(root, page + i, input);
-        md5Into(md5_, input, sizeof input, iv);
-        uint8_t *data = buffer_.data() + i * Ecryptfs::pageSize;
-        int out = 0;
-        if (EVP_DecryptInit_ex2(cipher_, nullptr, nullptr, iv, nullptr) != 1
-            || EVP_DecryptUpdate(cipher_, data, &out, data, Ecryptfs::pageSize) != 1) {
-            lastError_ = EIO;
-            return false;
-        }
+    return true;
+}
+
+// Each page is chained on its own IV. One pass over the run chains every page
+// on the last block of the page before it instead; the first block of each
+// page is put right afterwards, which costs 16 bytes of XOR a page.
+bool EcryptfsReader::decryptRun(qint64 page, qint64 pages, uint8_t *plain)
+{
+    const auto *root = reinterpret_cast<const uint8_t *>(rootIV_.constData());
+    uint8_t iv[16];
+    PageIV::compute(root, page, iv);
+    int out = 0;
+    const int bytes = int(pages * Ecryptfs::pageSize);
+    if (EVP_DecryptInit_ex2(cipher_, nullptr, nullptr, iv, nullptr) != 1
+        || EVP_DecryptUpdate(cipher_, plain, &out, cipherText_.data(), bytes) != 1 || out != bytes) {
+        lastError_ = EIO;
+        return false;
     }
+    for (qint64 i = 1; i < pages; ++i) {
+        PageIV::compute(root, page + i, iv);
+        uint8_t *first = plain + i * Ecryptfs::pageSize;
+        const uint8_t *chained = cipherText_.data() + i * Ecryptfs::pageSize - 16;
+        for (int b = 0; b < 16; ++b)
+            first[b] ^= uint8_t(chained[b] ^ iv[b]);
+    }
+    return true;
+}
+
+bool EcryptfsReader::fill(qint64 page)
+{
+    const qint64 pages = std::min(pagesPerFill, Ecryptfs::pageCount(plainSize_) - page);
+    if (pages <= 0)
+        return false;
+    buffer_.resize(size_t(pagesPerFill * Ecryptfs::pageSize));
+    bufferFirstPage_ = -1;
+    if (!readCipher(page, pages) || !decryptRun(page, pages, buffer_.data()))
+        return false;
     bufferFirstPage_ = page;
     bufferPages_ = pages;
     return true;
@@ -161,10 +154,21 @@ int EcryptfsReader::read(uint8_t *buffer, int size)
     int copied = 0;
     while (copied < size && position_ < plainSize_) {
         const qint64 page = position_ / Ecryptfs::pageSize;
-        if (bufferFirstPage_ < 0 || page < bufferFirstPage_ || page >= bufferFirstPage_ + bufferPages_) {
-            if (!fill(page))
+        const bool buffered = bufferFirstPage_ >= 0 && page >= bufferFirstPage_ && page < bufferFirstPage_ + bufferPages_;
+        // Whole pages from a page edge go straight into the caller's buffer:
+        // a demuxer reading through the file never pays for a second copy.
+        const qint64 wholePages = std::min({qint64(size - copied) / Ecryptfs::pageSize, pagesPerFill,
+                                            Ecryptfs::pageCount(plainSize_) - page});
+        if (!buffered && position_ % Ecryptfs::pageSize == 0 && wholePages > 0) {
+            if (!readCipher(page, wholePages) || !decryptRun(page, wholePages, buffer + copied))
                 return copied > 0 ? copied : -lastError_;
+            const int n = int(std::min(wholePages * Ecryptfs::pageSize, plainSize_ - position_));
+            copied += n;
+            position_ += n;
+            continue;
         }
+        if (!buffered && !fill(page))
+            return copied > 0 ? copied : -lastError_;
         const qint64 offset = position_ - bufferFirstPage_ * Ecryptfs::pageSize;
         const qint64 available = std::min(bufferPages_ * Ecryptfs::pageSize - offset, plainSize_ - position_);
         const int n = int(std::min<qint64>(available, size - copied));

@@ -10,7 +10,6 @@
 #include <vector>
 
 typedef struct evp_cipher_ctx_st EVP_CIPHER_CTX;
-typedef struct evp_md_ctx_st EVP_MD_CTX;
 
 // Reads the plain bytes of one of the car's encrypted files, given its
 // 16-byte key, decrypting page by page as they are asked for: a seek
@@ -49,6 +48,8 @@ public:
 private:
     EcryptfsReader() = default;
     bool fill(qint64 page);
+    bool readCipher(qint64 page, qint64 pages);
+    bool decryptRun(qint64 page, qint64 pages, uint8_t *plain);
 
     int fd_ = -1;
     std::function<bool()> shouldStop_;
@@ -57,7 +58,7 @@ private:
     QByteArray key_;
     QByteArray rootIV_;
     EVP_CIPHER_CTX *cipher_ = nullptr;
-    EVP_MD_CTX *md5_ = nullptr;
+    std::vector<uint8_t> cipherText_; // the run of pages last read from the file
     // Decrypted pages [bufferFirstPage_, bufferFirstPage_ + bufferPages_).
     std::vector<uint8_t> buffer_;
     qint64 bufferFirstPage_ = -1;
