@@ -119,7 +119,7 @@ _keelhold_cli()
     case $prev in
         --event)
             [[ ${positional[0]} ]] || return
-            if [[ $command == telemetry ]]; then
+            if [[ $command == telemetry || $command == decrypt ]]; then
                 # Its folder may be a drive's or a Vault's.
                 _keelhold_cli_reply_ids < <(_keelhold_cli_event_ids "$cli" scan "${positional[0]}"
                     _keelhold_cli_event_ids "$cli" vault list "${positional[0]}")
@@ -137,6 +137,14 @@ _keelhold_cli()
             return
             ;;
         -o | --output)
+            if [[ $command == decrypt ]]; then
+                _filedir -d
+            else
+                _filedir
+            fi
+            return
+            ;;
+        --token-file)
             _filedir
             return
             ;;

@@ -27,7 +27,8 @@ set(keelhold_runtime_packages
   qml6-module-qt-labs-settings
   qt6-qpa-plugins libqt6svg6 adwaita-icon-theme fonts-dejavu-core libgl1-mesa-dri)
 list(JOIN keelhold_runtime_packages ", " CPACK_DEBIAN_PACKAGE_DEPENDS)
-# The desktop's own file dialogs, and "Email…" / "Show in Folder".
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-gtk-platformtheme | qt6-xdgdesktopportal-platformtheme, qt6-wayland, xdg-utils")
+# The desktop's own file dialogs, and "Email…" / "Show in Folder"; libsecret,
+# which the secret store's library loads at run time to remember a sign-in.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-gtk-platformtheme | qt6-xdgdesktopportal-platformtheme, qt6-wayland, xdg-utils, libsecret-1-0")
 
 include(CPack)

@@ -1,11 +1,13 @@
 #include "cli/CliDispatch.h"
 
 #include "cli/CliOutput.h"
+#include "cli/DecryptCommand.h"
 #include "cli/ExportCommand.h"
 #include "cli/HealthCommand.h"
 #include "cli/KeepCommand.h"
 #include "cli/ScanCommand.h"
 #include "cli/TelemetryCommand.h"
+#include "cli/UnlockCommand.h"
 #include "cli/VaultCommand.h"
 
 #include <algorithm>
@@ -58,6 +60,10 @@ const std::vector<Command> &commands()
          VaultCommand::run},
         {QStringLiteral("telemetry"), QStringLiteral("Print the driving data recorded with an event's footage."),
          TelemetryCommand::run},
+        {QStringLiteral("unlock"), QStringLiteral("Check and remember your Tesla sign-in, for the car's encrypted clips."),
+         UnlockCommand::run},
+        {QStringLiteral("decrypt"), QStringLiteral("Write an event's encrypted clips as the plain MP4 movies they hold."),
+         DecryptCommand::run},
     };
     return table;
 }
@@ -80,7 +86,8 @@ QString helpText()
         "\n"
         "Exit status:\n"
         "  0    Done.\n"
-        "  1    Done in part: keep could not keep some files, or vault verify found a file changed or missing.\n"
+        "  1    Done in part: keep could not keep some files, vault verify found a file changed or missing, or\n"
+        "       decrypt could write only some clips.\n"
         "  2    The work could not be done, for example because the folder is missing or can't be read.\n"
         "  64   The command line was wrong.\n"
         "  130  keep was stopped with Ctrl-C.\n"

@@ -28,6 +28,17 @@ void err(const QString &line)
     std::fflush(stderr);
 }
 
+int fail(const QString &sentence)
+{
+    err(sentence);
+    return failureExit;
+}
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("keelhold-cli", text);
+}
+
 bool stderrIsTerminal()
 {
     static const bool tty = ::isatty(STDERR_FILENO) == 1;

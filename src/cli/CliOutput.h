@@ -25,5 +25,9 @@ std::optional<int> parseArguments(QCommandLineParser &parser, const QStringList 
 void printJson(const QJsonObject &object, bool pretty);
 // Exit code for failures the user can act on.
 inline constexpr int failureExit = 2;
+// The sentence on stderr; answers failureExit.
+int fail(const QString &sentence);
+// A text the user reads, in the tool's translation context.
+QString tr(const char *text);
 inline constexpr int usageExit = 64;
 } // namespace CliOutput

@@ -2,7 +2,7 @@
 
 #include "cli/CliOutput.h"
 #include "drive/ClipProber.h"
-#include "drive/ReadOnlyFs.h"
+#include "base/ReadOnlyFs.h"
 #include "drive/TeslaCamParser.h"
 
 #include <QDir>

@@ -1,7 +1,9 @@
 #include "cli/ExportCommand.h"
 
+#include "cli/CliEvents.h"
 #include "cli/CliOutput.h"
 #include "cli/CliScan.h"
+#include "cli/CliUnlock.h"
 #include "drive/DriveBoundary.h"
 #include "drive/TeslaCamParser.h"
 #include "export/CombinedExport.h"
@@ -29,14 +31,6 @@ namespace {
 const char *usage = "Usage: keelhold-cli export <TeslaCam folder> --event ID -o FILE [--camera CAMERA] "
                     "[--layout grid|front-sides|single] [--overlay PARTS|none] [--size 720|1080|full] "
                     "[--from SECONDS] [--to SECONDS]";
-
-QStringList cameraNames()
-{
-    QStringList names;
-    for (const Camera c : Camera::allCases())
-        names << c.rawValue();
-    return names;
-}
 
 std::optional<double> seconds(const QCommandLineParser &parser, const QCommandLineOption &option, bool &bad)
 {
@@ -134,7 +128,7 @@ int run(const QStringList &arguments)
                                         QStringLiteral("The event's id, as keelhold-cli scan prints it."),
                                         QStringLiteral("id"));
     const QCommandLineOption cameraOption(QStringLiteral("camera"),
-                                         QStringLiteral("One of: %1.").arg(cameraNames().join(QStringLiteral(", "))),
+                                         QStringLiteral("One of: %1.").arg(CliEvents::cameraNames().join(QStringLiteral(", "))),
                                          QStringLiteral("camera"));
     const QCommandLineOption outputOption(
         QStringList{QStringLiteral("o"), QStringLiteral("output")},
@@ -162,8 +156,9 @@ int run(const QStringList &arguments)
         QStringLiteral("size"),
         QStringLiteral("The new movie's picture height. One of: 720, 1080, full. The default is 1080."),
         QStringLiteral("size"));
+    const QCommandLineOption tokenFile = CliUnlock::tokenFileOption();
     parser.addOptions({eventOption, cameraOption, outputOption, fromOption, toOption, layoutOption, overlayOption,
-                       sizeOption});
+                       sizeOption, tokenFile});
     if (const auto done = CliOutput::parseArguments(parser, arguments))
         return *done;
     const QStringList positional = parser.positionalArguments();
@@ -186,7 +181,7 @@ int run(const QStringList &arguments)
         camera = Camera::fromRawValue(parser.value(cameraOption));
         if (!camera)
             return fail(QStringLiteral("\u201c%1\u201d is not a camera; use one of %2.")
-                            .arg(parser.value(cameraOption), cameraNames().join(QStringLiteral(", "))));
+                            .arg(parser.value(cameraOption), CliEvents::cameraNames().join(QStringLiteral(", "))));
     }
     CombinedExportOptions options;
     if (combined) {
@@ -236,6 +231,20 @@ int run(const QStringList &arguments)
                                         [&](const TeslaEvent &e) { return e.id() == eventId; });
         if (event == scan.events.end())
             return fail(QStringLiteral("There is no event \u201c%1\u201d in this TeslaCam folder.").arg(eventId));
+
+        // The car's encrypted footage: kept keys first, the missing ones fetched.
+        if (event->encrypted) {
+            std::vector<ClipRef> clips;
+            std::copy_if(event->clips.begin(), event->clips.end(), std::back_inserter(clips),
+                         [&](const ClipRef &c) { return combined || c.camera == *camera; });
+            QString error;
+            const QByteArray token = CliUnlock::token(parser, tokenFile, &error);
+            if (!error.isEmpty())
+                return fail(error);
+            const CliUnlock::KeyCheck keys = CliUnlock::ensureKeys(clips, token, QString());
+            if (keys.unlocked.empty() && !keys.failures.isEmpty())
+                return fail(keys.failures.first());
+        }
 
         QString output = QDir::cleanPath(QDir::current().absoluteFilePath(parser.value(outputOption)));
         if (QFileInfo(output).isDir())

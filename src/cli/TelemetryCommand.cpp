@@ -1,7 +1,9 @@
 #include "cli/TelemetryCommand.h"
 
+#include "cli/CliEvents.h"
 #include "cli/CliOutput.h"
 #include "cli/CliScan.h"
+#include "cli/CliUnlock.h"
 #include "drive/DriveBoundary.h"
 #include "drive/TeslaCamParser.h"
 #include "model/EventTelemetry.h"
@@ -38,14 +40,6 @@ int fail(const QString &sentence)
 {
     CliOutput::err(sentence);
     return CliOutput::failureExit;
-}
-
-QStringList cameraNames()
-{
-    QStringList names;
-    for (const Camera c : Camera::allCases())
-        names << c.rawValue();
-    return names;
 }
 
 // Seconds to the microsecond, without exponents or trailing zeros.
@@ -165,22 +159,6 @@ QByteArray gpx(const TeslaEvent &event, const EventTelemetry &telemetry)
     return bytes;
 }
 
-// The event in a TeslaCam folder, or else in a Vault folder.
-std::optional<TeslaEvent> findEvent(const QString &root, const QString &id)
-{
-    const DriveScan scan = TeslaCamParser::scan(root);
-    for (const TeslaEvent &e : scan.events)
-        if (e.id() == id)
-            return e;
-    try {
-        for (const TeslaEvent &e : VaultBrowser::scanVault(root))
-            if (e.id() == id)
-                return e;
-    } catch (const VaultBrowser::VaultBrowserError &) {
-    }
-    return std::nullopt;
-}
-
 } // namespace
 
 int run(const QStringList &arguments)
@@ -198,7 +176,7 @@ int run(const QStringList &arguments)
                                         QStringLiteral("The event's id, as keelhold-cli scan prints it."),
                                         QStringLiteral("id"));
     const QCommandLineOption cameraOption(
-        QStringLiteral("camera"), QStringLiteral("One of: %1.").arg(cameraNames().join(QStringLiteral(", "))),
+        QStringLiteral("camera"), QStringLiteral("One of: %1.").arg(CliEvents::cameraNames().join(QStringLiteral(", "))),
         QStringLiteral("camera"), QStringLiteral("front"));
     const QCommandLineOption formatOption(
         QStringLiteral("format"),
@@ -208,7 +186,8 @@ int run(const QStringList &arguments)
     const QCommandLineOption outputOption(QStringList{QStringLiteral("o"), QStringLiteral("output")},
                                          QStringLiteral("The file to write instead of standard output."),
                                          QStringLiteral("file"));
-    parser.addOptions({eventOption, cameraOption, formatOption, outputOption});
+    const QCommandLineOption tokenFile = CliUnlock::tokenFileOption();
+    parser.addOptions({eventOption, cameraOption, formatOption, outputOption, tokenFile});
     if (const auto done = CliOutput::parseArguments(parser, arguments))
         return *done;
     const QStringList positional = parser.positionalArguments();
@@ -219,7 +198,7 @@ int run(const QStringList &arguments)
     const std::optional<Camera> camera = Camera::fromRawValue(parser.value(cameraOption));
     if (!camera)
         return fail(QStringLiteral("\u201c%1\u201d is not a camera; use one of %2.")
-                        .arg(parser.value(cameraOption), cameraNames().join(QStringLiteral(", "))));
+                        .arg(parser.value(cameraOption), CliEvents::cameraNames().join(QStringLiteral(", "))));
     QString format = parser.value(formatOption).toLower();
     if (!parser.isSet(formatOption)) {
         const QString suffix = QFileInfo(parser.value(outputOption)).suffix().toLower();
@@ -240,12 +219,25 @@ int run(const QStringList &arguments)
     // Damaged clips are expected; FFmpeg's own words about them are noise here.
     av_log_set_level(AV_LOG_QUIET);
 
-    try {
-        const std::optional<TeslaEvent> event = findEvent(root, eventId);
+    {
+        QString error;
+        const CliEvents::Found found = CliEvents::find(root, eventId, &error);
+        const std::optional<TeslaEvent> &event = found.event;
         if (!event)
-            return fail(QStringLiteral("There is no event \u201c%1\u201d in this folder.").arg(eventId));
+            return fail(error);
         if (std::none_of(event->clips.begin(), event->clips.end(), [&](const ClipRef &c) { return c.camera == *camera; }))
             return fail(QStringLiteral("The %1 camera has no footage in this event.").arg(camera->displayName()));
+        if (event->encrypted) {
+            std::vector<ClipRef> clips;
+            std::copy_if(event->clips.begin(), event->clips.end(), std::back_inserter(clips),
+                         [&](const ClipRef &c) { return c.camera == *camera; });
+            const QByteArray token = CliUnlock::token(parser, tokenFile, &error);
+            if (!error.isEmpty())
+                return fail(error);
+            const CliUnlock::KeyCheck keys = CliUnlock::ensureKeys(clips, token, found.vaultURL);
+            if (keys.unlocked.empty() && !keys.failures.isEmpty())
+                return fail(keys.failures.first());
+        }
         const EventTelemetry telemetry = TelemetryTimeline::load(*event, *camera);
         if (!telemetry.hasRecords())
             return fail(QStringLiteral("The %1 camera's clips of this event carry no driving data: cars record it "
@@ -262,15 +254,6 @@ int run(const QStringList &arguments)
         if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
             return fail(QStringLiteral("Could not write %1: %2.").arg(QDir::toNativeSeparators(output), file.errorString()));
         return 0;
-    } catch (const TeslaCamParser::ParserError &e) {
-        return fail(e.errorCase() == TeslaCamParser::ParserError::rootNotFound
-                        ? QStringLiteral("There is no folder at \u201c%1\u201d. Check that the drive is plugged in and "
-                                         "the path is right.")
-                              .arg(root)
-                        : QStringLiteral("\u201c%1\u201d is a file, not a folder. Give the TeslaCam folder itself.")
-                              .arg(root));
-    } catch (const TeslaCamParser::ScanError &e) {
-        return fail(e.message());
     }
 }
 

@@ -6,6 +6,8 @@
 #include "base/IOWatchdog.h"
 #include "base/ReadOnlyFs.h"
 
+#include "drive/EcryptfsHeader.h"
+
 extern "C" {
 #include <libavformat/avformat.h>
 }
@@ -119,11 +121,7 @@ QByteArray readHead(const QString &path, int size)
 
 bool sniffEcryptfs(const QString &path)
 {
-    const QByteArray head = readHead(path, 16);
-    if (head.size() < 16)
-        return false;
-    const auto word = [&](int at) { return qFromBigEndian<quint32>(head.constData() + at); };
-    return (word(8) ^ word(12)) == ecryptfsMarker;
+    return Ecryptfs::hasMarker(readHead(path, 16));
 }
 
 bool sniffFtyp(const QString &path)

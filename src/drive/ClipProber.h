@@ -54,6 +54,5 @@ bool sniffFtyp(const QString &path);
 // then two 32-bit words whose XOR is the eCryptfs marker. The car's
 // encrypted clips look like this and never like an MP4.
 bool sniffEcryptfs(const QString &path);
-inline constexpr quint32 ecryptfsMarker = 0x3C81B7F5;
 
 } // namespace ClipProber

@@ -1,6 +1,7 @@
 #include "drive/TeslaCamParser.h"
 
 #include "drive/ClipCalendar.h"
+#include "drive/EcryptfsHeader.h"
 #include "drive/EventJSONPayload.h"
 #include "base/ReadOnlyFs.h"
 #include "drive/ReasonMapper.h"
@@ -223,6 +224,67 @@ bool present(const QString &path)
     return info.exists || info.error != ENOENT;
 }
 
+// SentryClips, SavedClips and RecentClips under base (the TeslaCam folder,
+// or its EncryptedClips folder).
+void scanLayout(const QString &base, const ScanProgressCallback &progress, int &foldersScanned,
+                std::vector<TeslaEvent> &events, std::vector<ScanIssue> &issues)
+{
+    struct EventFolder {
+        const char *name;
+        EventKind kind;
+        const char16_t *phase;
+    };
+    for (const EventFolder &f : {EventFolder{"SentryClips", EventKind::sentry, Phase::sentry},
+                                 EventFolder{"SavedClips", EventKind::saved, Phase::saved}}) {
+        const QString folder = childPath(base, QLatin1String(f.name));
+        if (!present(folder))
+            continue;
+        assertReadable(folder);
+        report(progress, f.phase, foldersScanned, int(events.size()), 0);
+        // A folder that fails its listing for any other reason than a
+        // refusal (a failing drive) costs itself only.
+        const ReadOnlyFs::Listing listing = ReadOnlyFs::list(folder, ReadOnlyFs::directoryFlag);
+        if (!listing.ok()) {
+            issues.push_back(ScanIssue{ScanIssue::Kind::unreadableFolder, folder});
+            continue;
+        }
+        for (const auto &entry : listing.entries) {
+            const QString path = childPath(folder, entry.name);
+            if (!entry.isDirectory) {
+                if (!isIgnoredName(entry.name))
+                    issues.push_back(ScanIssue{ScanIssue::Kind::unknownFile, path});
+                continue;
+            }
+            ++foldersScanned;
+            const auto groups = matchFolderName(entry.name);
+            if (!groups)
+                continue;
+            const auto timestamp = parseTimestamp(groups->date, groups->time);
+            if (!timestamp)
+                continue;
+            auto event = parseEventFolder(path, f.kind, *timestamp, issues);
+            if (!event) {
+                issues.push_back(ScanIssue{ScanIssue::Kind::unreadableFolder, path});
+                continue;
+            }
+            events.push_back(std::move(*event));
+            report(progress, f.phase, foldersScanned, int(events.size()), 0);
+        }
+    }
+
+    const QString recentFolder = childPath(base, QStringLiteral("RecentClips"));
+    if (present(recentFolder)) {
+        assertReadable(recentFolder);
+        report(progress, Phase::recent, foldersScanned, int(events.size()), 0);
+        if (auto clips = parseFlatClipsDirectory(recentFolder, issues)) {
+            for (auto &e : groupIntoRecentEvents(*clips, recentFolder, recentGapTolerance))
+                events.push_back(std::move(e));
+        } else {
+            issues.push_back(ScanIssue{ScanIssue::Kind::unreadableFolder, recentFolder});
+        }
+    }
+}
+
 } // namespace
 
 std::optional<NameGroups> matchFolderName(QStringView name)
@@ -275,15 +337,20 @@ std::optional<TeslaEvent> parseEventFolder(const QString &folderURL, EventKind k
     std::optional<EventJSONPayload> payload;
     std::optional<QString> thumbURL;
     bool missingEventJSON = true;
+    bool encryptedEventJSON = false;
 
     for (const auto &entry : listing.entries) {
         const QString path = childPath(folderURL, entry.name);
         if (entry.name == QLatin1String("event.json")) {
             missingEventJSON = false;
             const auto data = ReadOnlyFs::readFile(path, maxEventJSONBytes);
-            if (data)
+            // The car encrypts event.json with a key it keeps to itself: not a
+            // broken file, just one that can't be read off the car.
+            if (data && Ecryptfs::hasMarker(*data))
+                encryptedEventJSON = true;
+            else if (data)
                 payload = EventJSONPayload::decode(*data);
-            if (!payload)
+            if (!payload && !encryptedEventJSON)
                 issues.push_back(ScanIssue{ScanIssue::Kind::badEventJSON, path});
         } else if (entry.name == QLatin1String("thumb.png")) {
             thumbURL = path;
@@ -316,6 +383,8 @@ std::optional<TeslaEvent> parseEventFolder(const QString &folderURL, EventKind k
     event.clips = std::move(clips);
     event.thumbURL = thumbURL;
     event.missingEventJSON = missingEventJSON;
+    if (encryptedEventJSON)
+        markEncrypted(event);
     return event;
 }
 
@@ -377,6 +446,13 @@ std::vector<TeslaEvent> groupIntoRecentEvents(const std::vector<ClipRef> &clips,
     return events;
 }
 
+void markEncrypted(TeslaEvent &event)
+{
+    event.encrypted = true;
+    for (ClipRef &clip : event.clips)
+        clip.health = ClipHealth::encrypted;
+}
+
 VolumeFormat volumeFormat(const std::optional<QString> &description)
 {
     if (!description)
@@ -411,62 +487,23 @@ DriveScan scan(const QString &rootIn, const ScanProgressCallback &progress)
     int foldersScanned = 0;
     report(progress, Phase::reading, 0, 0, 0);
 
-    struct EventFolder {
-        const char *name;
-        EventKind kind;
-        const char16_t *phase;
-    };
-    for (const EventFolder &f : {EventFolder{"SentryClips", EventKind::sentry, Phase::sentry},
-                                 EventFolder{"SavedClips", EventKind::saved, Phase::saved}}) {
-        const QString folder = childPath(root, QLatin1String(f.name));
-        if (!present(folder))
-            continue;
-        assertReadable(folder);
-        report(progress, f.phase, foldersScanned, int(events.size()), 0);
-        // A folder that fails its listing for any other reason than a
-        // refusal (a failing drive) costs itself only.
-        const ReadOnlyFs::Listing listing = ReadOnlyFs::list(folder, ReadOnlyFs::directoryFlag);
-        if (!listing.ok()) {
-            issues.push_back(ScanIssue{ScanIssue::Kind::unreadableFolder, folder});
-            continue;
-        }
-        for (const auto &entry : listing.entries) {
-            const QString path = childPath(folder, entry.name);
-            if (!entry.isDirectory) {
-                if (!isIgnoredName(entry.name))
-                    issues.push_back(ScanIssue{ScanIssue::Kind::unknownFile, path});
-                continue;
-            }
-            ++foldersScanned;
-            const auto groups = matchFolderName(entry.name);
-            if (!groups)
-                continue;
-            const auto timestamp = parseTimestamp(groups->date, groups->time);
-            if (!timestamp)
-                continue;
-            auto event = parseEventFolder(path, f.kind, *timestamp, issues);
-            if (!event) {
-                issues.push_back(ScanIssue{ScanIssue::Kind::unreadableFolder, path});
-                continue;
-            }
-            events.push_back(std::move(*event));
-            report(progress, f.phase, foldersScanned, int(events.size()), 0);
+    // The car's encrypted footage lies under EncryptedClips in the same
+    // layout, read by the same rules; its clips are taken as encrypted by
+    // where they lie, without opening them.
+    const QString encryptedRoot = childPath(root, QStringLiteral("EncryptedClips"));
+    const bool encryptedClipsPresent = exists(encryptedRoot);
+    for (const QString &base : {root, encryptedRoot}) {
+        const bool encrypted = base == encryptedRoot;
+        if (encrypted && !encryptedClipsPresent)
+            break;
+        const size_t firstEvent = events.size();
+        scanLayout(base, progress, foldersScanned, events, issues);
+        if (encrypted) {
+            for (size_t i = firstEvent; i < events.size(); ++i)
+                markEncrypted(events[i]);
         }
     }
 
-    const QString recentFolder = childPath(root, QStringLiteral("RecentClips"));
-    if (present(recentFolder)) {
-        assertReadable(recentFolder);
-        report(progress, Phase::recent, foldersScanned, int(events.size()), 0);
-        if (auto clips = parseFlatClipsDirectory(recentFolder, issues)) {
-            for (auto &e : groupIntoRecentEvents(*clips, recentFolder, recentGapTolerance))
-                events.push_back(std::move(e));
-        } else {
-            issues.push_back(ScanIssue{ScanIssue::Kind::unreadableFolder, recentFolder});
-        }
-    }
-
-    const bool encryptedClipsPresent = exists(childPath(root, QStringLiteral("EncryptedClips")));
     EventOrder::sortNewestFirst(events);
 
     const auto volume = VolumeInfo::query(root);

@@ -70,6 +70,9 @@ std::optional<Date> parseTimestamp(QStringView dateGroup, QStringView timeGroup)
 std::vector<TeslaEvent> groupIntoRecentEvents(const std::vector<ClipRef> &clips, const QString &folderURL,
                                               double gapTolerance);
 VolumeFormat volumeFormat(const std::optional<QString> &description);
+// An event of the car's encrypted footage: flagged, and every clip taken as
+// encrypted until a probe or a key says more.
+void markEncrypted(TeslaEvent &event);
 
 // Progress texts, in order of appearance.
 namespace Phase {

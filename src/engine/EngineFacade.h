@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/DriveEventStream.h"
+#include "crypt/KeyCoverage.h"
 #include "export/CombinedExportOptions.h"
 #include "export/CombinedExportProgress.h"
 #include "model/ArchiveProgress.h"
@@ -52,6 +53,9 @@ public:
     virtual QFuture<void> storeScanInCache(const DriveScan &scan, const QString &key) = 0;
     // The events with clip health (and durations) filled in.
     virtual QFuture<std::vector<TeslaEvent>> probeAll(const std::vector<TeslaEvent> &events) = 0;
+    // For the encrypted events among these, by id: which clips can be
+    // watched here with the keys held now.
+    virtual QFuture<QHash<QString, KeyCoverage>> keyCoverage(const std::vector<TeslaEvent> &events) = 0;
 
     // Raises when the folder can't be remembered.
     virtual void saveBookmark(const QString &url, BookmarkKey key) = 0;

@@ -41,6 +41,12 @@ QFuture<std::vector<TeslaEvent>> LiveEngine::probeAll(const std::vector<TeslaEve
     });
 }
 
+QFuture<QHash<QString, KeyCoverage>> LiveEngine::keyCoverage(const std::vector<TeslaEvent> &events)
+{
+    return AsyncRun::cancellable(EnginePools::media(),
+                                 [events](std::stop_token stop) { return KeyCoverage::of(events, stop); });
+}
+
 void LiveEngine::saveBookmark(const QString &url, BookmarkKey key) { BookmarkStore::save(url, key); }
 
 BookmarkResult LiveEngine::resolveBookmark(BookmarkKey key) { return BookmarkStore::resolve(key); }

@@ -21,6 +21,7 @@ public:
     QFuture<std::optional<DriveScan>> cachedScan(const QString &key) override;
     QFuture<void> storeScanInCache(const DriveScan &scan, const QString &key) override;
     QFuture<std::vector<TeslaEvent>> probeAll(const std::vector<TeslaEvent> &events) override;
+    QFuture<QHash<QString, KeyCoverage>> keyCoverage(const std::vector<TeslaEvent> &events) override;
     void saveBookmark(const QString &url, BookmarkKey key) override;
     BookmarkResult resolveBookmark(BookmarkKey key) override;
     std::vector<VolumeCandidate> mountedTeslaCamVolumes() override;

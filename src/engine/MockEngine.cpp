@@ -237,6 +237,21 @@ QFuture<std::vector<TeslaEvent>> MockEngine::probeAll(const std::vector<TeslaEve
     });
 }
 
+// No keys in memory: every encrypted clip is locked.
+QFuture<QHash<QString, KeyCoverage>> MockEngine::keyCoverage(const std::vector<TeslaEvent> &events)
+{
+    QHash<QString, KeyCoverage> coverage;
+    for (const TeslaEvent &e : events) {
+        if (!e.encrypted)
+            continue;
+        KeyCoverage c;
+        for (const ClipRef &clip : e.clips)
+            c.locked += clip.health == ClipHealth::encrypted ? 1 : 0;
+        coverage.insert(e.id(), c);
+    }
+    return QtFuture::makeReadyFuture(coverage);
+}
+
 void MockEngine::saveBookmark(const QString &, BookmarkKey) {}
 
 BookmarkResult MockEngine::resolveBookmark(BookmarkKey) { return BookmarkError::makeNotFound(); }

@@ -90,6 +90,9 @@ QJsonObject TeslaEvent::toJson() const
     if (thumbURL)
         o.insert(QStringLiteral("thumbURL"), encodeURL(*thumbURL));
     o.insert(QStringLiteral("missingEventJSON"), missingEventJSON);
+    // Left out when false, so a clear event's form stays as it always was.
+    if (encrypted)
+        o.insert(QStringLiteral("encrypted"), true);
     return o;
 }
 
@@ -112,13 +115,14 @@ TeslaEvent TeslaEvent::fromJson(const QJsonValue &value)
     e.clips = decodeArray<ClipRef>(requireArray(o, "clips"));
     e.thumbURL = optionalURL(o, "thumbURL");
     e.missingEventJSON = requireBool(o, "missingEventJSON");
+    e.encrypted = o.contains(QLatin1String("encrypted")) && requireBool(o, "encrypted");
     return e;
 }
 
 size_t qHash(const TeslaEvent &e, size_t seed) noexcept
 {
     size_t h = qHashMulti(seed, e.kind, e.folderURL, e.folderName, e.timestamp, e.city.value_or(QString()),
-                          e.reasonRaw.value_or(QString()), e.reason, e.missingEventJSON);
+                          e.reasonRaw.value_or(QString()), e.reason, e.missingEventJSON, e.encrypted);
     for (const auto &c : e.clips)
         h = qHashMulti(h, c);
     return h;

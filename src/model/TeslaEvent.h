@@ -29,6 +29,9 @@ struct TeslaEvent {
     bool missingEventJSON = true;
     // Newer cars name the street in event.json; shown with the city.
     std::optional<QString> street;
+    // Recorded with the car's encryption on (under EncryptedClips): the
+    // clips play only with their keys, and event.json can't be read here.
+    bool encrypted = false;
 
     // The one identity of an event: "sentry|2026-07-21_02-11-05".
     QString id() const { return kind.rawValue() + QLatin1Char('|') + folderName; }

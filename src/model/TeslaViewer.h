@@ -2,8 +2,9 @@
 
 #include <QString>
 
-// The car maker's web viewer, the one place where encrypted clips can be
-// watched. The program only links to it.
+// The car maker's web viewer, where encrypted clips can be watched and where
+// the owner signs in for the token that unlocks them here; its key service
+// answers at the same host.
 namespace TeslaViewer {
 
 QString url();  // "https://dashcam.tesla.com"

@@ -9,6 +9,7 @@ extern "C" {
 #include <libavformat/avformat.h>
 }
 
+#include <QCoreApplication>
 #include <algorithm>
 
 namespace EventTimeline {
@@ -40,6 +41,10 @@ Placeable placeable(const QString &path, std::chrono::milliseconds limit, std::s
     return {format->duration > 0 ? double(format->duration) / AV_TIME_BASE : 0.0, false};
 }
 } // namespace
+QString lockedReason()
+{
+    return QCoreApplication::translate("EventTimeline", "Unlock to watch");
+}
 
 std::vector<CameraTrack> build(const TeslaEvent &event, std::chrono::milliseconds clipTimeout, std::stop_token stop)
 {
@@ -67,7 +72,12 @@ std::vector<CameraTrack> build(const TeslaEvent &event, std::chrono::millisecond
         if (playable.empty()) {
             const bool allDamaged = !clips.empty()
                 && std::all_of(clips.begin(), clips.end(), [](const ClipRef &c) { return c.health.isDamaged(); });
-            tracks.push_back(CameraTrack{camera, std::nullopt, allDamaged ? damagedReason : noFootageReason, 0, {}});
+            const bool locked = std::any_of(clips.begin(), clips.end(),
+                                            [](const ClipRef &c) { return c.health == ClipHealth::encrypted; });
+            if (locked)
+                tracks.push_back(CameraTrack{camera, std::nullopt, lockedReason(), 0, {}, true});
+            else
+                tracks.push_back(CameraTrack{camera, std::nullopt, allDamaged ? damagedReason : noFootageReason, 0, {}});
             continue;
         }
 

@@ -18,6 +18,8 @@ namespace EventTimeline {
 
 inline const QString damagedReason = QStringLiteral("This angle didn't record properly — a known Tesla drive issue.");
 inline const QString noFootageReason = QStringLiteral("No footage this minute.");
+// The car's encrypted footage with no key held yet.
+QString lockedReason();
 
 struct CameraTrack {
     Camera camera;
@@ -27,6 +29,7 @@ struct CameraTrack {
     // Where clips the scan thought playable start, that turned out damaged
     // when opened (no pictures, or a header its own data contradict).
     std::vector<double> damagedStarts;
+    bool locked = false;                      // encrypted footage that waits for its keys
 };
 
 // Every camera of the event, in grid order. Reads each usable clip's header

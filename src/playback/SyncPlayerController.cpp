@@ -116,7 +116,7 @@ void SyncPlayerController::applyTileOutcomes(const std::vector<TileOutcome> &out
             tiles.push_back(Tile{o.camera, std::make_shared<TrackPlayer>(*o.composition), std::nullopt, o.contentEnd,
                                  EventTimeline::gaps(event_, o)});
         else
-            tiles.push_back(Tile{o.camera, nullptr, o.placeholderReason, 0, {}});
+            tiles.push_back(Tile{o.camera, nullptr, o.placeholderReason, 0, {}, o.locked});
     }
     tiles_ = std::move(tiles);
     group_.clear();
@@ -140,6 +140,7 @@ void SyncPlayerController::applyTileOutcomes(const std::vector<TileOutcome> &out
                                     {QStringLiteral("end"), gap.end},
                                     {QStringLiteral("reason"), gap.reason}});
         m.insert(QStringLiteral("gaps"), gaps);
+        m.insert(QStringLiteral("locked"), t.locked);
         tilesForQml_.append(m);
     }
     Q_EMIT tilesChanged();

@@ -51,6 +51,7 @@ public:
         std::optional<QString> placeholderReason; // set exactly when player is absent
         double contentEnd = 0;                    // where this camera's footage ends on the axis
         std::vector<EventTimeline::Gap> gaps;     // stretches before contentEnd where nothing plays
+        bool locked = false;                      // encrypted, no key held yet
         Camera id() const { return camera; }
     };
 

@@ -814,6 +814,7 @@ void AppState::setDriveScan(std::optional<DriveScan> v)
     driveScan_ = std::move(v);
     Q_EMIT driveScanChanged();
     Q_EMIT visibleInboxEventsChanged();
+    refreshKeyCoverage();
 }
 void AppState::setScanProgress(std::optional<ScanProgress> v) { KH_SET(scanProgress_, v, scanProgressChanged); }
 void AppState::setIsScanning(bool v) { KH_SET(isScanning_, v, isScanningChanged); }
@@ -829,7 +830,14 @@ void AppState::setIsSampleMode(bool v) { KH_SET(isSampleMode_, v, isSampleModeCh
 void AppState::setShowEncryptionGuide(bool v) { KH_SET(showEncryptionGuide_, v, showEncryptionGuideChanged); }
 void AppState::setVaultURLField(std::optional<QString> v) { KH_SET(vaultURL_, v, vaultURLChanged); }
 void AppState::setVaultIndex(VaultIndex v) { KH_SET(vaultIndex_, v, vaultIndexChanged); }
-void AppState::setVaultEvents(std::vector<TeslaEvent> v) { KH_SET(vaultEvents_, v, vaultEventsChanged); }
+void AppState::setVaultEvents(std::vector<TeslaEvent> v)
+{
+    if (vaultEvents_ == v)
+        return;
+    vaultEvents_ = std::move(v);
+    Q_EMIT vaultEventsChanged();
+    refreshKeyCoverage();
+}
 void AppState::setTriageStateEntry(const QString &id, TriageState s)
 {
     const auto it = triageStates_.constFind(id);

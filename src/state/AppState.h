@@ -83,6 +83,12 @@ class AppState : public QObject {
     Q_PROPERTY(QString filterKind READ filterKindForQml WRITE setFilterKindForQml NOTIFY filterKindChanged)
     Q_PROPERTY(QStringList selectedEventIDsForBulk READ selectedEventIDsForBulkForQml WRITE setSelectedEventIDsForBulkForQml NOTIFY selectedEventIDsForBulkChanged)
     Q_PROPERTY(QVariantList visibleInboxEvents READ visibleInboxEventsForQml NOTIFY visibleInboxEventsChanged)
+    // The drive's events recorded with the car's encryption on, and those of
+    // them not yet watchable here for want of keys.
+    Q_PROPERTY(int encryptedEventCount READ encryptedEventCount NOTIFY keyCoverageChanged)
+    Q_PROPERTY(int lockedEventCount READ lockedEventCount NOTIFY keyCoverageChanged)
+    // Event id to "locked" or "unlocked", for the encrypted events of the drive and the Vault.
+    Q_PROPERTY(QVariantMap lockStates READ lockStatesForQml NOTIFY keyCoverageChanged)
 
 public:
     enum class ColumnVisibility : quint8 { all, detailOnly };
@@ -261,6 +267,18 @@ public:
     // The end of the process: held access is given up.
     void endHeldAccess();
 
+    // Encrypted footage: which clips the keys held now unlock, for the drive's
+    // and the Vault's events; asked anew after every scan, Vault listing and unlock.
+    const QHash<QString, KeyCoverage> &keyCoverage() const { return keyCoverage_; }
+    Q_INVOKABLE void refreshKeyCoverage();
+    // "locked", "unlocked", or "" for a clear event.
+    Q_INVOKABLE QString lockState(const QString &eventID) const;
+    int encryptedEventCount() const;
+    int lockedEventCount() const;
+    QVariantMap lockStatesForQml() const;
+    // The drive's or the Vault's events with these ids, in the order given.
+    std::vector<TeslaEvent> eventsWithIDs(const QStringList &ids) const { return eventsForIDs(ids); }
+
 Q_SIGNALS:
     void hasCompletedOnboardingChanged();
     void showOnboardingChanged();
@@ -302,6 +320,7 @@ Q_SIGNALS:
     void filterKindChanged();
     void selectedEventIDsForBulkChanged();
     void visibleInboxEventsChanged();
+    void keyCoverageChanged();
 
 private:
     void resolveBookmark(BookmarkKey key, void (AppState::*open)(const QString &));
@@ -336,6 +355,7 @@ private:
     static QCoro::Task<void> verifyTask(QPointer<AppState> self, QString vaultURL, QStringList eventIDs,
                                         std::shared_ptr<std::stop_source> task);
     static QCoro::Task<void> vaultEventsTask(QPointer<AppState> self, QString vaultURL);
+    static QCoro::Task<void> keyCoverageTask(QPointer<AppState> self, std::vector<TeslaEvent> events, quint64 run);
 
     void setDriveScan(std::optional<DriveScan> v);
     void setScanProgress(std::optional<ScanProgress> v);
@@ -427,4 +447,6 @@ private:
     // The detached Vault index loads read through the engine: the state
     // waits for them as it goes, so none outlives the engine it was given.
     QFutureSynchronizer<void> detachedLoads_;
+    QHash<QString, KeyCoverage> keyCoverage_;
+    quint64 keyCoverageRun_ = 0;
 };

@@ -3,7 +3,7 @@
 #include "state/AppState.h"
 
 #include "drive/DriveBoundary.h"
-#include "drive/IOWatchdog.h"
+#include "base/IOWatchdog.h"
 #include "engine/AsyncRun.h"
 #include "engine/EnginePools.h"
 #include "playback/SyncPlayerController.h"

@@ -30,6 +30,7 @@ EventListModel::EventListModel(AppState *state, Source source, QObject *parent)
     connect(state, &AppState::verificationLogChanged, this, &EventListModel::refreshAllRows);
     connect(state, &AppState::selectedEventIDsForBulkChanged, this, &EventListModel::refreshAllRows);
     connect(state, &AppState::resourceAccessEpochChanged, this, &EventListModel::refreshAllRows);
+    connect(state, &AppState::keyCoverageChanged, this, &EventListModel::refreshAllRows);
 }
 
 std::vector<TeslaEvent> EventListModel::currentEvents() const
@@ -81,12 +82,16 @@ QHash<int, QByteArray> EventListModel::roleNames() const
         {TickToolTipRole, "tickToolTip"},
         {IsSelectedRole, "isSelected"},
         {DayHeadingRole, "dayHeading"},
+        {LockStateRole, "lockState"},
+        {LockIconRole, "lockIcon"},
+        {LockToolTipRole, "lockToolTip"},
     };
 }
 
 QString EventListModel::thumbSource(const TeslaEvent &event, int epoch)
 {
-    if (!event.thumbURL || event.thumbURL->isEmpty())
+    // The car's encrypted thumbnail is no picture to us.
+    if (!event.thumbURL || event.thumbURL->isEmpty() || event.encrypted)
         return {};
     return QStringLiteral("image://thumbs/") + QString::number(epoch) + *event.thumbURL;
 }
@@ -125,15 +130,23 @@ QVariant EventListModel::data(const QModelIndex &index, int role) const
     case OverlayToolTipRole:
         return InboxPresenter::triageOverlay(shownState(e)).toolTip;
     case ReasonLabelRole:
-        return e.reason.label();
+        return InboxPresenter::reasonText(e).label;
     case ReasonShortLabelRole:
-        return e.reason.shortLabel();
+        return InboxPresenter::reasonText(e).shortLabel;
     case ReasonIconRole:
-        return SymbolIcons::iconUrl(e.reason.symbolName());
+        return SymbolIcons::iconUrl(InboxPresenter::reasonText(e).symbolName);
     case ReasonBlurbRole:
-        return e.reason.blurb();
+        return InboxPresenter::reasonText(e).blurb;
     case ReasonAccessibleRole:
-        return InboxPresenter::reasonChipAccessibilityLabel(e.reason);
+        return InboxPresenter::reasonChipAccessibilityLabel(e);
+    case LockStateRole:
+        return state_->lockState(e.id());
+    case LockIconRole: {
+        const QString symbol = InboxPresenter::lockMark(state_->lockState(e.id())).symbolName;
+        return symbol.isEmpty() ? QString() : SymbolIcons::iconUrl(symbol);
+    }
+    case LockToolTipRole:
+        return InboxPresenter::lockMark(state_->lockState(e.id())).toolTip;
     case CorruptCountRole:
         return e.corruptClipCount();
     case CorruptToolTipRole:

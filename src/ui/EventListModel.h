@@ -45,6 +45,9 @@ public:
         TickToolTipRole,
         IsSelectedRole,
         DayHeadingRole,
+        LockStateRole,
+        LockIconRole,
+        LockToolTipRole,
     };
 
     EventListModel(AppState *state, Source source, QObject *parent = nullptr);

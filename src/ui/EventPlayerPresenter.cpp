@@ -126,9 +126,10 @@ QVariantMap EventPlayerPresenter::metadata() const
         return m;
     const TeslaEvent &e = *event_;
     const int damaged = e.corruptClipCount();
-    m.insert(QStringLiteral("reasonLabel"), e.reason.label());
-    m.insert(QStringLiteral("reasonIcon"), SymbolIcons::iconUrl(e.reason.symbolName()));
-    m.insert(QStringLiteral("reasonTooltip"), e.reason.blurb());
+    const InboxPresenter::ReasonText reason = InboxPresenter::reasonText(e);
+    m.insert(QStringLiteral("reasonLabel"), reason.label);
+    m.insert(QStringLiteral("reasonIcon"), SymbolIcons::iconUrl(reason.symbolName));
+    m.insert(QStringLiteral("reasonTooltip"), reason.blurb);
     m.insert(QStringLiteral("damagedCount"), damaged);
     m.insert(QStringLiteral("damagedIcon"), SymbolIcons::iconUrl(QStringLiteral("exclamationmark.triangle.fill")));
     m.insert(QStringLiteral("damagedTooltip"),

@@ -1,5 +1,7 @@
 #include "HelpArticle.h"
 
+#include <QCoreApplication>
+
 #include "model/PlatformWords.h"
 #include "model/TeslaViewer.h"
 
@@ -89,14 +91,16 @@ QStringList HelpArticle::paragraphs() const
     case encryptionExplained:
         return {QStringLiteral("Newer Tesla software can encrypt dashcam and Sentry clips so that only you can view them — "
                                "this is a privacy feature, not damage or an error. Encrypted files still look like normal "
-                               "video files, but ordinary apps (including this one) can't decode their contents "
-                               "directly."),
-                QStringLiteral("Keelhold can still safely back up encrypted clips exactly as they are — the backup and "
-                               "verification steps work the same either way. To actually watch an encrypted clip, sign in "
-                               "with your Tesla account at ")
-                    + TeslaViewer::host()
-                    + QStringLiteral(": your browser fetches the decryption key and decodes the video locally, so the "
-                                     "footage never leaves your device."),
+                               "video files, but no app can decode their contents without the key of each clip."),
+                QStringLiteral("Keelhold safely backs up encrypted clips exactly as they are — the backup and "
+                               "verification steps work the same either way."),
+                QCoreApplication::translate("HelpArticle",
+                                            "To watch them here, choose “Unlock Encrypted Footage…” and sign in with "
+                                            "your Tesla account. Keelhold then asks Tesla for each clip's key, sending "
+                                            "only the clip's locked key and your car's VIN, never any video, and keeps "
+                                            "the keys so the footage plays here from then on, even offline. You can "
+                                            "also watch them at %1, where your browser fetches the keys the same way.")
+                    .arg(TeslaViewer::host()),
                 QStringLiteral("Want future footage to play right here instead? In your car: Controls → Safety → switch "
                                "off \"Encrypt Dashcam Recordings\" (about 30 seconds — the app can walk you through it "
                                "wherever you see the encryption notice). Everything already recorded is unaffected either "

@@ -1,5 +1,7 @@
 #include "InboxPresenter.h"
 
+#include <QCoreApplication>
+
 #include <QLocale>
 
 namespace InboxPresenter {
@@ -67,6 +69,8 @@ QString secondLine(const TeslaEvent &event, bool showsFileSize)
         return *size;
     if (event.missingEventJSON)
         return QStringLiteral("Details limited — footage intact");
+    if (event.encrypted)
+        return QCoreApplication::translate("InboxPresenter", "Place and details stay with your car");
     return QStringLiteral(" ");
 }
 
@@ -78,9 +82,34 @@ QString textBlockToolTip(const TeslaEvent &event)
                           "location — the video itself is intact.");
 }
 
+ReasonText reasonText(const TeslaEvent &event)
+{
+    if (event.encrypted && !event.reasonRaw)
+        return {QCoreApplication::translate("InboxPresenter", "Encrypted by your car"),
+                QCoreApplication::translate("InboxPresenter", "Encrypted"), QStringLiteral("lock.doc"),
+                QCoreApplication::translate("InboxPresenter",
+                                            "Your car encrypted this recording, and its reason and place with it. "
+                                            "Keelhold keeps it byte for byte; unlock it with your Tesla account to "
+                                            "watch it here.")};
+    return {event.reason.label(), event.reason.shortLabel(), event.reason.symbolName(), event.reason.blurb()};
+}
+
+LockMark lockMark(const QString &lockState)
+{
+    if (lockState == QLatin1String("locked"))
+        return {QStringLiteral("lock.fill"),
+                QCoreApplication::translate("InboxPresenter", "Locked — unlock it with your Tesla account to watch it here.")};
+    if (lockState == QLatin1String("unlocked"))
+        return {QStringLiteral("lock.open.fill"),
+                QCoreApplication::translate("InboxPresenter",
+                                            "Unlocked — its keys are kept on this computer, so it plays here even "
+                                            "offline.")};
+    return {};
+}
+
 QString accessibilityLabel(const TeslaEvent &event)
 {
-    QString text = event.reason.label() + QStringLiteral(", ") + longTimestamp(event);
+    QString text = reasonText(event).label + QStringLiteral(", ") + longTimestamp(event);
     if (const std::optional<QString> place = event.placeName())
         text += QStringLiteral(", ") + *place;
     return text;
@@ -118,9 +147,9 @@ QString corruptionToolTip(int count)
                          "you did.");
 }
 
-QString reasonChipAccessibilityLabel(const PlainReason &reason)
+QString reasonChipAccessibilityLabel(const TeslaEvent &event)
 {
-    return QStringLiteral("Reason: ") + reason.label();
+    return QStringLiteral("Reason: ") + reasonText(event).label;
 }
 
 QString bulkKeepTitle(qsizetype count) { return QStringLiteral("Keep ") + QString::number(count); }

@@ -44,9 +44,26 @@ struct Overlay {
 };
 Overlay triageOverlay(TriageState state);
 
+// The reason a row shows: the car's own words, or for encrypted footage,
+// whose event.json only the car can read, that it is encrypted.
+struct ReasonText {
+    QString label;
+    QString shortLabel;
+    QString symbolName;
+    QString blurb;
+};
+ReasonText reasonText(const TeslaEvent &event);
+
+// The lock beside encrypted footage; lockState is "locked", "unlocked" or "" (no mark).
+struct LockMark {
+    QString symbolName;
+    QString toolTip;
+};
+LockMark lockMark(const QString &lockState);
+
 QString corruptionAccessibilityText(int count);
 QString corruptionToolTip(int count);
-QString reasonChipAccessibilityLabel(const PlainReason &reason);
+QString reasonChipAccessibilityLabel(const TeslaEvent &event);
 
 QString bulkKeepTitle(qsizetype count);
 QString bulkDismissTitle(qsizetype count);

@@ -23,7 +23,7 @@ KeelholdApp::KeelholdApp(QObject *parent)
           }
           return w;
       }),
-      screens_(&state_)
+      screens_(&state_), unlock_(&state_)
 {
     static bool styled = false;
     if (!styled) {
@@ -37,6 +37,7 @@ KeelholdApp::KeelholdApp(QObject *parent)
     ctx->setContextProperty(QStringLiteral("ui"), &ui_);
     ctx->setContextProperty(QStringLiteral("drivePicker"), &picker_);
     ctx->setContextProperty(QStringLiteral("help"), &help_);
+    ctx->setContextProperty(QStringLiteral("unlock"), &unlock_);
     screens_.install(qml_);
 }
 

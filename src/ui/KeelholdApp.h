@@ -5,6 +5,7 @@
 #include "LicenceGate.h"
 #include "ScreenModels.h"
 #include "UiBridge.h"
+#include "UnlockController.h"
 #include "engine/LiveEngine.h"
 #include "state/AppState.h"
 
@@ -35,6 +36,7 @@ public:
     DrivePicker &drivePicker() { return picker_; }
     HelpWindowController &help() { return help_; }
     ScreenModels &screens() { return screens_; }
+    UnlockController &unlock() { return unlock_; }
     QQmlApplicationEngine &qmlEngine() { return qml_; }
     // The main window once loaded.
     QQuickWindow *mainWindow() const;
@@ -47,6 +49,7 @@ private:
     DrivePicker picker_;
     HelpWindowController help_;
     ScreenModels screens_;
+    UnlockController unlock_;
     // Last, so it goes first: the QML reads everything above.
     QQmlApplicationEngine qml_;
 };

@@ -115,7 +115,7 @@ QVariantList MapViewModel::sectionsFor(const std::vector<TeslaEvent> &events, co
                                     {QStringLiteral("reasonShortLabel"), e.reason.shortLabel()},
                                     {QStringLiteral("reasonIcon"), SymbolIcons::iconUrl(e.reason.symbolName())},
                                     {QStringLiteral("reasonBlurb"), e.reason.blurb()},
-                                    {QStringLiteral("reasonAccessible"), InboxPresenter::reasonChipAccessibilityLabel(e.reason)}});
+                                    {QStringLiteral("reasonAccessible"), InboxPresenter::reasonChipAccessibilityLabel(e)}});
         out.append(QVariantMap{{QStringLiteral("title"), section.title}, {QStringLiteral("rows"), rows}});
     }
     return out;

@@ -97,6 +97,10 @@ const QHash<QString, QString> &table()
         {QStringLiteral("arrow.up.left.and.arrow.down.right"), QStringLiteral("actions/view-fullscreen")},
         {QStringLiteral("arrow.down.right.and.arrow.up.left"), QStringLiteral("actions/view-restore")},
         {QStringLiteral("gauge.with.needle"), QStringLiteral("status/power-profile-performance")},
+        // Encrypted footage: locked, and unlocked with its keys held
+        {QStringLiteral("lock.fill"), QStringLiteral("status/channel-secure")},
+        {QStringLiteral("lock.open.fill"), QStringLiteral("status/changes-allow")},
+        {QStringLiteral("key"), QStringLiteral("status/dialog-password")},
     };
     return t;
 }

@@ -55,7 +55,8 @@ QVariantList UiBridge::helpArticles() const
                                {QStringLiteral("title"), a.title()},
                                {QStringLiteral("icon"), SymbolIcons::iconUrl(a.symbolName())},
                                {QStringLiteral("paragraphs"), a.paragraphs()},
-                               {QStringLiteral("listLines"), a.listLines()}});
+                               {QStringLiteral("listLines"), a.listLines()},
+                               {QStringLiteral("offersUnlock"), a == HelpArticle::encryptionExplained}});
     return out;
 }
 

@@ -2,6 +2,7 @@
 
 #include "base/IOWatchdog.h"
 #include "base/ReadOnlyFs.h"
+#include "crypt/KeyStore.h"
 #include "drive/VolumeInfo.h"
 #include "base/CancellationError.h"
 #include "vault/Sha256.h"
@@ -571,6 +572,15 @@ ArchiveReport run(const ArchivePlan &plan, const QString &vaultURL, const Archiv
         record.sourceVolume = sourceVolume;
         record.relativePath = relative;
         record.expectedFileCount = int(sources.size());
+        record.encrypted = event.encrypted;
+        // Keys already fetched go beside the copies, so the kept event plays
+        // offline and on any computer the Vault is taken to.
+        if (event.encrypted) {
+            std::vector<QString> copies;
+            for (const ArchivedFile &f : record.files)
+                copies.push_back(folder + QLatin1Char('/') + f.name);
+            KeyRing::storeBeside(folder, copies);
+        }
         report.archivedEvents.push_back(std::move(record));
         emitProgress(i + 1, std::nullopt);
     }

@@ -42,6 +42,8 @@ QJsonObject ArchivedEvent::toJson() const
     o.insert(QStringLiteral("relativePath"), relativePath);
     if (expectedFileCount)
         o.insert(QStringLiteral("expectedFileCount"), *expectedFileCount);
+    if (encrypted)
+        o.insert(QStringLiteral("encrypted"), true);
     return o;
 }
 
@@ -61,13 +63,14 @@ ArchivedEvent ArchivedEvent::fromJson(const QJsonValue &value)
     // Absent in manifests written before it existed.
     if (const auto expected = optionalInt64(o, "expectedFileCount"))
         e.expectedFileCount = int(std::clamp<qint64>(*expected, 0, std::numeric_limits<int>::max()));
+    e.encrypted = o.contains(QLatin1String("encrypted")) && requireBool(o, "encrypted");
     return e;
 }
 
 size_t qHash(const ArchivedEvent &e, size_t seed) noexcept
 {
     size_t h = qHashMulti(seed, e.eventID, e.kind, e.folderName, e.timestamp, e.archivedAt, e.sourceVolume,
-                          e.relativePath, e.expectedFileCount.value_or(-1));
+                          e.relativePath, e.expectedFileCount.value_or(-1), e.encrypted);
     for (const auto &f : e.files)
         h = qHash(f, h);
     return h;

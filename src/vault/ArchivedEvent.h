@@ -22,6 +22,8 @@ struct ArchivedEvent {
     // How many files the run meant to copy for the event. Nothing in records
     // written before it was kept: unknown, so such a record is taken as whole.
     std::optional<int> expectedFileCount;
+    // The car's encrypted footage, kept byte for byte; written only when true.
+    bool encrypted = false;
 
     const QString &id() const { return eventID; }
 

@@ -1,6 +1,7 @@
 #include "vault/VaultBrowser.h"
 
 #include "base/ReadOnlyFs.h"
+#include "drive/ClipProber.h"
 #include "drive/TeslaCamParser.h"
 #include "model/ClipRef.h"
 
@@ -41,6 +42,14 @@ std::optional<TeslaEvent> recentEvent(const QString &folder, const QString &name
     return event;
 }
 
+// A kept copy of the car's encrypted footage. Sentry and saved events say so
+// through their encrypted event.json; the rest by their first clip's header.
+void noteEncryption(TeslaEvent &event)
+{
+    if (!event.encrypted && !event.clips.empty() && ClipProber::sniffEcryptfs(event.clips.front().url))
+        TeslaCamParser::markEncrypted(event);
+}
+
 } // namespace
 
 std::vector<TeslaEvent> scanVault(const QString &url)
@@ -62,8 +71,10 @@ std::vector<TeslaEvent> scanVault(const QString &url)
             for (const QString &name : subfolders(kindFolder)) {
                 const QString folder = kindFolder + QLatin1Char('/') + name;
                 if (*kind == EventKind::recent) {
-                    if (auto event = recentEvent(folder, name, issues))
+                    if (auto event = recentEvent(folder, name, issues)) {
+                        noteEncryption(*event);
                         events.push_back(std::move(*event));
+                    }
                     continue;
                 }
                 const auto groups = TeslaCamParser::matchFolderName(name);
@@ -73,11 +84,14 @@ std::vector<TeslaEvent> scanVault(const QString &url)
                 if (!stamp)
                     continue;
                 auto event = TeslaCamParser::parseEventFolder(folder, *kind, *stamp, issues);
+                if (event && event->missingEventJSON)
+                    noteEncryption(*event);
                 // A keep cut off before its first file arrived leaves an
                 // empty folder (or one with only a hidden partial copy):
                 // nothing was kept, so there is no event to show.
-                if (event && (!event->clips.empty() || !event->missingEventJSON || event->thumbURL))
+                if (event && (!event->clips.empty() || !event->missingEventJSON || event->thumbURL)) {
                     events.push_back(std::move(*event));
+                }
             }
         }
     }

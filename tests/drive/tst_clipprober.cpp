@@ -1,4 +1,5 @@
 #include "drive/ClipProber.h"
+#include "drive/EcryptfsHeader.h"
 #include "drive/TeslaCamParser.h"
 #include "base/CancellationError.h"
 #include "support/DamagedHeaders.h"
@@ -263,7 +264,7 @@ private Q_SLOTS:
         qToBigEndian<quint64>(512 * 1024, header.data());
         const quint32 first = 0x12345678;
         qToBigEndian<quint32>(first, header.data() + 8);
-        qToBigEndian<quint32>(first ^ ClipProber::ecryptfsMarker, header.data() + 12);
+        qToBigEndian<quint32>(first ^ Ecryptfs::marker, header.data() + 12);
         const QByteArray noise = randomBytes(header.size() - 16, 7);
         header.replace(16, noise.size(), noise);
         const QString path = write(header);
@@ -274,7 +275,7 @@ private Q_SLOTS:
         QCOMPARE(healthsOf(events), (std::vector<ClipHealth>{ClipHealth::encrypted, ClipHealth::ok}));
 
         // One word off, and it is damage like any other unreadable file.
-        qToBigEndian<quint32>(first ^ ClipProber::ecryptfsMarker ^ 1u, header.data() + 12);
+        qToBigEndian<quint32>(first ^ Ecryptfs::marker ^ 1u, header.data() + 12);
         const QString near = write(header);
         QVERIFY(!ClipProber::sniffEcryptfs(near));
         QCOMPARE(ClipProber::probe(clipAt(near)), ClipHealth::unreadable);

@@ -1,6 +1,7 @@
 #include "drive/ClipCalendar.h"
 #include "drive/ReadableFormats.h"
 #include "drive/TeslaCamParser.h"
+#include "support/EcryptfsWriter.h"
 #include "support/FaultyFs.h"
 #include "support/TeslaCamFixture.h"
 #include "support/TmpfsMount.h"
@@ -215,6 +216,61 @@ private Q_SLOTS:
         QVERIFY(encrypted.encryptedClipsPresent);
         QVERIFY(encrypted.events.empty());
         QVERIFY(encrypted.issues.empty());
+    }
+
+    // The car's encrypted footage is read by the same rules as the clear,
+    // and stands beside it; its clips are taken as encrypted by where they
+    // lie, and its event.json, which only the car can read, is no issue.
+    void encryptedClipsAreListedBesideClearOnes()
+    {
+        QTemporaryDir tmp;
+        TeslaCamFixture fx(tmp.path() + "/TeslaCam");
+        const QString clear = fx.addEvent("SentryClips", "2026-05-01_10-00-00",
+                                          TeslaCamFixture::eventJson("2026-05-01T09:59:40", "user_interaction_honk"));
+        fx.addClip(clear, "2026-05-01_09-59-00", "front");
+        const QByteArray sealedJson = EcryptfsWriter::encrypt("{\"city\":\"x\"}", EcryptfsWriter::fileKey(1), std::nullopt);
+        const QString sentry = fx.addEvent("EncryptedClips/SentryClips", "2026-07-21_02-11-05", sealedJson);
+        fx.addClip(sentry, "2026-07-21_02-10-05", "front", 300000);
+        fx.addClip(sentry, "2026-07-21_02-10-05", "back", 0);
+        fx.addClip(sentry, "2026-07-21_02-10-05", "fisheye", 1000);
+        TeslaCamFixture::writeFile(sentry + "/notes.txt", "x");
+        const QString saved = fx.addEvent("EncryptedClips/SavedClips", "2026-07-22_08-00-00", sealedJson);
+        fx.addClip(saved, "2026-07-22_07-59-00", "left_repeater");
+        for (const char *minute : {"2026-07-23_12-00-00", "2026-07-23_12-01-00", "2026-07-23_12-05-00"})
+            fx.addClip(fx.path("EncryptedClips/RecentClips"), minute, "front");
+        fx.addRecentClip("2026-07-23_11-00-00", "front"); // a clear drive before encryption came on
+
+        const DriveScan scan = TeslaCamParser::scan(fx.root());
+        QVERIFY(scan.encryptedClipsPresent);
+        QStringList ids;
+        for (const auto &e : scan.events)
+            ids << e.id() + (e.encrypted ? QStringLiteral(" locked") : QString());
+        QCOMPARE(ids, (QStringList{"recent|recent_2026-07-23_12-05-00 locked", "recent|recent_2026-07-23_12-00-00 locked",
+                                   "recent|recent_2026-07-23_11-00-00", "saved|2026-07-22_08-00-00 locked",
+                                   "sentry|2026-07-21_02-11-05 locked", "sentry|2026-05-01_10-00-00"}));
+        QCOMPARE(issueList(scan), (QStringList{"unknownCameraSuffix 2026-07-21_02-11-05/2026-07-21_02-10-05-fisheye.mp4",
+                                               "unknownFile 2026-07-21_02-11-05/notes.txt"}));
+
+        const TeslaEvent *locked = findEvent(scan, "sentry|2026-07-21_02-11-05");
+        QVERIFY(locked && locked->encrypted);
+        QCOMPARE(locked->timestamp, local(2026, 7, 21, 2, 11, 5)); // from the folder name
+        QVERIFY(!locked->missingEventJSON);                        // there, and kept with the rest
+        QVERIFY(!locked->city && !locked->latitude && !locked->reasonRaw);
+        QCOMPARE(locked->reason.category, ReasonCategory::unknown);
+        QCOMPARE(locked->clips.size(), size_t(2));
+        for (const ClipRef &clip : locked->clips)
+            QCOMPARE(clip.health, ClipHealth::encrypted);
+        QVERIFY(locked->clips[0].url.contains("/EncryptedClips/SentryClips/"));
+        QCOMPARE(locked->clips[0].fileSize, qint64(300000));
+        QCOMPARE(locked->corruptClipCount(), 0);
+        const TeslaEvent *open = findEvent(scan, "sentry|2026-05-01_10-00-00");
+        QVERIFY(open && !open->encrypted);
+        QCOMPARE(open->clips[0].health, ClipHealth::unknown);
+
+        // Round trip through the scan cache's form keeps the mark.
+        QCOMPARE(TeslaEvent::fromJson(locked->toJson()), *locked);
+        QCOMPARE(TeslaEvent::fromJson(open->toJson()), *open);
+        QVERIFY(!open->toJson().contains("encrypted"));
     }
 
     void rootErrors()

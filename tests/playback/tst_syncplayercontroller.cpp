@@ -350,7 +350,10 @@ private Q_SLOTS:
         QVERIFY(byCam["back"]->player);
         QVERIFY(byCam["left_repeater"]->player);
         QCOMPARE(byCam["right_repeater"]->placeholderReason, SyncPlayerController::damagedReason);
-        QCOMPARE(byCam["left_pillar"]->placeholderReason, SyncPlayerController::noFootageReason);
+        // The car's encrypted footage waits for its keys, under a lock.
+        QCOMPARE(byCam["left_pillar"]->placeholderReason, EventTimeline::lockedReason());
+        QVERIFY(byCam["left_pillar"]->locked);
+        QVERIFY(!byCam["right_repeater"]->locked);
         QCOMPARE(byCam["right_pillar"]->placeholderReason, SyncPlayerController::damagedReason);
         // Back's last minute is still there; the front's damaged minute isn't.
         QCOMPARE(c.duration(), 9.0);

@@ -73,6 +73,10 @@ public:
         promise->addResult(inner.probeAll(events).result());
         promise->finish();
     }
+    QFuture<QHash<QString, KeyCoverage>> keyCoverage(const std::vector<TeslaEvent> &events) override
+    {
+        return inner.keyCoverage(events);
+    }
     void saveBookmark(const QString &url, BookmarkKey key) override { inner.saveBookmark(url, key); }
     BookmarkResult resolveBookmark(BookmarkKey key) override { return inner.resolveBookmark(key); }
     std::vector<VolumeCandidate> mountedTeslaCamVolumes() override { return inner.mountedTeslaCamVolumes(); }

@@ -83,7 +83,7 @@ private Q_SLOTS:
         QCOMPARE(accessibilityLabel(e), e.reason.label() + QStringLiteral(", ") + longTime);
         e.city = QStringLiteral("Bergen");
         QCOMPARE(accessibilityLabel(e), e.reason.label() + QStringLiteral(", ") + longTime + QStringLiteral(", Bergen"));
-        QCOMPARE(reasonChipAccessibilityLabel(e.reason), QStringLiteral("Reason: ") + e.reason.label());
+        QCOMPARE(reasonChipAccessibilityLabel(e), QStringLiteral("Reason: ") + e.reason.label());
     }
 
     void dayHeadingsNameTheDay()

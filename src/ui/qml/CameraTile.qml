@@ -57,7 +57,7 @@ Rectangle {
         spacing: tile.small ? 2 : 8
         SymbolIcon {
             anchors.horizontalCenter: parent.horizontalCenter
-            symbol: "video.slash"
+            symbol: tile.tileData && tile.tileData.locked ? "lock.fill" : "video.slash"
             size: tile.small ? 16 : 32
             color: "#bbbbbb"
         }

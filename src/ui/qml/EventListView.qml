@@ -126,6 +126,10 @@ ColumnLayout {
                     width: parent.width
                     onEject: inbox.ejectSample()
                 }
+                EncryptedNotice {
+                    visible: unlock.showsNotice
+                    width: parent.width
+                }
                 RecentDrivingBanner {
                     visible: inbox.showsRecentBanner
                     hasEvents: inbox.showsRecentBanner

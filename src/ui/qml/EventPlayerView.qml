@@ -43,6 +43,20 @@ Item {
             metadata: playerPresenter.metadata
             texts: playerPresenter.texts
         }
+        // Encrypted footage with no keys held: the way to them.
+        RowLayout {
+            objectName: "lockedBar"
+            visible: view.hasEvent && view.stateObject.lockStates[view.eventID] === "locked"
+            Layout.fillWidth: true
+            spacing: 8
+            UrlIcon { source: unlock.texts.noticeIcon; size: 16; color: "#b45309" }
+            Label { text: unlock.texts.noticeTitle; Layout.fillWidth: true; elide: Text.ElideRight }
+            Button {
+                objectName: "playerUnlock"
+                text: unlock.texts.unlockEncrypted
+                onClicked: unlock.openFor([view.eventID])
+            }
+        }
         CameraGrid {
             id: cameraGrid
             Layout.fillWidth: true

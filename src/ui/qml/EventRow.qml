@@ -30,6 +30,9 @@ Rectangle {
     required property string tickIcon
     required property string tickToolTip
     required property bool isSelected
+    required property string lockState
+    required property string lockIcon
+    required property string lockToolTip
     property bool bulkMode: false
     property Component trailing: null
     signal activated()
@@ -104,6 +107,21 @@ Rectangle {
                 border.color: palette.base
                 HoverHandler { id: dotHover }
                 ToolTip.visible: dotHover.hovered; ToolTip.text: row.overlayToolTip
+            }
+            // The car's encrypted footage: locked, or unlocked with its keys kept here.
+            Rectangle {
+                objectName: "lockMark"
+                visible: row.lockState.length > 0
+                anchors.left: parent.left; anchors.bottom: parent.bottom
+                anchors.margins: 2
+                width: 18; height: 18; radius: 9
+                color: palette.base
+                UrlIcon {
+                    anchors.centerIn: parent; source: row.lockIcon; size: 14
+                    color: row.lockState === "locked" ? "#b45309" : "#16a34a"
+                }
+                HoverHandler { id: lockHover }
+                ToolTip.visible: lockHover.hovered; ToolTip.text: row.lockToolTip
             }
             Rectangle {
                 objectName: "keptMark"

@@ -74,6 +74,12 @@ ApplicationWindow {
                     model: win.article.paragraphs.slice(1)
                     Label { text: modelData; wrapMode: Text.WordWrap; Layout.fillWidth: true; lineHeight: 1.2 }
                 }
+                Button {
+                    objectName: "helpUnlock"
+                    visible: !!win.article.offersUnlock
+                    text: unlock.texts.unlockEncrypted
+                    onClicked: unlock.openFor([])
+                }
             }
         }
     }

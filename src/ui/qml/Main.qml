@@ -219,6 +219,19 @@ ApplicationWindow {
         onClosed: appState.showEncryptionGuide = false
         contentItem: EncryptionGuideView { onDismissed: appState.showEncryptionGuide = false }
     }
+    Popup {
+        id: unlockSheet
+        objectName: "unlockPopup"
+        modal: true
+        focus: true
+        closePolicy: Popup.CloseOnEscape
+        anchors.centerIn: Overlay.overlay
+        width: Math.min(620, window.width - 40); height: Math.min(640, window.height - 40)
+        padding: 20
+        visible: unlock.showSheet
+        onClosed: unlock.showSheet = false
+        contentItem: UnlockSheet { onDismissed: unlock.showSheet = false }
+    }
     AlertDialog {
         objectName: "vaultChoiceRefusal"
         visible: vault.choiceRefusal !== ""

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "drive/EcryptfsHeader.h"
+
+#include <QByteArray>
+#include <QString>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <vector>
+
+typedef struct evp_cipher_ctx_st EVP_CIPHER_CTX;
+
+// Reads the plain bytes of one of the car's encrypted files, given its
+// 16-byte key, decrypting page by page as they are asked for: a seek
+// decrypts only the pages it lands on, and nothing decrypted is written
+// anywhere. Its read and seek are shaped like an AVIOContext's callbacks,
+// so a demuxer can sit on it. One thread at a time.
+class EcryptfsReader {
+public:
+    // Null when the file can't be opened, isn't one of the car's encrypted
+    // files, or the key isn't 16 bytes. shouldStop is asked before each read
+    // of the drive.
+    static std::unique_ptr<EcryptfsReader> open(const QString &path, const QByteArray &key,
+                                                std::function<bool()> shouldStop = {});
+    ~EcryptfsReader();
+    EcryptfsReader(const EcryptfsReader &) = delete;
+    EcryptfsReader &operator=(const EcryptfsReader &) = delete;
+
+    qint64 size() const { return plainSize_; }
+    qint64 position() const { return position_; }
+    // Bytes copied, 0 at the end, or a negative errno.
+    int read(uint8_t *buffer, int size);
+    // SEEK_SET, SEEK_CUR or SEEK_END; the new position or a negative errno.
+    qint64 seek(qint64 offset, int whence);
+    // Whether the key opens this file: its first page must read as an MP4's start.
+    bool keyFits();
+
+    // AVIOContext callbacks over an EcryptfsReader passed as opaque.
+    static int readPacket(void *opaque, uint8_t *buffer, int size);
+    static int64_t seekPacket(void *opaque, int64_t offset, int whence);
+
+    // MD5 of the key, and of that with the page number in decimal, zero-padded
+    // to 16 bytes: the IV of each page.
+    static QByteArray rootIV(const QByteArray &key);
+    static QByteArray pageIV(const QByteArray &rootIV, qint64 page);
+
+private:
+    EcryptfsReader() = default;
+    bool fill(qint64 page);
+    bool readCipher(qint64 page, qint64 pages);
+    bool decryptRun(qint64 page, qint64 pages, uint8_t *plain);
+
+    int fd_ = -1;
+    std::function<bool()> shouldStop_;
+    qint64 plainSize_ = 0;
+    qint64 position_ = 0;
+    QByteArray key_;
+    QByteArray rootIV_;
+    EVP_CIPHER_CTX *cipher_ = nullptr;
+    std::vector<uint8_t> cipherText_; // the run of pages last read from the file
+    // Decrypted pages [bufferFirstPage_, bufferFirstPage_ + bufferPages_).
+    std::vector<uint8_t> buffer_;
+    qint64 bufferFirstPage_ = -1;
+    qint64 bufferPages_ = 0;
+    int lastError_ = 0;
+};

@@ -1,0 +1,229 @@
+#include "crypt/KeyStore.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QStandardPaths>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdlib>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr int formatVersion = 1;
+
+QJsonObject toJson(const KeyEntry &e, bool withFingerprint)
+{
+    QJsonObject o;
+    if (!e.file.isEmpty())
+        o.insert(QStringLiteral("file"), e.file);
+    o.insert(QStringLiteral("keyId"), qint64(e.keyId));
+    o.insert(QStringLiteral("vin"), e.vin);
+    o.insert(QStringLiteral("key"), QString::fromLatin1(e.key.toBase64()));
+    if (withFingerprint && !e.fingerprint.isEmpty())
+        o.insert(QStringLiteral("block"), e.fingerprint);
+    return o;
+}
+
+std::vector<KeyEntry> parseEntries(const QByteArray &data)
+{
+    std::vector<KeyEntry> entries;
+    const QJsonDocument doc = QJsonDocument::fromJson(data);
+    if (!doc.isObject() || doc.object().value(QLatin1String("version")).toInt() != formatVersion)
+        return entries;
+    for (const QJsonValue &v : doc.object().value(QLatin1String("keys")).toArray()) {
+        const QJsonObject o = v.toObject();
+        KeyEntry e;
+        e.file = o.value(QLatin1String("file")).toString();
+        e.keyId = quint32(o.value(QLatin1String("keyId")).toInteger());
+        e.vin = o.value(QLatin1String("vin")).toString();
+        e.key = QByteArray::fromBase64(o.value(QLatin1String("key")).toString().toLatin1());
+        e.fingerprint = o.value(QLatin1String("block")).toString();
+        if (e.key.size() == Ecryptfs::fileKeySize)
+            entries.push_back(std::move(e));
+    }
+    return entries;
+}
+
+QByteArray serialise(const std::vector<KeyEntry> &entries, bool withFingerprint)
+{
+    QJsonArray keys;
+    for (const KeyEntry &e : entries)
+        keys.append(toJson(e, withFingerprint));
+    QJsonObject root;
+    root.insert(QStringLiteral("version"), formatVersion);
+    root.insert(QStringLiteral("keys"), keys);
+    return QJsonDocument(root).toJson(QJsonDocument::Compact);
+}
+
+std::optional<QByteArray> readSmall(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly) || file.size() > (16 << 20))
+        return std::nullopt;
+    return file.readAll();
+}
+
+QString fileNameOf(const QString &path)
+{
+    return path.section(QLatin1Char('/'), -1);
+}
+
+QString folderOf(const QString &path)
+{
+    return path.section(QLatin1Char('/'), 0, -2);
+}
+
+} // namespace
+
+namespace PrivateFile {
+
+bool write(const QString &path, const QByteArray &data)
+{
+    // mkstemp makes the file 0600 from its first byte on.
+    QByteArray temp = QFile::encodeName(path) + ".XXXXXX";
+    const int fd = ::mkstemp(temp.data());
+    if (fd < 0)
+        return false;
+    qsizetype written = 0;
+    bool ok = true;
+    while (written < data.size()) {
+        const ssize_t n = ::write(fd, data.constData() + written, size_t(data.size() - written));
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n <= 0) {
+            ok = false;
+            break;
+        }
+        written += n;
+    }
+    ok = ::fchmod(fd, S_IRUSR | S_IWUSR) == 0 && ok && ::fsync(fd) == 0;
+    ok = ::close(fd) == 0 && ok;
+    if (ok && ::rename(temp.constData(), QFile::encodeName(path).constData()) == 0)
+        return true;
+    ::unlink(temp.constData());
+    return false;
+}
+
+} // namespace PrivateFile
+
+KeyStore &KeyStore::shared()
+{
+    static KeyStore store([] {
+        QString base = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+        if (base.isEmpty())
+            base = QDir::tempPath();
+        const QString folder = QDir(base).filePath(QStringLiteral("Keelhold"));
+        QDir().mkpath(folder);
+        return QDir(folder).filePath(QStringLiteral("keys.json"));
+    }());
+    return store;
+}
+
+KeyStore::KeyStore(QString path) : path_(std::move(path)) {}
+
+void KeyStore::loadLocked()
+{
+    if (loaded_)
+        return;
+    loaded_ = true;
+    if (const auto data = readSmall(path_))
+        entries_ = parseEntries(*data);
+}
+
+std::optional<QByteArray> KeyStore::find(const Ecryptfs::KeyBlock &block)
+{
+    const QString fingerprint = block.fingerprint();
+    std::lock_guard lock(mutex_);
+    loadLocked();
+    for (const KeyEntry &e : entries_)
+        if (e.fingerprint == fingerprint)
+            return e.key;
+    return std::nullopt;
+}
+
+bool KeyStore::add(const std::vector<KeyEntry> &entries)
+{
+    std::lock_guard lock(mutex_);
+    loadLocked();
+    for (const KeyEntry &added : entries) {
+        if (added.fingerprint.isEmpty() || added.key.size() != Ecryptfs::fileKeySize)
+            continue;
+        auto same = std::find_if(entries_.begin(), entries_.end(),
+                                 [&](const KeyEntry &e) { return e.fingerprint == added.fingerprint; });
+        if (same != entries_.end())
+            *same = added;
+        else
+            entries_.push_back(added);
+    }
+    QDir().mkpath(folderOf(path_));
+    return PrivateFile::write(path_, serialise(entries_, true));
+}
+
+namespace VaultKeys {
+
+std::vector<KeyEntry> read(const QString &eventFolder)
+{
+    const auto data = readSmall(QDir(eventFolder).filePath(fileName));
+    return data ? parseEntries(*data) : std::vector<KeyEntry>{};
+}
+
+bool write(const QString &eventFolder, const std::vector<KeyEntry> &entries)
+{
+    std::vector<KeyEntry> merged = read(eventFolder);
+    for (const KeyEntry &added : entries) {
+        auto same = std::find_if(merged.begin(), merged.end(), [&](const KeyEntry &e) { return e.file == added.file; });
+        if (same != merged.end())
+            *same = added;
+        else
+            merged.push_back(added);
+    }
+    // The file names the clips it serves; the block fingerprint stays in the app's own store.
+    return PrivateFile::write(QDir(eventFolder).filePath(fileName), serialise(merged, false));
+}
+
+} // namespace VaultKeys
+
+namespace KeyRing {
+
+std::optional<QByteArray> keyFor(const QString &clipPath, const Ecryptfs::Header &header, KeyStore &store)
+{
+    if (header.state != Ecryptfs::Header::State::ok)
+        return std::nullopt;
+    const QString name = fileNameOf(clipPath);
+    for (const KeyEntry &e : VaultKeys::read(folderOf(clipPath))) {
+        if (e.file == name && e.keyId == header.keyBlock.keyId && e.vin == header.keyBlock.vin)
+            return e.key;
+    }
+    return store.find(header.keyBlock);
+}
+
+std::optional<QByteArray> keyFor(const QString &clipPath)
+{
+    return keyFor(clipPath, Ecryptfs::read(clipPath));
+}
+
+int storeBeside(const QString &eventFolder, const std::vector<QString> &clipPaths)
+{
+    std::vector<KeyEntry> entries;
+    for (const QString &path : clipPaths) {
+        const Ecryptfs::Header header = Ecryptfs::read(path);
+        const auto key = keyFor(path, header);
+        if (!key)
+            continue;
+        entries.push_back({fileNameOf(path), header.keyBlock.keyId, header.keyBlock.vin, *key,
+                           header.keyBlock.fingerprint()});
+    }
+    if (entries.empty() || !VaultKeys::write(eventFolder, entries))
+        return 0;
+    return int(entries.size());
+}
+
+} // namespace KeyRing
