@@ -2,7 +2,7 @@
 // decrypting reader, against the same clip in the clear, both read from the
 // page cache. Prints each run's times and, last, decrypt/clear=X.
 #include "crypt/EcryptfsReader.h"
-#include "drive/MediaInput.h"
+#include "media/MediaClip.h"
 #include "support/EcryptfsWriter.h"
 
 #include <QCoreApplication>
@@ -60,8 +60,10 @@ Count readPackets(AVFormatContext *format)
 
 Count demuxClear(const QString &path)
 {
-    auto input = MediaInput::open(path, std::stop_token{}, {.mp4Only = true});
-    if (!input)
+    MediaClip::Options options;
+    options.mp4Only = true;
+    auto input = MediaClip::open(path, std::stop_token{}, options);
+    if (!input || !input->isOpened())
         std::exit(1);
     return readPackets(input->context());
 }

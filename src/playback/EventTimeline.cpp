@@ -1,5 +1,6 @@
 #include "playback/EventTimeline.h"
 
+#include "crypt/DecryptingClipReader.h"
 #include "media/MediaClip.h"
 #include "base/CancellationError.h"
 #include "base/IOWatchdog.h"
@@ -64,10 +65,15 @@ std::vector<CameraTrack> build(const TeslaEvent &event, std::chrono::millisecond
                 clips.push_back(c);
         std::stable_sort(clips.begin(), clips.end(),
                          [](const ClipRef &a, const ClipRef &b) { return a.startDate < b.startDate; });
+        // An encrypted clip plays once its key is held.
         std::vector<ClipRef> playable;
-        for (const ClipRef &c : clips)
-            if (c.health.isPlayable())
-                playable.push_back(c);
+        try {
+            for (const ClipRef &c : clips)
+                if (DecryptingClipReader::opens(c, clipTimeout, stop))
+                    playable.push_back(c);
+        } catch (const CancellationError &) {
+            return tracks;
+        }
 
         if (playable.empty()) {
             const bool allDamaged = !clips.empty()

@@ -1,6 +1,7 @@
 #include "playback/TelemetryTimeline.h"
 
 #include "base/IOWatchdog.h"
+#include "crypt/DecryptingClipReader.h"
 #include "drive/TelemetryReader.h"
 #include "base/CancellationError.h"
 #include "playback/Composition.h"
@@ -35,10 +36,12 @@ EventTelemetry load(const TeslaEvent &event, Camera camera, std::stop_token stop
 {
     std::vector<TelemetryTrack> tracks;
     for (const ClipRef &clip : event.clips) {
-        if (clip.camera != camera || !clip.health.isPlayable())
+        if (clip.camera != camera)
             continue;
         if (stop.stop_requested())
             throw CancellationError();
+        if (!DecryptingClipReader::opens(clip, clipTimeout, stop))
+            continue;
         try {
             auto track = IOWatchdog::run(
                 clipTimeout, [clip](std::stop_token watch) { return TelemetryReader::readClip(clip, watch); }, stop);

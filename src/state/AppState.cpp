@@ -187,7 +187,8 @@ QCoro::Task<void> AppState::scanTask(QPointer<AppState> self, QString root, quin
         co_return;
     std::optional<DriveScan> cached;
     try {
-        cached = co_await engine.cachedScan(key);
+        auto lookingUp = engine.cachedScan(key);
+        cached = co_await lookingUp;
     } catch (...) {
     }
     if (!scanIsCurrent(self, run))
@@ -207,7 +208,8 @@ QCoro::Task<void> AppState::scanTask(QPointer<AppState> self, QString root, quin
 
     DriveScan scan;
     try {
-        scan = co_await engine.scanDrive(root, progress);
+        auto scanning = engine.scanDrive(root, progress);
+        scan = co_await scanning;
     } catch (const TeslaCamParser::ScanError &) {
         if (scanIsCurrent(self, run)) {
             self->setIsScanning(false);
@@ -226,7 +228,8 @@ QCoro::Task<void> AppState::scanTask(QPointer<AppState> self, QString root, quin
     if (!scanIsCurrent(self, run))
         co_return;
     try {
-        co_await engine.storeScanInCache(scan, key);
+        auto storing = engine.storeScanInCache(scan, key);
+        co_await storing;
     } catch (...) {
     }
     if (!scanIsCurrent(self, run))
@@ -239,7 +242,8 @@ QCoro::Task<void> AppState::scanTask(QPointer<AppState> self, QString root, quin
 
     std::vector<TeslaEvent> probed;
     try {
-        probed = co_await engine.probeAll(scan.events);
+        auto probing = engine.probeAll(scan.events);
+        probed = co_await probing;
     } catch (...) {
         co_return;
     }
@@ -316,7 +320,8 @@ QCoro::Task<void> AppState::watchTask(QPointer<AppState> self)
     for (;;) {
         std::optional<DriveEvent> event;
         try {
-            event = co_await stream->next();
+            auto nextEvent = stream->next();
+            event = co_await nextEvent;
         } catch (...) {
             co_return;
         }
@@ -425,7 +430,8 @@ QCoro::Task<void> AppState::sampleTask(QPointer<AppState> self, QString root, qu
     auto progress = onMainThread<ScanProgress>(self, [](AppState &state, const ScanProgress &p) { state.setScanProgress(p); });
     DriveScan scan;
     try {
-        scan = co_await engine.scanDrive(root, progress);
+        auto scanning = engine.scanDrive(root, progress);
+        scan = co_await scanning;
     } catch (...) {
         if (scanIsCurrent(self, run)) {
             self->setIsScanning(false);
@@ -442,7 +448,8 @@ QCoro::Task<void> AppState::sampleTask(QPointer<AppState> self, QString root, qu
     self->evaluateForFailure(scan);
     std::vector<TeslaEvent> probed;
     try {
-        probed = co_await engine.probeAll(scan.events);
+        auto probing = engine.probeAll(scan.events);
+        probed = co_await probing;
     } catch (...) {
         co_return;
     }
@@ -479,7 +486,8 @@ QCoro::Task<void> AppState::loadTriageTask(QPointer<AppState> self)
 {
     EngineFacade::TriageStates loaded;
     try {
-        loaded = co_await self->engine_.loadAllTriageStates();
+        auto loading = self->engine_.loadAllTriageStates();
+        loaded = co_await loading;
     } catch (...) {
         co_return;
     }
@@ -616,7 +624,8 @@ QCoro::Task<void> AppState::vaultEventsTask(QPointer<AppState> self, QString vau
 {
     std::vector<TeslaEvent> events;
     try {
-        events = co_await self->engine_.scanVault(vaultURL);
+        auto reading = self->engine_.scanVault(vaultURL);
+        events = co_await reading;
     } catch (...) {
         co_return;
     }

@@ -146,7 +146,8 @@ QCoro::Task<void> AppState::keepTask(QPointer<AppState> self, ArchivePlan plan, 
         report.failedFiles.push_back({vaultURL, DriveBoundary::vaultRefusal});
     } else {
         try {
-            report = co_await self->engine_.runArchive(plan, vaultURL, progress, task->get_token());
+            auto archiving = self->engine_.runArchive(plan, vaultURL, progress, task->get_token());
+            report = co_await archiving;
         } catch (...) {
             report.cancelled = task->stop_requested();
         }
@@ -344,7 +345,8 @@ QCoro::Task<void> AppState::verifyTask(QPointer<AppState> self, QString vaultURL
     VaultVerifier::Result result;
     bool read = true;
     try {
-        result = co_await self->engine_.verifyVault(vaultURL, eventIDs, progress, task->get_token());
+        auto verifying = self->engine_.verifyVault(vaultURL, eventIDs, progress, task->get_token());
+        result = co_await verifying;
     } catch (...) {
         read = false;
     }

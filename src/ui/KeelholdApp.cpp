@@ -1,5 +1,7 @@
 #include "KeelholdApp.h"
 
+#include "crypt/DecryptingClipReader.h"
+
 #include "ColorScheme.h"
 #include "QmlTypes.h"
 #include "state/DriveFailure.h"
@@ -30,6 +32,8 @@ KeelholdApp::KeelholdApp(QObject *parent)
         QQuickStyle::setStyle(QStringLiteral("Fusion"));
         ColorScheme::apply();
         QmlTypes::registerAll();
+        // Unlocked footage plays, shows its pictures and exports like clear footage.
+        DecryptingClipReader::install();
         styled = true;
     }
     QQmlContext *ctx = qml_.rootContext();

@@ -1,6 +1,8 @@
 #include "base/Awaiting.h"
 #include "engine/AsyncRun.h"
 
+#include <QDirIterator>
+#include <QRegularExpression>
 #include <QThreadPool>
 #include <QtTest>
 
@@ -92,6 +94,28 @@ private Q_SLOTS:
         });
         QTRY_VERIFY(called);
         QVERIFY(threw);
+    }
+
+    // g++ 12 destroys the temporaries of an awaited expression twice, so
+    // nothing in the program awaits a call's result without naming it first.
+    void nothingAwaitsATemporary()
+    {
+        const QRegularExpression awaitedCall(QStringLiteral(R"(co_await\s+[^;]*\()"));
+        QStringList found;
+        QDirIterator it(QStringLiteral(KEELHOLD_SOURCE_DIR "/src"), {QStringLiteral("*.cpp"), QStringLiteral("*.h")},
+                        QDir::Files, QDirIterator::Subdirectories);
+        while (it.hasNext()) {
+            QFile file(it.next());
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            int line = 0;
+            for (const QByteArray &text : file.readAll().split('\n')) {
+                ++line;
+                const QString code = QString::fromUtf8(text).section(QStringLiteral("//"), 0, 0);
+                if (code.contains(awaitedCall))
+                    found << it.fileName() + QLatin1Char(':') + QString::number(line);
+            }
+        }
+        QVERIFY2(found.isEmpty(), qPrintable(found.join(QStringLiteral(", "))));
     }
 };
 

@@ -1,4 +1,9 @@
 #include "crypt/KeyStore.h"
+#include "media/MediaClip.h"
+
+extern "C" {
+#include <libavformat/avformat.h>
+}
 #include "support/CliRun.h"
 #include "support/EncryptedDrive.h"
 #include "support/IsolatedHome.h"
@@ -211,6 +216,26 @@ private Q_SLOTS:
         QCOMPARE(cli({"decrypt", drive_->root(), "--event", EncryptedDrive::sentryID, "-o", drive_->root() + "/out"}).exitCode,
                  2);
         QCOMPARE(before.differences(TreeSnapshot::take(drive_->root())), QString());
+    }
+
+    // Its keys kept, an encrypted camera exports like a clear one: the movie
+    // holds the clip's pictures, read through the decrypting reader.
+    void exportReadsUnlockedClips()
+    {
+        const QString movie = dir_.filePath(QStringLiteral("front.mp4"));
+        const auto r = cli({"export", drive_->root(), "--event", EncryptedDrive::sentryID, "--camera", "front", "-o",
+                            movie});
+        QVERIFY2(r.exitCode == 0, qPrintable(r.err));
+        const auto exported = MediaClip::open(movie, {}, MediaClip::Options{});
+        QVERIFY(exported->isOpened() && exported->video());
+        const auto source = MediaClip::open(plain_, {}, MediaClip::Options{});
+        QCOMPARE(exported->video()->codecpar->width, source->video()->codecpar->width);
+
+        // Still locked without its key, the same camera of another event is no movie.
+        const auto locked = cli({"export", drive_->root(), "--event", EncryptedDrive::recentID, "--camera", "front",
+                                 "-o", dir_.filePath(QStringLiteral("recent.mp4"))});
+        QCOMPARE(locked.exitCode, 2);
+        QCOMPARE(lineCount(locked.err), 1);
     }
 
     // With a desktop's secret store the sign-in is remembered, used by the

@@ -6,6 +6,8 @@
 #include "TileSource.h"
 #include "UnlockController.h"
 #include "crypt/KeyStore.h"
+#include "playback/SyncPlayerController.h"
+#include "playback/TrackPlayer.h"
 #include "support/EncryptedDrive.h"
 #include "support/IsolatedHome.h"
 #include "support/KeyServiceStandIn.h"
@@ -166,6 +168,26 @@ private Q_SLOTS:
         app->click(app->find(QStringLiteral("closeUnlock")));
         QTRY_VERIFY(!unlock().showSheet());
         shots(QStringLiteral("unlock-inbox-unlocked"));
+    }
+
+    // Unlocked, the same event plays: its cameras decode the clips' pictures
+    // through the decrypting reader.
+    void anUnlockedEventPlaysItsPictures()
+    {
+        app->state.setSelectedEventID(std::nullopt);
+        QTRY_VERIFY(!app->state.activePlayerController());
+        app->state.setSelectedEventID(EncryptedDrive::sentryID);
+        SyncPlayerController *c = nullptr;
+        QTRY_VERIFY_WITH_TIMEOUT((c = app->state.activePlayerController()) && !c->isLoadingTiles() && !c->tiles().empty(),
+                                 20000);
+        const auto front = std::find_if(c->tiles().begin(), c->tiles().end(),
+                                        [](const SyncPlayerController::Tile &t) { return t.camera == Camera::front; });
+        QVERIFY(front != c->tiles().end());
+        QVERIFY2(front->player, qPrintable(front->placeholderReason.value_or(QString())));
+        QVERIFY(!front->locked);
+        QTRY_VERIFY_WITH_TIMEOUT(front->player->hasPicture(), 10000);
+        QVERIFY(c->duration() > 0);
+        shots(QStringLiteral("unlock-player-unlocked"));
     }
 
     // Remembered in the desktop's secret store: a new window finds it there.
