@@ -107,7 +107,9 @@ private Q_SLOTS:
         for (const QString &name : {QStringLiteral("drivingDataOverlay"), QStringLiteral("routeInset")})
             if (QQuickItem *item = shown(name))
                 covering << item;
-        QVERIFY(!covering.isEmpty());
+        // Too small for either: the readings step below the cameras.
+        if (covering.isEmpty())
+            QVERIFY(shown(QStringLiteral("drivingDataBelow")));
         for (QQuickItem *tile : shownWithPrefix(QStringLiteral("cameraTile_"))) {
             const QRectF area = sceneRect(tile);
             double hidden = 0;

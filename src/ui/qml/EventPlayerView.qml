@@ -118,15 +118,21 @@ Item {
                 height: 120 * fitScale
             }
         }
-        // The readings, when the cameras are too small to carry them.
-        DrivingDataOverlay {
-            objectName: "drivingDataBelow"
-            drivingData: playerPresenter.drivingData
+        // The readings, when the cameras are too small to carry them; drawn
+        // smaller to fit, so they never widen the pane.
+        Item {
             visible: cameraGrid.showsDrivingData && !cameraGrid.readingsFit
-            Layout.alignment: Qt.AlignHCenter
-            Layout.preferredWidth: implicitWidth
-            Layout.preferredHeight: visible ? implicitHeight : 0
-            scale: Math.min(1, (view.width - 20) / Math.max(1, implicitWidth))
+            Layout.fillWidth: true
+            Layout.preferredHeight: visible ? below.implicitHeight * below.scale : 0
+            DrivingDataOverlay {
+                id: below
+                objectName: "drivingDataBelow"
+                drivingData: playerPresenter.drivingData
+                anchors.centerIn: parent
+                width: implicitWidth
+                height: implicitHeight
+                scale: Math.min(1, parent.width / Math.max(1, implicitWidth))
+            }
         }
         TimelineScrubber {
             Layout.fillWidth: true

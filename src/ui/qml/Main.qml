@@ -157,11 +157,21 @@ ApplicationWindow {
                     visible: appState.selectedSection === ui.sections.drive
                     Layout.fillWidth: true
                     Layout.fillHeight: true
+                    // What is left beside the list, whatever its rows would
+                    // like: they fold or elide, never push past the window.
+                    Layout.minimumWidth: 0
+                    Layout.preferredWidth: 0
+                    clip: true
                 }
                 VaultDetailColumn {
                     visible: appState.selectedSection === ui.sections.vault
                     Layout.fillWidth: true
                     Layout.fillHeight: true
+                    // What is left beside the list, whatever its rows would
+                    // like: they fold or elide, never push past the window.
+                    Layout.minimumWidth: 0
+                    Layout.preferredWidth: 0
+                    clip: true
                 }
             }
             VaultEmptyStateColumn {

@@ -11,9 +11,14 @@ RowLayout {
     property var texts: ({})
     // Narrow panes drop the frame steps (the , and . keys remain) and the
     // words beside icons; nothing is cut off. Judged by the pane, not by the
-    // row itself, whose own width follows what it shows: a window made large
-    // before an event opened otherwise left the row laid out narrow.
-    readonly property bool narrow: (parent ? parent.width : width) < 520
+    // row, whose width follows what it shows; and a turn after the pane's
+    // width changes, since buttons shown inside the layout pass that set it
+    // were left where they stood, on top of their neighbours.
+    readonly property real paneWidth: parent ? parent.width : width
+    property bool narrow: true
+    function judgeWidth() { narrow = paneWidth < 520 }
+    onPaneWidthChanged: Qt.callLater(judgeWidth)
+    Component.onCompleted: judgeWidth()
     spacing: 4
     PlayerLayout { id: rules }
 
