@@ -52,19 +52,19 @@ int commandHelp(const Command &command)
 const std::vector<Command> &commands()
 {
     static const std::vector<Command> table{
-        {QStringLiteral("scan"), QStringLiteral("Read a TeslaCam folder and print its events as JSON."), ScanCommand::run},
-        {QStringLiteral("health"), QStringLiteral("Print the health report of a TeslaCam folder as JSON."),
+        {QStringLiteral("scan"), CliOutput::tr("Read a TeslaCam folder and print its events as JSON."), ScanCommand::run},
+        {QStringLiteral("health"), CliOutput::tr("Print the health report of a TeslaCam folder as JSON."),
          HealthCommand::run},
-        {QStringLiteral("export"), QStringLiteral("Write one camera of one event as one MP4 movie, or all cameras at once."), ExportCommand::run},
-        {QStringLiteral("keep"), QStringLiteral("Copy events into a Vault folder, checking every file."),
+        {QStringLiteral("export"), CliOutput::tr("Write one camera of one event as one MP4 movie, or all cameras at once."), ExportCommand::run},
+        {QStringLiteral("keep"), CliOutput::tr("Copy events into a Vault folder, checking every file."),
          KeepCommand::run},
-        {QStringLiteral("vault"), QStringLiteral("List, remove or re-check the events kept in a Vault folder."),
+        {QStringLiteral("vault"), CliOutput::tr("List, remove or re-check the events kept in a Vault folder."),
          VaultCommand::run},
-        {QStringLiteral("telemetry"), QStringLiteral("Print the driving data recorded with an event's footage."),
+        {QStringLiteral("telemetry"), CliOutput::tr("Print the driving data recorded with an event's footage."),
          TelemetryCommand::run},
-        {QStringLiteral("unlock"), QStringLiteral("Check and remember your Tesla sign-in, for the car's encrypted clips."),
+        {QStringLiteral("unlock"), CliOutput::tr("Check and remember your Tesla sign-in, for the car's encrypted clips."),
          UnlockCommand::run},
-        {QStringLiteral("decrypt"), QStringLiteral("Write an event's encrypted clips as the plain MP4 movies they hold."),
+        {QStringLiteral("decrypt"), CliOutput::tr("Write an event's encrypted clips as the plain MP4 movies they hold."),
          DecryptCommand::run},
     };
     return table;

@@ -32,18 +32,18 @@ QCommandLineOption tokenFileOption()
         QStringLiteral("file"));
 }
 
-std::optional<QByteArray> readTokenFile(const QString &spec, QString *error)
+std::optional<QByteArray> readTokenFile(const QString &source, QString *error)
 {
-    const bool fromStdin = spec == QLatin1String("-");
-    QFile file(fromStdin ? QString() : spec);
+    const bool fromStdin = source == QLatin1String("-");
+    QFile file(fromStdin ? QString() : source);
     const bool opened = fromStdin ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
     if (!opened) {
-        *error = CliOutput::tr("The token file %1 can't be read.").arg(spec);
+        *error = CliOutput::tr("The token file %1 can't be read.").arg(source);
         return std::nullopt;
     }
     const QByteArray token = TokenHolder::cleaned(file.read(largestToken + 1));
     if (token.size() > largestToken || token.isEmpty() || token.contains('\n')) {
-        *error = fromStdin ? CliOutput::tr("Standard input holds no sign-in token.") : CliOutput::tr("The file %1 holds no sign-in token.").arg(spec);
+        *error = fromStdin ? CliOutput::tr("Standard input holds no sign-in token.") : CliOutput::tr("The file %1 holds no sign-in token.").arg(source);
         return std::nullopt;
     }
     return token;

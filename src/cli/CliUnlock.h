@@ -18,7 +18,7 @@ namespace CliUnlock {
 QCommandLineOption tokenFileOption();
 
 // The token in the file ("-": standard input). On failure *error says why.
-std::optional<QByteArray> readTokenFile(const QString &spec, QString *error);
+std::optional<QByteArray> readTokenFile(const QString &source, QString *error);
 // The token given with --token-file, else the remembered one; empty when
 // neither. On a bad --token-file, *error says why.
 QByteArray token(const QCommandLineParser &parser, const QCommandLineOption &option, QString *error);

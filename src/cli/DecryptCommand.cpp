@@ -2,6 +2,7 @@
 
 #include "cli/CliEvents.h"
 #include "cli/CliOutput.h"
+#include "cli/CliScan.h"
 #include "cli/CliUnlock.h"
 #include "crypt/EcryptfsReader.h"
 #include "crypt/KeyStore.h"
@@ -79,7 +80,7 @@ int run(const QStringList &arguments)
             return CliOutput::fail(CliOutput::tr("\u201c%1\u201d is not a camera; use one of %2.")
                             .arg(parser.value(cameraOption), CliEvents::cameraNames().join(QStringLiteral(", "))));
     }
-    const QString root = QDir::cleanPath(QDir::current().absoluteFilePath(positional.first()));
+    const QString root = CliScan::teslaCamRoot(positional.first());
     const QString folder = QDir::cleanPath(QDir::current().absoluteFilePath(parser.value(outputOption)));
     if (DriveBoundary::writesInto(root, folder).value_or(false))
         return CliOutput::fail(CliOutput::tr("Keelhold never writes to your Tesla drive, so choose a folder somewhere else."));

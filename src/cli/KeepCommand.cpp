@@ -200,8 +200,8 @@ int run(const QStringList &arguments)
     const QJsonObject json = report.toJson();
     CliOutput::printJson(json, parser.isSet(pretty));
     if (report.stoppedBecause == ArchiveReport::StopReason::driveDisconnected)
-        CliOutput::err(QStringLiteral("The drive went away: %1 of %2 events were kept completely. Plug it back in and "
-                                      "run keep again to finish.")
+        CliOutput::err(CliOutput::tr("The drive went away: %1 of %2 events were kept completely. Plug it back in "
+                                     "and run keep again to finish.")
                            .arg(report.completeEvents())
                            .arg(report.plannedEvents));
     if (report.cancelled)

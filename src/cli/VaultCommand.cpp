@@ -142,8 +142,8 @@ int run(const QStringList &arguments)
     const QString vault = absolute(positional[1]);
     const QFileInfo folder(vault);
     if (!folder.isDir()) {
-        CliOutput::err(folder.exists() ? QStringLiteral("\u201c%1\u201d is a file, not a Vault folder.").arg(vault)
-                                       : QStringLiteral("There is no Vault folder at %1.").arg(vault));
+        CliOutput::err(folder.exists() ? CliOutput::tr("\u201c%1\u201d is a file, not a Vault folder.").arg(vault)
+                                       : CliOutput::tr("There is no Vault folder at %1.").arg(vault));
         return CliOutput::failureExit;
     }
     if (action == QLatin1String("list"))

@@ -118,8 +118,9 @@ KeyStore &KeyStore::shared()
 {
     static KeyStore store([] {
         QString base = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+        // Never a shared folder such as /tmp: the keys are the user's alone.
         if (base.isEmpty())
-            base = QDir::tempPath();
+            base = QDir::homePath() + QStringLiteral("/.local/share");
         const QString folder = QDir(base).filePath(QStringLiteral("Keelhold"));
         QDir().mkpath(folder);
         return QDir(folder).filePath(QStringLiteral("keys.json"));

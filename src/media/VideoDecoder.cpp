@@ -117,6 +117,9 @@ bool VideoDecoder::fallBackToSoftware()
 
 void VideoDecoder::flush()
 {
+    // A software retry that failed left no decoder: nothing to flush or feed.
+    if (!context_)
+        return;
     avcodec_flush_buffers(context_.get());
     inputEnded_ = false;
     // A stream that failed in software may decode again from a key frame;
@@ -126,7 +129,7 @@ void VideoDecoder::flush()
 
 void VideoDecoder::send(const AVPacket *packet)
 {
-    if (failed_)
+    if (failed_ || !context_)
         return;
     const int sent = avcodec_send_packet(context_.get(), packet);
     // A damaged packet costs its picture; a decoder that refuses more is done.
@@ -140,7 +143,7 @@ void VideoDecoder::send(const AVPacket *packet)
 
 const AVFrame *VideoDecoder::receive()
 {
-    if (failed_)
+    if (failed_ || !context_)
         return nullptr;
     const int received = avcodec_receive_frame(context_.get(), frame_.get());
     if (received == AVERROR(EAGAIN) || received == AVERROR_EOF)

@@ -650,13 +650,10 @@ void AppState::removeFromVault(const TeslaEvent &given)
         setLastArchiveReport(std::nullopt);
         return;
     }
+    // Every record of it: a part keep and a whole one may both stand.
     VaultIndex index = vaultIndex_;
-    const auto it = std::find_if(index.events.begin(), index.events.end(),
-                                 [&](const ArchivedEvent &a) { return a.eventID == event.id(); });
-    if (it != index.events.end()) {
-        index.events.erase(it);
+    if (std::erase_if(index.events, [&](const ArchivedEvent &a) { return a.eventID == event.id(); }) > 0)
         setVaultIndex(std::move(index));
-    }
     std::vector<TeslaEvent> events = vaultEvents_;
     std::erase_if(events, [&](const TeslaEvent &e) { return e.id() == event.id(); });
     setVaultEvents(std::move(events));

@@ -1,5 +1,7 @@
 #include "EventPlayerPresenter.h"
 
+#include "VaultMarks.h"
+
 #include "ExportFlow.h"
 #include "InboxPresenter.h"
 #include "PlayerDrivingData.h"
@@ -148,19 +150,18 @@ QVariantMap EventPlayerPresenter::metadata() const
     m.insert(QStringLiteral("coordinatesIcon"),
              SymbolIcons::iconUrl(located ? QStringLiteral("location") : QStringLiteral("location.slash")));
     m.insert(QStringLiteral("coordinatesTooltip"),
-             located ? QStringLiteral("Coordinates as recorded by your car — useful for an insurance or police report.")
+             located ? tr("Coordinates as recorded by your car — useful for an insurance or police report.")
                      : QString());
-    // The verification badge when the event has a copy in the Vault.
+    // The verification badge: only for a copy that is whole and, as far as
+    // its last re-reading saw, as it was kept.
     bool verified = false;
     QString archivedLine;
     if (appState_) {
-        for (const ArchivedEvent &a : appState_->vaultIndex().events) {
-            if (a.kind == e.kind && a.folderName == e.folderName) {
-                verified = true;
-                archivedLine = QStringLiteral("Archived ") + a.archivedAt.formatLocal(QStringLiteral("MMM d, yyyy h:mm AP")) +
-                               QStringLiteral(" from ") + a.sourceVolume;
-                break;
-            }
+        if (const ArchivedEvent *newest = appState_->vaultIndex().newestRecord(e.id())) {
+            verified = VaultMarks::vouchesFor(*newest, appState_->verificationLog().find(e.id()));
+            archivedLine = tr("Archived %1 from %2")
+                               .arg(newest->archivedAt.formatLocal(QStringLiteral("MMM d, yyyy h:mm AP")),
+                                    newest->sourceVolume);
         }
     }
     m.insert(QStringLiteral("verified"), verified);

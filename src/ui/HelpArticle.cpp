@@ -37,13 +37,13 @@ std::optional<HelpArticle> HelpArticle::fromRawValue(QStringView raw)
 QString HelpArticle::title() const
 {
     switch (value_) {
-    case sentryMode: return QStringLiteral("What is Sentry Mode?");
-    case oneMinuteClips: return QStringLiteral("Why are clips exactly one minute long?");
+    case sentryMode: return QCoreApplication::translate("HelpArticle", "What is Sentry Mode?");
+    case oneMinuteClips: return QCoreApplication::translate("HelpArticle", "Why are clips exactly one minute long?");
     case corruptionExplained: return QStringLiteral("What does \"didn't record properly\" mean?");
-    case encryptionExplained: return QStringLiteral("Why does it say some clips are encrypted?");
-    case howVaultWorks: return QStringLiteral("How does the Vault keep my footage safe?");
-    case readOnlyPromise: return QStringLiteral("Will this app ever change or delete anything on my drive?");
-    case keyboardShortcuts: return QStringLiteral("Keyboard shortcuts");
+    case encryptionExplained: return QCoreApplication::translate("HelpArticle", "Why does it say some clips are encrypted?");
+    case howVaultWorks: return QCoreApplication::translate("HelpArticle", "How does the Vault keep my footage safe?");
+    case readOnlyPromise: return QCoreApplication::translate("HelpArticle", "Will this app ever change or delete anything on my drive?");
+    case keyboardShortcuts: return QCoreApplication::translate("HelpArticle", "Keyboard shortcuts");
     }
     return {};
 }
@@ -66,33 +66,33 @@ QStringList HelpArticle::paragraphs() const
 {
     switch (value_) {
     case sentryMode:
-        return {QStringLiteral("Sentry Mode is your Tesla's built-in security system. While your car is parked, its cameras "
+        return {QCoreApplication::translate("HelpArticle", "Sentry Mode is your Tesla's built-in security system. While your car is parked, its cameras "
                                "watch for people or objects that come close, or for a bump or impact. When something "
                                "happens, the car saves a short recording from every camera into a \"Sentry event\" so you "
                                "can review it later."),
-                QStringLiteral("You can turn Sentry Mode on or off, and adjust its sensitivity, from your car's touchscreen "
+                QCoreApplication::translate("HelpArticle", "You can turn Sentry Mode on or off, and adjust its sensitivity, from your car's touchscreen "
                                "under Safety & Security.")};
     case oneMinuteClips:
-        return {QStringLiteral("Your Tesla records in one-minute segments, one file per camera per minute, rather than one "
+        return {QCoreApplication::translate("HelpArticle", "Your Tesla records in one-minute segments, one file per camera per minute, rather than one "
                                "long continuous video. This is simply how the car's software is built — it makes the "
                                "recordings easier for the car to manage and less likely to be lost all at once if "
                                "something goes wrong."),
-                QStringLiteral("Keelhold stitches these one-minute files back together into a single, continuous timeline "
+                QCoreApplication::translate("HelpArticle", "Keelhold stitches these one-minute files back together into a single, continuous timeline "
                                "for you, so you never have to think about the individual files — you just scrub through "
                                "one smooth timeline per event.")};
     case corruptionExplained:
-        return {QStringLiteral("Occasionally, a clip won't play — it might be zero bytes, cut off partway through, or simply "
+        return {QCoreApplication::translate("HelpArticle", "Occasionally, a clip won't play — it might be zero bytes, cut off partway through, or simply "
                                "unreadable. This is a well-known issue with Tesla USB drives, especially with lower-quality "
                                "or aging drives, and it is not something you did."),
-                QStringLiteral("When this happens, Keelhold shows that camera angle as a labeled placeholder instead of "
+                QCoreApplication::translate("HelpArticle", "When this happens, Keelhold shows that camera angle as a labeled placeholder instead of "
                                "crashing or freezing, and counts it in Drive Health so you can see how often it's "
                                "happening. If it happens a lot, a newer USB 3.0 drive from a reputable brand usually "
                                "helps.")};
     case encryptionExplained:
-        return {QStringLiteral("Newer Tesla software can encrypt dashcam and Sentry clips so that only you can view them — "
+        return {QCoreApplication::translate("HelpArticle", "Newer Tesla software can encrypt dashcam and Sentry clips so that only you can view them — "
                                "this is a privacy feature, not damage or an error. Encrypted files still look like normal "
                                "video files, but no app can decode their contents without the key of each clip."),
-                QStringLiteral("Keelhold safely backs up encrypted clips exactly as they are — the backup and "
+                QCoreApplication::translate("HelpArticle", "Keelhold safely backs up encrypted clips exactly as they are — the backup and "
                                "verification steps work the same either way."),
                 QCoreApplication::translate("HelpArticle",
                                             "To watch them here, choose “Unlock Encrypted Footage…” and sign in with "

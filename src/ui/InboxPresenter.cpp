@@ -149,7 +149,7 @@ QString corruptionToolTip(int count)
 
 QString reasonChipAccessibilityLabel(const TeslaEvent &event)
 {
-    return QStringLiteral("Reason: ") + reasonText(event).label;
+    return QCoreApplication::translate("InboxPresenter", "Reason: %1").arg(reasonText(event).label);
 }
 
 QString bulkKeepTitle(qsizetype count) { return QStringLiteral("Keep ") + QString::number(count); }

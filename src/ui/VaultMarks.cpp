@@ -7,10 +7,13 @@
 
 namespace {
 
-QString plural(int count, const char *word)
+QString faithfulTitle() { return VaultMarks::tr("Faithful Copy"); }
+
+QString faithfulText()
 {
-    return QString::number(count) + QLatin1Char(' ') + QString::fromLatin1(word)
-        + (count == 1 ? QString() : QStringLiteral("s"));
+    return VaultMarks::tr("Every file below was copied and its checksum (SHA-256) was compared to the original on "
+                          "your drive at the time — a faithful, unaltered copy. This is a technical integrity check, "
+                          "not a legal certification.");
 }
 
 QString day(const Date &date) { return date.formatLocal(QStringLiteral("d MMM yyyy")); }
@@ -44,9 +47,9 @@ QVariantMap VaultMarks::mark(const ArchivedEvent &newest, const EventCheck *chec
 {
     const EventCheck *current = currentCheck(newest, check);
     QVariantMap m{{QStringLiteral("present"), true},
-                  {QStringLiteral("archivedLine"), QStringLiteral("Archived ")
-                       + newest.archivedAt.formatLocal(QStringLiteral("MMM d, yyyy 'at' h:mm AP"))
-                       + QStringLiteral(" from ") + newest.sourceVolume}};
+                  {QStringLiteral("archivedLine"), tr("Archived %1 from %2")
+                       .arg(newest.archivedAt.formatLocal(QStringLiteral("MMM d, yyyy 'at' h:mm AP")),
+                            newest.sourceVolume)}};
 
     QVariantList files;
     for (const ArchivedFile &f : newest.files) {
@@ -104,18 +107,12 @@ QVariantMap VaultMarks::mark(const ArchivedEvent &newest, const EventCheck *chec
             tr("Every file was read again on %1 and still matches the checksum taken when it was kept. Tap for the "
                "technical detail.")
                 .arg(checkedOn),
-            QStringLiteral("Faithful Copy"),
-            QStringLiteral("Every file below was copied and its checksum (SHA-256) was compared to the original on "
-                           "your drive at the time — a faithful, unaltered copy. This is a technical integrity check, "
-                           "not a legal certification."));
+            faithfulTitle(), faithfulText());
     } else {
-        set(QStringLiteral("Verified copy"), "checkmark.seal", "good",
-            QStringLiteral("This copy was checked byte-for-byte against your drive when it was archived. Tap for the "
-                           "technical detail."),
-            QStringLiteral("Faithful Copy"),
-            QStringLiteral("Every file below was copied and its checksum (SHA-256) was compared to the original on "
-                           "your drive at the time — a faithful, unaltered copy. This is a technical integrity check, "
-                           "not a legal certification."));
+        set(tr("Verified copy"), "checkmark.seal", "good",
+            tr("This copy was checked byte-for-byte against your drive when it was archived. Tap for the "
+               "technical detail."),
+            faithfulTitle(), faithfulText());
     }
     return m;
 }
@@ -163,11 +160,11 @@ QString VaultMarks::reportHeading(const ArchiveReport &r)
         return planned == 1 ? tr("Drive disconnected — %1 of 1 event kept completely").arg(complete)
                             : tr("Drive disconnected — %1 of %2 events kept completely").arg(complete).arg(planned);
     if (r.cancelled)
-        return QStringLiteral("Backup Stopped");
+        return tr("Backup Stopped");
     if (complete < planned)
         return planned == 1 ? tr("Backup Incomplete — %1 of 1 event kept completely").arg(complete)
                             : tr("Backup Incomplete — %1 of %2 events kept completely").arg(complete).arg(planned);
-    return QStringLiteral("Backup Complete");
+    return tr("Backup Complete");
 }
 
 QString VaultMarks::reportHeadingSymbol(const ArchiveReport &r)
@@ -191,9 +188,11 @@ QVariantList VaultMarks::reportLines(const ArchiveReport &r)
     const int complete = r.completeEvents();
     if (complete > 0)
         lines.append(line(r.cancelled && !stoppedByDrive(r) ? "pause.circle" : "checkmark.seal.fill",
-                          plural(complete, "event")
-                              + QStringLiteral(" copied and verified, byte-for-byte. The original on your drive is "
-                                               "untouched.")));
+                          complete == 1 ? tr("1 event copied and verified, byte-for-byte. The original on your "
+                                             "drive is untouched.")
+                                        : tr("%1 events copied and verified, byte-for-byte. The original on your "
+                                             "drive is untouched.")
+                                              .arg(complete)));
     const int partial = incompleteEvents(r);
     if (partial > 0) {
         int arrived = 0;
@@ -216,16 +215,18 @@ QVariantList VaultMarks::reportLines(const ArchiveReport &r)
                                     .arg(expected)));
     }
     if (r.skippedDuplicates > 0)
-        lines.append(line("doc.on.doc", QString::number(r.skippedDuplicates)
-                                            + QStringLiteral(" were already in your Vault, so we skipped them.")));
+        lines.append(line("doc.on.doc", tr("%1 were already in your Vault, so we skipped them.")
+                                            .arg(r.skippedDuplicates)));
     const int failed = int(r.failedFiles.size());
     if (failed > 0)
         lines.append(line("exclamationmark.triangle",
                           stoppedByDrive(r)
                               ? (failed == 1 ? tr("1 file couldn't be read as the drive went away.")
                                              : tr("%1 files couldn't be read as the drive went away.").arg(failed))
-                              : plural(failed, "file")
-                                  + QStringLiteral(" couldn't be read — your drive may be failing. Nothing was "
-                                                   "deleted or changed; you can try again.")));
+                              : (failed == 1 ? tr("1 file couldn't be read — your drive may be failing. Nothing "
+                                                  "was deleted or changed; you can try again.")
+                                             : tr("%1 files couldn't be read — your drive may be failing. Nothing "
+                                                  "was deleted or changed; you can try again.")
+                                                   .arg(failed))));
     return lines;
 }

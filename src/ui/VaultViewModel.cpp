@@ -162,8 +162,7 @@ double VaultViewModel::progressFraction() const
 
 QString VaultViewModel::progressLineFor(const ArchiveProgress &p, bool paused, bool otherDriveSeen)
 {
-    const QString counts = QString::number(p.eventsCompleted) + QStringLiteral(" of ") + QString::number(p.totalEvents)
-        + QStringLiteral(" events");
+    const QString counts = tr("%1 of %2 events").arg(p.eventsCompleted).arg(p.totalEvents);
     if (!paused)
         return counts;
     return otherDriveSeen ? tr("Paused at %1 — that is a different drive; plug in the one this keep was reading").arg(counts)
