@@ -2,8 +2,12 @@
 // machine and once beside two busy threads: how fast the cameras play
 // together as a multiple of real time, the skew between the frames handed to
 // the sinks at 1x and 4x, how soon a seek shows a picture and its exact
-// frame, and peak memory. Nothing is drawn.
+// frame, and peak memory; and how fast the same HW4 event plays when the
+// car encrypted it and its keys are held. Nothing is drawn.
 
+#include "crypt/DecryptingClipReader.h"
+#include "crypt/KeyStore.h"
+#include "support/EcryptfsWriter.h"
 #include "playback/HostClock.h"
 #include "playback/SyncPlayerController.h"
 
@@ -11,6 +15,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -101,6 +106,31 @@ TeslaEvent makeEvent(const QString &dir, const QString &frontClip, const QString
         }
     }
     ClipOrder::sort(e.clips);
+    return e;
+}
+
+// The same event as the car writes it encrypted, its keys kept beside it:
+// every picture goes through the decrypting reader.
+TeslaEvent makeUnlockedEvent(const QString &dir, const QString &frontClip, const QString &sideClip)
+{
+    const QString front = dir + "/sealed-front.bin";
+    const QString side = dir + "/sealed-side.bin";
+    EcryptfsWriter::encryptFile(frontClip, front, EcryptfsWriter::fileKey(1), EcryptfsWriter::keyBlock(1));
+    EcryptfsWriter::encryptFile(sideClip, side, EcryptfsWriter::fileKey(2), EcryptfsWriter::keyBlock(2));
+    TeslaEvent e = makeEvent(dir, front, side);
+    e.encrypted = true;
+    std::vector<KeyEntry> keys;
+    for (ClipRef &c : e.clips) {
+        c.health = ClipHealth::encrypted;
+        const Ecryptfs::Header header = Ecryptfs::read(c.url);
+        const QByteArray key = EcryptfsWriter::fileKey(c.camera == Camera::front ? 1 : 2);
+        keys.push_back({QFileInfo(c.url).fileName(), header.keyBlock.keyId, header.keyBlock.vin, key,
+                        header.keyBlock.fingerprint()});
+    }
+    if (!VaultKeys::write(dir, keys)) {
+        std::fprintf(stderr, "the keys could not be written\n");
+        std::exit(1);
+    }
     return e;
 }
 
@@ -307,6 +337,9 @@ int main(int argc, char **argv)
     QDir().mkpath(dir.path() + "/hw3");
     const TeslaEvent hw4Event = makeEvent(dir.path() + "/hw4", hw4Front, hw4Side);
     const TeslaEvent hw3Event = makeEvent(dir.path() + "/hw3", hw3, hw3);
+    QDir().mkpath(dir.path() + "/hw4sealed");
+    DecryptingClipReader::install();
+    const TeslaEvent unlockedEvent = makeUnlockedEvent(dir.path() + "/hw4sealed", hw4Front, hw4Side);
 
     struct Figures {
         double hw4Realtime = 0, hw3Realtime = 0, skew1 = 0, skew4 = 0;
@@ -331,6 +364,13 @@ int main(int argc, char **argv)
         return f;
     };
     const Figures idle = measure("idle");
+    double unlockedRealtime = 0;
+    {
+        auto cu = load(unlockedEvent);
+        unlockedRealtime = realtime(players(*cu), 6);
+        std::printf("idle: the unlocked hw4 event plays at %.2fx real time (load %.1f)\n", unlockedRealtime,
+                    loadAverage());
+    }
     BusyLoad busy;
     busy.start();
     const Figures loaded = measure("loaded");
@@ -343,9 +383,11 @@ int main(int argc, char **argv)
                 "seek_exact_ms_p50=%.1f rate4_max_skew_frames=%.2f\n",
                 loaded.hw4Realtime, loaded.hw3Realtime, loaded.skew1, loaded.seek.firstP50, loaded.seek.exactP50,
                 loaded.skew4);
-    std::printf("hw4_realtime=%.2f hw3_realtime=%.2f max_skew_frames=%.2f loaded_max_skew_frames=%.2f "
-                "seek_first_ms_p50=%.1f seek_exact_ms_p50=%.1f rate4_max_skew_frames=%.2f\n",
-                idle.hw4Realtime, idle.hw3Realtime, idle.skew1, loaded.skew1, idle.seek.firstP50, idle.seek.exactP50,
+    std::printf("hw4_realtime=%.2f unlocked_hw4_realtime=%.2f unlocked/clear=%.2f hw3_realtime=%.2f "
+                "max_skew_frames=%.2f loaded_max_skew_frames=%.2f seek_first_ms_p50=%.1f seek_exact_ms_p50=%.1f "
+                "rate4_max_skew_frames=%.2f\n",
+                idle.hw4Realtime, unlockedRealtime, unlockedRealtime / std::max(0.01, idle.hw4Realtime),
+                idle.hw3Realtime, idle.skew1, loaded.skew1, idle.seek.firstP50, idle.seek.exactP50,
                 std::max(idle.skew4, loaded.skew4));
     return 0;
 }
