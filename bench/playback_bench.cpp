@@ -364,12 +364,22 @@ int main(int argc, char **argv)
         return f;
     };
     const Figures idle = measure("idle");
+    struct rusage before;
+    getrusage(RUSAGE_SELF, &before);
+    std::printf("peak RSS before the unlocked event %.0f MB\n", before.ru_maxrss / 1024.0);
+    // Clear and unlocked in turn, twice, so both meet the same machine.
     double unlockedRealtime = 0;
+    double clearBeside = 0;
     {
         auto cu = load(unlockedEvent);
-        unlockedRealtime = realtime(players(*cu), 6);
-        std::printf("idle: the unlocked hw4 event plays at %.2fx real time (load %.1f)\n", unlockedRealtime,
-                    loadAverage());
+        const auto psu = players(*cu);
+        for (int round = 0; round < 2; ++round) {
+            unlockedRealtime = std::max(unlockedRealtime, realtime(psu, 6));
+            clearBeside = std::max(clearBeside, realtime(ps4, 6));
+        }
+        std::printf("idle: the unlocked hw4 event plays at %.2fx real time, the clear one beside it at %.2fx (load "
+                    "%.1f)\n",
+                    unlockedRealtime, clearBeside, loadAverage());
     }
     BusyLoad busy;
     busy.start();
@@ -386,7 +396,7 @@ int main(int argc, char **argv)
     std::printf("hw4_realtime=%.2f unlocked_hw4_realtime=%.2f unlocked/clear=%.2f hw3_realtime=%.2f "
                 "max_skew_frames=%.2f loaded_max_skew_frames=%.2f seek_first_ms_p50=%.1f seek_exact_ms_p50=%.1f "
                 "rate4_max_skew_frames=%.2f\n",
-                idle.hw4Realtime, unlockedRealtime, unlockedRealtime / std::max(0.01, idle.hw4Realtime),
+                idle.hw4Realtime, unlockedRealtime, unlockedRealtime / std::max(0.01, clearBeside),
                 idle.hw3Realtime, idle.skew1, loaded.skew1, idle.seek.firstP50, idle.seek.exactP50,
                 std::max(idle.skew4, loaded.skew4));
     return 0;
