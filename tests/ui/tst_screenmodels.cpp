@@ -342,14 +342,6 @@ private Q_SLOTS:
         QCOMPARE(TileSource::shared()->requestsStarted(), requests);
     }
 
-    void tileSourceNamesItselfAndReadsTheTemplate()
-    {
-        QVERIFY(TileSource::userAgent().startsWith(QStringLiteral("Keelhold/")));
-        QVERIFY(TileSource::userAgent().contains(QStringLiteral("(+")));
-        QSettings().setValue(TileSource::templateKey, QStringLiteral("http://127.0.0.1:9/{z}/{x}/{y}.png"));
-        QCOMPARE(TileSource::shared()->urlTemplate(), QStringLiteral("http://127.0.0.1:9/{z}/{x}/{y}.png"));
-    }
-
     void thumbnailProviderScalesCachesAndGivesNothingForBadFiles()
     {
         QTemporaryDir dir;
