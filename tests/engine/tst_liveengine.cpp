@@ -55,7 +55,6 @@ private Q_SLOTS:
     void scanErrorsKeepTheirType();
     void probeFillsClipHealth();
     void archiveStopsWhenItsFutureIsCancelled();
-    void archiveStopTokenStillDeliversTheReport();
     void triageStateIsAlwaysNewButMarksAreKept();
     void exportErrorsKeepTheirType();
     void combinedExportRunsOffTheCallerAndStopsClean();
@@ -177,20 +176,6 @@ void TestLiveEngine::archiveStopsWhenItsFutureIsCancelled()
     // The work really stopped: the run merged what it had done and no more.
     QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(vault + QStringLiteral("/manifest.json")), 5000);
     QVERIFY(engine_.loadVaultIndex(vault).events.size() < total);
-}
-
-void TestLiveEngine::archiveStopTokenStillDeliversTheReport()
-{
-    const QString vault = dir_.filePath(QStringLiteral("vault-stop"));
-    const DriveScan scan = engine_.scanDrive(drivePath(), {}).result();
-    const ArchivePlan plan = engine_.planArchive(scan.events, VaultIndex());
-    std::stop_source stop;
-    const ArchiveReport report =
-        engine_.runArchive(plan, vault, [&](const ArchiveProgress &) { stop.request_stop(); }, stop.get_token())
-            .result();
-    QVERIFY(report.cancelled);
-    QVERIFY(report.archivedEvents.size() < plan.newItems().size());
-    QCOMPARE(engine_.loadVaultIndex(vault).events, report.archivedEvents);
 }
 
 void TestLiveEngine::triageStateIsAlwaysNewButMarksAreKept()
