@@ -243,24 +243,6 @@ private Q_SLOTS:
         QVERIFY(!state.isScanning());
     }
 
-    void sampleFootageYieldsExplainedEventsAndHealth()
-    {
-        LiveEngine engine;
-        AppState state(engine);
-        state.loadSampleFootage();
-        QTRY_VERIFY_WITH_TIMEOUT(state.healthReport() && state.healthReport()->probedClipCount > 0, 60000);
-        const DriveScan &scan = *state.driveScan();
-        QVERIFY(!scan.events.empty());
-        QVERIFY(!state.currentFailure());
-        // The damage the probe finds in the sample clips is what health counts.
-        int damaged = 0;
-        for (const TeslaEvent &e : scan.events)
-            for (const ClipRef &c : e.clips)
-                damaged += c.health.isDamaged();
-        QVERIFY(damaged > 0);
-        QCOMPARE(state.healthReport()->corruptClipCount, damaged);
-    }
-
     void keepDuplicateCancelAndRemove()
     {
         if (!TestClips::ffmpegAvailable())
