@@ -53,12 +53,10 @@ private Q_SLOTS:
 
     void scanRunsOffTheCallersThread();
     void scanErrorsKeepTheirType();
-    void probeFillsClipHealth();
     void archiveStopsWhenItsFutureIsCancelled();
     void triageStateIsAlwaysNewButMarksAreKept();
     void exportErrorsKeepTheirType();
     void combinedExportRunsOffTheCallerAndStopsClean();
-    void driveEventsIsOneStream();
     void theDriveIsNeverWritten();
     void stuckDriveWorkStarvesNothingElse();
 
@@ -129,23 +127,6 @@ void TestLiveEngine::scanErrorsKeepTheirType()
     }
     QFuture<std::vector<TeslaEvent>> vault = engine_.scanVault(dir_.filePath(QStringLiteral("no-vault")));
     QVERIFY_THROWS_EXCEPTION(VaultBrowser::VaultBrowserError, vault.waitForFinished());
-}
-
-void TestLiveEngine::probeFillsClipHealth()
-{
-    const DriveScan scan = engine_.scanDrive(drivePath(), {}).result();
-    const std::vector<TeslaEvent> probed = engine_.probeAll(scan.events).result();
-    const TeslaEvent *sentry = findEvent(probed, QStringLiteral("sentry|2024-06-01_15-05-30"));
-    QVERIFY(sentry);
-    QCOMPARE(sentry->clips.size(), size_t(3));
-    for (const ClipRef &clip : sentry->clips) {
-        if (clip.camera == Camera::leftRepeater) {
-            QCOMPARE(clip.health, ClipHealth::zeroByte);
-        } else {
-            QCOMPARE(clip.health, ClipHealth::ok);
-            QVERIFY(clip.duration.has_value());
-        }
-    }
 }
 
 void TestLiveEngine::archiveStopsWhenItsFutureIsCancelled()
@@ -246,19 +227,6 @@ void TestLiveEngine::combinedExportRunsOffTheCallerAndStopsClean()
     QTRY_VERIFY_WITH_TIMEOUT(future.isFinished(), 20000);
     QVERIFY(cancelled.load());
     QCOMPARE(QDir(folder).entryList(QDir::Files | QDir::Hidden | QDir::NoDotAndDotDot), QStringList{QStringLiteral("grid.mp4")});
-}
-
-void TestLiveEngine::driveEventsIsOneStream()
-{
-    const auto stream = engine_.driveEvents();
-    QVERIFY(stream);
-    QCOMPARE(engine_.driveEvents(), stream);
-    QVERIFY(!stream->isFinished());
-    // Whatever the machine has mounted, the list is sorted with TeslaCam
-    // volumes first.
-    const std::vector<VolumeCandidate> volumes = engine_.mountedTeslaCamVolumes();
-    for (size_t i = 1; i < volumes.size(); ++i)
-        QVERIFY(volumes[i - 1].hasTeslaCamFolder >= volumes[i].hasTeslaCamFolder);
 }
 
 void TestLiveEngine::theDriveIsNeverWritten()
