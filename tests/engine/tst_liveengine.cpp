@@ -29,12 +29,6 @@
 
 namespace {
 
-QByteArray readAll(const QString &path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
-
 const TeslaEvent *findEvent(const std::vector<TeslaEvent> &events, const QString &id)
 {
     for (const auto &e : events)
@@ -168,7 +162,7 @@ void TestLiveEngine::triageStateIsAlwaysNewButMarksAreKept()
     QTRY_COMPARE(engine_.loadAllTriageStates().result().value(id), TriageState::kept);
     QCOMPARE(engine_.triageState(id), TriageState::new_);
     const QString file = qEnvironmentVariable("XDG_DATA_HOME") + QStringLiteral("/Keelhold/triage.json");
-    QTRY_VERIFY(readAll(file).contains("\"saved|2024-06-02_09-00-00\":\"dismissed\""));
+    QTRY_VERIFY(DriveBuilder::readQuietly(file).contains("\"saved|2024-06-02_09-00-00\":\"dismissed\""));
     QCOMPARE(TriageStore(file).state(id).result(), TriageState::kept);
 }
 
