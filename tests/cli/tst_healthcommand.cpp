@@ -1,5 +1,6 @@
 // keelhold-cli health, run as a separate process over real folders.
 
+#include "support/CliRun.h"
 #include "support/TeslaCamFixture.h"
 #include "support/TestClips.h"
 #include "support/TmpfsMount.h"
@@ -9,7 +10,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
 #include <unistd.h>
@@ -23,12 +23,8 @@ struct Result {
 
 Result runCli(const QStringList &args)
 {
-    QProcess p;
-    p.start(QStringLiteral(KEELHOLD_CLI_PATH), args);
-    if (!p.waitForFinished(60000))
-        qFatal("keelhold-cli did not finish");
-    return {p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1,
-            QJsonDocument::fromJson(p.readAllStandardOutput()).object(), QString::fromUtf8(p.readAllStandardError())};
+    const CliRun::Result r = CliRun::run(args);
+    return {r.exitCode, QJsonDocument::fromJson(r.out).object(), r.err};
 }
 
 QStringList recommendationIDs(const QJsonObject &report)

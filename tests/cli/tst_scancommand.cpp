@@ -1,5 +1,6 @@
 #include "drive/TeslaCamParser.h"
 #include "model/JsonCoding.h"
+#include "support/ProgramRun.h"
 #include "support/TeslaCamFixture.h"
 
 #include <QProcess>
@@ -8,22 +9,14 @@
 #include <unistd.h>
 
 namespace {
-struct Result {
-    int exitCode = -1;
-    QByteArray out;
-    QString err;
-};
+using Result = ProgramRun::Result;
 
 Result runCli(const QStringList &args, const QStringList &prefix = {})
 {
-    QProcess p;
     QStringList all = prefix;
     all << QStringLiteral(KEELHOLD_CLI_PATH) << args;
-    p.start(all.takeFirst(), all);
-    if (!p.waitForFinished(60000))
-        qFatal("keelhold-cli did not finish");
-    return {p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1, p.readAllStandardOutput(),
-            QString::fromUtf8(p.readAllStandardError())};
+    const QString program = all.takeFirst();
+    return ProgramRun::run(program, all);
 }
 
 // Runs as an unprivileged user, so permission checks apply even when the suite runs as root.

@@ -1,6 +1,7 @@
 // The persistent stores against real files and real settings, in a
 // temporary home folder: what one instance or process writes, the next reads.
 
+#include "support/DriveBuilder.h"
 #include "support/IsolatedHome.h"
 #include "support/TeslaCamFixture.h"
 #include "drive/TeslaCamParser.h"
@@ -24,22 +25,9 @@
 
 namespace {
 
-QByteArray readAll(const QString &path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
-
 QJsonObject readObject(const QString &path)
 {
-    return QJsonDocument::fromJson(readAll(path)).object();
-}
-
-void writeAll(const QString &path, const QByteArray &bytes)
-{
-    QFile f(path);
-    QVERIFY(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    f.write(bytes);
+    return QJsonDocument::fromJson(DriveBuilder::readQuietly(path)).object();
 }
 
 // A real scan of a small drive, so the cache carries every kind of value.
@@ -101,7 +89,7 @@ void TestStores::scanCacheRoundTripAcrossInstances()
         first.store(scan, QStringLiteral("UNTITLED|-1")).waitForFinished();
     }
     // Compact JSON, keyed by the drive key, dates as plain numbers.
-    const QByteArray bytes = readAll(file);
+    const QByteArray bytes = DriveBuilder::readQuietly(file);
     QVERIFY(!bytes.contains('\n'));
     const QJsonObject root = readObject(file);
     QCOMPARE(root.keys(), QStringList{QStringLiteral("UNTITLED|-1")});
@@ -128,7 +116,7 @@ void TestStores::scanCacheCorruptFileReadsEmptyAndIsReplaced()
     const QString file = dir_.filePath(QStringLiteral("corrupt.json"));
     const DriveScan scan = sampleScan(dir_.filePath(QStringLiteral("corrupt-drive")));
     // Valid JSON, but one entry isn't a scan: the whole file counts as damaged.
-    writeAll(file, R"({"A|1":{"volumeName":"A"},"B|2":42})");
+    TeslaCamFixture::writeFile(file, R"({"A|1":{"volumeName":"A"},"B|2":42})");
     {
         ScanCache cache(file);
         QVERIFY(!cache.cached(QStringLiteral("A|1")).result().has_value());
@@ -136,7 +124,7 @@ void TestStores::scanCacheCorruptFileReadsEmptyAndIsReplaced()
     }
     QCOMPARE(readObject(file).keys(), QStringList{QStringLiteral("C|3")});
 
-    writeAll(file, "\x00\xff not json at all");
+    TeslaCamFixture::writeFile(file, "\x00\xff not json at all");
     ScanCache again(file);
     QVERIFY(!again.cached(QStringLiteral("C|3")).result().has_value());
     again.store(scan, QStringLiteral("D|4")).waitForFinished();
@@ -187,7 +175,7 @@ void TestStores::scanCacheLoadsOnlyOnce()
     QVERIFY(cache.cached(QStringLiteral("A|1")).result().has_value());
     // Another writer changes the file behind this instance's back: this
     // process keeps what it loaded.
-    writeAll(file, "{}");
+    TeslaCamFixture::writeFile(file, "{}");
     QVERIFY(cache.cached(QStringLiteral("A|1")).result().has_value());
 }
 
@@ -195,7 +183,7 @@ void TestStores::scanCacheWriteFailureIsSilent()
 {
     // A file path whose folder is a plain file can never be written.
     const QString blocker = dir_.filePath(QStringLiteral("blocker"));
-    writeAll(blocker, "x");
+    TeslaCamFixture::writeFile(blocker, "x");
     const QString file = blocker + QStringLiteral("/scan-cache.json");
     const DriveScan scan = sampleScan(dir_.filePath(QStringLiteral("silent-drive")));
     ScanCache cache(file);
@@ -234,7 +222,7 @@ void TestStores::triageSurvivesIntoAnotherProcess()
 void TestStores::triageUnknownValueEmptiesTheStore()
 {
     const QString file = dir_.filePath(QStringLiteral("triage-bad.json"));
-    writeAll(file, R"({"sentry|a":"kept","sentry|b":"archived","saved|c":"dismissed"})");
+    TeslaCamFixture::writeFile(file, R"({"sentry|a":"kept","sentry|b":"archived","saved|c":"dismissed"})");
     {
         TriageStore store(file);
         QCOMPARE(store.state(QStringLiteral("sentry|a")).result(), TriageState::new_);
@@ -247,7 +235,7 @@ void TestStores::triageUnknownValueEmptiesTheStore()
     QCOMPARE(root.value(QStringLiteral("recent|d")).toString(), QStringLiteral("reviewed"));
 
     // A value of the wrong type spoils the file just the same.
-    writeAll(file, R"({"sentry|a":"kept","sentry|b":1})");
+    TeslaCamFixture::writeFile(file, R"({"sentry|a":"kept","sentry|b":1})");
     TriageStore other(file);
     QVERIFY(other.allStates().result().isEmpty());
 }
@@ -327,7 +315,7 @@ void TestStores::bookmarkGoneFolderIsStale()
     QCOMPARE(std::get<BookmarkError>(BookmarkStore::resolve(BookmarkKey::vaultFolder)).errorCase(),
              BookmarkError::stale);
     // A file where the folder was is no better. Stale is not repaired.
-    writeAll(folder, "not a folder");
+    TeslaCamFixture::writeFile(folder, "not a folder");
     QCOMPARE(std::get<BookmarkError>(BookmarkStore::resolve(BookmarkKey::vaultFolder)).errorCase(),
              BookmarkError::stale);
     QSettings settings(QStringLiteral("Keelhold"), QStringLiteral("Keelhold"));

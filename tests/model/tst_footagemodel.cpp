@@ -57,20 +57,6 @@ class FootageModelTest : public QObject {
 
 private Q_SLOTS:
 
-    void cameraSuffixAliasesAreNotRawValues()
-    {
-        QCOMPARE(Camera::fromFileSuffix(u"rear_view"), std::optional<Camera>(Camera::back));
-        QCOMPARE(Camera::fromFileSuffix(u"left_b_pillar"), std::optional<Camera>(Camera::leftPillar));
-        QCOMPARE(Camera::fromFileSuffix(u"right_b_pillar"), std::optional<Camera>(Camera::rightPillar));
-        QCOMPARE(Camera::fromFileSuffix(u"backup_camera"), std::optional<Camera>(Camera::rearBackup));
-        QVERIFY(!Camera::fromRawValue(u"rear_view"));
-        QVERIFY(!Camera::fromRawValue(u"backup_camera"));
-        QVERIFY(!Camera::fromFileSuffix(u"Front"));
-        QVERIFY(!Camera::fromFileSuffix(u"FRONT"));
-        QVERIFY(!Camera::fromFileSuffix(u"fisheye"));
-        QVERIFY(!Camera::fromFileSuffix(u""));
-    }
-
     void eventDerivedValuesWithClips()
     {
         TeslaEvent e;
@@ -126,44 +112,15 @@ private Q_SLOTS:
         QCOMPARE(names, QStringList({"b", "d", "a", "c"}));
     }
 
-    void volumeFormatJsonForms()
+    // Every VolumeFormat and optional survives the round trip; a wrong shape
+    // fails the whole value.
+    void volumeFormatAndOptionalsRoundTrip()
     {
-        QCOMPARE(JsonCoding::toCompactJson(VolumeFormat(VolumeFormat::exFAT).toJson()), QByteArray(R"({"exFAT":{}})"));
-        QCOMPARE(JsonCoding::toCompactJson(VolumeFormat::makeOther("ext4").toJson()), QByteArray(R"({"other":{"_0":"ext4"}})"));
         const VolumeFormat odd = VolumeFormat::makeOther(QStringLiteral("  Wéird FS \"x\" "));
         QCOMPARE(roundTrip(odd), odd);
         QCOMPARE(roundTrip(odd).otherName(), odd.otherName());
-    }
-
-    void volumeFormatRejectsWrongKeyCounts()
-    {
-        for (const char *text : {R"({})", R"({"exFAT":{},"apfs":{}})"}) {
-            try {
-                VolumeFormat::fromJson(JsonCoding::parseObject(text));
-                QFAIL("decoding should fail");
-            } catch (const JsonCoding::DecodingError &e) {
-                QCOMPARE(e.message(), QStringLiteral("Invalid number of keys found, expected one."));
-            }
-        }
-        QVERIFY_THROWS_EXCEPTION(JsonCoding::DecodingError, VolumeFormat::fromJson(JsonCoding::parseObject(R"({"ntfs":{}})")));
-        QVERIFY_THROWS_EXCEPTION(JsonCoding::DecodingError, VolumeFormat::fromJson(JsonCoding::parseObject(R"({"other":{}})")));
-    }
-
-    void eventJsonFormIsExact()
-    {
-        const TeslaEvent e = sampleEvent();
-        const QJsonObject o = e.toJson();
-        QCOMPARE(QStringList(o.keys()),
-                 QStringList({"city", "clips", "folderName", "folderURL", "kind", "latitude", "longitude",
-                              "missingEventJSON", "reason", "reasonRaw", "thumbURL", "timestamp", "triggerCameraRaw"}));
-        QCOMPARE(o.value("kind").toString(), QStringLiteral("saved"));
-        QCOMPARE(o.value("folderURL").toString(),
-                 QStringLiteral("file:///media/user/TESLA%20DRIVE/TeslaCam/SavedClips/2026-07-21_02-11-05"));
-        QCOMPARE(QStringList(o.value("clips").toArray().at(0).toObject().keys()),
-                 QStringList({"camera", "duration", "fileSize", "health", "startDate", "url"}));
-        QCOMPARE(QStringList(o.value("reason").toObject().keys()), QStringList({"accelValue", "category", "raw"}));
-        QVERIFY(!o.contains("id"));
-        QVERIFY(!o.contains("totalBytes"));
+        for (const char *text : {R"({})", R"({"exFAT":{},"apfs":{}})", R"({"ntfs":{}})", R"({"other":{}})"})
+            QVERIFY_THROWS_EXCEPTION(JsonCoding::DecodingError, VolumeFormat::fromJson(JsonCoding::parseObject(text)));
 
         // Absent optionals are omitted, and read back as absent.
         TeslaEvent bare;
@@ -172,7 +129,6 @@ private Q_SLOTS:
         const QJsonObject b = bare.toJson();
         for (const char *key : {"city", "latitude", "longitude", "reasonRaw", "triggerCameraRaw", "thumbURL"})
             QVERIFY2(!b.contains(QLatin1String(key)), key);
-        QCOMPARE(QStringList(b.value("reason").toObject().keys()), QStringList({"category"}));
         QCOMPARE(roundTrip(bare), bare);
     }
 

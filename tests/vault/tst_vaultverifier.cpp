@@ -17,12 +17,6 @@ void overwrite(const QString &path, const QByteArray &bytes)
     QCOMPARE(f.write(bytes), bytes.size());
 }
 
-QByteArray readAll(const QString &path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
-
 } // namespace
 
 class TestVaultVerifier : public QObject {
@@ -73,14 +67,14 @@ private Q_SLOTS:
         const ArchivedEvent &first = report.archivedEvents[0];
         const ArchivedEvent &second = report.archivedEvents[1];
         const QString changedFile = root + first.relativePath + "/" + first.files[1].name;
-        QByteArray bytes = readAll(changedFile);
+        QByteArray bytes = DriveBuilder::readQuietly(changedFile);
         bytes[bytes.size() / 2] = char(bytes[bytes.size() / 2] ^ 0x01);
         overwrite(changedFile, bytes);
         QVERIFY(QFile::remove(root + second.relativePath + "/" + second.files[0].name));
         VaultIndex index = VaultIndex::load(vault.path());
         index.events[2].expectedFileCount = 5;
         index.save(vault.path());
-        const QByteArray manifest = readAll(vault.filePath("manifest.json"));
+        const QByteArray manifest = DriveBuilder::readQuietly(vault.filePath("manifest.json"));
 
         // One event asked for: only it is read, and the Vault's date stays unset.
         const auto one = VaultVerifier::verify(vault.path(), {second.eventID});
@@ -107,7 +101,7 @@ private Q_SLOTS:
         QCOMPARE(log.events.size(), 3);
         for (const EventCheck &check : all.events)
             QCOMPARE(*log.find(check.eventID), check);
-        QCOMPARE(readAll(vault.filePath("manifest.json")), manifest);
+        QCOMPARE(DriveBuilder::readQuietly(vault.filePath("manifest.json")), manifest);
         QVERIFY(QFile::exists(vault.filePath(VerificationLog::fileName)));
     }
 
