@@ -295,11 +295,12 @@ private Q_SLOTS:
         // Asked again and answered: the keep goes on by itself.
         state.keep({events[0]});
         QCOMPARE(wanted.count(), 2);
+        // Watched by its signals: a small keep may be over between two looks.
+        QSignalSpy archiving(&state, &AppState::isArchivingChanged);
         state.setVaultURL(vault);
-        QTRY_VERIFY_WITH_TIMEOUT(state.isArchiving(), 10000);
-        QVERIFY(state.hasCurrentArchiveTask());
-        QCOMPARE(state.archiveProgress()->totalEvents, 1);
         QTRY_VERIFY_WITH_TIMEOUT(state.showArchiveReport(), 20000);
+        QVERIFY(archiving.count() >= 2); // it ran, and it ended
+        QCOMPARE(state.lastArchiveReport()->plannedEvents, 1);
         QVERIFY(!state.isArchiving());
         QVERIFY(!state.archiveProgress());
         QVERIFY(!state.hasCurrentArchiveTask());

@@ -418,7 +418,6 @@ private Q_SLOTS:
         // A new movie of the same clips fails in the same plain words.
         failing.setLayout(CombinedExportOptions::Layout::grid);
         failing.startExport();
-        QVERIFY(failing.isExporting());
         QTRY_VERIFY_WITH_TIMEOUT(!failing.isExporting(), 30000);
         QCOMPARE(failing.errorMessage(), std::optional<QString>(ExportFlow::failureMessage));
         QVERIFY(failing.isCombined() && failing.canExport());
