@@ -83,6 +83,7 @@ int Mp4Writer::addStream(const AVCodecParameters *parameters, AVRational timeBas
         stream->codecpar->codec_tag = 0;
     stream->time_base = timeBase;
     lastDts_.push_back(AV_NOPTS_VALUE);
+    shift_.push_back(std::nullopt);
     return stream->index;
 }
 
@@ -105,9 +106,26 @@ void Mp4Writer::write(AVPacket *packet)
     int64_t &last = lastDts_[size_t(packet->stream_index)];
     if (packet->dts == AV_NOPTS_VALUE)
         packet->dts = packet->pts;
+    // A stream whose first packet lies more than a second before the
+    // movie's start was placed by a damaged header (an edit list or start
+    // time its data contradict): it starts with the movie instead.
+    const int64_t second = av_rescale_q(1, AVRational{1, 1}, timeBase(packet->stream_index));
+    std::optional<int64_t> &shift = shift_[size_t(packet->stream_index)];
+    if (!shift && packet->dts != AV_NOPTS_VALUE)
+        shift = packet->dts < -second ? -packet->dts : 0;
+    if (shift && *shift != 0) {
+        packet->dts += *shift;
+        if (packet->pts != AV_NOPTS_VALUE)
+            packet->pts += *shift;
+    }
     if (last != AV_NOPTS_VALUE && packet->dts != AV_NOPTS_VALUE && packet->dts <= last)
         packet->dts = last + 1;
     if (packet->pts != AV_NOPTS_VALUE && packet->dts != AV_NOPTS_VALUE && packet->pts < packet->dts)
+        packet->pts = packet->dts;
+    // A picture shown more than a second after it is decoded comes from a
+    // damaged composition table: written as it is, it would start the
+    // movie's edit list past its samples.
+    if (packet->pts != AV_NOPTS_VALUE && packet->dts != AV_NOPTS_VALUE && packet->pts - packet->dts > second)
         packet->pts = packet->dts;
     if (packet->dts != AV_NOPTS_VALUE)
         last = packet->dts;

@@ -7,6 +7,7 @@
 #include <exception>
 #include <functional>
 #include <stop_token>
+#include <optional>
 #include <vector>
 
 extern "C" {
@@ -64,6 +65,8 @@ private:
     Av::IoContext io_;
     Av::OutputContext format_;
     std::vector<int64_t> lastDts_;
+    // Per stream: what is added to its timestamps (see write()).
+    std::vector<std::optional<int64_t>> shift_;
     int64_t bytesWritten_ = 0;
     bool fileFailed_ = false;
     std::function<void(int64_t)> observer_;

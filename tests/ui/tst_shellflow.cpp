@@ -3,6 +3,7 @@
 #include "drive/DriveBoundary.h"
 #include "KeelholdApp.h"
 #include "playback/MediaSource.h"
+#include "engine/BookmarkStore.h"
 #include "playback/TrackPlayer.h"
 #include "support/FaultyFs.h"
 #include "support/IsolatedHome.h"
@@ -11,6 +12,7 @@
 #include "support/TeslaCamFixture.h"
 
 #include <QDir>
+#include <QJsonDocument>
 #include <QGuiApplication>
 #include <QProcess>
 #include <QQuickItem>
@@ -393,11 +395,14 @@ private Q_SLOTS:
         QTemporaryDir tmp;
         addOneEvent(tmp.filePath(QStringLiteral("USBSTICK/TeslaCam")));
         setOnboardingDone(true);
+        // No Vault folder yet: not even one an earlier test chose and removed.
+        BookmarkStore::clear(BookmarkKey::vaultFolder);
         start();
         AppState &state = app->appState();
         state.beginScan(tmp.filePath(QStringLiteral("USBSTICK/TeslaCam")));
         QTRY_VERIFY(state.driveScan() && state.driveScan()->events.size() == 1 && !state.isScanning());
         const QString id = state.driveScan()->events.front().id();
+        QVERIFY(!state.vaultURL());
 
         state.keepIDs({id});
         QFileDialog *dialog = FileDialogDriver::waitForDialog();
@@ -416,7 +421,8 @@ private Q_SLOTS:
         QVERIFY(FileDialogDriver::answer(vault));
         QTRY_COMPARE(state.vaultURL().value_or(QString()), vault);
         QTRY_VERIFY_WITH_TIMEOUT(state.showArchiveReport(), 20000);
-        QCOMPARE(state.lastArchiveReport()->completeEvents(), 1);
+        QVERIFY2(state.lastArchiveReport()->completeEvents() == 1,
+                 QJsonDocument(state.lastArchiveReport()->toJson()).toJson().constData());
         QCOMPARE(state.triageStateFor(id), QStringLiteral("kept"));
         QVERIFY(showing(QStringLiteral("Backup Complete")));
     }
@@ -731,8 +737,9 @@ private Q_SLOTS:
         QTRY_VERIFY(showing(QStringLiteral("Your car is encrypting this footage")));
         QVERIFY(visibleItem(window, QStringLiteral("switchDrive")));
         shoot(window, QStringLiteral("failure-encrypted-only"));
-        QVERIFY(click(window, QStringLiteral("emptyStateAction")));
-        QTRY_VERIFY(state.showEncryptionGuide());
+        // The screen may still be settling where the button lies: click until it answers.
+        QTRY_VERIFY(visibleItem(window, QStringLiteral("emptyStateAction")));
+        QTRY_VERIFY_WITH_TIMEOUT((click(window, QStringLiteral("emptyStateAction")), state.showEncryptionGuide()), 10000);
         QTRY_VERIFY(showing(QStringLiteral("Recording without encryption")));
         shoot(window, QStringLiteral("encryption-guide"));
         state.setShowEncryptionGuide(false);
