@@ -2,6 +2,10 @@
 
 #include "export/ExportComposition.h"
 #include "export/ExportSession.h"
+
+#include <QFile>
+#include "media/ClipReader.h"
+#include "media/MediaClip.h"
 #include "export/ProgressRelay.h"
 #include "base/CancellationError.h"
 #include "base/IOWatchdog.h"
@@ -65,6 +69,18 @@ void exportFootage(Camera camera, const TeslaEvent &event, std::optional<std::pa
             stop);
     } catch (const CancellationError &) {
         throw ExportError(ExportError::cancelled);
+    }
+    // What is handed over must hold up: a movie whose own header its data
+    // contradict (a damaged clip's time table slipping through) is not given out.
+    MediaClip::Options options;
+    options.streamInfo = MediaClip::StreamInfo::always;
+    options.checkHeader = true;
+    options.reader = &ClipReaders::openFile;
+    const auto written = MediaClip::open(destination, stop, options);
+    if (!written->isOpened() || written->facts().verdict != HeaderCheck::ClipFacts::Verdict::sound) {
+        QFile::remove(destination);
+        throw ExportError::failed(
+            QStringLiteral("This camera's clips are too damaged to make a movie that keeps its own timing."));
     }
 }
 

@@ -118,6 +118,16 @@ void Mp4Writer::write(AVPacket *packet)
         if (packet->pts != AV_NOPTS_VALUE)
             packet->pts += *shift;
     }
+    // Nor does footage jump ahead by more than ten seconds within a stream
+    // (clips follow on, a new movie runs at its frame rate): such a jump is
+    // a damaged time table, and what follows it follows on instead.
+    if (shift && last != AV_NOPTS_VALUE && packet->dts != AV_NOPTS_VALUE && packet->dts - last > 10 * second) {
+        const int64_t pull = packet->dts - last - std::max<int64_t>(packet->duration, 1);
+        *shift -= pull;
+        packet->dts -= pull;
+        if (packet->pts != AV_NOPTS_VALUE)
+            packet->pts -= pull;
+    }
     if (last != AV_NOPTS_VALUE && packet->dts != AV_NOPTS_VALUE && packet->dts <= last)
         packet->dts = last + 1;
     if (packet->pts != AV_NOPTS_VALUE && packet->dts != AV_NOPTS_VALUE && packet->pts < packet->dts)
