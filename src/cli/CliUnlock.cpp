@@ -54,7 +54,10 @@ QByteArray token(const QCommandLineParser &parser, const QCommandLineOption &opt
     if (parser.isSet(option))
         return readTokenFile(parser.value(option), error).value_or(QByteArray());
     QNetworkAccessManager network;
-    return QCoro::waitFor(SignInLink::restore(network)).access;
+    const SignInLink::Tokens restored = QCoro::waitFor(SignInLink::restore(network));
+    if (!restored.rememberNote.isEmpty())
+        std::fprintf(stderr, "%s\n", qPrintable(restored.rememberNote));
+    return restored.access;
 }
 
 KeyCheck ensureKeys(const std::vector<ClipRef> &clips, const QByteArray &token, const QString &vaultURL)

@@ -61,9 +61,12 @@ QString wallClock(const EventTelemetry::Sample &s)
     return QDateTime(local.date(), local.time()).toString(Qt::ISODateWithMs);
 }
 
+// GPX times are UTC: only the clip's header knows it, so a point of a clip
+// without one goes without a time rather than with the computer's zone.
 QString utcTime(const EventTelemetry::Sample &s)
 {
-    return s.track->wallClock(s.mediaTime).toQDateTime().toUTC().toString(Qt::ISODateWithMs);
+    const std::optional<Date> utc = s.track->utcTime(s.mediaTime);
+    return utc ? utc->toQDateTime().toUTC().toString(Qt::ISODateWithMs) : QString();
 }
 
 QByteArray csv(const EventTelemetry &telemetry)
@@ -147,7 +150,8 @@ QByteArray gpx(const TeslaEvent &event, const EventTelemetry &telemetry)
         xml.writeStartElement(QStringLiteral("trkpt"));
         xml.writeAttribute(QStringLiteral("lat"), number(r.latitude));
         xml.writeAttribute(QStringLiteral("lon"), number(r.longitude));
-        xml.writeTextElement(QStringLiteral("time"), utcTime(s));
+        if (const QString time = utcTime(s); !time.isEmpty())
+            xml.writeTextElement(QStringLiteral("time"), time);
         xml.writeEndElement();
         lastPoint = std::pair(r.latitude, r.longitude);
     }

@@ -6,6 +6,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLockFile>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -81,6 +82,23 @@ QString folderOf(const QString &path)
     return path.section(QLatin1Char('/'), 0, -2);
 }
 
+// Adds or replaces by key block; records older than the fingerprint match
+// by file, key id and VIN.
+void upsert(std::vector<KeyEntry> &entries, const KeyEntry &entry)
+{
+    if (entry.key.size() != Ecryptfs::fileKeySize)
+        return;
+    const auto same = std::find_if(entries.begin(), entries.end(), [&](const KeyEntry &e) {
+        if (entry.fingerprint.isEmpty())
+            return e.fingerprint.isEmpty() && e.file == entry.file && e.keyId == entry.keyId && e.vin == entry.vin;
+        return e.fingerprint == entry.fingerprint;
+    });
+    if (same != entries.end())
+        *same = entry;
+    else
+        entries.push_back(entry);
+}
+
 } // namespace
 
 namespace PrivateFile {
@@ -139,32 +157,46 @@ void KeyStore::loadLocked()
         entries_ = parseEntries(*data);
 }
 
-std::optional<QByteArray> KeyStore::find(const Ecryptfs::KeyBlock &block)
+std::optional<QByteArray> KeyStore::findLocked(const QString &fingerprint) const
 {
-    const QString fingerprint = block.fingerprint();
-    std::lock_guard lock(mutex_);
-    loadLocked();
     for (const KeyEntry &e : entries_)
         if (e.fingerprint == fingerprint)
             return e.key;
     return std::nullopt;
 }
 
+std::optional<QByteArray> KeyStore::find(const Ecryptfs::KeyBlock &block)
+{
+    const QString fingerprint = block.fingerprint();
+    std::lock_guard lock(mutex_);
+    loadLocked();
+    if (auto key = findLocked(fingerprint))
+        return key;
+    if (const auto data = readSmall(path_)) {
+        for (const KeyEntry &e : parseEntries(*data))
+            upsert(entries_, e);
+    }
+    return findLocked(fingerprint);
+}
+
 bool KeyStore::add(const std::vector<KeyEntry> &entries)
 {
     std::lock_guard lock(mutex_);
     loadLocked();
-    for (const KeyEntry &added : entries) {
-        if (added.fingerprint.isEmpty() || added.key.size() != Ecryptfs::fileKeySize)
-            continue;
-        auto same = std::find_if(entries_.begin(), entries_.end(),
-                                 [&](const KeyEntry &e) { return e.fingerprint == added.fingerprint; });
-        if (same != entries_.end())
-            *same = added;
-        else
-            entries_.push_back(added);
-    }
+    for (const KeyEntry &added : entries)
+        upsert(entries_, added);
     QDir().mkpath(folderOf(path_));
+    // Another process's keys are read back under the same lock file, so
+    // neither write drops the other's.
+    QLockFile writing(path_ + QStringLiteral(".lock"));
+    if (!writing.tryLock(5000))
+        return false;
+    std::vector<KeyEntry> merged;
+    if (const auto data = readSmall(path_))
+        merged = parseEntries(*data);
+    for (const KeyEntry &e : entries_)
+        upsert(merged, e);
+    entries_ = merged;
     return PrivateFile::write(path_, serialise(entries_, true));
 }
 
@@ -211,12 +243,12 @@ std::optional<QByteArray> keyFor(const QString &clipPath)
     return keyFor(clipPath, Ecryptfs::read(clipPath));
 }
 
-int storeBeside(const QString &eventFolder, const std::vector<QString> &clipPaths)
+int storeBeside(const QString &eventFolder, const std::vector<QString> &clipPaths, KeyStore &store)
 {
     std::vector<KeyEntry> entries;
     for (const QString &path : clipPaths) {
         const Ecryptfs::Header header = Ecryptfs::read(path);
-        const auto key = keyFor(path, header);
+        const auto key = keyFor(path, header, store);
         if (!key)
             continue;
         entries.push_back({fileNameOf(path), header.keyBlock.keyId, header.keyBlock.vin, *key,

@@ -28,13 +28,18 @@ public:
     static KeyStore &shared();
     explicit KeyStore(QString path);
 
+    // Looks in the file again on a miss: the command line and the app may
+    // both be fetching keys.
     std::optional<QByteArray> find(const Ecryptfs::KeyBlock &block);
-    // Adds or replaces; answers whether the file was written.
+    // Adds or replaces, merged with what another process wrote meanwhile;
+    // answers whether the file was written. The keys stay held for this
+    // process either way.
     bool add(const std::vector<KeyEntry> &entries);
     const QString &path() const { return path_; }
 
 private:
     void loadLocked();
+    std::optional<QByteArray> findLocked(const QString &fingerprint) const;
 
     QString path_;
     std::mutex mutex_;
@@ -62,7 +67,8 @@ std::optional<QByteArray> keyFor(const QString &clipPath);
 
 // Writes the keys held for these clips (copies in one kept event folder)
 // into that folder's hidden key file. Answers how many it wrote.
-int storeBeside(const QString &eventFolder, const std::vector<QString> &clipPaths);
+int storeBeside(const QString &eventFolder, const std::vector<QString> &clipPaths,
+                KeyStore &store = KeyStore::shared());
 
 } // namespace KeyRing
 

@@ -8,11 +8,29 @@
 extern "C" {
 #include <libavcodec/packet.h>
 #include <libavformat/avformat.h>
+#include <libavutil/parseutils.h>
 }
 
 #include <memory>
 
 namespace TelemetryReader {
+
+namespace {
+
+// The header's creation time, which the car sets from its GPS clock; a
+// movie that gives none (or the muxer's zero) has no known UTC start.
+std::optional<Date> headerStart(const AVFormatContext *format)
+{
+    const AVDictionaryEntry *entry = av_dict_get(format->metadata, "creation_time", nullptr, 0);
+    if (!entry || !entry->value)
+        return std::nullopt;
+    int64_t micros = 0; // since 1970, UTC: the header's times carry no zone
+    if (av_parse_time(&micros, entry->value, 0) < 0 || micros <= 0)
+        return std::nullopt;
+    return Date::fromUnixSeconds(double(micros) / 1e6);
+}
+
+} // namespace
 
 std::optional<TelemetryTrack> readClip(const ClipRef &clip, std::stop_token stop)
 {
@@ -56,7 +74,9 @@ std::optional<TelemetryTrack> readClip(const ClipRef &clip, std::stop_token stop
     // The end of the file, a damaged tail or a failed read: what was read stands.
     if (stop.stop_requested())
         throw CancellationError();
-    return TelemetryTrack::make(clip, duration, std::move(frames));
+    TelemetryTrack track = TelemetryTrack::make(clip, duration, std::move(frames));
+    track.headerStart = headerStart(format);
+    return track;
 }
 
 } // namespace TelemetryReader

@@ -19,6 +19,9 @@ struct TelemetryTrack {
     double duration = 0.0;              // the clip's media length in seconds
     std::vector<double> frameTimes;     // every frame, ascending
     std::vector<TelemetryRecord> records; // ascending frameIndex, at most one a frame
+    // When the clip began by the car's GPS clock, from its header: the one
+    // time of the clip that is known to be UTC. The name's is the car's own.
+    std::optional<Date> headerStart;
 
     // Puts the frames in presentation order and numbers them.
     static TelemetryTrack make(const ClipRef &clip, double duration, std::vector<Frame> frames);
@@ -32,6 +35,13 @@ struct TelemetryTrack {
     const TelemetryRecord *recordOfFrame(int frameIndex) const;
     // When the frame was taken: the clip's start plus its time.
     Date wallClock(double mediaTime) const { return clip.startDate.addingTimeInterval(mediaTime); }
+    // The same by the GPS clock; none when the header gives no start.
+    std::optional<Date> utcTime(double mediaTime) const
+    {
+        if (!headerStart)
+            return std::nullopt;
+        return headerStart->addingTimeInterval(mediaTime);
+    }
 
     bool operator==(const TelemetryTrack &) const = default;
 };

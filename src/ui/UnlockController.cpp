@@ -225,8 +225,14 @@ QCoro::Task<void> UnlockController::unlockTask(QPointer<UnlockController> self, 
         if (!renewed.access.isEmpty()) {
             self->token_.setTokens(renewed.access, renewed.refresh);
             if (self->token_.isRemembered()) {
+                // The remembered sign-in was spent by the renewal: say so if its successor can't be kept.
                 QCoro::Task<TokenHolder::StoreResult> storing = TokenHolder::store(self->token_.secretToStore());
-                co_await storing;
+                const TokenHolder::StoreResult stored = co_await storing;
+                if (self && !stored.ok) {
+                    self->token_.setRemembered(false);
+                    self->rememberNote_ = stored.sentence;
+                    Q_EMIT self->signInChanged();
+                }
             }
             if (self) {
                 QCoro::Task<bool> again = fetchKeys(self);
@@ -335,7 +341,9 @@ QCoro::Task<void> UnlockController::loadTask(QPointer<UnlockController> self)
     if (restored.access.isEmpty() || self->token_.hasToken())
         co_return;
     self->token_.setTokens(restored.access, restored.refresh);
-    self->token_.setRemembered(true);
+    self->token_.setRemembered(restored.rememberNote.isEmpty());
+    self->rememberNote_ = restored.rememberNote;
+    Q_EMIT self->signInChanged();
 }
 
 void UnlockController::openViewer() const

@@ -66,6 +66,9 @@ QString sentence(Outcome outcome)
         return QCoreApplication::translate("KeyService",
                                            "The key Tesla's service sent doesn't open this clip, so it can't be "
                                            "unlocked.");
+    case Outcome::unreadable:
+        return QCoreApplication::translate("KeyService",
+                                           "This clip couldn't be read from the drive, so it can't be unlocked.");
     }
     return {};
 }

@@ -37,6 +37,7 @@ enum class Outcome {
     damagedHeader,   // never sent
     notSignedIn,     // no token given or stored
     keyDoesNotFit,   // a key came that doesn't open the file
+    unreadable,      // never sent: the drive didn't give the clip's header
 };
 
 // One sentence for each outcome but `key`.

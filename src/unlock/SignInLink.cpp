@@ -181,13 +181,15 @@ QCoro::Task<Tokens> restore(QNetworkAccessManager &network)
         co_return Tokens{};
     const std::optional<QByteArray> refreshToken = refreshTokenIn(*stored);
     if (!refreshToken)
-        co_return Tokens{*stored, {}, {}};
+        co_return Tokens{*stored, {}, {}, {}};
     QCoro::Task<Tokens> renewing = refresh(network, *refreshToken);
     Tokens renewed = co_await renewing;
     // The old refresh token is spent: only its successor can renew again.
     if (!renewed.refresh.isEmpty()) {
         QCoro::Task<TokenHolder::StoreResult> storing = TokenHolder::store(storedForm(renewed.refresh));
-        co_await storing;
+        const TokenHolder::StoreResult stored = co_await storing;
+        if (!stored.ok)
+            renewed.rememberNote = stored.sentence;
     }
     co_return renewed;
 }

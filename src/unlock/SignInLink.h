@@ -37,6 +37,9 @@ struct Tokens {
     QByteArray access;
     QByteArray refresh;
     QString error; // a sentence, when no access token came
+    // A sentence, when a renewed sign-in couldn't be remembered again: the
+    // remembered one is spent, so the next start will ask for a sign-in.
+    QString rememberNote;
 };
 QCoro::Task<Tokens> exchange(QNetworkAccessManager &network, Attempt attempt, QByteArray code);
 QCoro::Task<Tokens> refresh(QNetworkAccessManager &network, QByteArray refreshToken);

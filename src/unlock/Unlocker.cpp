@@ -1,10 +1,12 @@
 #include "unlock/Unlocker.h"
 
 #include "crypt/EcryptfsReader.h"
+#include "base/IOWatchdog.h"
 #include "crypt/KeyStore.h"
 #include "drive/EcryptfsHeader.h"
 #include "unlock/KeyServiceClient.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QMap>
@@ -20,17 +22,28 @@ namespace {
 struct Looked {
     Ecryptfs::Header header;
     bool held = false;
+    bool answered = true; // false: the drive didn't give the header in time
 };
 
-std::vector<Looked> lookUp(const std::vector<QString> &paths)
+// Each header is read under the limit: a drive that stops answering costs
+// the clip it stopped on, not the whole unlock.
+std::vector<Looked> lookUp(const std::vector<QString> &paths, std::chrono::milliseconds limit, KeyStore *store)
 {
     std::vector<Looked> looked;
     looked.reserve(paths.size());
     for (const QString &path : paths) {
-        Looked l;
-        l.header = Ecryptfs::read(path);
-        l.held = KeyRing::keyFor(path, l.header).has_value();
-        looked.push_back(std::move(l));
+        try {
+            looked.push_back(IOWatchdog::run(limit, [path, store](std::stop_token) {
+                Looked l;
+                l.header = Ecryptfs::read(path);
+                l.held = KeyRing::keyFor(path, l.header, *store).has_value();
+                return l;
+            }));
+        } catch (const IOWatchdog::TimedOut &) {
+            Looked l;
+            l.answered = false;
+            looked.push_back(std::move(l));
+        }
     }
     return looked;
 }
@@ -41,8 +54,14 @@ struct Fetched {
     QByteArray key;
 };
 
-// Keeps each key that opens its file; answers which did.
-std::vector<bool> keepFitting(const std::vector<Fetched> &fetched, const QString &vaultURL)
+struct Kept {
+    std::vector<bool> fits;
+    bool saved = true;
+};
+
+// Keeps each key that opens its file; answers which did, and whether the
+// store took them.
+Kept keepFitting(const std::vector<Fetched> &fetched, const QString &vaultURL, KeyStore &store)
 {
     std::vector<bool> fits;
     std::vector<KeyEntry> entries;
@@ -58,17 +77,17 @@ std::vector<bool> keepFitting(const std::vector<Fetched> &fetched, const QString
         if (!vaultPrefix.isEmpty() && QDir::cleanPath(f.path).startsWith(vaultPrefix))
             besideVault[QFileInfo(f.path).path()].push_back(f.path);
     }
-    if (!entries.empty())
-        KeyStore::shared().add(entries);
+    const bool saved = entries.empty() || store.add(entries);
     for (auto it = besideVault.cbegin(); it != besideVault.cend(); ++it)
-        KeyRing::storeBeside(it.key(), it.value());
-    return fits;
+        KeyRing::storeBeside(it.key(), it.value(), store);
+    return {std::move(fits), saved};
 }
 
 } // namespace
 
-Unlocker::Unlocker(QNetworkAccessManager &network, QUrl batchURL, std::chrono::milliseconds answerLimit)
-    : network_(network), batchURL_(std::move(batchURL)), answerLimit_(answerLimit)
+Unlocker::Unlocker(QNetworkAccessManager &network, QUrl batchURL, std::chrono::milliseconds answerLimit,
+                   std::chrono::milliseconds readLimit, KeyStore &store)
+    : network_(network), batchURL_(std::move(batchURL)), answerLimit_(answerLimit), readLimit_(readLimit), store_(store)
 {
 }
 
@@ -77,7 +96,8 @@ QCoro::Task<std::vector<Unlocker::FileOutcome>> Unlocker::unlock(std::vector<QSt
 {
     // Futures are named before they are awaited: g++ 12 destroys a lambda
     // temporary of an awaited full-expression twice.
-    QFuture<std::vector<Looked>> lookup = QtConcurrent::run([paths] { return lookUp(paths); });
+    QFuture<std::vector<Looked>> lookup =
+        QtConcurrent::run([paths, limit = readLimit_, store = &store_] { return lookUp(paths, limit, store); });
     const std::vector<Looked> looked = co_await lookup;
 
     std::vector<FileOutcome> outcomes(paths.size());
@@ -86,6 +106,10 @@ QCoro::Task<std::vector<Unlocker::FileOutcome>> Unlocker::unlock(std::vector<QSt
     for (size_t i = 0; i < paths.size(); ++i) {
         outcomes[i].path = paths[i];
         const Looked &l = looked[i];
+        if (!l.answered) {
+            outcomes[i].outcome = Outcome::unreadable;
+            continue;
+        }
         switch (l.header.state) {
         case Ecryptfs::Header::State::zeroKeyBlock: outcomes[i].outcome = Outcome::zeroKeyBlock; continue;
         case Ecryptfs::Header::State::damaged:
@@ -118,11 +142,13 @@ QCoro::Task<std::vector<Unlocker::FileOutcome>> Unlocker::unlock(std::vector<QSt
     }
     if (fetched.empty())
         co_return outcomes;
-    QFuture<std::vector<bool>> keeping = QtConcurrent::run([fetched, vaultURL] { return keepFitting(fetched, vaultURL); });
-    const std::vector<bool> fits = co_await keeping;
-    for (size_t k = 0; k < fits.size(); ++k) {
-        outcomes[fetchedIndex[k]].outcome = fits[k] ? Outcome::key : Outcome::keyDoesNotFit;
-        outcomes[fetchedIndex[k]].fetched = fits[k];
+    QFuture<Kept> keeping =
+        QtConcurrent::run([fetched, vaultURL, store = &store_] { return keepFitting(fetched, vaultURL, *store); });
+    const Kept kept = co_await keeping;
+    for (size_t k = 0; k < kept.fits.size(); ++k) {
+        outcomes[fetchedIndex[k]].outcome = kept.fits[k] ? Outcome::key : Outcome::keyDoesNotFit;
+        outcomes[fetchedIndex[k]].fetched = kept.fits[k];
+        outcomes[fetchedIndex[k]].saved = !kept.fits[k] || kept.saved;
     }
     co_return outcomes;
 }
@@ -132,12 +158,17 @@ QStringList Unlocker::sentences(const std::vector<FileOutcome> &outcomes)
     // A sign-in problem first: it is the one the user can fix at once.
     static const Outcome order[] = {Outcome::notSignedIn,    Outcome::signInExpired,  Outcome::unreachable,
                                     Outcome::refused,        Outcome::malformedAnswer, Outcome::ownershipNotConfirmed,
-                                    Outcome::keyDoesNotFit,  Outcome::zeroKeyBlock,   Outcome::damagedHeader};
+                                    Outcome::keyDoesNotFit,  Outcome::zeroKeyBlock,   Outcome::damagedHeader,
+                                    Outcome::unreadable};
     QStringList out;
     for (const Outcome o : order) {
         if (std::any_of(outcomes.begin(), outcomes.end(), [o](const FileOutcome &f) { return f.outcome == o; }))
             out.append(KeyService::sentence(o));
     }
+    if (std::any_of(outcomes.begin(), outcomes.end(), [](const FileOutcome &f) { return !f.saved; }))
+        out.append(QCoreApplication::translate("Unlocker",
+                                               "The keys couldn't be saved on this computer, so they work until "
+                                               "Keelhold quits and will be asked for again next time."));
     return out;
 }
 

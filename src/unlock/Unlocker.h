@@ -1,5 +1,7 @@
 #pragma once
 
+#include "crypt/KeyStore.h"
+#include "drive/ClipProber.h"
 #include "unlock/KeyService.h"
 
 #include <QByteArray>
@@ -22,10 +24,15 @@ public:
         QString path;
         KeyService::Outcome outcome = KeyService::Outcome::malformedAnswer;
         bool fetched = false; // the key came from the service just now
+        bool saved = true;    // false: fetched, but the app's key store couldn't be written
     };
 
+    // readLimit: how long a clip's header may take to read before the clip
+    // counts as unreadable.
     explicit Unlocker(QNetworkAccessManager &network, QUrl batchURL = KeyService::batchURL(),
-                      std::chrono::milliseconds answerLimit = KeyService::answerLimit);
+                      std::chrono::milliseconds answerLimit = KeyService::answerLimit,
+                      std::chrono::milliseconds readLimit = ClipProber::defaultTimeout,
+                      KeyStore &store = KeyStore::shared());
 
     // One outcome per path, in path order. vaultURL: the Vault folder, whose
     // kept events get the keys beside them; empty for none.
@@ -39,4 +46,6 @@ private:
     QNetworkAccessManager &network_;
     QUrl batchURL_;
     std::chrono::milliseconds answerLimit_;
+    std::chrono::milliseconds readLimit_;
+    KeyStore &store_;
 };

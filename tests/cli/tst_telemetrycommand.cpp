@@ -90,7 +90,10 @@ private Q_SLOTS:
             TeslaCamFixture::eventJson(QStringLiteral("2024-06-02T09:00:00"), QStringLiteral("user_interaction_honk")));
         for (int clip = 0; clip < 2; ++clip) {
             const QString source = path(QStringLiteral("records-%1.mp4").arg(clip));
-            TelemetryClipWriter::remux(plain, source, [clip](int frame, double) { return record(clip, frame); });
+            // The first clip's header says it began at 13:59 UTC (the car's
+            // clock in its name is five hours behind); the second's says nothing.
+            TelemetryClipWriter::remux(plain, source, [clip](int frame, double) { return record(clip, frame); }, false,
+                                       clip ? QString() : QStringLiteral("2024-06-02T13:59:00Z"));
             fixture.addClip(saved, clip ? QStringLiteral("2024-06-02_08-59-10") : QStringLiteral("2024-06-02_08-59-00"),
                             QStringLiteral("front"), 0, source);
         }
@@ -183,12 +186,14 @@ private Q_SLOTS:
         }
         QVERIFY2(!xml.hasError(), qPrintable(xml.errorString()));
         // One line per clip, ten seconds apart; one point per new fix, and
-        // one for all the time the car stood.
+        // one for all the time the car stood. Times are UTC from the header,
+        // whatever the computer's zone, and a clip without one gives none.
         QCOMPARE(segments, 2);
         QCOMPARE(points.size(), 27 + 1);
         QCOMPARE(points.first(), QStringLiteral("30.5 -97.75"));
-        QCOMPARE(times.first(), QStringLiteral("2024-06-02T08:59:00.000Z"));
-        QCOMPARE(times.size(), points.size());
+        QCOMPARE(times.size(), 27);
+        QCOMPARE(times.first(), QStringLiteral("2024-06-02T13:59:00.000Z"));
+        QCOMPARE(times.at(1), QStringLiteral("2024-06-02T13:59:00.111Z"));
     }
 
     void theSameFromTheVault()

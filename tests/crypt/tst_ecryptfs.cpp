@@ -253,6 +253,31 @@ private Q_SLOTS:
         QCOMPARE(KeyRing::keyFor(kept, Ecryptfs::read(kept), elsewhere), EcryptfsWriter::fileKey(9));
         QVERIFY(!KeyRing::keyFor(onDrive, header, elsewhere));
     }
+
+    // The app and the command line fetching keys at once: each store writes
+    // what the other wrote meanwhile too, and finds it without a restart.
+    void twoStoresOnOneFileKeepEachOthersKeys()
+    {
+        const QString file = path(QStringLiteral("shared/keys.json"));
+        KeyStore app(file), cli(file);
+        auto blockOf = [this](quint32 seed) {
+            const QString clip = path(QStringLiteral("shared-%1.mp4").arg(seed));
+            EcryptfsWriter::encryptFile(TestClips::clip(), clip, EcryptfsWriter::fileKey(seed),
+                                        EcryptfsWriter::keyBlock(seed));
+            return Ecryptfs::read(clip).keyBlock;
+        };
+        const Ecryptfs::KeyBlock first = blockOf(21), second = blockOf(22);
+        QVERIFY(!app.find(first)); // both have read the file before either writes
+        QVERIFY(!cli.find(second));
+        QVERIFY(app.add({{QStringLiteral("a.mp4"), first.keyId, first.vin, EcryptfsWriter::fileKey(21),
+                          first.fingerprint()}}));
+        QVERIFY(cli.add({{QStringLiteral("b.mp4"), second.keyId, second.vin, EcryptfsWriter::fileKey(22),
+                          second.fingerprint()}}));
+        QCOMPARE(KeyStore(file).find(first), EcryptfsWriter::fileKey(21));
+        QCOMPARE(KeyStore(file).find(second), EcryptfsWriter::fileKey(22));
+        QCOMPARE(app.find(second), EcryptfsWriter::fileKey(22));
+        QCOMPARE(modeOf(file), 0600);
+    }
 };
 
 KEELHOLD_ISOLATED_TEST_MAIN(TestEcryptfs)

@@ -94,7 +94,8 @@ QByteArray seiUnit(const FrameRecord &record, bool hevc)
     return header + escape(rbsp);
 }
 
-void remux(const QString &source, const QString &dest, const RecordFor &recordFor, bool faststart)
+void remux(const QString &source, const QString &dest, const RecordFor &recordFor, bool faststart,
+           const QString &creationTime)
 {
     AVFormatContext *opened = nullptr;
     if (avformat_open_input(&opened, QFile::encodeName(source).constData(), nullptr, nullptr) < 0)
@@ -138,6 +139,8 @@ void remux(const QString &source, const QString &dest, const RecordFor &recordFo
     const Av::OutputContext output(made);
     AVFormatContext *out = output.get();
     out->flags |= AVFMT_FLAG_BITEXACT; // the same bytes on every build
+    if (!creationTime.isEmpty())
+        av_dict_set(&out->metadata, "creation_time", creationTime.toLatin1().constData(), 0);
     for (unsigned i = 0; i < in->nb_streams; ++i) {
         AVStream *s = avformat_new_stream(out, nullptr);
         if (!s || avcodec_parameters_copy(s->codecpar, in->streams[i]->codecpar) < 0)

@@ -37,9 +37,11 @@ struct FrameRecord {
 using RecordFor = std::function<std::optional<FrameRecord>(int frame, double time)>;
 
 // Copies source to dest with the records recordFor gives; with faststart
-// the index goes before the samples. Throws std::runtime_error when a movie
-// can't be read or written.
-void remux(const QString &source, const QString &dest, const RecordFor &recordFor, bool faststart = false);
+// the index goes before the samples; creationTime (ISO 8601, UTC), when
+// given, goes into the header as the car's GPS clock puts it there. Throws
+// std::runtime_error when a movie can't be read or written.
+void remux(const QString &source, const QString &dest, const RecordFor &recordFor, bool faststart = false,
+           const QString &creationTime = {});
 
 // The user-data payload: marker and message, damaged as asked.
 QByteArray payload(const FrameRecord &record);

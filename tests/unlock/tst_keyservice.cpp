@@ -1,6 +1,7 @@
 #include "crypt/KeyStore.h"
 #include "support/EcryptfsWriter.h"
 #include "support/EncryptedDrive.h"
+#include "support/FaultyFs.h"
 #include "support/IsolatedHome.h"
 #include "support/KeyServiceStandIn.h"
 #include "support/TestClips.h"
@@ -173,6 +174,44 @@ private Q_SLOTS:
         QCOMPARE(service.requests().size(), size_t(2));
         QCOMPARE(Unlocker::sentences(outcomes), QStringList{KeyService::sentence(Outcome(expected))});
         QVERIFY(!KeyRing::keyFor(paths.first()));
+    }
+
+    // A header the drive never gives costs its clip after the read limit;
+    // keys the app's store can't take still open their clips until the app
+    // quits, and the user is told they will be asked for again.
+    void aHangingHeaderAndAFullStoreCostOnlyWhatTheyMust()
+    {
+        if (!FaultyFs::available())
+            QSKIP("needs root and /dev/fuse");
+        KeyServiceStandIn service;
+        service.setAcceptedToken(token);
+        EncryptedDrive drive(dir_.filePath(QStringLiteral("h/TeslaCam")), plainClip(), &service);
+        const QString readable = drive.addClip(dir_.filePath(QStringLiteral("h/fresh")),
+                                               QStringLiteral("2026-07-27_10-00-00"), QStringLiteral("front"), 700);
+        QDir().mkpath(dir_.filePath(QStringLiteral("h/fuse")));
+        FaultyFs fuse(dir_.filePath(QStringLiteral("h/fuse")));
+        QVERIFY(fuse.isMounted());
+        QFile plain(plainClip());
+        QVERIFY(plain.open(QIODevice::ReadOnly));
+        service.addKey(EcryptfsWriter::keyBlock(701).wrappedKey, EcryptfsWriter::fileKey(701));
+        const QString held = fuse.addHeldFile(
+            QStringLiteral("2026-07-27_10-01-00-front.mp4"),
+            EcryptfsWriter::encrypt(plain.readAll(), EcryptfsWriter::fileKey(701), EcryptfsWriter::keyBlock(701)));
+
+        KeyStore full(QStringLiteral("/dev/null/keys.json")); // its folder is a file: nothing can be written
+        Unlocker unlocker(network_, urlOf(service), KeyService::answerLimit, 300ms, full);
+        const auto outcomes = QCoro::waitFor(unlocker.unlock({held, readable}, token));
+        fuse.release();
+        QCOMPARE(outcomesOf(outcomes), (std::vector<Outcome>{Outcome::unreadable, Outcome::key}));
+        QVERIFY(outcomes[1].fetched);
+        QVERIFY(!outcomes[1].saved);
+        QCOMPARE(service.requests().size(), size_t(1));
+        QCOMPARE(service.requests()[0].items, 1);
+        QCOMPARE(KeyRing::keyFor(readable, Ecryptfs::read(readable), full), EcryptfsWriter::fileKey(700));
+        const QStringList sentences = Unlocker::sentences(outcomes);
+        QCOMPARE(sentences.size(), 2);
+        QCOMPARE(sentences.first(), KeyService::sentence(Outcome::unreadable));
+        QVERIFY(sentences.last().contains(QLatin1String("couldn't be saved")));
     }
 
     void nothingIsSentWithoutATokenOrToAPlainRemoteAddress()
