@@ -236,7 +236,13 @@ int run(const QStringList &arguments)
         if (event->encrypted) {
             std::vector<ClipRef> clips;
             std::copy_if(event->clips.begin(), event->clips.end(), std::back_inserter(clips),
-                         [&](const ClipRef &c) { return combined || c.camera == *camera; });
+                         [&](const ClipRef &c) {
+                             if (!combined)
+                                 return c.camera == *camera;
+                             // The single layout shows one camera: only its keys are asked for.
+                             return options.layout != CombinedExportOptions::Layout::single || !options.camera
+                                 || c.camera == *options.camera;
+                         });
             QString error;
             const QByteArray token = CliUnlock::token(parser, tokenFile, &error);
             if (!error.isEmpty())

@@ -18,9 +18,9 @@ extern "C" {
 
 namespace {
 
-// Pages read and decrypted in one go: few system calls for a demuxer that
-// reads straight through, and little wasted work for one that seeks.
-constexpr qint64 pagesPerFill = 64;
+// The most pages read and decrypted in one go: a stop is noticed between
+// runs, and a run is read straight into the caller's buffer.
+constexpr qint64 pagesPerRun = 256;
 
 const EVP_MD *md5()
 {
@@ -85,10 +85,9 @@ EcryptfsReader::~EcryptfsReader()
         ::close(fd_);
 }
 
-bool EcryptfsReader::readCipher(qint64 page, qint64 pages)
+bool EcryptfsReader::readCipher(qint64 page, qint64 pages, uint8_t *into)
 {
     const size_t bytes = size_t(pages * Ecryptfs::pageSize);
-    cipherText_.resize(size_t(pagesPerFill * Ecryptfs::pageSize));
     size_t got = 0;
     const off_t start = off_t(Ecryptfs::payloadOffset + page * Ecryptfs::pageSize);
     while (got < bytes) {
@@ -96,7 +95,7 @@ bool EcryptfsReader::readCipher(qint64 page, qint64 pages)
             lastError_ = ECANCELED;
             return false;
         }
-        const ssize_t n = ::pread(fd_, cipherText_.data() + got, bytes - got, start + off_t(got));
+        const ssize_t n = ::pread(fd_, into + got, bytes - got, start + off_t(got));
         if (n < 0 && errno == EINTR)
             continue;
         if (n <= 0) {
@@ -110,40 +109,42 @@ bool EcryptfsReader::readCipher(qint64 page, qint64 pages)
 
 // Each page is chained on its own IV. One pass over the run chains every page
 // on the last block of the page before it instead; the first block of each
-// page is put right afterwards, which costs 16 bytes of XOR a page.
-bool EcryptfsReader::decryptRun(qint64 page, qint64 pages, uint8_t *plain)
+// page is put right afterwards, which costs 16 bytes of XOR a page. The pass
+// runs in place, so those last blocks are put aside first.
+bool EcryptfsReader::decryptInPlace(qint64 page, qint64 pages, uint8_t *data)
 {
     const auto *root = reinterpret_cast<const uint8_t *>(rootIV_.constData());
+    lastBlocks_.resize(size_t(pages * 16));
+    for (qint64 i = 0; i + 1 < pages; ++i)
+        std::memcpy(lastBlocks_.data() + i * 16, data + (i + 1) * Ecryptfs::pageSize - 16, 16);
     uint8_t iv[16];
     PageIV::compute(root, page, iv);
     int out = 0;
     const int bytes = int(pages * Ecryptfs::pageSize);
     if (EVP_DecryptInit_ex2(cipher_, nullptr, nullptr, iv, nullptr) != 1
-        || EVP_DecryptUpdate(cipher_, plain, &out, cipherText_.data(), bytes) != 1 || out != bytes) {
+        || EVP_DecryptUpdate(cipher_, data, &out, data, bytes) != 1 || out != bytes) {
         lastError_ = EIO;
         return false;
     }
     for (qint64 i = 1; i < pages; ++i) {
         PageIV::compute(root, page + i, iv);
-        uint8_t *first = plain + i * Ecryptfs::pageSize;
-        const uint8_t *chained = cipherText_.data() + i * Ecryptfs::pageSize - 16;
+        uint8_t *first = data + i * Ecryptfs::pageSize;
+        const uint8_t *chained = lastBlocks_.data() + (i - 1) * 16;
         for (int b = 0; b < 16; ++b)
             first[b] ^= uint8_t(chained[b] ^ iv[b]);
     }
     return true;
 }
 
-bool EcryptfsReader::fill(qint64 page)
+bool EcryptfsReader::loadPage(qint64 page)
 {
-    const qint64 pages = std::min(pagesPerFill, Ecryptfs::pageCount(plainSize_) - page);
-    if (pages <= 0)
+    if (page == pageNumber_)
+        return true;
+    page_.resize(size_t(Ecryptfs::pageSize));
+    pageNumber_ = -1;
+    if (!readCipher(page, 1, page_.data()) || !decryptInPlace(page, 1, page_.data()))
         return false;
-    buffer_.resize(size_t(pagesPerFill * Ecryptfs::pageSize));
-    bufferFirstPage_ = -1;
-    if (!readCipher(page, pages) || !decryptRun(page, pages, buffer_.data()))
-        return false;
-    bufferFirstPage_ = page;
-    bufferPages_ = pages;
+    pageNumber_ = page;
     return true;
 }
 
@@ -152,27 +153,27 @@ int EcryptfsReader::read(uint8_t *buffer, int size)
     if (size <= 0 || position_ >= plainSize_)
         return 0;
     int copied = 0;
+    const qint64 lastPage = Ecryptfs::pageCount(plainSize_);
     while (copied < size && position_ < plainSize_) {
         const qint64 page = position_ / Ecryptfs::pageSize;
-        const bool buffered = bufferFirstPage_ >= 0 && page >= bufferFirstPage_ && page < bufferFirstPage_ + bufferPages_;
-        // Whole pages from a page edge go straight into the caller's buffer:
-        // a demuxer reading through the file never pays for a second copy.
-        const qint64 wholePages = std::min({qint64(size - copied) / Ecryptfs::pageSize, pagesPerFill,
-                                            Ecryptfs::pageCount(plainSize_) - page});
-        if (!buffered && position_ % Ecryptfs::pageSize == 0 && wholePages > 0) {
-            if (!readCipher(page, wholePages) || !decryptRun(page, wholePages, buffer + copied))
+        const qint64 inPage = position_ % Ecryptfs::pageSize;
+        // Whole pages go into the caller's buffer as read and are decrypted
+        // there: a demuxer reading through the file pays for no copy of its own.
+        const qint64 wholePages = std::min({qint64(size - copied) / Ecryptfs::pageSize, pagesPerRun, lastPage - page});
+        if (inPage == 0 && wholePages > 0 && page != pageNumber_) {
+            if (!readCipher(page, wholePages, buffer + copied) || !decryptInPlace(page, wholePages, buffer + copied))
                 return copied > 0 ? copied : -lastError_;
             const int n = int(std::min(wholePages * Ecryptfs::pageSize, plainSize_ - position_));
             copied += n;
             position_ += n;
             continue;
         }
-        if (!buffered && !fill(page))
+        // The part of a page a read starts or ends in.
+        if (!loadPage(page))
             return copied > 0 ? copied : -lastError_;
-        const qint64 offset = position_ - bufferFirstPage_ * Ecryptfs::pageSize;
-        const qint64 available = std::min(bufferPages_ * Ecryptfs::pageSize - offset, plainSize_ - position_);
+        const qint64 available = std::min(Ecryptfs::pageSize - inPage, plainSize_ - position_);
         const int n = int(std::min<qint64>(available, size - copied));
-        std::memcpy(buffer + copied, buffer_.data() + offset, size_t(n));
+        std::memcpy(buffer + copied, page_.data() + inPage, size_t(n));
         copied += n;
         position_ += n;
     }

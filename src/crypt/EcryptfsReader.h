@@ -47,9 +47,9 @@ public:
 
 private:
     EcryptfsReader() = default;
-    bool fill(qint64 page);
-    bool readCipher(qint64 page, qint64 pages);
-    bool decryptRun(qint64 page, qint64 pages, uint8_t *plain);
+    bool readCipher(qint64 page, qint64 pages, uint8_t *into);
+    bool decryptInPlace(qint64 page, qint64 pages, uint8_t *data);
+    bool loadPage(qint64 page);
 
     int fd_ = -1;
     std::function<bool()> shouldStop_;
@@ -58,10 +58,10 @@ private:
     QByteArray key_;
     QByteArray rootIV_;
     EVP_CIPHER_CTX *cipher_ = nullptr;
-    std::vector<uint8_t> cipherText_; // the run of pages last read from the file
-    // Decrypted pages [bufferFirstPage_, bufferFirstPage_ + bufferPages_).
-    std::vector<uint8_t> buffer_;
-    qint64 bufferFirstPage_ = -1;
-    qint64 bufferPages_ = 0;
+    // The page a read began or ended inside, decrypted: the next read
+    // usually starts in it.
+    std::vector<uint8_t> page_;
+    qint64 pageNumber_ = -1;
+    std::vector<uint8_t> lastBlocks_; // each page's last cipher block, kept through an in-place run
     int lastError_ = 0;
 };
