@@ -32,6 +32,10 @@ inline constexpr std::chrono::milliseconds grace{500};
 // Threads whose work was left behind and has not ended yet: a dead drive
 // costs one each until the kernel gives up on the read.
 int abandonedThreads();
+// Waits until every thread the watchdog started has ended, up to limit;
+// answers whether they all did. For callers that must see work finished
+// before they go on, such as a test checking for leaks.
+bool waitForThreads(std::chrono::milliseconds limit);
 
 namespace detail {
 struct RaceState {

@@ -7,6 +7,7 @@
 #include "drive/ReasonMapper.h"
 #include "drive/TelemetryReader.h"
 #include "drive/TeslaCamParser.h"
+#include "base/IOWatchdog.h"
 #include "export/ExportError.h"
 #include "export/Exporter.h"
 #include "media/MediaClip.h"
@@ -149,6 +150,11 @@ QString exportClip(const QByteArray &input)
     // the first one is sought into.
     event.clips = {clipAt(path, input.size()), clipAt(path, input.size())};
     event.clips[1].startDate = event.clips[0].startDate.addingTimeInterval(60);
+    // The clips' readers end on their own threads once the export has let
+    // them go; the leak check after each input must not race them.
+    struct ReadersEnded {
+        ~ReadersEnded() { IOWatchdog::waitForThreads(std::chrono::seconds(20)); }
+    } readersEnded;
     try {
         Exporter::exportFootage(Camera::front, event, std::pair{0.001, std::numeric_limits<double>::infinity()},
                                 destination, {});
