@@ -167,6 +167,20 @@ private Q_SLOTS:
                                                  caller.get_token()));
     }
 
+    // A caller that must see every started thread end (a leak check) can.
+    void threadsCanBeWaitedFor()
+    {
+        QVERIFY(IOWatchdog::waitForThreads(10s));
+        auto release = std::make_shared<std::atomic<bool>>(false);
+        IOWatchdog::detail::startThread([release] {
+            while (!*release)
+                std::this_thread::yield();
+        });
+        QVERIFY(!IOWatchdog::waitForThreads(0ms));
+        *release = true;
+        QVERIFY(IOWatchdog::waitForThreads(10s));
+    }
+
     void nothingOfFinishedWorkOutlivesTheCall()
     {
         // What the work holds (an open file, say) is released before run returns.

@@ -203,6 +203,8 @@ class MonkeyTest : public QObject {
     int between(int lo, int hi) { return std::uniform_int_distribution<int>(lo, hi)(rng); }
     QQuickWindow *window() const { return app->window(); }
 
+    // The user's own pace between actions, drawn from the seed: part of the
+    // walk being replayed, not a wait for anything to happen.
     void pause(int ms) { QTest::qWait(ms); }
 
     QList<QQuickItem *> clickables()
