@@ -3,6 +3,8 @@
 #include "base/IOWatchdog.h"
 
 #include <QDir>
+#include <QFileInfo>
+#include <QStringList>
 #include <QFile>
 
 #include <climits>
@@ -77,6 +79,37 @@ std::optional<bool> writesInto(const QString &driveRoot, const QString &destinat
     } catch (...) {
         return std::nullopt;
     }
+}
+
+std::optional<QString> teslaCamFolderOf(const TeslaEvent &event)
+{
+    QString path = event.folderURL;
+    if (path.isEmpty() && !event.clips.empty())
+        path = QFileInfo(event.clips.front().url).absolutePath();
+    if (path.isEmpty())
+        return std::nullopt;
+    QDir dir(path);
+    for (int depth = 0; depth < 4 && !dir.isRoot(); ++depth) {
+        if (dir.dirName() == QLatin1String("TeslaCam"))
+            return dir.absolutePath();
+        if (!dir.cdUp())
+            break;
+    }
+    return std::nullopt;
+}
+
+bool writesIntoDriveOf(const std::vector<TeslaEvent> &events, const QString &destination)
+{
+    QStringList asked;
+    for (const TeslaEvent &event : events) {
+        const std::optional<QString> root = teslaCamFolderOf(event);
+        if (!root || asked.contains(*root))
+            continue;
+        asked << *root;
+        if (writesInto(*root, destination).value_or(false))
+            return true;
+    }
+    return false;
 }
 
 } // namespace DriveBoundary

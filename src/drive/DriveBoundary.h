@@ -1,7 +1,10 @@
 #pragma once
 
+#include "model/TeslaEvent.h"
+
 #include <QString>
 #include <optional>
+#include <vector>
 
 // Where the car's drive ends. Nothing of ours is ever written inside it: not
 // the Vault, not an exported movie. A folder reached through a link, or on
@@ -19,5 +22,12 @@ inline const QString exportRefusal =
 // folder is) protects only itself. Answers within a
 // few seconds even when a disk stops answering: nullopt when it couldn't tell.
 std::optional<bool> writesInto(const QString &driveRoot, const QString &destination);
+
+// The TeslaCam folder an event's footage lies in, when it lies in one.
+std::optional<QString> teslaCamFolderOf(const TeslaEvent &event);
+// Whether writing at destination would land on the drive of one of these
+// events. Every writer asks it in its own write path, whatever its caller
+// checked before; a drive that can't tell in time is taken as not.
+bool writesIntoDriveOf(const std::vector<TeslaEvent> &events, const QString &destination);
 
 } // namespace DriveBoundary

@@ -36,22 +36,6 @@ QString shown(const QString &path)
     return QDir::toNativeSeparators(path);
 }
 
-// The TeslaCam folder the event's footage lies in, when it lies in one.
-std::optional<QString> driveRootOf(const TeslaEvent &event)
-{
-    QString path = event.folderURL;
-    if (path.isEmpty() && !event.clips.empty())
-        path = QFileInfo(event.clips.front().url).absolutePath();
-    QDir dir(path);
-    for (int depth = 0; depth < 4 && !dir.isRoot(); ++depth) {
-        if (dir.dirName() == QLatin1String("TeslaCam"))
-            return dir.absolutePath();
-        if (!dir.cdUp())
-            break;
-    }
-    return std::nullopt;
-}
-
 // Takes the finished movie's name, never over a file that came meanwhile.
 bool moveIntoPlace(const QString &from, const QString &to)
 {
@@ -122,7 +106,7 @@ void exportMovie(const TeslaEvent &event, const CombinedExportOptions &options, 
     if (!target.absoluteDir().exists())
         throw ExportError::failed(
             QStringLiteral("The folder \u201c%1\u201d doesn't exist.").arg(shown(target.absolutePath())));
-    if (const auto root = driveRootOf(event); root && DriveBoundary::writesInto(*root, destination).value_or(false))
+    if (DriveBoundary::writesIntoDriveOf({event}, destination))
         throw ExportError::failed(DriveBoundary::exportRefusal);
 
     const auto origin = event.earliestClipDate();

@@ -1,5 +1,7 @@
 #include "export/Exporter.h"
 
+#include "drive/DriveBoundary.h"
+
 #include "export/ExportComposition.h"
 #include "export/ExportSession.h"
 
@@ -29,6 +31,9 @@ void exportFootage(Camera camera, const TeslaEvent &event, std::optional<std::pa
                    const QString &destination, std::function<void(double)> progress, std::stop_token stop,
                    std::chrono::milliseconds readLimit)
 {
+    // Refused here too, whatever the caller checked: the car's drive is never written.
+    if (DriveBoundary::writesIntoDriveOf({event}, destination))
+        throw ExportError::failed(DriveBoundary::exportRefusal);
     std::vector<ClipRef> clips;
     for (const ClipRef &clip : event.clips)
         if (clip.camera == camera)

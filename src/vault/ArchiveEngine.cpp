@@ -1,5 +1,7 @@
 #include "vault/ArchiveEngine.h"
 
+#include "drive/DriveBoundary.h"
+
 #include "base/IOWatchdog.h"
 #include "base/ReadOnlyFs.h"
 #include "crypt/KeyStore.h"
@@ -456,6 +458,14 @@ ArchiveReport run(const ArchivePlan &plan, const QString &vaultURL, const Archiv
     ArchiveReport report;
     report.skippedDuplicates = int(plan.items.size() - items.size());
     report.plannedEvents = totalEvents;
+    // Refused here too, whatever the caller checked: the car's drive is never written.
+    std::vector<TeslaEvent> events;
+    for (const ArchivePlan::Item &item : items)
+        events.push_back(item.event);
+    if (DriveBoundary::writesIntoDriveOf(events, vaultURL)) {
+        report.failedFiles.push_back({vaultURL, DriveBoundary::vaultRefusal});
+        return report;
+    }
     double lastEmit = 0.0;
     // Files a cut-off run had placed and this one takes as they are: done
     // as far as the progress goes, though not copied by this run.

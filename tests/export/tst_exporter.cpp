@@ -1,4 +1,5 @@
 #include "export/Exporter.h"
+#include "drive/DriveBoundary.h"
 #include "base/CancellationError.h"
 #include "support/DamagedHeaders.h"
 #include "support/FaultyFs.h"
@@ -742,6 +743,18 @@ private Q_SLOTS:
                                     footage.output(QStringLiteral("no-such-folder/out.mp4")), {});
         });
         QCOMPARE(missingFolder, std::optional(ExportError::exportFailed));
+
+        // Called without the screen's or the command line's check, the
+        // exporter itself still never writes onto the car's drive.
+        const TreeSnapshot drive = TreeSnapshot::take(footage.root());
+        message.clear();
+        try {
+            Exporter::exportFootage(Camera::front, footage.event, std::nullopt, footage.root() + QStringLiteral("/out.mp4"), {});
+        } catch (const ExportError &e) {
+            message = e.message();
+        }
+        QCOMPARE(message, DriveBoundary::exportRefusal);
+        QCOMPARE(drive.differences(TreeSnapshot::take(footage.root())), QString());
     }
 
 };

@@ -6,6 +6,7 @@
 #include "support/TmpfsMount.h"
 #include "support/TreeSnapshot.h"
 #include "vault/ArchiveEngine.h"
+#include "drive/DriveBoundary.h"
 #include "vault/VaultIndex.h"
 
 #include <QDir>
@@ -292,6 +293,21 @@ private Q_SLOTS:
         // The Vault's side, said as such: never the car's drive blamed.
         QCOMPARE(report.failedFiles[0].reason, reason(ArchiveEngine::Reason::vaultUnavailable));
         QVERIFY(report.archivedEvents.empty());
+    }
+
+    // Called without the screen's or the command line's check, the engine
+    // itself still never makes a Vault on the car's drive.
+    void vaultOnTheCarsDriveIsRefusedByTheEngine()
+    {
+        Drive drive;
+        drive.builder.addEvent("SentryClips", "2026-07-18_09-15-32", 1, 100);
+        drive.freeze();
+        const QString vault = drive.builder.root() + QStringLiteral("/Vault");
+        const ArchiveReport report = ArchiveEngine::run(ArchiveEngine::plan(drive.builder.scan(), VaultIndex{}), vault);
+        QCOMPARE(report.failedFiles.size(), size_t(1));
+        QCOMPARE(report.failedFiles[0].reason, DriveBoundary::vaultRefusal);
+        QVERIFY(report.archivedEvents.empty());
+        QCOMPARE(drive.changes(), QString());
     }
 
     void progressIsThrottledButTheLastFileAlwaysEmits()
