@@ -1,4 +1,5 @@
 #include "UiBridge.h"
+#include "DiagnosticInfo.h"
 
 #include "FailureScreens.h"
 #include "HealthPresenter.h"
@@ -9,6 +10,7 @@
 #include "state/AppState.h"
 #include "state/SidebarSection.h"
 
+#include <QClipboard>
 #include <QGuiApplication>
 #include <QMetaEnum>
 #include <QPalette>
@@ -45,6 +47,14 @@ QVariantMap UiBridge::texts() const
              QStringLiteral("Keelhold only reads from your Tesla drive. Every \"Keep\" makes a verified copy elsewhere "
                             "— your original footage is never touched."));
     return t;
+}
+
+QString UiBridge::copyDiagnosticInformation() const
+{
+    const QString text = DiagnosticInfo::text();
+    if (QClipboard *clipboard = QGuiApplication::clipboard())
+        clipboard->setText(text);
+    return text;
 }
 
 QVariantList UiBridge::helpArticles() const

@@ -45,6 +45,8 @@ public:
     static void applyStoredHardwareDecoding();
 
     Q_INVOKABLE QString icon(const QString &symbolName) const;
+    // Help › Copy Diagnostic Information: puts it on the clipboard; answers it.
+    Q_INVOKABLE QString copyDiagnosticInformation() const;
     Q_INVOKABLE double listColumnWidth(double total, double stored) const;
     Q_INVOKABLE double dragWidth(double atStart, double translation) const;
     Q_INVOKABLE QString scanCountsText(int eventsFound, int clipsFound) const;

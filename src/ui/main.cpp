@@ -1,5 +1,6 @@
 #include "AppCommandLine.h"
 #include "KeelholdApp.h"
+#include "base/DiagnosticLog.h"
 
 #include <QQuickWindow>
 #include <QTimer>
@@ -24,6 +25,8 @@ int main(int argc, char *argv[])
     QGuiApplication::setApplicationName(QStringLiteral("Keelhold"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Keelhold"));
     QGuiApplication::setApplicationVersion(QStringLiteral(KEELHOLD_VERSION));
+    // Warnings and errors also go to a file Help can copy for a bug report.
+    DiagnosticLog::install();
     // Wayland's app id and the task bar's match with the installed .desktop file.
     QGuiApplication::setDesktopFileName(QStringLiteral(KEELHOLD_APP_ID));
     QGuiApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral(KEELHOLD_APP_ID),

@@ -1,5 +1,7 @@
 #include "AppWindowHarness.h"
 #include "FileDialogDriver.h"
+#include "base/DiagnosticLog.h"
+#include "base/LogCategories.h"
 #include "drive/DriveBoundary.h"
 #include "KeelholdApp.h"
 #include "playback/MediaSource.h"
@@ -11,6 +13,7 @@
 #include "support/TestClips.h"
 #include "support/TeslaCamFixture.h"
 
+#include <QClipboard>
 #include <QDir>
 #include <QJsonDocument>
 #include <QGuiApplication>
@@ -207,6 +210,19 @@ private Q_SLOTS:
         QCOMPARE(app->appState().selectedSection(), SidebarSection::drive);
         QTRY_VERIFY_WITH_TIMEOUT(!app->appState().isScanning(), 20000);
         app->appState().exitSampleMode();
+
+        // Copy Diagnostic Information: versions and the log's newest lines,
+        // the home folder never spelled out.
+        DiagnosticLog::install(QDir::homePath() + QStringLiteral("/.local/state/Keelhold"));
+        qCWarning(lcUi) << "a test warning about" << QDir::homePath() + QStringLiteral("/Videos/movie.mp4");
+        QQuickItem *diagnosticsItem = anyItem(window, QStringLiteral("menuCopyDiagnostics"));
+        QVERIFY(diagnosticsItem);
+        QVERIFY(QMetaObject::invokeMethod(diagnosticsItem, "triggered"));
+        const QString copied = QGuiApplication::clipboard()->text();
+        QVERIFY2(copied.startsWith(QStringLiteral("Keelhold ")), qPrintable(copied));
+        QVERIFY(copied.contains(QStringLiteral("\nFFmpeg ")));
+        QVERIFY(copied.contains(QStringLiteral("a test warning about \"~/Videos/movie.mp4\"")));
+        QVERIFY(!copied.contains(QDir::homePath()));
 
         // Graphics hardware for video: on by default, turned off from the
         // Playback menu by clicks, remembered and applied at once.

@@ -61,6 +61,11 @@ ApplicationWindow {
             title: qsTr("&Help")
             MenuItem { objectName: "menuHelp"; text: ui.texts.helpMenu; onTriggered: window.showHelp(-1) }
             MenuItem { objectName: "menuSample"; text: ui.texts.sampleMenu; onTriggered: appState.loadSampleFootage() }
+            MenuItem {
+                objectName: "menuCopyDiagnostics"
+                text: qsTr("Copy Diagnostic Information")
+                onTriggered: ui.copyDiagnosticInformation()
+            }
         }
     }
 
