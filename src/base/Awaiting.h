@@ -67,7 +67,7 @@ QCoro::Task<void> whenFinishedTask(QPointer<Owner> owner, QFuture<T> future, Fn 
     } catch (const std::exception &e) {
         qCWarning(lcBase) << "an answer's handler failed:" << e.what();
     } catch (...) {
-        qCWarning(lcBase) << "an answer's handler failed with an unknown error";
+        KEELHOLD_LOG_CAUGHT(lcBase);
     }
 }
 } // namespace detail

@@ -19,3 +19,10 @@ Q_DECLARE_LOGGING_CATEGORY(lcEngine)
 Q_DECLARE_LOGGING_CATEGORY(lcState)
 Q_DECLARE_LOGGING_CATEGORY(lcUi)
 Q_DECLARE_LOGGING_CATEGORY(lcCli)
+Q_DECLARE_LOGGING_CATEGORY(lcCrypt)
+Q_DECLARE_LOGGING_CATEGORY(lcUnlock)
+
+// Logs, as a warning of category, what a catch-all handler caught (call it
+// inside the handler); a cancellation is not an error and is not logged.
+void logCaught(const QLoggingCategory &category, const char *file, int line);
+#define KEELHOLD_LOG_CAUGHT(category) logCaught(category(), __FILE_NAME__, __LINE__)

@@ -1,5 +1,6 @@
 #include "cli/VaultCommand.h"
 
+#include "base/LogCategories.h"
 #include "cli/CliOutput.h"
 #include "model/JsonCoding.h"
 #include "vault/VaultBrowser.h"
@@ -65,6 +66,7 @@ int verify(const QString &vault)
         try {
             keptFolders = !VaultBrowser::scanVault(vault).empty();
         } catch (...) {
+            KEELHOLD_LOG_CAUGHT(lcCli);
         }
         if (keptFolders) {
             CliOutput::err(QStringLiteral("The Vault's manifest.json is missing, so the kept events can't be checked."));

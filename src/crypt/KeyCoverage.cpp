@@ -1,5 +1,6 @@
 #include "crypt/KeyCoverage.h"
 
+#include "base/LogCategories.h"
 #include "crypt/KeyStore.h"
 #include "drive/EcryptfsHeader.h"
 #include "base/IOWatchdog.h"
@@ -21,6 +22,7 @@ QHash<QString, KeyCoverage> KeyCoverage::of(const std::vector<TeslaEvent> &event
                 header = IOWatchdog::run(
                     headerTimeout, [path = clip.url](std::stop_token) { return Ecryptfs::read(path); }, stop);
             } catch (...) {
+                KEELHOLD_LOG_CAUGHT(lcCrypt);
                 ++c.locked;
                 continue;
             }

@@ -1,6 +1,7 @@
 #include "drive/DriveBoundary.h"
 
 #include "base/IOWatchdog.h"
+#include "base/LogCategories.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -77,6 +78,7 @@ std::optional<bool> writesInto(const QString &driveRoot, const QString &destinat
             return decide(driveRoot, destination);
         });
     } catch (...) {
+        KEELHOLD_LOG_CAUGHT(lcDrive);
         return std::nullopt;
     }
 }

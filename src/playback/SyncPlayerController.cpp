@@ -1,6 +1,7 @@
 #include "playback/SyncPlayerController.h"
 
 #include "base/Awaiting.h"
+#include "base/LogCategories.h"
 #include "engine/AsyncRun.h"
 #include "engine/EnginePools.h"
 #include "playback/HostClock.h"
@@ -95,7 +96,7 @@ QCoro::Task<void> SyncPlayerController::runBuild(QPointer<SyncPlayerController> 
     } catch (const std::exception &e) {
         qCWarning(lcPlayback) << "the cameras could not be laid out:" << e.what();
     } catch (...) {
-        qCWarning(lcPlayback) << "the cameras could not be laid out: an unknown error";
+        KEELHOLD_LOG_CAUGHT(lcPlayback);
     }
     self->applyTileOutcomes(outcomes.value_or(std::vector<TileOutcome>{}));
     if (!self->playableTiles().empty())

@@ -1,5 +1,6 @@
 #include "state/AppState.h"
 
+#include "base/LogCategories.h"
 #include "drive/DriveBoundary.h"
 #include "drive/ReadableFormats.h"
 #include "drive/TeslaCamParser.h"
@@ -190,6 +191,7 @@ QCoro::Task<void> AppState::scanTask(QPointer<AppState> self, QString root, quin
         auto lookingUp = engine.cachedScan(key);
         cached = co_await lookingUp;
     } catch (...) {
+        KEELHOLD_LOG_CAUGHT(lcState);
     }
     if (!scanIsCurrent(self, run))
         co_return;
@@ -218,6 +220,7 @@ QCoro::Task<void> AppState::scanTask(QPointer<AppState> self, QString root, quin
         }
         co_return;
     } catch (...) {
+        KEELHOLD_LOG_CAUGHT(lcState);
         if (scanIsCurrent(self, run)) {
             self->setIsScanning(false);
             self->setIsRevalidatingScan(false);
@@ -231,6 +234,7 @@ QCoro::Task<void> AppState::scanTask(QPointer<AppState> self, QString root, quin
         auto storing = engine.storeScanInCache(scan, key);
         co_await storing;
     } catch (...) {
+        KEELHOLD_LOG_CAUGHT(lcState);
     }
     if (!scanIsCurrent(self, run))
         co_return;
@@ -245,6 +249,7 @@ QCoro::Task<void> AppState::scanTask(QPointer<AppState> self, QString root, quin
         auto probing = engine.probeAll(scan.events);
         probed = co_await probing;
     } catch (...) {
+        KEELHOLD_LOG_CAUGHT(lcState);
         co_return;
     }
     if (!scanIsCurrent(self, run) || !self->driveScan_)
@@ -323,6 +328,7 @@ QCoro::Task<void> AppState::watchTask(QPointer<AppState> self)
             auto nextEvent = stream->next();
             event = co_await nextEvent;
         } catch (...) {
+            KEELHOLD_LOG_CAUGHT(lcState);
             co_return;
         }
         if (!self || !event)
@@ -433,6 +439,7 @@ QCoro::Task<void> AppState::sampleTask(QPointer<AppState> self, QString root, qu
         auto scanning = engine.scanDrive(root, progress);
         scan = co_await scanning;
     } catch (...) {
+        KEELHOLD_LOG_CAUGHT(lcState);
         if (scanIsCurrent(self, run)) {
             self->setIsScanning(false);
             self->setIsSampleMode(false);
@@ -451,6 +458,7 @@ QCoro::Task<void> AppState::sampleTask(QPointer<AppState> self, QString root, qu
         auto probing = engine.probeAll(scan.events);
         probed = co_await probing;
     } catch (...) {
+        KEELHOLD_LOG_CAUGHT(lcState);
         co_return;
     }
     if (!scanIsCurrent(self, run))
@@ -489,6 +497,7 @@ QCoro::Task<void> AppState::loadTriageTask(QPointer<AppState> self)
         auto loading = self->engine_.loadAllTriageStates();
         loaded = co_await loading;
     } catch (...) {
+        KEELHOLD_LOG_CAUGHT(lcState);
         co_return;
     }
     if (!self)
@@ -574,6 +583,7 @@ void AppState::setVaultURL(const QString &url)
     try {
         engine_.saveBookmark(url, BookmarkKey::vaultFolder);
     } catch (...) {
+        KEELHOLD_LOG_CAUGHT(lcState);
     }
     // A check of the Vault before belongs to that Vault: it ends unheard.
     if (currentVerification_) {
@@ -627,6 +637,7 @@ QCoro::Task<void> AppState::vaultEventsTask(QPointer<AppState> self, QString vau
         auto reading = self->engine_.scanVault(vaultURL);
         events = co_await reading;
     } catch (...) {
+        KEELHOLD_LOG_CAUGHT(lcState);
         co_return;
     }
     if (self)
@@ -647,6 +658,7 @@ void AppState::removeFromVault(const TeslaEvent &given)
     try {
         (void)engine_.removeFromVault(event.id(), *vaultURL_);
     } catch (...) {
+        KEELHOLD_LOG_CAUGHT(lcState);
         setLastArchiveReport(std::nullopt);
         return;
     }

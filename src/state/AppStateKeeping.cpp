@@ -1,6 +1,7 @@
 // Keeping: the run, its pause while the drive is away and its resumption
 // when the same drive returns, and the re-reading of the Vault.
 #include "state/AppState.h"
+#include "base/LogCategories.h"
 
 #include "drive/DriveBoundary.h"
 #include "base/IOWatchdog.h"
@@ -134,6 +135,7 @@ QCoro::Task<void> AppState::keepTask(QPointer<AppState> self, ArchivePlan plan, 
                     if (mounted)
                         found = KeepDrive{mounted->drive, mounted->mountPoint};
                 } catch (...) {
+                    KEELHOLD_LOG_CAUGHT(lcState);
                 }
                 return found;
             });
@@ -149,6 +151,7 @@ QCoro::Task<void> AppState::keepTask(QPointer<AppState> self, ArchivePlan plan, 
             auto archiving = self->engine_.runArchive(plan, vaultURL, progress, task->get_token());
             report = co_await archiving;
         } catch (...) {
+            KEELHOLD_LOG_CAUGHT(lcState);
             report.cancelled = task->stop_requested();
         }
         if (!self)
@@ -250,6 +253,7 @@ QCoro::Task<void> AppState::resumeTask(QPointer<AppState> self, QString mountPoi
             return mounted && mounted->mountPoint == mountPoint && mounted->drive.isSameDrive(from.drive)
                 && (folder.isEmpty() || QFileInfo(folder).isDir());
         } catch (...) {
+            KEELHOLD_LOG_CAUGHT(lcState);
             return false;
         }
     });
@@ -348,6 +352,7 @@ QCoro::Task<void> AppState::verifyTask(QPointer<AppState> self, QString vaultURL
         auto verifying = self->engine_.verifyVault(vaultURL, eventIDs, progress, task->get_token());
         result = co_await verifying;
     } catch (...) {
+        KEELHOLD_LOG_CAUGHT(lcState);
         read = false;
     }
     if (!self || self->currentVerification_ != task)

@@ -1,6 +1,7 @@
 // The application state's side of encrypted footage: what the keys held now
 // unlock, kept beside the events it describes.
 #include "state/AppState.h"
+#include "base/LogCategories.h"
 
 #include <qcoro/qcorofuture.h>
 
@@ -32,6 +33,7 @@ QCoro::Task<void> AppState::keyCoverageTask(QPointer<AppState> self, std::vector
         QFuture<QHash<QString, KeyCoverage>> asking = self->engine_.keyCoverage(events);
         coverage = co_await asking;
     } catch (...) {
+        KEELHOLD_LOG_CAUGHT(lcState);
         co_return;
     }
     // Only the latest question's answer lands: events may have changed meanwhile.

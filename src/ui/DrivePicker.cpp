@@ -3,6 +3,7 @@
 #include "FileChooser.h"
 #include "LicenceGate.h"
 #include "OnboardingTexts.h"
+#include "base/LogCategories.h"
 #include "state/AppState.h"
 
 #include <QUrl>
@@ -53,6 +54,7 @@ void DrivePicker::panelFinished(bool accepted, const QString &chosen)
         try {
             state_->engine().saveBookmark(root, BookmarkKey::teslaDrive);
         } catch (...) {
+            KEELHOLD_LOG_CAUGHT(lcUi);
         }
     }
     Q_EMIT picked(root);

@@ -1,6 +1,7 @@
 #include "EventRoutes.h"
 
 #include "base/Awaiting.h"
+#include "base/LogCategories.h"
 #include "engine/AsyncRun.h"
 #include "engine/EngineFacade.h"
 #include "engine/EnginePools.h"
@@ -71,7 +72,7 @@ QCoro::Task<void> EventRoutes::readTask(QPointer<EventRoutes> self, QFuture<Even
     } catch (const std::exception &e) {
         qCInfo(lcUi) << "no route for an event:" << e.what();
     } catch (...) {
-        qCInfo(lcUi) << "no route for an event: an unknown error";
+        KEELHOLD_LOG_CAUGHT(lcUi);
     }
     self->cache_.insert(key, std::move(route));
     self->runningKey_.clear();

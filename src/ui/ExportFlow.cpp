@@ -4,6 +4,7 @@
 #include "FileChooser.h"
 
 #include "base/Awaiting.h"
+#include "base/LogCategories.h"
 #include "engine/AsyncRun.h"
 #include "export/CombinedExport.h"
 #include "export/Exporter.h"
@@ -462,6 +463,7 @@ void ExportFlow::finish(const QFuture<void> &future, const QString &output)
     } catch (const CancellationError &) {
         // Stopped before the session began: back to choosing, quietly.
     } catch (...) {
+        KEELHOLD_LOG_CAUGHT(lcUi);
         // A new movie the user stopped is simply not made; the copy keeps
         // its old word for a stop while writing.
         if (!(isCombined() && stopRequested_))

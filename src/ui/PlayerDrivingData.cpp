@@ -2,6 +2,7 @@
 
 #include "DrivingDataPreferences.h"
 #include "base/Awaiting.h"
+#include "base/LogCategories.h"
 #include "engine/AsyncRun.h"
 #include "engine/EnginePools.h"
 #include "model/DrivingDataText.h"
@@ -86,7 +87,7 @@ QCoro::Task<void> PlayerDrivingData::loadTask(QPointer<PlayerDrivingData> self, 
         } catch (const std::exception &e) {
             qCInfo(lcUi) << "driving data not read:" << e.what();
         } catch (...) {
-            qCInfo(lcUi) << "driving data not read: an unknown error";
+            KEELHOLD_LOG_CAUGHT(lcUi);
         }
     }
     if (!isCurrent())

@@ -1,12 +1,12 @@
 #include "vault/ArchiveEngine.h"
 
-#include "drive/DriveBoundary.h"
-
+#include "base/CancellationError.h"
 #include "base/IOWatchdog.h"
+#include "base/LogCategories.h"
 #include "base/ReadOnlyFs.h"
 #include "crypt/KeyStore.h"
+#include "drive/DriveBoundary.h"
 #include "drive/VolumeInfo.h"
-#include "base/CancellationError.h"
 #include "vault/Sha256.h"
 
 #include <QDir>
@@ -293,6 +293,7 @@ QString volumeName(const QString &folder)
             return ArchivedEvent::unknownDrive;
         });
     } catch (...) {
+        KEELHOLD_LOG_CAUGHT(lcVault);
         return ArchivedEvent::unknownDrive;
     }
 }
@@ -320,6 +321,7 @@ FolderLook lookAtFolder(const QString &folder)
             return look;
         });
     } catch (...) {
+        KEELHOLD_LOG_CAUGHT(lcVault);
         return {};
     }
 }
@@ -444,6 +446,7 @@ QString friendlyReason(const std::exception_ptr &error)
         }
         return QString::fromUtf16(Reason::unreadable);
     } catch (...) {
+        KEELHOLD_LOG_CAUGHT(lcVault);
         return QString::fromUtf16(Reason::unreadable);
     }
 }
@@ -559,6 +562,7 @@ ArchiveReport run(const ArchivePlan &plan, const QString &vaultURL, const Archiv
                 report.cancelled = true;
                 break;
             } catch (...) {
+                KEELHOLD_LOG_CAUGHT(lcVault);
                 report.failedFiles.push_back({source, friendlyReason(std::current_exception())});
                 // Every file left would fail the same way: the run stops
                 // here and says why, and what arrived is recorded as such.
@@ -608,6 +612,7 @@ ArchiveReport run(const ArchivePlan &plan, const QString &vaultURL, const Archiv
         try {
             merged.save(vaultURL);
         } catch (...) {
+            KEELHOLD_LOG_CAUGHT(lcVault);
             const qint64 free = QStorageInfo(vaultURL).bytesAvailable();
             failure = QString::fromUtf16(free >= 0 && free < 64 * 1024 ? Reason::vaultFull : Reason::indexNotSaved);
         }

@@ -1,5 +1,6 @@
 #include "vault/VaultIndex.h"
 
+#include "base/LogCategories.h"
 #include "model/AtomicFile.h"
 
 #include "model/JsonCoding.h"
@@ -123,6 +124,7 @@ VaultIndex VaultIndex::loadOrEmpty(const QString &vaultURL) noexcept
     try {
         return load(vaultURL);
     } catch (...) {
+        KEELHOLD_LOG_CAUGHT(lcVault);
         return {};
     }
 }

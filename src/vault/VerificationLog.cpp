@@ -1,5 +1,6 @@
 #include "vault/VerificationLog.h"
 
+#include "base/LogCategories.h"
 #include "model/AtomicFile.h"
 #include "model/JsonCoding.h"
 
@@ -91,6 +92,7 @@ VerificationLog VerificationLog::load(const QString &vaultURL) noexcept
             log.wholeVaultCheckedAt = JsonCoding::decodeDate(o.value(QStringLiteral("wholeVaultCheckedAt")),
                                                              "wholeVaultCheckedAt");
     } catch (...) {
+        KEELHOLD_LOG_CAUGHT(lcVault);
         return {};
     }
     return log;

@@ -1,3 +1,4 @@
+#include "base/CancellationError.h"
 #include "base/DiagnosticLog.h"
 #include "base/LogCategories.h"
 #include "support/IsolatedHome.h"
@@ -7,6 +8,8 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <QtTest>
+
+#include <stdexcept>
 
 class TestDiagnosticLog : public QObject {
     Q_OBJECT
@@ -64,6 +67,25 @@ private Q_SLOTS:
         QCOMPARE(DiagnosticLog::redacted(line), expected);
         qCWarning(lcBase).noquote() << line;
         QVERIFY(read(DiagnosticLog::filePath()).contains(expected));
+    }
+
+    // A catch-all handler says what it caught; a cancellation is no error.
+    void caughtErrorsAreLoggedButNotCancellations()
+    {
+        try {
+            throw std::runtime_error("the index could not be parsed");
+        } catch (...) {
+            KEELHOLD_LOG_CAUGHT(lcVault);
+        }
+        try {
+            throw CancellationError();
+        } catch (...) {
+            KEELHOLD_LOG_CAUGHT(lcVault);
+        }
+        const QStringList last = DiagnosticLog::lastLines(1);
+        QCOMPARE(last.size(), 1);
+        QVERIFY2(last.first().endsWith(QStringLiteral("warning keelhold.vault: caught: the index could not be parsed")),
+                 qPrintable(last.first()));
     }
 
     // Past its size the file starts again, the older lines kept one step back.
