@@ -2,6 +2,7 @@
 
 #include "model/JsonCoding.h"
 
+#include <QDir>
 #include <algorithm>
 
 namespace {
@@ -10,6 +11,32 @@ int countIssues(const std::vector<ScanIssue> &issues, ScanIssue::Kind kind)
     return int(std::count_if(issues.begin(), issues.end(), [kind](const ScanIssue &i) { return i.kind == kind; }));
 }
 } // namespace
+
+DriveScan DriveScan::rebased(const QString &root) const
+{
+    DriveScan moved = *this;
+    const QString from = QDir::cleanPath(teslaCamURL);
+    const QString to = QDir::cleanPath(root);
+    if (from == to || from.isEmpty())
+        return moved;
+    auto move = [&](QString &path) {
+        if (path == from)
+            path = to;
+        else if (path.startsWith(from + QLatin1Char('/')))
+            path = to + path.mid(from.size());
+    };
+    move(moved.teslaCamURL);
+    for (TeslaEvent &event : moved.events) {
+        move(event.folderURL);
+        if (event.thumbURL)
+            move(*event.thumbURL);
+        for (ClipRef &clip : event.clips)
+            move(clip.url);
+    }
+    for (ScanIssue &issue : moved.issues)
+        move(issue.path);
+    return moved;
+}
 
 int DriveScan::unknownFileCount() const { return countIssues(issues, ScanIssue::Kind::unknownFile); }
 int DriveScan::unknownCameraSuffixCount() const { return countIssues(issues, ScanIssue::Kind::unknownCameraSuffix); }

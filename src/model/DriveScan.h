@@ -25,6 +25,10 @@ struct DriveScan {
     std::vector<ScanIssue> issues; // in order of discovery
     Date scannedAt;
 
+    // The same scan with every path moved from teslaCamURL to root: a cached
+    // scan is keyed by the drive, not by where it is mounted or found.
+    DriveScan rebased(const QString &root) const;
+
     int unknownFileCount() const;
     int unknownCameraSuffixCount() const;
 

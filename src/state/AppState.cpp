@@ -196,6 +196,8 @@ QCoro::Task<void> AppState::scanTask(QPointer<AppState> self, QString root, quin
     if (!scanIsCurrent(self, run))
         co_return;
     if (cached) {
+        // The same drive mounted elsewhere, or another folder of its name and size.
+        cached = cached->rebased(root);
         self->setDriveScan(*cached);
         self->setDriveIsConnected(true);
         self->setIsScanning(false);

@@ -2,6 +2,7 @@
 #include "model/ClipRef.h"
 #include "model/DriveScan.h"
 #include "model/JsonCoding.h"
+#include "model/ScanIssue.h"
 #include "model/TeslaEvent.h"
 #include "model/VolumeFormat.h"
 
@@ -114,6 +115,31 @@ private Q_SLOTS:
 
     // Every VolumeFormat and optional survives the round trip; a wrong shape
     // fails the whole value.
+    // A cached scan found for a drive mounted elsewhere points at where it is now.
+    void cachedScanFollowsItsDrive()
+    {
+        DriveScan scan;
+        scan.teslaCamURL = QStringLiteral("/media/me/TESLA/TeslaCam");
+        TeslaEvent event;
+        event.folderURL = scan.teslaCamURL + QStringLiteral("/SentryClips/2024-06-01_10-00-00");
+        event.thumbURL = event.folderURL + QStringLiteral("/thumb.png");
+        ClipRef clip;
+        clip.url = event.folderURL + QStringLiteral("/2024-06-01_09-59-00-front.mp4");
+        event.clips = {clip};
+        scan.events = {event};
+        scan.issues = {{ScanIssue::Kind::unknownFile, scan.teslaCamURL + QStringLiteral("/notes.txt")},
+                       {ScanIssue::Kind::unknownFile, QStringLiteral("/media/me/TESLA/TeslaCamBackup/x.mp4")}};
+
+        const DriveScan moved = scan.rebased(QStringLiteral("/media/me/TESLA1/TeslaCam/"));
+        QCOMPARE(moved.teslaCamURL, QStringLiteral("/media/me/TESLA1/TeslaCam"));
+        QCOMPARE(moved.events[0].folderURL, QStringLiteral("/media/me/TESLA1/TeslaCam/SentryClips/2024-06-01_10-00-00"));
+        QCOMPARE(moved.events[0].thumbURL, moved.events[0].folderURL + QStringLiteral("/thumb.png"));
+        QCOMPARE(moved.events[0].clips[0].url, moved.events[0].folderURL + QStringLiteral("/2024-06-01_09-59-00-front.mp4"));
+        QCOMPARE(moved.issues[0].path, QStringLiteral("/media/me/TESLA1/TeslaCam/notes.txt"));
+        QCOMPARE(moved.issues[1].path, scan.issues[1].path); // a folder that only starts alike stays
+        QCOMPARE(scan.rebased(scan.teslaCamURL), scan);
+    }
+
     void volumeFormatAndOptionalsRoundTrip()
     {
         const VolumeFormat odd = VolumeFormat::makeOther(QStringLiteral("  Wéird FS \"x\" "));
