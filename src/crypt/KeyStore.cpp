@@ -172,6 +172,13 @@ std::optional<QByteArray> KeyStore::find(const Ecryptfs::KeyBlock &block)
     loadLocked();
     if (auto key = findLocked(fingerprint))
         return key;
+    // Read again only when the file changed: a drive of locked clips asks
+    // once for each.
+    const QFileInfo file(path_);
+    const auto stamp = std::pair(file.lastModified(), file.size());
+    if (stamp == seen_)
+        return std::nullopt;
+    seen_ = stamp;
     if (const auto data = readSmall(path_)) {
         for (const KeyEntry &e : parseEntries(*data))
             upsert(entries_, e);

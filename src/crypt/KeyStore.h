@@ -3,9 +3,11 @@
 #include "drive/EcryptfsHeader.h"
 
 #include <QByteArray>
+#include <QDateTime>
 #include <QString>
 #include <mutex>
 #include <optional>
+#include <utility>
 #include <vector>
 
 // The file keys fetched for the car's encrypted clips, kept so that a clip
@@ -45,6 +47,7 @@ private:
     std::mutex mutex_;
     bool loaded_ = false;
     std::vector<KeyEntry> entries_;
+    std::pair<QDateTime, qint64> seen_; // the file as last read again after a miss
 };
 
 namespace VaultKeys {
