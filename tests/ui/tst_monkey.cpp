@@ -39,6 +39,20 @@ extern "C" void __sanitizer_set_death_callback(void (*)(void)) __attribute__((we
 
 namespace {
 
+int walkSeconds()
+{
+    const int asked = qEnvironmentVariableIntValue("KEELHOLD_MONKEY_SECONDS");
+    return asked > 0 ? asked : 40;
+}
+
+// QtTest ends any one test function after five minutes unless told: a long
+// walk is given its length and ten minutes more, before main runs.
+[[maybe_unused]] const bool longWalkAllowed = [] {
+    if (!qEnvironmentVariableIsSet("QTEST_FUNCTION_TIMEOUT"))
+        qputenv("QTEST_FUNCTION_TIMEOUT", QByteArray::number((qint64(walkSeconds()) + 600) * 1000));
+    return true;
+}();
+
 // The walk's record, kept where a signal handler can write it out.
 constexpr int ringSize = 40;
 constexpr int lineSize = 240;
@@ -536,9 +550,7 @@ private Q_SLOTS:
 
     void walk()
     {
-        const int seconds = qEnvironmentVariableIntValue("KEELHOLD_MONKEY_SECONDS") > 0
-                                ? qEnvironmentVariableIntValue("KEELHOLD_MONKEY_SECONDS")
-                                : 40;
+        const int seconds = walkSeconds();
         QTimer beat;
         QObject::connect(&beat, &QTimer::timeout, [] { lastBeatMs = nowMs(); });
         beat.start(100);

@@ -223,6 +223,18 @@ private Q_SLOTS:
         QVERIFY(copied.contains(QStringLiteral("\nFFmpeg ")));
         QVERIFY(copied.contains(QStringLiteral("a test warning about \"~/Videos/movie.mp4\"")));
         QVERIFY(!copied.contains(QDir::homePath()));
+        QQuickItem *helpTitle = nullptr;
+        for (QQuickItem *item : allItems(window))
+            if (QByteArray(item->metaObject()->className()).contains("MenuBarItem")
+                && item->property("text").toString() == QStringLiteral("&Help"))
+                helpTitle = item;
+        QVERIFY(helpTitle);
+        QTest::mouseClick(window, Qt::LeftButton, Qt::NoModifier,
+                          helpTitle->mapToScene(QPointF(helpTitle->width() / 2, helpTitle->height() / 2)).toPoint());
+        QTRY_VERIFY(visibleItem(window, QStringLiteral("menuCopyDiagnostics")));
+        shoot(window, QStringLiteral("help-menu"));
+        QTest::keyClick(window, Qt::Key_Escape);
+        QTRY_VERIFY(!visibleItem(window, QStringLiteral("menuCopyDiagnostics")));
 
         // Graphics hardware for video: on by default, turned off from the
         // Playback menu by clicks, remembered and applied at once.
