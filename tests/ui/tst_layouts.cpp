@@ -4,6 +4,7 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QSettings>
+#include <QRegularExpression>
 #include <QtTest>
 
 // The player's screen holds together at the sizes people use: the smallest
@@ -127,6 +128,31 @@ private Q_SLOTS:
                                                     .arg(size.height())));
         }
         app->shot(QStringLiteral("player-%1x%2").arg(size.width()).arg(size.height()));
+    }
+
+    // Jumps between the largest and smallest windows, the readings moving
+    // between over the cameras and below them, settle in one layout pass
+    // each: no polish loop.
+    void sizeJumpsSettleWithoutALoop()
+    {
+        QTest::failOnWarning(QRegularExpression(QStringLiteral("Polish loop")));
+        app->window()->resize(1920, 1080);
+        openDrivingEvent();
+        for (const QSize size : {QSize(900, 600), QSize(1920, 1080), QSize(1280, 800), QSize(900, 600),
+                                 QSize(2560, 1440), QSize(900, 600)}) {
+            app->window()->resize(size);
+            QVERIFY(app->waitForFrame());
+            QVERIFY(app->waitForFrame());
+        }
+        // Maximised and back to the smallest, as a user's window manager does.
+        for (int i = 0; i < 3; ++i) {
+            app->window()->showMaximized();
+            QVERIFY(app->waitForFrame());
+            app->window()->showNormal();
+            app->window()->resize(900, 600);
+            QVERIFY(app->waitForFrame());
+            QVERIFY(app->waitForFrame());
+        }
     }
 
     // The window at full size before any event opens, as when the app starts

@@ -131,7 +131,9 @@ Item {
                 anchors.centerIn: parent
                 width: implicitWidth
                 height: implicitHeight
-                scale: Math.min(1, parent.width / Math.max(1, implicitWidth))
+                // From the view's width, which the layout doesn't set: a scale
+                // taken from the width the layout gives would ask it to lay out again.
+                scale: Math.min(1, (view.width - 20) / Math.max(1, implicitWidth))
             }
         }
         TimelineScrubber {
