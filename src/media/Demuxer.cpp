@@ -14,6 +14,9 @@ extern "C" {
 namespace {
 // Large enough that a one-minute clip is read in few system calls.
 constexpr int ioBufferSize = 256 * 1024;
+// A look at a clip reads its first bytes, its index at the end and its first
+// sample: a large buffer per look would cost a slow drive a megabyte a clip.
+constexpr int lookBufferSize = 32 * 1024;
 // The most FFmpeg may take in one allocation, for every file of the process.
 // A crafted index can make the demuxer ask for gigabytes; the largest buffer
 // real footage needs, a decoded picture, is some ten megabytes.
@@ -38,10 +41,11 @@ std::unique_ptr<Demuxer> Demuxer::open(const QString &path, std::stop_token stop
     if (!demuxer->reader_ || stop.stop_requested())
         return nullptr;
 
-    auto *buffer = static_cast<unsigned char *>(av_malloc(ioBufferSize));
+    const int bufferSize = options.lookOnly ? lookBufferSize : ioBufferSize;
+    auto *buffer = static_cast<unsigned char *>(av_malloc(bufferSize));
     if (!buffer)
         return nullptr;
-    demuxer->io_.reset(avio_alloc_context(buffer, ioBufferSize, 0, demuxer.get(), &Demuxer::readPacket, nullptr,
+    demuxer->io_.reset(avio_alloc_context(buffer, bufferSize, 0, demuxer.get(), &Demuxer::readPacket, nullptr,
                                           &Demuxer::seek));
     if (!demuxer->io_) {
         av_free(buffer);

@@ -21,6 +21,9 @@ public:
         // libavformat from guessing some other format out of random bytes.
         bool mp4Only = false;
         ClipReaderFactory reader; // empty: the installed one
+        // Reads in small steps, for a look at the header and a sample or
+        // two rather than the whole clip.
+        bool lookOnly = false;
     };
 
     // Null when the file can't be read or isn't a movie FFmpeg can open.

@@ -20,7 +20,7 @@ bool incomplete(const AVFormatContext *format, int video)
 std::unique_ptr<MediaClip> MediaClip::open(const QString &path, std::stop_token stop, const Options &options)
 {
     std::unique_ptr<MediaClip> clip(new MediaClip);
-    clip->demuxer_ = Demuxer::open(path, stop, Demuxer::Options{options.mp4Only, options.reader});
+    clip->demuxer_ = Demuxer::open(path, stop, Demuxer::Options{options.mp4Only, options.reader, options.lookOnly});
     if (!clip->demuxer_)
         return clip;
     AVFormatContext *format = clip->demuxer_->context();

@@ -40,6 +40,8 @@ public:
         bool checkHeader = false;
         std::optional<VideoDecoder::Options> decode;
         ClipReaderFactory reader; // empty: the installed one
+        // Only the header and a sample or two will be read: small reads.
+        bool lookOnly = false;
     };
 
     // Never null. Stop requested while opening gives notAMovie.

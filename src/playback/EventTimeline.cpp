@@ -28,8 +28,11 @@ Placeable placeable(const QString &path, std::chrono::milliseconds limit, std::s
 {
     MediaClip::Options options;
     options.mp4Only = false;
-    options.streamInfo = MediaClip::StreamInfo::always;
+    // The header places the clip; reading packets for what it already says
+    // would cost every minute of every camera a picture or more from the drive.
+    options.streamInfo = MediaClip::StreamInfo::whenIncomplete;
     options.checkHeader = true;
+    options.lookOnly = true;
     const auto clip = MediaClip::openWithin(limit, path, stop, options);
     if (clip->outcome() == MediaClip::Outcome::notAMovie)
         return {0.0, !clip->facts().usable()}; // gone, or not a movie at all

@@ -68,13 +68,12 @@ void SyncPlayerController::loadEvent(const TeslaEvent &event)
         }
     if (!retired.empty())
         QTimer::singleShot(retireDelay, this, [retired] {});
-    tiles_.clear();
-    tilesForQml_.clear();
-    Q_EMIT tilesChanged();
     setIsLoadingTiles(true);
     setDuration(std::max(1.0, event.approximateDuration()));
-
     setTriggerOffset(EventTimeline::momentOffset(event, duration_));
+    // The click is answered at once: a tile for each camera the scan found,
+    // saying what it waits for, before any clip is read.
+    publishWaitingTiles();
 
     std::stop_source stop;
     buildTask_ = stop;
@@ -100,32 +99,29 @@ QCoro::Task<void> SyncPlayerController::runBuild(QPointer<SyncPlayerController> 
     }
     self->applyTileOutcomes(outcomes.value_or(std::vector<TileOutcome>{}));
     if (!self->playableTiles().empty())
-        self->jumpToMoment();
+        self->cue(cueTarget(self->triggerOffset_, self->duration_), true);
 }
 
-std::vector<SyncPlayerController::TileOutcome> SyncPlayerController::buildTileData(const TeslaEvent &event,
-                                                                                   std::stop_token stop)
+QString SyncPlayerController::waitingReason()
 {
-    return EventTimeline::build(event, clipTimeout, stop);
+    return tr("Reading this camera from the drive…");
 }
 
-void SyncPlayerController::applyTileOutcomes(const std::vector<TileOutcome> &outcomes)
+void SyncPlayerController::publishWaitingTiles()
 {
-    std::vector<Tile> tiles;
-    for (const TileOutcome &o : outcomes) {
-        if (o.composition)
-            tiles.push_back(Tile{o.camera, std::make_shared<TrackPlayer>(*o.composition), std::nullopt, o.contentEnd,
-                                 EventTimeline::gaps(event_, o)});
-        else
-            tiles.push_back(Tile{o.camera, nullptr, o.placeholderReason, 0, {}, o.locked});
+    std::vector<Camera> cameras = event_.cameras();
+    std::stable_sort(cameras.begin(), cameras.end(), [](Camera a, Camera b) { return a.gridOrder() < b.gridOrder(); });
+    tiles_.clear();
+    for (Camera camera : cameras) {
+        Tile tile{camera, nullptr, waitingReason(), 0, {}};
+        tile.waiting = true;
+        tiles_.push_back(std::move(tile));
     }
-    tiles_ = std::move(tiles);
-    group_.clear();
-    for (const Tile &t : tiles_)
-        if (t.player) {
-            group_.add(t.player.get());
-            connect(t.player.get(), &TrackPlayer::framePresented, this, &SyncPlayerController::updateApproximate);
-        }
+    publishTiles();
+}
+
+void SyncPlayerController::publishTiles()
+{
     tilesForQml_.clear();
     for (const Tile &t : tiles_) {
         QVariantMap m;
@@ -142,11 +138,20 @@ void SyncPlayerController::applyTileOutcomes(const std::vector<TileOutcome> &out
                                     {QStringLiteral("reason"), gap.reason}});
         m.insert(QStringLiteral("gaps"), gaps);
         m.insert(QStringLiteral("locked"), t.locked);
+        m.insert(QStringLiteral("waiting"), t.waiting);
         tilesForQml_.append(m);
     }
     Q_EMIT tilesChanged();
-    setIsLoadingTiles(false);
+}
 
+std::vector<SyncPlayerController::TileOutcome> SyncPlayerController::buildTileData(const TeslaEvent &event,
+                                                                                   std::stop_token stop)
+{
+    return EventTimeline::build(event, clipTimeout, stop);
+}
+
+void SyncPlayerController::applyTileOutcomes(const std::vector<TileOutcome> &outcomes)
+{
     double contentEnd = 0;
     for (const TileOutcome &o : outcomes)
         contentEnd = std::max(contentEnd, o.contentEnd);
@@ -155,6 +160,27 @@ void SyncPlayerController::applyTileOutcomes(const std::vector<TileOutcome> &out
         if (triggerOffset_ && *triggerOffset_ > duration_)
             setTriggerOffset(duration_);
     }
+    // Each player's first read is the first picture the user will see, not
+    // the start of the event: on a slow drive every read counts.
+    const double start = cueTarget(triggerOffset_, duration_);
+    setCurrentTime(start);
+    std::vector<Tile> tiles;
+    for (const TileOutcome &o : outcomes) {
+        if (o.composition)
+            tiles.push_back(Tile{o.camera, std::make_shared<TrackPlayer>(*o.composition, MediaTime::fromSeconds(start)),
+                                 std::nullopt, o.contentEnd, EventTimeline::gaps(event_, o)});
+        else
+            tiles.push_back(Tile{o.camera, nullptr, o.placeholderReason, 0, {}, o.locked});
+    }
+    tiles_ = std::move(tiles);
+    group_.clear();
+    for (const Tile &t : tiles_)
+        if (t.player) {
+            group_.add(t.player.get());
+            connect(t.player.get(), &TrackPlayer::framePresented, this, &SyncPlayerController::updateApproximate);
+        }
+    publishTiles();
+    setIsLoadingTiles(false);
 
     const Tile *longest = nullptr;
     for (const Tile &t : tiles_) {
@@ -279,12 +305,16 @@ void SyncPlayerController::jumpToMoment()
 {
     const auto offset = triggerOffset_;
     const double duration = duration_;
+    cue(cueTarget(offset, duration), false);
+}
+
+void SyncPlayerController::cue(double t, bool fresh)
+{
     if (cueTask_)
         cueTask_->request_stop();
-    const double target = cueTarget(offset, duration);
     std::stop_source stop;
     cueTask_ = stop;
-    cueAndPlay(QPointer<SyncPlayerController>(this), target, stop.get_token());
+    cueAndPlay(QPointer<SyncPlayerController>(this), t, fresh, stop.get_token());
 }
 
 double SyncPlayerController::cueTarget(std::optional<double> triggerOffset, double duration)
@@ -294,11 +324,11 @@ double SyncPlayerController::cueTarget(std::optional<double> triggerOffset, doub
     return std::min(target, limit);
 }
 
-QCoro::Task<void> SyncPlayerController::cueAndPlay(QPointer<SyncPlayerController> self, double t,
+QCoro::Task<void> SyncPlayerController::cueAndPlay(QPointer<SyncPlayerController> self, double t, bool fresh,
                                                    std::stop_token stop)
 {
     const auto deadline = std::chrono::steady_clock::now() + cueWaitLimit;
-    while (std::chrono::steady_clock::now() < deadline && !stop.stop_requested()) {
+    while (!fresh && std::chrono::steady_clock::now() < deadline && !stop.stop_requested()) {
         if (!self)
             co_return;
         const auto playable = self->playableTiles();
@@ -312,16 +342,23 @@ QCoro::Task<void> SyncPlayerController::cueAndPlay(QPointer<SyncPlayerController
     }
     if (!self || stop.stop_requested())
         co_return;
+    // Players made at t are seeking there already; a user's seek meanwhile
+    // replaced that, and so does this one.
+    fresh = fresh && self->currentTime_ == t;
     self->setCurrentTime(t);
-    auto remaining = std::make_shared<int>(0);
-    const MediaTime position = MediaTime::fromSeconds(t);
-    for (const Tile &tile : self->playableTiles()) {
-        ++*remaining;
-        tile.player->seek(position, [remaining](bool) { --*remaining; });
+    auto seeking = [self] {
+        const auto playable = self->playableTiles();
+        return std::any_of(playable.begin(), playable.end(),
+                           [](const Tile &tile) { return tile.player->isSeeking(); });
+    };
+    if (!fresh) {
+        const MediaTime position = MediaTime::fromSeconds(t);
+        for (const Tile &tile : self->playableTiles())
+            tile.player->seek(position);
     }
     // A player whose worker is stuck on a dead drive never lands; don't wait forever.
     const auto seekDeadline = std::chrono::steady_clock::now() + 5s;
-    while (*remaining > 0 && std::chrono::steady_clock::now() < seekDeadline) {
+    while (seeking() && std::chrono::steady_clock::now() < seekDeadline) {
         QCoro::Task<void> nap = QCoro::sleepFor(5ms);
         co_await nap;
         if (!self || stop.stop_requested())

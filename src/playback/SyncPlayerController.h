@@ -52,6 +52,7 @@ public:
         double contentEnd = 0;                    // where this camera's footage ends on the axis
         std::vector<EventTimeline::Gap> gaps;     // stretches before contentEnd where nothing plays
         bool locked = false;                      // encrypted, no key held yet
+        bool waiting = false;                     // its clips are still being read
         Camera id() const { return camera; }
     };
 
@@ -79,6 +80,8 @@ public:
 
     const std::vector<Tile> &tiles() const { return tiles_; }
     bool isLoadingTiles() const { return isLoadingTiles_; }
+    // What a camera's tile says while its clips are read and its first picture found.
+    static QString waitingReason();
     bool isPlaying() const { return isPlaying_; }
     float rate() const { return rate_; }
     void setRate(float rate);
@@ -136,7 +139,12 @@ private:
     static double cueTarget(std::optional<double> triggerOffset, double duration);
 
     static QCoro::Task<void> runBuild(QPointer<SyncPlayerController> self, TeslaEvent event, std::stop_token stop);
-    static QCoro::Task<void> cueAndPlay(QPointer<SyncPlayerController> self, double t, std::stop_token stop);
+    // fresh: the players were made at t, so nothing needs seeking.
+    static QCoro::Task<void> cueAndPlay(QPointer<SyncPlayerController> self, double t, bool fresh,
+                                        std::stop_token stop);
+    void cue(double t, bool fresh);
+    void publishWaitingTiles();
+    void publishTiles();
     static QCoro::Task<void> runFrameSteps(QPointer<SyncPlayerController> self);
 
     void removeTimeObserver();

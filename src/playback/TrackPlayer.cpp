@@ -497,7 +497,7 @@ void TrackPlayer::setCatchUpEnabled(bool enabled)
     catchUpEnabled = enabled;
 }
 
-TrackPlayer::TrackPlayer(const Composition &composition, QObject *parent)
+TrackPlayer::TrackPlayer(const Composition &composition, MediaTime start, QObject *parent)
     : QObject(parent), shared_(std::make_shared<Shared>())
 {
     Composition::Track track;
@@ -509,10 +509,11 @@ TrackPlayer::TrackPlayer(const Composition &composition, QObject *parent)
     presentTimer_.setInterval(presentIntervalMs);
     connect(&presentTimer_, &QTimer::timeout, this, &TrackPlayer::present);
 
-    // Starts at 0 like a fresh player.
+    // A fresh player is a seek to its start.
+    pausedAt_ = std::max(0.0, start.seconds());
     shared_->generation = generation_ = 1;
     shared_->seekRequested = true;
-    shared_->seekTarget = 0;
+    shared_->seekTarget = pausedAt_;
     auto shared = shared_;
     const int threads = decoderThreads;
     ++workersRunning;

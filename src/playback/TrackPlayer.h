@@ -32,7 +32,8 @@ public:
     enum Status { Unknown, ReadyToPlay, Failed };
     Q_ENUM(Status)
 
-    explicit TrackPlayer(const Composition &composition, QObject *parent = nullptr);
+    // The first frame decoded is the one for start: that is the first read.
+    explicit TrackPlayer(const Composition &composition, MediaTime start = MediaTime(), QObject *parent = nullptr);
     ~TrackPlayer() override;
 
     // Asks the worker to end now, so that the destructor, run later, finds

@@ -175,6 +175,7 @@ QVariantMap EventPlayerPresenter::texts()
     auto icon = [](const char *name) { return SymbolIcons::iconUrl(QString::fromLatin1(name)); };
     return {
         {QStringLiteral("loading"), QStringLiteral("Loading cameras…")},
+        {QStringLiteral("waiting"), SyncPlayerController::waitingReason()},
         {QStringLiteral("emptyIcon"), icon("video.slash")},
         {QStringLiteral("emptyTitle"), QStringLiteral("No playable footage for this event")},
         {QStringLiteral("emptyText"),

@@ -59,7 +59,8 @@ QString PlayerLayout::gridMode(const QString &focusedCamera, const QVariantList 
             if (t.toMap().value(QStringLiteral("camera")).toString() == focusedCamera)
                 return QStringLiteral("focused");
     }
-    if (isLoading)
+    // Tiles that wait for their clips already show the cameras.
+    if (isLoading && tiles.isEmpty())
         return QStringLiteral("loading");
     return tiles.isEmpty() ? QStringLiteral("empty") : QStringLiteral("grid");
 }

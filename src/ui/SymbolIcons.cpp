@@ -90,6 +90,7 @@ const QHash<QString, QString> &table()
         {QStringLiteral("forward.frame"), QStringLiteral("actions/go-next")},
         {QStringLiteral("flag.fill"), QStringLiteral("categories/emoji-flags")},
         {QStringLiteral("video.slash"), QStringLiteral("status/camera-disabled")},
+        {QStringLiteral("hourglass"), QStringLiteral("status/content-loading")},
         {QStringLiteral("calendar"), QStringLiteral("mimetypes/x-office-calendar")},
         {QStringLiteral("mappin.and.ellipse"), QStringLiteral("actions/mark-location")},
         {QStringLiteral("location"), QStringLiteral("status/location-services-active")},

@@ -51,15 +51,16 @@ void VideoMirror::reconnect()
     QVideoSink *hub = hubFor(player_);
     if (!target_)
         return;
-    if (!hub) {
-        target_->setVideoFrame(QVideoFrame()); // no picture from an earlier player
+    // Without a picture of its own yet, the view keeps the one it had: the
+    // tile shows it dimmed while the new camera opens, or hides it.
+    if (!hub)
         return;
-    }
     QPointer<QVideoSink> target = target_;
     connection_ = connect(hub, &QVideoSink::videoFrameChanged, this, [target](const QVideoFrame &frame) {
         if (target)
             target->setVideoFrame(frame);
     });
     // A paused player sends nothing new: show what it shows now.
-    target_->setVideoFrame(hub->videoFrame());
+    if (hub->videoFrame().isValid())
+        target_->setVideoFrame(hub->videoFrame());
 }

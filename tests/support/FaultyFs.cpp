@@ -6,7 +6,9 @@
 #include <QDir>
 #include <QFile>
 
+#include <algorithm>
 #include <atomic>
+#include <chrono>
 #include <condition_variable>
 #include <cerrno>
 #include <cstring>
@@ -52,6 +54,9 @@ struct FaultyFs::State {
     std::atomic<qint64> served{0};
     std::atomic<qint64> vanishAfter{-1};
     std::atomic<bool> vanished{false};
+    std::atomic<qint64> readRate{0};
+    std::mutex rateMutex;
+    std::chrono::steady_clock::time_point nextFree; // when the drive's last granted read is through
 };
 
 namespace {
@@ -186,6 +191,19 @@ int onRead(const char *path, char *buffer, size_t size, off_t offset, fuse_file_
     const qint64 limit = s.vanishAfter.load();
     if (limit >= 0 && total >= limit)
         s.vanished = true;
+    lock.unlock();
+    if (const qint64 rate = s.readRate.load(); rate > 0) {
+        // One read at a time through the drive's bandwidth: each waits for
+        // those granted before it.
+        std::chrono::steady_clock::time_point done;
+        {
+            std::lock_guard rateLock(s.rateMutex);
+            const auto start = std::max(std::chrono::steady_clock::now(), s.nextFree);
+            done = start + std::chrono::nanoseconds(qint64(n) * 1'000'000'000 / rate);
+            s.nextFree = done;
+        }
+        std::this_thread::sleep_until(done);
+    }
     return int(n);
 }
 
@@ -313,6 +331,11 @@ FaultyFs::~FaultyFs()
     if (state_->loop.joinable())
         state_->loop.join();
     fuse_destroy(state_->handle);
+}
+
+void FaultyFs::limitReadRate(qint64 bytesPerSecond)
+{
+    state_->readRate = bytesPerSecond;
 }
 
 bool FaultyFs::isMounted() const

@@ -46,6 +46,9 @@ public:
     void hangStatfs();
     // The size the drive answers when asked (none by default, as libfuse).
     void setCapacity(qint64 bytes);
+    // Serves reads one after another at no more than this many bytes a
+    // second, as a USB stick does; 0 (the default) is as fast as memory.
+    void limitReadRate(qint64 bytesPerSecond);
     void release();
     bool isHanging() const;
     // How many reads (or size queries) the drive holds right now, and the

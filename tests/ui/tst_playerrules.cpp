@@ -139,6 +139,8 @@ private Q_SLOTS:
         // A focused camera with no tile of its own doesn't hide the grid.
         QCOMPARE(PlayerLayout::gridMode(QStringLiteral("left_pillar"), four, false), QStringLiteral("grid"));
         QCOMPARE(PlayerLayout::gridMode(QStringLiteral("left_pillar"), {}, true), QStringLiteral("loading"));
+        // Tiles waiting for their clips already show the cameras.
+        QCOMPARE(PlayerLayout::gridMode(QString(), four, true), QStringLiteral("grid"));
         QCOMPARE(PlayerLayout::gridMode(QString(), {}, false), QStringLiteral("empty"));
 
         QVERIFY(!PlayerLayout::detailEmptyState(false, false).value("action").toString().isEmpty());
@@ -223,12 +225,19 @@ private Q_SLOTS:
         b.setTarget(&second);
         QCOMPARE(second.videoFrame().size(), QSize(16, 16));
         QCOMPARE(player.videoSink(), hub); // the player's sink never moved
-        // A view that loses its player shows nothing rather than an old frame.
+        // A view that loses its player keeps its last picture (the tile dims
+        // or hides it) and no longer follows the player.
         b.setPlayer(nullptr);
-        QVERIFY(!second.videoFrame().isValid());
         hub->setVideoFrame(QVideoFrame(QVideoFrameFormat(QSize(32, 32), QVideoFrameFormat::Format_YUV420P)));
         QCOMPARE(first.videoFrame().size(), QSize(32, 32));
-        QVERIFY(!second.videoFrame().isValid());
+        QCOMPARE(second.videoFrame().size(), QSize(16, 16));
+        // A new player without a picture yet leaves it too; its first picture replaces it.
+        TrackPlayer next{Composition()};
+        b.setPlayer(&next);
+        QCOMPARE(second.videoFrame().size(), QSize(16, 16));
+        VideoMirror::hubFor(&next)->setVideoFrame(
+            QVideoFrame(QVideoFrameFormat(QSize(8, 8), QVideoFrameFormat::Format_YUV420P)));
+        QCOMPARE(second.videoFrame().size(), QSize(8, 8));
         QVERIFY(!VideoMirror::hubFor(&a)); // not a player
     }
 

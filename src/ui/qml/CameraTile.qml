@@ -30,6 +30,9 @@ Rectangle {
         return ""
     }
     readonly property bool showsVideo: player !== null && !footageEnded && gapReason.length === 0
+    // Until its clips are read and its picture is found, the tile says so
+    // over the picture it showed before, dimmed.
+    readonly property bool waiting: (tileData && tileData.waiting === true) || (showsVideo && !player.hasPicture)
     objectName: (small ? "stripTile_" : "cameraTile_") + (tileData ? tileData.camera : "")
     color: "black"
     clip: true
@@ -45,13 +48,37 @@ Rectangle {
         anchors.fill: parent
         anchors.margins: tile.border.width
         fillMode: VideoOutput.PreserveAspectFit
-        visible: tile.showsVideo
+        visible: tile.showsVideo || tile.waiting
+        opacity: tile.waiting ? 0.3 : 1.0
     }
     VideoMirror { player: tile.player; target: video.videoSink }
 
     Column {
+        objectName: "waiting"
+        visible: tile.waiting
+        anchors.centerIn: parent
+        width: parent.width - 24
+        spacing: tile.small ? 2 : 8
+        SymbolIcon {
+            anchors.horizontalCenter: parent.horizontalCenter
+            symbol: "hourglass"
+            size: tile.small ? 16 : 32
+            color: "#dddddd"
+        }
+        Label {
+            objectName: "waitingText"
+            visible: !tile.small
+            width: parent.width
+            horizontalAlignment: Text.AlignHCenter
+            wrapMode: Text.WordWrap
+            color: "#eeeeee"
+            text: tile.texts.waiting || ""
+        }
+    }
+
+    Column {
         objectName: "placeholder"
-        visible: !tile.showsVideo
+        visible: !tile.showsVideo && !tile.waiting
         anchors.centerIn: parent
         width: parent.width - 24
         spacing: tile.small ? 2 : 8
