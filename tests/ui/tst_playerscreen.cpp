@@ -745,6 +745,17 @@ private Q_SLOTS:
         ticker.start();
         fs.hangReadsFrom(held, 0);
         state_->setSelectedEventID(id);
+        // Meanwhile the click is answered: a tile for each camera, each
+        // saying what it waits for.
+        QTRY_VERIFY(fs.isHanging());
+        for (const char *camera : {"front", "back", "left_repeater", "right_repeater"}) {
+            QQuickItem *tile = findItem(window_->contentItem(), QStringLiteral("cameraTile_") + QLatin1String(camera));
+            QVERIFY2(tile && tile->isVisible(), camera);
+            QQuickItem *waiting = findItem(tile, QStringLiteral("waitingText"));
+            QVERIFY2(waiting && waiting->isVisible() && waiting->property("text").toString()
+                         == SyncPlayerController::waitingReason(), camera);
+        }
+        saveShot(QStringLiteral("player-waiting-for-the-drive.png"));
         // The drive never answers for the held clip: the player's watchdog
         // gives up on it after its limit and leaves the read behind.
         QTRY_VERIFY_WITH_TIMEOUT(controller() && !controller()->isLoadingTiles(), 60000);
