@@ -5,6 +5,7 @@
 #include "base/CancellationError.h"
 #include "base/IOWatchdog.h"
 #include "base/ReadOnlyFs.h"
+#include "base/ReadPriority.h"
 
 #include "drive/EcryptfsHeader.h"
 
@@ -225,6 +226,7 @@ std::vector<TeslaEvent> probeAll(const std::vector<TeslaEvent> &events, std::chr
         children.start([&, index] {
             Finished done{index, std::nullopt};
             try {
+                ReadPriority::yieldToUrgent(stop);
                 done.result = probeDetailed(refs[index].clip, timeout, stop);
             } catch (const CancellationError &) {
             }

@@ -68,6 +68,7 @@ void SyncPlayerController::loadEvent(const TeslaEvent &event)
         }
     if (!retired.empty())
         QTimer::singleShot(retireDelay, this, [retired] {});
+    opening_.emplace();
     setIsLoadingTiles(true);
     setDuration(std::max(1.0, event.approximateDuration()));
     setTriggerOffset(EventTimeline::momentOffset(event, duration_));
@@ -100,6 +101,8 @@ QCoro::Task<void> SyncPlayerController::runBuild(QPointer<SyncPlayerController> 
     self->applyTileOutcomes(outcomes.value_or(std::vector<TileOutcome>{}));
     if (!self->playableTiles().empty())
         self->cue(cueTarget(self->triggerOffset_, self->duration_), true);
+    else
+        self->opening_.reset();
 }
 
 QString SyncPlayerController::waitingReason()
@@ -366,6 +369,7 @@ QCoro::Task<void> SyncPlayerController::cueAndPlay(QPointer<SyncPlayerController
     }
     if (!self || stop.stop_requested())
         co_return;
+    self->opening_.reset();
     self->play();
 }
 

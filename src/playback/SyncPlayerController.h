@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/ReadPriority.h"
 #include "model/Camera.h"
 #include "model/TeslaEvent.h"
 #include "playback/RateMeter.h"
@@ -180,6 +181,9 @@ private:
     // The player whose footage runs longest: its clock is the timeline's
     // and reaches the end of the event, where playback stops.
     QPointer<TrackPlayer> clockPlayer_;
+    // From a new event until its first picture: the drive's background
+    // pass waits meanwhile.
+    std::optional<ReadPriority::Urgent> opening_;
     std::optional<std::stop_source> buildTask_;
     std::optional<std::stop_source> cueTask_;
     int pendingFrameSteps_ = 0;

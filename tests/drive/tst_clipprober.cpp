@@ -1,4 +1,5 @@
 #include "drive/ClipProber.h"
+#include "base/ReadPriority.h"
 #include "drive/EcryptfsHeader.h"
 #include "drive/TeslaCamParser.h"
 #include "base/CancellationError.h"
@@ -472,6 +473,37 @@ private Q_SLOTS:
         stop.request_stop();
         pass.join();
         QVERIFY(cancelled);
+    }
+
+    // While an event opens the pass waits between clips, and goes on when
+    // the opening is done; waiting has a limit, and hears stop.
+    void passYieldsToAnOpeningEvent()
+    {
+        std::vector<ClipRef> clips;
+        for (int i = 0; i < 3; ++i)
+            clips.push_back(clipAt(copyOf(h264_)));
+        std::optional<ReadPriority::Urgent> opening(std::in_place);
+        std::atomic<int> completed{0};
+        std::vector<TeslaEvent> events;
+        std::jthread pass([&] {
+            events = ClipProber::probeAll({eventWith(clips)}, 5s, 2, [&](int done, int) { completed = done; });
+        });
+        QTRY_COMPARE(ReadPriority::yieldingCount(), 2);
+        QCOMPARE(completed.load(), 0);
+        opening.reset();
+        pass.join();
+        QCOMPARE(healthsOf(events), std::vector<ClipHealth>(3, ClipHealth::ok));
+
+        opening.emplace();
+        QElapsedTimer waited;
+        waited.start();
+        ReadPriority::yieldToUrgent({}, 50ms);
+        QVERIFY(waited.elapsed() >= 50);
+        std::stop_source stop;
+        stop.request_stop();
+        waited.restart();
+        ReadPriority::yieldToUrgent(stop.get_token(), 60s);
+        QVERIFY(waited.elapsed() < 30000);
     }
 
     void capBoundsProbesInFlight()

@@ -506,6 +506,7 @@ private Q_SLOTS:
         }
         QVERIFY(c.tilesForQml().front().toMap().value("waiting").toBool());
         QCOMPARE(fs.bytesServed(), servedBefore);
+        QVERIFY(ReadPriority::isUrgent()); // the drive's background pass waits meanwhile
 
         std::map<int, std::optional<FrameId>> first;
         std::vector<std::unique_ptr<QVideoSink>> watching;
@@ -523,6 +524,7 @@ private Q_SLOTS:
             }
         });
         QTRY_VERIFY_WITH_TIMEOUT(c.isPlaying(), 60000);
+        QVERIFY(!ReadPriority::isUrgent());
         QCOMPARE(c.tiles().size(), cameras.size());
         const std::vector<double> starts{0, 3, 6, 9, 12, 15};
         for (Camera camera : cameras) {

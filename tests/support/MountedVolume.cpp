@@ -6,6 +6,8 @@
 #include <QCoreApplication>
 #include <QProcess>
 
+#include <cerrno>
+#include <csignal>
 #include <unistd.h>
 
 MountedVolume::MountedVolume(const QString &type, const QString &label, qint64 imageBytes)
@@ -75,4 +77,34 @@ bool MountedVolume::run(const QString &program, const QStringList &args, QString
     if (out)
         *out = QString::fromLocal8Bit(p.readAllStandardOutput()).trimmed();
     return true;
+}
+
+int MountedVolume::sweepLeftovers(const QString &label)
+{
+    if (geteuid() != 0)
+        return 0;
+    int swept = 0;
+    const QString prefix = label.left(11) + QLatin1Char('-');
+    const auto died = [](const QString &name) {
+        const qint64 pid = name.section(QLatin1Char('-'), 1, 1).toLongLong();
+        return pid > 0 && ::kill(pid_t(pid), 0) != 0 && errno == ESRCH;
+    };
+    for (const QString &name : QDir(QStringLiteral("/media")).entryList({prefix + QLatin1Char('*')}, QDir::Dirs)) {
+        if (!died(name))
+            continue;
+        run(QStringLiteral("umount"), {QStringLiteral("-l"), QStringLiteral("/media/") + name});
+        QDir().rmdir(QStringLiteral("/media/") + name);
+        ++swept;
+    }
+    const QDir temp = QDir::temp();
+    for (const QString &name : temp.entryList({prefix + QStringLiteral("*.img")}, QDir::Files)) {
+        if (!died(name))
+            continue;
+        QString loops;
+        if (run(QStringLiteral("losetup"), {QStringLiteral("-j"), temp.filePath(name)}, &loops))
+            for (const QString &line : loops.split(QLatin1Char('\n'), Qt::SkipEmptyParts))
+                run(QStringLiteral("losetup"), {QStringLiteral("-d"), line.section(QLatin1Char(':'), 0, 0)});
+        QFile::remove(temp.filePath(name));
+    }
+    return swept;
 }

@@ -30,6 +30,9 @@ public:
     void unmount();
 
     static bool run(const QString &program, const QStringList &args, QString *out = nullptr, int timeoutMs = 60000);
+    // Unmounts and removes what a test process that died left of its drives
+    // of this label (its process id is in their names); returns how many.
+    static int sweepLeftovers(const QString &label);
 
 private:
     bool mountImage();

@@ -21,6 +21,8 @@
 #include <condition_variable>
 #include <csignal>
 #include <cstdio>
+#include <execinfo.h>
+#include <pthread.h>
 #include <mutex>
 #include <random>
 #include <thread>
@@ -119,18 +121,38 @@ void onMessage(QtMsgType type, const QMessageLogContext &context, const QString 
         previousHandler(type, context, message);
 }
 
+// Where the window's thread stands, written by that thread itself when
+// the watchdog asks (addresses, for addr2line).
+pthread_t windowThread;
+std::atomic<bool> stackWritten{false};
+
+void onStackRequest(int)
+{
+    say("the window's thread is at:\n");
+    void *frames[64];
+    backtrace_symbols_fd(frames, backtrace(frames, 64), 2);
+    stackWritten = true;
+}
+
 // Waits for the window's thread to answer; a thread that stands still for
-// over 5 s is a hang whatever the walk was doing, and is ended with its record.
+// over 5 s is a hang whatever the walk was doing, and is ended with its
+// record and its stack.
 class Watchdog {
 public:
     Watchdog()
     {
+        windowThread = ::pthread_self();
+        void *warm[1];
+        backtrace(warm, 1); // loads the unwinder now, not in the signal handler
+        ::signal(SIGUSR2, onStackRequest);
         lastBeatMs = nowMs();
         thread_ = std::thread([this] {
             std::unique_lock lock(mutex_);
             while (!wake_.wait_for(lock, std::chrono::milliseconds(250), [this] { return done_; })) {
                 if (!walkerBusy && nowMs() - lastBeatMs > 5000) {
                     writeRecord("the window's thread stood still for over 5 s");
+                    ::pthread_kill(windowThread, SIGUSR2);
+                    wake_.wait_for(lock, std::chrono::seconds(2), [] { return stackWritten.load(); });
                     std::abort();
                 }
             }
@@ -524,7 +546,10 @@ private Q_SLOTS:
         keep.start(QStringLiteral(KEELHOLD_CLI_PATH), {QStringLiteral("keep"), sample, QStringLiteral("--vault"), vault});
         QVERIFY(keep.waitForFinished(300000));
 
-        // The car's drive, a real exFAT volume holding the sample's clips.
+        // The car's drive, a real exFAT volume holding the sample's clips;
+        // first what an earlier walk that died left mounted.
+        if (const int swept = MountedVolume::sweepLeftovers(QStringLiteral("KHMONKEY")))
+            qInfo("unmounted %d drive(s) an earlier walk left behind", swept);
         if (geteuid() == 0) {
             drive = std::make_unique<MountedVolume>(QStringLiteral("exfat"), QStringLiteral("KHMONKEY"),
                                                     qint64(768) * 1024 * 1024);
