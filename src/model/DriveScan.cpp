@@ -3,6 +3,7 @@
 #include "model/JsonCoding.h"
 
 #include <QDir>
+#include <QHash>
 #include <algorithm>
 
 namespace {
@@ -36,6 +37,27 @@ DriveScan DriveScan::rebased(const QString &root) const
     for (ScanIssue &issue : moved.issues)
         move(issue.path);
     return moved;
+}
+
+DriveScan DriveScan::withProbeResultsFrom(const DriveScan &earlier) const
+{
+    QHash<QString, const ClipRef *> earlierByURL;
+    for (const TeslaEvent &event : earlier.events)
+        for (const ClipRef &clip : event.clips)
+            earlierByURL.insert(clip.url, &clip);
+    DriveScan merged = *this;
+    for (TeslaEvent &event : merged.events) {
+        for (ClipRef &clip : event.clips) {
+            const ClipRef *before = earlierByURL.value(clip.url);
+            // Another size is other bytes, a clip the car went on writing.
+            if (!before || before->fileSize != clip.fileSize || clip.health != ClipHealth::unknown)
+                continue;
+            clip.health = before->health;
+            if (!clip.duration)
+                clip.duration = before->duration;
+        }
+    }
+    return merged;
 }
 
 int DriveScan::unknownFileCount() const { return countIssues(issues, ScanIssue::Kind::unknownFile); }

@@ -28,6 +28,10 @@ struct DriveScan {
     // The same scan with every path moved from teslaCamURL to root: a cached
     // scan is keyed by the drive, not by where it is mounted or found.
     DriveScan rebased(const QString &root) const;
+    // The same scan with what an earlier probe of this drive found (health,
+    // duration) on every unprobed clip still at the same path with the same
+    // size: same bytes, same verdict, until a new probe says otherwise.
+    DriveScan withProbeResultsFrom(const DriveScan &earlier) const;
 
     int unknownFileCount() const;
     int unknownCameraSuffixCount() const;

@@ -232,6 +232,10 @@ QCoro::Task<void> AppState::scanTask(QPointer<AppState> self, QString root, quin
     }
     if (!scanIsCurrent(self, run))
         co_return;
+    // A fresh scan knows no health: the marks of the cached answer stay on
+    // what didn't change rather than vanish until the probe ends.
+    if (cached)
+        scan = scan.withProbeResultsFrom(*cached);
     try {
         auto storing = engine.storeScanInCache(scan, key);
         co_await storing;
@@ -260,6 +264,9 @@ QCoro::Task<void> AppState::scanTask(QPointer<AppState> self, QString root, quin
     updated.events = std::move(probed);
     self->setDriveScan(updated);
     self->setHealthReport(HealthComputer::compute(updated, self->vaultIndex_));
+    // With its health, so the next start shows what this probe found. No
+    // one waits for it; a later store of the same drive queues behind it.
+    engine.storeScanInCache(updated, key);
 }
 
 void AppState::evaluateForFailure(const DriveScan &scan)

@@ -140,6 +140,37 @@ private Q_SLOTS:
         QCOMPARE(scan.rebased(scan.teslaCamURL), scan);
     }
 
+    // A fresh scan takes the earlier probe's verdict only for the same bytes:
+    // same path and size, whichever event the clip falls in now.
+    void freshScanKeepsEarlierVerdictsOnUnchangedClips()
+    {
+        DriveScan earlier;
+        earlier.events.resize(2);
+        earlier.events[0].clips = {clip("stump", Camera::front, 0, 500, ClipHealth::truncated),
+                                   clip("good", Camera::back, 0, 1000, ClipHealth::ok),
+                                   clip("growing", Camera::leftRepeater, 0, 2000, ClipHealth::unreadable)};
+        earlier.events[0].clips[1].duration = 59.5;
+        earlier.events[1].clips = {clip("regrouped", Camera::front, 60, 3000, ClipHealth::timedOut),
+                                   clip("locked", Camera::back, 60, 4000, ClipHealth::unreadable)};
+
+        DriveScan fresh;
+        fresh.events.resize(1);
+        fresh.events[0].clips = {clip("stump", Camera::front, 0, 500), clip("good", Camera::back, 0, 1000),
+                                 clip("growing", Camera::leftRepeater, 0, 2500),
+                                 clip("regrouped", Camera::front, 60, 3000),
+                                 clip("locked", Camera::back, 60, 4000, ClipHealth::encrypted),
+                                 clip("new", Camera::front, 120, 100)};
+        const DriveScan merged = fresh.withProbeResultsFrom(earlier);
+        std::vector<ClipHealth> healths;
+        for (const ClipRef &c : merged.events[0].clips)
+            healths.push_back(c.health);
+        QCOMPARE(healths, (std::vector<ClipHealth>{ClipHealth::truncated, ClipHealth::ok, ClipHealth::unknown,
+                                                   ClipHealth::timedOut, ClipHealth::encrypted, ClipHealth::unknown}));
+        QCOMPARE(merged.events[0].clips[1].duration, std::optional(59.5));
+        QCOMPARE(merged.events[0].corruptClipCount(), 2);
+        QCOMPARE(fresh.withProbeResultsFrom(DriveScan{}), fresh);
+    }
+
     void volumeFormatAndOptionalsRoundTrip()
     {
         const VolumeFormat odd = VolumeFormat::makeOther(QStringLiteral("  Wéird FS \"x\" "));

@@ -3,8 +3,10 @@
 #include "drive/TeslaCamParser.h"
 #include "engine/LiveEngine.h"
 #include "engine/MockEngine.h"
+#include "engine/ScanCache.h"
 #include "playback/SyncPlayerController.h"
 #include "state/AppState.h"
+#include "support/DamagedHeaders.h"
 #include "support/FaultyFs.h"
 #include "support/IsolatedHome.h"
 #include "support/TeslaCamFixture.h"
@@ -46,13 +48,17 @@ public:
             return scan;
         });
     }
-    QFuture<std::optional<DriveScan>> cachedScan(const QString &) override
+    // Given: the cache is a real file of the test's own, which outlives the
+    // engine as it outlives a run of the program.
+    std::unique_ptr<ScanCache> scanCache;
+
+    QFuture<std::optional<DriveScan>> cachedScan(const QString &key) override
     {
-        return QtFuture::makeReadyFuture(cached);
+        return scanCache ? scanCache->cached(key) : QtFuture::makeReadyFuture(cached);
     }
-    QFuture<void> storeScanInCache(const DriveScan &, const QString &) override
+    QFuture<void> storeScanInCache(const DriveScan &scan, const QString &key) override
     {
-        return QtFuture::makeReadyFuture();
+        return scanCache ? scanCache->store(scan, key) : QtFuture::makeReadyFuture();
     }
     // Held probes answer only when the test says, in the order it says.
     bool holdProbes = false;
@@ -142,6 +148,16 @@ QString driveWithOneEvent(const QTemporaryDir &tmp, const QString &name, const Q
 bool settled(AppState &state)
 {
     return QTest::qWaitFor([&] { return !state.isScanning() && !state.isRevalidatingScan(); }, 60000);
+}
+
+// Each event's damage mark, "id: count", in a fixed order.
+QStringList damageMarks(const DriveScan &scan)
+{
+    QStringList marks;
+    for (const TeslaEvent &e : scan.events)
+        marks << e.id() + QStringLiteral(": ") + QString::number(e.corruptClipCount());
+    marks.sort();
+    return marks;
 }
 
 DriveScan scanWith(const std::vector<TeslaEvent> &events, const VolumeFormat &format, bool encrypted = false)
@@ -577,6 +593,79 @@ private Q_SLOTS:
         QVERIFY(settled(state));
         QVERIFY(state.driveScan());
         QCOMPARE(state.driveScan()->events.size(), size_t(1));
+    }
+
+    // The same drive, unchanged, shows the same damage marks after a restart:
+    // from the cached answer, through the fresh scan, to the end of the new
+    // probe, no mark goes away or comes back.
+    void damageMarksHoldAcrossARestart()
+    {
+        if (!TestClips::ffmpegAvailable())
+            QSKIP("Needs the ffmpeg tool to make real clips.");
+        QTemporaryDir tmp;
+        const QString cacheFile = tmp.filePath(QStringLiteral("scan-cache.json"));
+        TeslaCamFixture drive(tmp.filePath(QStringLiteral("drive/TeslaCam")));
+        const QString good = TestClips::clip();
+        const auto event = [&](const QString &day) {
+            return drive.addEvent(QStringLiteral("SentryClips"), day + QStringLiteral("_10-00-00"),
+                                  TeslaCamFixture::eventJson(day + QStringLiteral("T10:00:00"),
+                                                             QStringLiteral("sentry_aware_object_detection")));
+        };
+        // A stump and a file that isn't a movie beside a good clip; good clips
+        // only; a clip whose header its data contradict.
+        const QString twoBad = event(QStringLiteral("2023-03-01"));
+        drive.addClip(twoBad, QStringLiteral("2023-03-01_09-59-00"), QStringLiteral("front"), 0, good);
+        drive.addClip(twoBad, QStringLiteral("2023-03-01_09-59-00"), QStringLiteral("back"), 1000);
+        drive.addClip(twoBad, QStringLiteral("2023-03-01_09-59-00"), QStringLiteral("left_repeater"), 100 * 1024);
+        const QString sound = event(QStringLiteral("2023-03-02"));
+        drive.addClip(sound, QStringLiteral("2023-03-02_09-59-00"), QStringLiteral("front"), 0, good);
+        drive.addClip(sound, QStringLiteral("2023-03-02_09-59-00"), QStringLiteral("back"), 0, good);
+        const QString oneBad = event(QStringLiteral("2023-03-03"));
+        TeslaCamFixture::writeFile(oneBad + QStringLiteral("/2023-03-03_09-59-00-front.mp4"),
+                                   DamagedHeaders::damaged(3, good));
+        const QStringList expected{QStringLiteral("sentry|2023-03-01_10-00-00: 2"),
+                                   QStringLiteral("sentry|2023-03-02_10-00-00: 0"),
+                                   QStringLiteral("sentry|2023-03-03_10-00-00: 1")};
+
+        {
+            FormatEngine engine;
+            engine.scanCache = std::make_unique<ScanCache>(cacheFile);
+            AppState state(engine);
+            state.beginScan(drive.root());
+            QTRY_VERIFY_WITH_TIMEOUT(state.driveScan() && state.healthReport()
+                                         && state.healthReport()->probedClipCount == 6,
+                                     60000);
+            QCOMPARE(damageMarks(*state.driveScan()), expected);
+        }
+
+        // The restart: a new engine and state on the same home, drive and cache file.
+        FormatEngine engine;
+        engine.scanCache = std::make_unique<ScanCache>(cacheFile);
+        engine.holdProbes = true;
+        AppState state(engine);
+        std::vector<QStringList> shown;
+        QObject watching;
+        connect(&state, &AppState::driveScanChanged, &watching, [&] {
+            if (state.driveScan())
+                shown.push_back(damageMarks(*state.driveScan()));
+        });
+        state.beginScan(drive.root());
+        QVERIFY(settled(state));
+        QTRY_COMPARE(engine.heldProbes.size(), size_t(1));
+        // The cached answer, then the fresh scan: both on screen by now.
+        QVERIFY(shown.size() >= 2);
+        for (const QStringList &marks : shown)
+            QCOMPARE(marks, expected);
+
+        // A watcher made after the state's own hears the answer after it.
+        QFutureWatcher<std::vector<TeslaEvent>> after;
+        QSignalSpy heard(&after, &QFutureWatcherBase::finished);
+        after.setFuture(engine.heldProbes[0].first->future());
+        engine.answerHeldProbe(0);
+        QVERIFY(heard.wait(60000));
+        QCOMPARE(state.healthReport()->probedClipCount, 6);
+        for (const QStringList &marks : shown)
+            QCOMPARE(marks, expected);
     }
 
     void scanCacheKeyNamesThePhysicalDrive()
