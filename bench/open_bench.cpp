@@ -7,6 +7,7 @@
 // of that minute in turn, from the same slow drive. Needs root for the
 // drive; nothing is drawn.
 
+#include "BenchLoop.h"
 #include "BenchFootage.h"
 #include "support/FaultyFs.h"
 
@@ -60,23 +61,7 @@ QByteArray contentOf(const QString &path)
     return f.readAll();
 }
 
-template <typename Pred>
-bool waitFor(Pred pred, int ms)
-{
-    if (pred())
-        return true;
-    QEventLoop loop;
-    QTimer poll;
-    poll.setTimerType(Qt::PreciseTimer);
-    QObject::connect(&poll, &QTimer::timeout, &loop, [&] {
-        if (pred())
-            loop.quit();
-    });
-    poll.start(1);
-    QTimer::singleShot(ms, &loop, &QEventLoop::quit);
-    loop.exec();
-    return pred();
-}
+using BenchLoop::waitFor;
 
 TeslaEvent scanned(const QString &teslaCam)
 {

@@ -5,6 +5,7 @@
 // frame, and peak memory; and how fast the same HW4 event plays when the
 // car encrypted it and its keys are held. Nothing is drawn.
 
+#include "BenchLoop.h"
 #include "crypt/DecryptingClipReader.h"
 #include "crypt/KeyStore.h"
 #include "support/EcryptfsWriter.h"
@@ -61,23 +62,7 @@ void wait(int ms)
     loop.exec();
 }
 
-template <typename Pred>
-bool waitFor(Pred pred, int ms)
-{
-    if (pred())
-        return true;
-    QEventLoop loop;
-    QTimer poll;
-    poll.setTimerType(Qt::PreciseTimer);
-    QObject::connect(&poll, &QTimer::timeout, &loop, [&] {
-        if (pred())
-            loop.quit();
-    });
-    poll.start(1);
-    QTimer::singleShot(ms, &loop, &QEventLoop::quit);
-    loop.exec();
-    return pred();
-}
+using BenchLoop::waitFor;
 
 // Six cameras, two one-minute clips each (the same file serves both minutes).
 TeslaEvent makeEvent(const QString &dir, const QString &frontClip, const QString &sideClip)
