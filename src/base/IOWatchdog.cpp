@@ -1,5 +1,7 @@
 #include "base/IOWatchdog.h"
 
+#include "base/LogCategories.h"
+
 #include <atomic>
 #include <thread>
 
@@ -32,27 +34,33 @@ bool waitForThreads(std::chrono::milliseconds limit)
 
 namespace detail {
 
-void startThread(std::function<void()> body)
+namespace {
+// Not a pool's thread: a read stuck in the kernel may keep it for good.
+std::thread counted(std::function<void()> body)
 {
-    // Not a pool's thread: a read stuck in the kernel may keep it for good,
-    // and nobody joins it.
     Running &r = running();
     {
         std::lock_guard lock(r.mutex);
         ++r.count;
     }
     try {
-        std::thread([&r, body = std::move(body)] {
+        return std::thread([&r, body = std::move(body)] {
             body();
             std::lock_guard lock(r.mutex);
             --r.count;
             r.ended.notify_all();
-        }).detach();
+        });
     } catch (...) {
         std::lock_guard lock(r.mutex);
         --r.count;
         throw;
     }
+}
+} // namespace
+
+void startThread(std::function<void()> body)
+{
+    counted(std::move(body)).detach();
 }
 
 void abandon(RaceState &race)
@@ -70,4 +78,39 @@ void finished(RaceState &race)
 }
 
 } // namespace detail
+OwnedThread::OwnedThread(std::function<void(std::stop_token)> body) : race_(std::make_shared<detail::RaceState>())
+{
+    thread_ = detail::counted([race = race_, body = std::move(body)]() mutable {
+        try {
+            auto work = std::move(body);
+            work(race->stop.get_token());
+        } catch (...) {
+            KEELHOLD_LOG_CAUGHT(lcBase);
+        }
+        std::lock_guard lock(race->mutex);
+        detail::finished(*race);
+    });
+}
+
+void OwnedThread::requestStop()
+{
+    stopAsked_ = true;
+    race_->stop.request_stop();
+}
+
+OwnedThread::~OwnedThread()
+{
+    race_->stop.request_stop();
+    std::unique_lock lock(race_->mutex);
+    const bool ended = stopAsked_ ? race_->done
+                                  : race_->changed.wait_for(lock, grace, [this] { return race_->done; });
+    if (!ended) {
+        detail::abandon(*race_);
+        thread_.detach();
+        return;
+    }
+    lock.unlock();
+    thread_.join();
+}
+
 } // namespace IOWatchdog

@@ -10,6 +10,7 @@
 #include <mutex>
 #include <optional>
 #include <stop_token>
+#include <thread>
 
 // A time limit on one piece of drive work. The work runs on a thread of its
 // own with a stop token. When the limit passes (or the caller cancels), stop
@@ -29,7 +30,7 @@ using Clock = std::chrono::steady_clock;
 // How long work that was asked to stop may take to end before it is left behind.
 inline constexpr std::chrono::milliseconds grace{500};
 
-// Threads whose work was left behind and has not ended yet: a dead drive
+// Threads whose work was left behind (timed-out reads and owned threads alike) and has not ended yet: a dead drive
 // costs one each until the kernel gives up on the read.
 int abandonedThreads();
 // Waits until every thread the watchdog started has ended, up to limit;
@@ -54,7 +55,9 @@ struct Race : RaceState {
 
 // Runs body on a new detached thread; throws std::system_error when none can be had.
 void startThread(std::function<void()> body);
-// Marks the race as left behind by its caller (the mutex is held).
+// Marks the race as left behind by its caller (the mutex is held). The one
+// way any thread is left behind: a timed-out read's, or an owned thread
+// whose owner went while its work was stuck.
 void abandon(RaceState &race);
 // Called by the work's thread when it ends (the mutex is held).
 void finished(RaceState &race);
@@ -151,5 +154,26 @@ T runUntilStopped(Op &&operation, std::stop_token caller)
 {
     return run(std::chrono::milliseconds::max(), std::forward<Op>(operation), caller);
 }
+
+// A thread with one owner, for drive work that lasts as long as the owner
+// does (a player's decoding). Going, the owner stops it and joins it; work
+// that doesn't end within the grace (a read stuck in the kernel) is left
+// behind through the same abandon as a timed-out read, and ends by itself.
+class OwnedThread {
+public:
+    explicit OwnedThread(std::function<void(std::stop_token)> body);
+    ~OwnedThread();
+    OwnedThread(const OwnedThread &) = delete;
+    OwnedThread &operator=(const OwnedThread &) = delete;
+
+    // Asks the work to end now. The owner going later doesn't wait again:
+    // the work had its moment, and the window's thread mustn't stall.
+    void requestStop();
+
+private:
+    std::shared_ptr<detail::RaceState> race_;
+    std::thread thread_;
+    bool stopAsked_ = false;
+};
 
 } // namespace IOWatchdog

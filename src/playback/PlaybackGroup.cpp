@@ -23,6 +23,9 @@ PlaybackGroup::~PlaybackGroup()
 
 void PlaybackGroup::add(TrackPlayer *player)
 {
+    prune();
+    if (members_.empty())
+        *clock_ = player->clock();
     members_.emplace_back(player);
     player->setGroup(this);
 }
@@ -66,14 +69,13 @@ void PlaybackGroup::tick()
         timer_.stop();
         return;
     }
-    // Every member runs from the same anchor, so any member's clock is the
-    // group's; the longest track's doesn't stop at an earlier end.
-    TrackPlayer *lead = members_.front();
+    // Up to the end of the longest track: an earlier end doesn't stop the others.
+    double end = 0;
     for (const auto &m : members_)
-        if (m->isPlaying() > lead->isPlaying()
-            || (m->isPlaying() == lead->isPlaying() && m->trackDuration() > lead->trackDuration()))
-            lead = m;
-    const double t = lead->currentSeconds();
+        end = std::max(end, m->trackDuration().seconds());
+    double t = std::max(0.0, clock_->seconds());
+    if (end > 0)
+        t = std::min(t, end);
     const double now = HostClock::now();
     bool prepared = true;
     for (const auto &m : members_) {
@@ -96,11 +98,11 @@ void PlaybackGroup::tick()
         for (const auto &m : members_)
             if (m->isSeeking())
                 m->presentPreview();
-        for (const auto &m : members_)
-            m->holdClock(preparedUpTo_, now);
+        clock_->hold(preparedUpTo_, now);
     }
-    const bool busy = std::any_of(members_.begin(), members_.end(),
-                                  [](const QPointer<TrackPlayer> &m) { return m->isPlaying() || m->isSeeking(); });
+    const bool busy = clock_->running() || std::any_of(members_.begin(), members_.end(), [](const QPointer<TrackPlayer> &m) {
+                          return m->isSeeking();
+                      });
     if (!busy)
         timer_.stop();
 }

@@ -1,10 +1,13 @@
 #pragma once
 
+#include "playback/PlaybackClock.h"
+
 #include <QObject>
 #include <QPointer>
 #include <QTimer>
 
 #include <map>
+#include <memory>
 #include <vector>
 
 class TrackPlayer;
@@ -16,7 +19,8 @@ class TrackPlayer;
 // clock waits for it (playback slows down as a whole; no camera trails).
 // A camera stuck for longer than stallLimit (a drive that stopped answering),
 // or one that never gave a picture, doesn't hold the others; it joins again
-// once it has caught up.
+// once it has caught up. The group has one clock, which its members read
+// and set and which it alone holds back.
 class PlaybackGroup : public QObject {
     Q_OBJECT
 public:
@@ -25,12 +29,14 @@ public:
     explicit PlaybackGroup(QObject *parent = nullptr);
     ~PlaybackGroup() override;
 
+    // The first member brings its clock's time; the others take the group's.
     void add(TrackPlayer *player);
     void clear();
     // A member's clock was set (play, pause, seek, rate): time starts from there.
     void clockChanged(TrackPlayer *member);
     // A member has something new to show.
     void wake();
+    const std::shared_ptr<PlaybackClock> &clock() const { return clock_; }
 
 private:
     void tick();
@@ -41,5 +47,6 @@ private:
     std::map<const TrackPlayer *, double> laggingSince_;
     // The newest time every member was prepared for: where a held clock waits.
     double preparedUpTo_ = 0;
+    std::shared_ptr<PlaybackClock> clock_ = std::make_shared<PlaybackClock>();
     QTimer timer_;
 };

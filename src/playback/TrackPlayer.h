@@ -1,7 +1,9 @@
 #pragma once
 
 #include "playback/Composition.h"
+#include "playback/DecodeWorker.h"
 #include "playback/MediaTime.h"
+#include "playback/PlaybackClock.h"
 #include "playback/PlaybackGroup.h"
 
 #include <QObject>
@@ -16,11 +18,10 @@
 #include <memory>
 #include <optional>
 
-// Plays the first video track of one composition. Demuxing and decoding run
-// on a worker thread that keeps a small queue of frames ahead; the GUI
-// thread hands each frame to the video sink when the shared host clock
-// reaches it. Time while playing is anchor + rate × (host now − anchor
-// instant), so players given the same anchor show the same media time.
+// Plays the first video track of one composition. Its DecodeWorker keeps a
+// small queue of frames ahead; the GUI thread hands each frame to the video
+// sink when the clock reaches it. Alone, the player has a clock of its own;
+// in a group, every member reads the group's one clock.
 // Empty stretches of the track show no picture.
 class TrackPlayer : public QObject {
     Q_OBJECT
@@ -56,7 +57,7 @@ public:
     // Plays from time at rate, beginning at hostTime of HostClock. A time
     // other than the present position seeks there first.
     void setRate(float rate, MediaTime time, double hostTime);
-    float rate() const { return playing_ ? rate_ : 0.0f; }
+    float rate() const { return clock_->running() ? clock_->rate() : 0.0f; }
     void pause();
     // Exact: the frame shown is the newest one not after time. completion
     // gets true once that frame is shown, false when a later seek replaced
@@ -84,7 +85,8 @@ public:
     // to leave); alone, the player presents on its own timer.
     void setGroup(PlaybackGroup *group);
     PlaybackGroup *group() const { return group_; }
-    bool isPlaying() const { return playing_; }
+    const PlaybackClock &clock() const { return *clock_; }
+    bool isPlaying() const { return clock_->running(); }
     // For the group: true when the frame for time t is known (a later frame
     // is queued, or nothing more will come).
     bool preparedFor(double t);
@@ -95,9 +97,6 @@ public:
     bool presentPreview();
     // The picture is a key frame near the last seek's target, not yet its exact frame.
     bool isShowingPreview() const { return showingPreview_; }
-    // Moves the clock back to media at host instant: the group waits for a
-    // camera that is behind. No effect before the start instant.
-    void holdClock(double media, double host);
     // Makes every decoded frame take at least this long (measurements and tests).
     void setDecodeDelay(std::chrono::milliseconds delay);
 
@@ -111,8 +110,6 @@ Q_SIGNALS:
     void videoSinkChanged();
 
 private:
-    struct Shared;
-    class Worker;
     struct Pending {
         quint64 generation = 0;
         std::function<void(bool)> completion;
@@ -124,15 +121,13 @@ private:
     void updateTimers();
     void markReady();
 
-    std::shared_ptr<Shared> shared_;
+    std::shared_ptr<DecodeWorker::State> shared_;
+    std::unique_ptr<DecodeWorker> worker_;
+    std::shared_ptr<PlaybackClock> clock_;
+    // Where the decoder was last sent while the clock stood; none once it runs.
+    std::optional<double> parkedAt_;
     double trackEnd_ = 0;
     Status status_ = Unknown;
-    bool playing_ = false;
-    bool stopRequested_ = false;
-    float rate_ = 1.0f;
-    double anchorMedia_ = 0;
-    double anchorHost_ = 0;
-    double pausedAt_ = 0;
     quint64 generation_ = 0;
     quint64 presentedGeneration_ = 0;
     quint64 previewGeneration_ = 0;

@@ -29,6 +29,12 @@ KeelholdApp::KeelholdApp(QObject *parent)
 {
     static bool styled = false;
     if (!styled) {
+        // Our own decoder fills every tile; Qt's FFmpeg media backend only
+        // draws the frames. The GStreamer one builds a GL context per tile
+        // and, tearing it down as the player leaves the window, has held the
+        // window's thread for seconds.
+        if (!qEnvironmentVariableIsSet("QT_MEDIA_BACKEND"))
+            qputenv("QT_MEDIA_BACKEND", "ffmpeg");
         QQuickStyle::setStyle(QStringLiteral("Fusion"));
         ColorScheme::apply();
         QmlTypes::registerAll();

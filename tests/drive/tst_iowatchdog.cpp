@@ -123,6 +123,42 @@ private Q_SLOTS:
         QVERIFY(*seenByWork);
     }
 
+    // A player's decoding: joined when its owner goes, unless it is stuck.
+    void ownedThreadIsJoinedOrLeftBehindOnlyWhenStuck()
+    {
+        auto ended = std::make_shared<std::atomic<bool>>(false);
+        {
+            IOWatchdog::OwnedThread owned([ended](std::stop_token stop) {
+                std::mutex m;
+                std::condition_variable_any cv;
+                std::unique_lock lock(m);
+                cv.wait(lock, stop, [] { return false; });
+                *ended = true;
+            });
+        }
+        QVERIFY2(*ended, "the owner went before its thread ended");
+        QCOMPARE(IOWatchdog::abandonedThreads(), 0);
+
+        // Deaf to the stop, as a read in the kernel is: the owner goes
+        // after the grace (or at once when it had asked to stop before) and
+        // the thread is counted until it ends.
+        auto gate = std::make_shared<std::latch>(1);
+        for (bool askedBefore : {false, true}) {
+            QElapsedTimer timer;
+            timer.start();
+            {
+                IOWatchdog::OwnedThread stuck([gate](std::stop_token) { gate->wait(); });
+                if (askedBefore)
+                    stuck.requestStop();
+            }
+            QVERIFY(askedBefore ? timer.elapsed() < IOWatchdog::grace.count() : timer.elapsed() >= IOWatchdog::grace.count());
+        }
+        QCOMPARE(IOWatchdog::abandonedThreads(), 2);
+        gate->count_down();
+        QTRY_COMPARE_WITH_TIMEOUT(IOWatchdog::abandonedThreads(), 0, 30000);
+        QVERIFY(IOWatchdog::waitForThreads(10s));
+    }
+
     void zeroLimitRacesAnExpiredClock()
     {
         // Work that needs any time at all loses.
