@@ -1,7 +1,7 @@
 #pragma once
 
-#include "playback/Composition.h"
-#include "playback/MediaTime.h"
+#include "timeline/Composition.h"
+#include "timeline/MediaTime.h"
 #include "playback/PlaybackGroup.h"
 
 #include <QObject>

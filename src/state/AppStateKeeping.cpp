@@ -5,8 +5,8 @@
 
 #include "drive/DriveBoundary.h"
 #include "base/IOWatchdog.h"
-#include "engine/AsyncRun.h"
-#include "engine/EnginePools.h"
+#include "base/AsyncRun.h"
+#include "base/EnginePools.h"
 #include "playback/SyncPlayerController.h"
 #include "state/OnMainThread.h"
 

@@ -1,5 +1,5 @@
-#include "engine/AsyncRun.h"
-#include "engine/EnginePools.h"
+#include "base/AsyncRun.h"
+#include "base/EnginePools.h"
 #include "drive/TeslaCamParser.h"
 #include "engine/LiveEngine.h"
 #include "engine/MockEngine.h"
