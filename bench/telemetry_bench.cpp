@@ -4,7 +4,7 @@
 // Usage: telemetry_bench [clip-folder]   (a folder keeps the clips for the next run)
 
 #include "playback/MediaSource.h"
-#include "playback/TelemetryTimeline.h"
+#include "timeline/TelemetryTimeline.h"
 #include "support/TelemetryClipWriter.h"
 
 #include <QCoreApplication>

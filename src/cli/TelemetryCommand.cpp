@@ -7,7 +7,7 @@
 #include "drive/DriveBoundary.h"
 #include "drive/TeslaCamParser.h"
 #include "model/EventTelemetry.h"
-#include "playback/TelemetryTimeline.h"
+#include "timeline/TelemetryTimeline.h"
 #include "vault/VaultBrowser.h"
 
 extern "C" {

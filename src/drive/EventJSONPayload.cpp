@@ -2,7 +2,7 @@
 
 #include "drive/ClipCalendar.h"
 #include "drive/NumberParsing.h"
-#include "drive/TeslaCamParser.h"
+#include "drive/ClipNames.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -103,8 +103,8 @@ std::optional<Date> EventJSONPayload::parsedTimestamp() const
         return d;
     QString folderStyle = *timestampRaw;
     folderStyle.replace(QLatin1Char('T'), QLatin1Char('_'));
-    if (const auto groups = TeslaCamParser::matchFolderName(folderStyle))
-        return TeslaCamParser::parseTimestamp(groups->date, groups->time);
+    if (const auto groups = ClipNames::matchFolderName(folderStyle))
+        return ClipNames::parseTimestamp(groups->date, groups->time);
     return std::nullopt;
 }
 

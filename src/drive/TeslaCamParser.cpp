@@ -1,16 +1,15 @@
 #include "drive/TeslaCamParser.h"
 
 #include "drive/ClipCalendar.h"
+#include "drive/ClipNames.h"
 #include "drive/EcryptfsHeader.h"
 #include "drive/EventJSONPayload.h"
 #include "base/ReadOnlyFs.h"
 #include "drive/ReasonMapper.h"
 #include "drive/VolumeInfo.h"
 
-#include <QChar>
 #include <algorithm>
 #include <cerrno>
-#include <climits>
 #include <set>
 
 namespace TeslaCamParser {
@@ -36,124 +35,10 @@ namespace {
 constexpr qint64 maxEventJSONBytes = 1 << 20;
 constexpr double recentGapTolerance = 150.0;
 
-// Matches `count` Unicode decimal digits (\d) at pos, advancing it.
-bool matchDigits(QStringView s, qsizetype &pos, int count)
-{
-    for (int i = 0; i < count; ++i) {
-        if (pos >= s.size())
-            return false;
-        char32_t cp = s[pos].unicode();
-        qsizetype width = 1;
-        if (QChar::isHighSurrogate(cp) && pos + 1 < s.size() && s[pos + 1].isLowSurrogate()) {
-            cp = QChar::surrogateToUcs4(s[pos], s[pos + 1]);
-            width = 2;
-        }
-        if (QChar::category(cp) != QChar::Number_DecimalDigit)
-            return false;
-        pos += width;
-    }
-    return true;
-}
-
-bool matchChar(QStringView s, qsizetype &pos, char16_t c)
-{
-    if (pos >= s.size() || s[pos] != c)
-        return false;
-    ++pos;
-    return true;
-}
-
-struct GroupViews {
-    QStringView date;
-    QStringView time;
-    QStringView suffix;
-};
-
-// (\d{4}-\d{2}-\d{2})_(\d{2}-\d{2}-\d{2}) from the start; pos ends after it.
-bool matchDateTime(QStringView s, qsizetype &pos, GroupViews &groups)
-{
-    pos = 0;
-    if (!(matchDigits(s, pos, 4) && matchChar(s, pos, u'-') && matchDigits(s, pos, 2) && matchChar(s, pos, u'-')
-          && matchDigits(s, pos, 2)))
-        return false;
-    const qsizetype dateEnd = pos;
-    if (!matchChar(s, pos, u'_'))
-        return false;
-    const qsizetype timeStart = pos;
-    if (!(matchDigits(s, pos, 2) && matchChar(s, pos, u'-') && matchDigits(s, pos, 2) && matchChar(s, pos, u'-')
-          && matchDigits(s, pos, 2)))
-        return false;
-    groups.date = s.first(dateEnd);
-    groups.time = s.mid(timeStart, pos - timeStart);
-    return true;
-}
-
-std::optional<GroupViews> matchClipViews(QStringView name)
-{
-    GroupViews groups;
-    qsizetype pos = 0;
-    if (!matchDateTime(name, pos, groups) || !matchChar(name, pos, u'-'))
-        return std::nullopt;
-    static constexpr QStringView extension = u".mp4";
-    if (!name.endsWith(extension))
-        return std::nullopt;
-    const qsizetype suffixEnd = name.size() - extension.size();
-    if (suffixEnd <= pos)
-        return std::nullopt;
-    for (qsizetype i = pos; i < suffixEnd; ++i) {
-        const char16_t c = name[i].unicode();
-        if (!((c >= u'a' && c <= u'z') || c == u'_'))
-            return std::nullopt;
-    }
-    groups.suffix = name.mid(pos, suffixEnd - pos);
-    return groups;
-}
-
-// Swift's Int(String) on one part: ASCII digits with an optional sign, no allocation.
-std::optional<long long> parseIntegerPart(QStringView part)
-{
-    qsizetype i = 0;
-    bool negative = false;
-    if (part.size() > 1 && (part[0] == u'+' || part[0] == u'-')) {
-        negative = part[0] == u'-';
-        i = 1;
-    }
-    if (i >= part.size())
-        return std::nullopt;
-    long long value = 0;
-    for (; i < part.size(); ++i) {
-        const char16_t c = part[i].unicode();
-        if (c < u'0' || c > u'9' || value > (LLONG_MAX - 9) / 10)
-            return std::nullopt;
-        value = value * 10 + (c - u'0');
-    }
-    return negative ? -value : value;
-}
-
-// Splits on "-", drops empty parts, keeps the integers; true when exactly three.
-bool threeNumbers(QStringView text, long long out[3])
-{
-    int count = 0;
-    qsizetype start = 0;
-    for (qsizetype i = 0; i <= text.size(); ++i) {
-        if (i < text.size() && text[i] != u'-')
-            continue;
-        if (i > start) {
-            if (const auto v = parseIntegerPart(text.mid(start, i - start))) {
-                if (count == 3)
-                    return false;
-                out[count++] = *v;
-            }
-        }
-        start = i + 1;
-    }
-    return count == 3;
-}
-
 std::optional<ClipRef> clipFromName(const QString &fileURL, QStringView name, std::vector<ScanIssue> &issues,
                                     std::optional<qint64> knownSize)
 {
-    const auto groups = matchClipViews(name);
+    const auto groups = ClipNames::matchClipViews(name);
     if (!groups)
         return std::nullopt;
     const auto camera = Camera::fromFileSuffix(groups->suffix);
@@ -161,7 +46,7 @@ std::optional<ClipRef> clipFromName(const QString &fileURL, QStringView name, st
         issues.push_back(ScanIssue{ScanIssue::Kind::unknownCameraSuffix, fileURL});
         return std::nullopt;
     }
-    const auto start = parseTimestamp(groups->date, groups->time);
+    const auto start = ClipNames::parseTimestamp(groups->date, groups->time);
     if (!start)
         return std::nullopt;
     qint64 size = 0;
@@ -251,15 +136,15 @@ void scanLayout(const QString &base, const ScanProgressCallback &progress, int &
         for (const auto &entry : listing.entries) {
             const QString path = childPath(folder, entry.name);
             if (!entry.isDirectory) {
-                if (!isIgnoredName(entry.name))
+                if (!ClipNames::isIgnoredName(entry.name))
                     issues.push_back(ScanIssue{ScanIssue::Kind::unknownFile, path});
                 continue;
             }
             ++foldersScanned;
-            const auto groups = matchFolderName(entry.name);
+            const auto groups = ClipNames::matchFolderName(entry.name);
             if (!groups)
                 continue;
-            const auto timestamp = parseTimestamp(groups->date, groups->time);
+            const auto timestamp = ClipNames::parseTimestamp(groups->date, groups->time);
             if (!timestamp)
                 continue;
             auto event = parseEventFolder(path, f.kind, *timestamp, issues);
@@ -286,37 +171,6 @@ void scanLayout(const QString &base, const ScanProgressCallback &progress, int &
 }
 
 } // namespace
-
-std::optional<NameGroups> matchFolderName(QStringView name)
-{
-    GroupViews groups;
-    qsizetype pos = 0;
-    if (!matchDateTime(name, pos, groups) || pos != name.size())
-        return std::nullopt;
-    return NameGroups{groups.date.toString(), groups.time.toString(), QString()};
-}
-
-std::optional<NameGroups> matchClipFilename(QStringView name)
-{
-    const auto groups = matchClipViews(name);
-    if (!groups)
-        return std::nullopt;
-    return NameGroups{groups->date.toString(), groups->time.toString(), groups->suffix.toString()};
-}
-
-bool isIgnoredName(QStringView name)
-{
-    return name == u".DS_Store" || name == u"desktop.ini" || name == u"Thumbs.db" || name.startsWith(u"._");
-}
-
-std::optional<Date> parseTimestamp(QStringView dateGroup, QStringView timeGroup)
-{
-    long long date[3];
-    long long time[3];
-    if (!threeNumbers(dateGroup, date) || !threeNumbers(timeGroup, time))
-        return std::nullopt;
-    return ClipCalendar::dateFromComponents(date[0], date[1], date[2], time[0], time[1], time[2]);
-}
 
 std::optional<ClipRef> parseClipFilename(const QString &fileURL, std::vector<ScanIssue> &issues,
                                          std::optional<qint64> knownSize)
@@ -357,7 +211,7 @@ std::optional<TeslaEvent> parseEventFolder(const QString &folderURL, EventKind k
         } else {
             if (auto clip = clipFromName(path, entry.name, issues, entry.size.value_or(0))) {
                 clips.push_back(std::move(*clip));
-            } else if (!matchClipViews(entry.name) && !isIgnoredName(entry.name)) {
+            } else if (!ClipNames::matchClipViews(entry.name) && !ClipNames::isIgnoredName(entry.name)) {
                 issues.push_back(ScanIssue{ScanIssue::Kind::unknownFile, path});
             }
         }
@@ -399,7 +253,7 @@ std::optional<std::vector<ClipRef>> parseFlatClipsDirectory(const QString &folde
         const QString path = childPath(folderURL, entry.name);
         if (auto clip = clipFromName(path, entry.name, issues, entry.size.value_or(0)))
             clips.push_back(std::move(*clip));
-        else if (!matchClipViews(entry.name) && !isIgnoredName(entry.name))
+        else if (!ClipNames::matchClipViews(entry.name) && !ClipNames::isIgnoredName(entry.name))
             issues.push_back(ScanIssue{ScanIssue::Kind::unknownFile, path});
     }
     return clips;

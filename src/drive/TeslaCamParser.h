@@ -9,7 +9,6 @@
 #include "model/VolumeFormat.h"
 
 #include <QString>
-#include <QStringView>
 #include <exception>
 #include <optional>
 #include <vector>
@@ -44,20 +43,6 @@ private:
     std::string text_;
 };
 
-// The captured groups of the folder-name and clip-file-name patterns:
-//   ^(\d{4}-\d{2}-\d{2})_(\d{2}-\d{2}-\d{2})$
-//   ^(\d{4}-\d{2}-\d{2})_(\d{2}-\d{2}-\d{2})-([a-z_]+)\.mp4$
-struct NameGroups {
-    QString date;
-    QString time;
-    QString suffix; // clip names only
-};
-std::optional<NameGroups> matchFolderName(QStringView name);
-std::optional<NameGroups> matchClipFilename(QStringView name);
-
-// ".DS_Store", "desktop.ini", "Thumbs.db" and "._*" are passed over silently.
-bool isIgnoredName(QStringView name);
-
 DriveScan scan(const QString &root, const ScanProgressCallback &progress = {});
 
 std::optional<TeslaEvent> parseEventFolder(const QString &folderURL, EventKind kind, Date folderTimestamp,
@@ -66,7 +51,6 @@ std::optional<std::vector<ClipRef>> parseFlatClipsDirectory(const QString &folde
 // knownSize skips the size read when a listing already fetched it.
 std::optional<ClipRef> parseClipFilename(const QString &fileURL, std::vector<ScanIssue> &issues,
                                          std::optional<qint64> knownSize = std::nullopt);
-std::optional<Date> parseTimestamp(QStringView dateGroup, QStringView timeGroup);
 std::vector<TeslaEvent> groupIntoRecentEvents(const std::vector<ClipRef> &clips, const QString &folderURL,
                                               double gapTolerance);
 VolumeFormat volumeFormat(const std::optional<QString> &description);

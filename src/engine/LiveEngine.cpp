@@ -2,15 +2,15 @@
 
 #include "drive/ClipProber.h"
 #include "drive/TeslaCamParser.h"
-#include "engine/AsyncRun.h"
+#include "base/AsyncRun.h"
 #include "engine/BookmarkStore.h"
 #include "engine/DriveWatcher.h"
-#include "engine/EnginePools.h"
+#include "base/EnginePools.h"
 #include "engine/ScanCache.h"
 #include "engine/TriageStore.h"
 #include "export/CombinedExport.h"
 #include "export/Exporter.h"
-#include "playback/TelemetryTimeline.h"
+#include "timeline/TelemetryTimeline.h"
 #include "vault/ArchiveEngine.h"
 #include "vault/VaultBrowser.h"
 

@@ -1,9 +1,9 @@
 #include "engine/MockEngine.h"
 
-#include "engine/AsyncRun.h"
+#include "base/AsyncRun.h"
 #include "base/CancellationError.h"
-#include "playback/TelemetryTimeline.h"
-#include "vault/ArchivedEvent.h"
+#include "timeline/TelemetryTimeline.h"
+#include "model/ArchivedEvent.h"
 
 #include <QDateTime>
 #include <QDir>

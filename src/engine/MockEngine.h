@@ -1,7 +1,7 @@
 #pragma once
 
 #include "engine/EngineFacade.h"
-#include "engine/SerialExecutor.h"
+#include "base/SerialExecutor.h"
 
 #include <QHash>
 #include <memory>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/SerialExecutor.h"
+#include "base/SerialExecutor.h"
 #include "model/DriveScan.h"
 
 #include <QFuture>

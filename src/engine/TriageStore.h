@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/SerialExecutor.h"
+#include "base/SerialExecutor.h"
 #include "model/TriageState.h"
 
 #include <QFuture>

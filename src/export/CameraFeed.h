@@ -4,7 +4,7 @@
 #include "model/Camera.h"
 #include "model/ClipRef.h"
 #include "model/Date.h"
-#include "playback/Composition.h"
+#include "timeline/Composition.h"
 
 #include <QHash>
 #include <chrono>

@@ -8,8 +8,8 @@
 #include "export/ProgressRelay.h"
 #include "base/CancellationError.h"
 #include "base/IOWatchdog.h"
-#include "playback/EventTimeline.h"
-#include "playback/TelemetryTimeline.h"
+#include "timeline/EventTimeline.h"
+#include "timeline/TelemetryTimeline.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,6 +1,6 @@
 #include "export/CombinedExportOptions.h"
 
-#include "playback/EventTimeline.h"
+#include "timeline/EventTimeline.h"
 
 #include <QStringList>
 #include <algorithm>

@@ -4,7 +4,7 @@
 #include "export/CombinedExportProgress.h"
 #include "model/Date.h"
 #include "model/EventTelemetry.h"
-#include "playback/EventTimeline.h"
+#include "timeline/EventTimeline.h"
 
 #include <QString>
 #include <chrono>

@@ -2,7 +2,7 @@
 
 #include "drive/ReadableFormats.h"
 #include "model/PlatformWords.h"
-#include "vault/ArchivedEvent.h"
+#include "model/ArchivedEvent.h"
 
 #include <algorithm>
 #include <cmath>

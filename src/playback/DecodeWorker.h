@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/IOWatchdog.h"
-#include "playback/Composition.h"
+#include "timeline/Composition.h"
 #include "playback/HostClock.h"
 
 #include <QVideoFrame>

@@ -2,10 +2,10 @@
 
 #include "base/Awaiting.h"
 #include "base/LogCategories.h"
-#include "engine/AsyncRun.h"
-#include "engine/EnginePools.h"
+#include "base/AsyncRun.h"
+#include "base/EnginePools.h"
 #include "playback/HostClock.h"
-#include "playback/EventTimeline.h"
+#include "timeline/EventTimeline.h"
 
 #include <QThreadPool>
 #include <QTimer>

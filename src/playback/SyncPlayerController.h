@@ -4,9 +4,9 @@
 #include "model/Camera.h"
 #include "model/TeslaEvent.h"
 #include "playback/RateMeter.h"
-#include "playback/Composition.h"
+#include "timeline/Composition.h"
 #include "playback/PlaybackGroup.h"
-#include "playback/EventTimeline.h"
+#include "timeline/EventTimeline.h"
 #include "playback/TrackPlayer.h"
 
 #include <QObject>

@@ -1,7 +1,7 @@
 #include "playback/ThumbnailLoader.h"
 
-#include "engine/AsyncRun.h"
-#include "engine/EnginePools.h"
+#include "base/AsyncRun.h"
+#include "base/EnginePools.h"
 #include "media/ClipReaderDevice.h"
 
 #include <QCache>

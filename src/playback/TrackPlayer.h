@@ -1,9 +1,9 @@
 #pragma once
 
-#include "playback/Composition.h"
 #include "playback/DecodeWorker.h"
-#include "playback/MediaTime.h"
 #include "playback/PlaybackClock.h"
+#include "timeline/Composition.h"
+#include "timeline/MediaTime.h"
 #include "playback/PlaybackGroup.h"
 
 #include <QObject>

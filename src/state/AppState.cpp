@@ -4,10 +4,9 @@
 #include "drive/DriveBoundary.h"
 #include "drive/ReadableFormats.h"
 #include "drive/TeslaCamParser.h"
-#include "engine/AsyncRun.h"
-#include "engine/EnginePools.h"
+#include "base/AsyncRun.h"
+#include "base/EnginePools.h"
 #include "health/HealthComputer.h"
-#include "playback/SyncPlayerController.h"
 #include "state/OnMainThread.h"
 
 #include <QCoreApplication>
@@ -660,8 +659,7 @@ void AppState::removeFromVault(const TeslaEvent &given)
     const TeslaEvent event = given;
     if (!vaultURL_)
         return;
-    if (auto *player = activePlayerController())
-        player->pause();
+    pauseActivePlayer();
     if (selectedVaultEventID_ == event.id())
         setSelectedVaultEventID(std::nullopt);
     try {
@@ -820,13 +818,12 @@ void AppState::setSelectedVaultEventIDForQml(const QString &id)
 void AppState::setColumnVisibility(ColumnVisibility v) { KH_SET(columnVisibility_, v, columnVisibilityChanged); }
 void AppState::setIsFocusMode(bool v) { KH_SET(isFocusMode_, v, isFocusModeChanged); }
 
-SyncPlayerController *AppState::activePlayerController() const
+void AppState::pauseActivePlayer()
 {
-    return qobject_cast<SyncPlayerController *>(activePlayerController_.data());
+    // By name, through its meta-object: the state needs nothing of playback.
+    if (QObject *player = activePlayerController_.data())
+        QMetaObject::invokeMethod(player, "pause", Qt::DirectConnection);
 }
-void AppState::setActivePlayerController(SyncPlayerController *controller) { activePlayerController_ = controller; }
-QObject *AppState::activePlayerControllerObject() const { return activePlayerController_.data(); }
-void AppState::setActivePlayerControllerObject(QObject *controller) { activePlayerController_ = controller; }
 
 void AppState::raiseResourceAccessEpoch()
 {

@@ -33,7 +33,6 @@
 #include <optional>
 #include <stop_token>
 
-class SyncPlayerController;
 class QTimer;
 
 // The single application state. Every user action and drive event enters
@@ -54,7 +53,7 @@ class AppState : public QObject {
     Q_PROPERTY(QString selectedVaultEventID READ selectedVaultEventIDForQml WRITE setSelectedVaultEventIDForQml NOTIFY selectedVaultEventIDChanged)
     Q_PROPERTY(ColumnVisibility columnVisibility READ columnVisibility WRITE setColumnVisibility NOTIFY columnVisibilityChanged)
     Q_PROPERTY(bool isFocusMode READ isFocusMode NOTIFY isFocusModeChanged)
-    Q_PROPERTY(QObject *activePlayerController READ activePlayerControllerObject WRITE setActivePlayerControllerObject)
+    Q_PROPERTY(QObject *activePlayerController READ activePlayerController WRITE setActivePlayerController)
     Q_PROPERTY(int resourceAccessEpoch READ resourceAccessEpoch NOTIFY resourceAccessEpochChanged)
     Q_PROPERTY(QVariant driveScan READ driveScanForQml NOTIFY driveScanChanged)
     Q_PROPERTY(QVariantList driveEvents READ driveEventsForQml NOTIFY driveScanChanged)
@@ -199,8 +198,9 @@ public:
     ColumnVisibility columnVisibility() const { return columnVisibility_; }
     void setColumnVisibility(ColumnVisibility v);
     bool isFocusMode() const { return isFocusMode_; }
-    SyncPlayerController *activePlayerController() const;
-    void setActivePlayerController(SyncPlayerController *controller);
+    // The player the window shows; the state only ever pauses it.
+    QObject *activePlayerController() const { return activePlayerController_.data(); }
+    void setActivePlayerController(QObject *controller) { activePlayerController_ = controller; }
     int resourceAccessEpoch() const { return resourceAccessEpoch_; }
     const std::optional<DriveScan> &driveScan() const { return driveScan_; }
     const std::optional<ScanProgress> &scanProgress() const { return scanProgress_; }
@@ -239,8 +239,6 @@ public:
     void setSelectedEventIDForQml(const QString &id);
     QString selectedVaultEventIDForQml() const { return selectedVaultEventID_.value_or(QString()); }
     void setSelectedVaultEventIDForQml(const QString &id);
-    QObject *activePlayerControllerObject() const;
-    void setActivePlayerControllerObject(QObject *controller);
     QVariant driveScanForQml() const;
     QVariantList driveEventsForQml() const;
     QVariant scanProgressForQml() const;
@@ -323,6 +321,7 @@ Q_SIGNALS:
     void keyCoverageChanged();
 
 private:
+    void pauseActivePlayer();
     void resolveBookmark(BookmarkKey key, void (AppState::*open)(const QString &));
     enum class AccessSlot { drive, vault };
     void beginAccess(AccessSlot slot, const QString &url);

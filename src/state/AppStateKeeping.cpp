@@ -5,9 +5,8 @@
 
 #include "drive/DriveBoundary.h"
 #include "base/IOWatchdog.h"
-#include "engine/AsyncRun.h"
-#include "engine/EnginePools.h"
-#include "playback/SyncPlayerController.h"
+#include "base/AsyncRun.h"
+#include "base/EnginePools.h"
 #include "state/OnMainThread.h"
 
 #include <QFileInfo>
@@ -81,8 +80,7 @@ ArchiveReport merged(const ArchiveReport &earlier, const ArchiveReport &later, c
 
 void AppState::keep(const std::vector<TeslaEvent> &events)
 {
-    if (auto *player = activePlayerController())
-        player->pause();
+    pauseActivePlayer();
     if (!vaultURL_) {
         // The first keep: the screens ask for a folder, and the keep goes on
         // once one is set.

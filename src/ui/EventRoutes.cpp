@@ -2,9 +2,9 @@
 
 #include "base/Awaiting.h"
 #include "base/LogCategories.h"
-#include "engine/AsyncRun.h"
+#include "base/AsyncRun.h"
 #include "engine/EngineFacade.h"
-#include "engine/EnginePools.h"
+#include "base/EnginePools.h"
 
 #include <QSet>
 

@@ -5,13 +5,13 @@
 
 #include "base/Awaiting.h"
 #include "base/LogCategories.h"
-#include "engine/AsyncRun.h"
+#include "base/AsyncRun.h"
 #include "export/CombinedExport.h"
 #include "export/Exporter.h"
 #include "base/CancellationError.h"
 #include "model/PlatformWords.h"
 #include "drive/DriveBoundary.h"
-#include "engine/EnginePools.h"
+#include "base/EnginePools.h"
 
 #include <QCoreApplication>
 #include <QDir>

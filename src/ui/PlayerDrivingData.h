@@ -3,7 +3,7 @@
 #include "MapRoute.h"
 #include "model/EventTelemetry.h"
 #include "model/TeslaEvent.h"
-#include "playback/TelemetryProfile.h"
+#include "timeline/TelemetryProfile.h"
 
 #include <QFuture>
 #include <QObject>

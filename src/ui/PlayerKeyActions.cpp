@@ -17,7 +17,7 @@ void later(AppState *state, Action action)
 {
     if (!state)
         return;
-    QPointer<SyncPlayerController> controller = state->activePlayerController();
+    QPointer<SyncPlayerController> controller = qobject_cast<SyncPlayerController *>(state->activePlayerController());
     if (!controller)
         return;
     QTimer::singleShot(0, controller, [controller, action] {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "playback/TelemetryProfile.h"
+#include "timeline/TelemetryProfile.h"
 
 #include <QColor>
 #include <QQuickPaintedItem>

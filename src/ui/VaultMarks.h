@@ -2,7 +2,7 @@
 
 #include "model/ArchiveReport.h"
 #include "model/TeslaEvent.h"
-#include "vault/ArchivedEvent.h"
+#include "model/ArchivedEvent.h"
 #include "vault/VaultIndex.h"
 #include "vault/VerificationLog.h"
 

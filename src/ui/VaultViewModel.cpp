@@ -6,8 +6,8 @@
 #include "VaultMarks.h"
 #include "base/Awaiting.h"
 #include "drive/DriveBoundary.h"
-#include "engine/AsyncRun.h"
-#include "engine/EnginePools.h"
+#include "base/AsyncRun.h"
+#include "base/EnginePools.h"
 #include "model/PlatformWords.h"
 #include "state/AppState.h"
 

@@ -3,7 +3,7 @@
 #include "EventListModel.h"
 #include "model/ArchiveProgress.h"
 #include "model/ArchiveReport.h"
-#include "vault/ArchivedEvent.h"
+#include "model/ArchivedEvent.h"
 #include "vault/VerificationLog.h"
 
 #include <QObject>

@@ -4,7 +4,7 @@
 #include "model/ArchiveReport.h"
 #include "model/TeslaEvent.h"
 #include "vault/ArchivePlan.h"
-#include "vault/ArchivedFile.h"
+#include "model/ArchivedFile.h"
 #include "vault/VaultIndex.h"
 
 #include <QString>

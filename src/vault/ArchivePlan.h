@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/TeslaEvent.h"
-#include "vault/ArchivedFile.h"
+#include "model/ArchivedFile.h"
 
 #include <vector>
 

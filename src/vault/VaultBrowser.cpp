@@ -2,6 +2,7 @@
 
 #include "base/ReadOnlyFs.h"
 #include "drive/ClipProber.h"
+#include "drive/ClipNames.h"
 #include "drive/TeslaCamParser.h"
 #include "model/ClipRef.h"
 
@@ -77,10 +78,10 @@ std::vector<TeslaEvent> scanVault(const QString &url)
                     }
                     continue;
                 }
-                const auto groups = TeslaCamParser::matchFolderName(name);
+                const auto groups = ClipNames::matchFolderName(name);
                 if (!groups)
                     continue;
-                const auto stamp = TeslaCamParser::parseTimestamp(groups->date, groups->time);
+                const auto stamp = ClipNames::parseTimestamp(groups->date, groups->time);
                 if (!stamp)
                     continue;
                 auto event = TeslaCamParser::parseEventFolder(folder, *kind, *stamp, issues);

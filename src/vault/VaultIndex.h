@@ -1,6 +1,6 @@
 #pragma once
 
-#include "vault/ArchivedEvent.h"
+#include "model/ArchivedEvent.h"
 
 #include <QJsonObject>
 #include <QSet>

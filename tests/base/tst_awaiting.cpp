@@ -1,5 +1,5 @@
 #include "base/Awaiting.h"
-#include "engine/AsyncRun.h"
+#include "base/AsyncRun.h"
 
 #include <QDirIterator>
 #include <QRegularExpression>

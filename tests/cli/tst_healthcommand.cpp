@@ -4,7 +4,7 @@
 #include "support/TeslaCamFixture.h"
 #include "support/TestClips.h"
 #include "support/TmpfsMount.h"
-#include "vault/ArchivedEvent.h"
+#include "model/ArchivedEvent.h"
 #include "vault/VaultIndex.h"
 
 #include <QJsonArray>

@@ -1,4 +1,5 @@
 #include "drive/ClipCalendar.h"
+#include "drive/ClipNames.h"
 #include "drive/ReadableFormats.h"
 #include "drive/TeslaCamParser.h"
 #include "support/EcryptfsWriter.h"
@@ -363,38 +364,38 @@ private Q_SLOTS:
 
     void parseTimestampRules()
     {
-        QCOMPARE(TeslaCamParser::parseTimestamp(u"2024-02-30", u"10-00-00"),
+        QCOMPARE(ClipNames::parseTimestamp(u"2024-02-30", u"10-00-00"),
                  std::optional<Date>(local(2024, 3, 1, 10, 0, 0))); // lenient, like a calendar
-        QCOMPARE(TeslaCamParser::parseTimestamp(u"2024-13-01", u"00-00-00"),
+        QCOMPARE(ClipNames::parseTimestamp(u"2024-13-01", u"00-00-00"),
                  std::optional<Date>(local(2025, 1, 1, 0, 0, 0)));
-        QCOMPARE(TeslaCamParser::parseTimestamp(u"2024--06--01", u"10-00-00"),
+        QCOMPARE(ClipNames::parseTimestamp(u"2024--06--01", u"10-00-00"),
                  std::optional<Date>(local(2024, 6, 1, 10, 0, 0))); // empty parts dropped
-        QVERIFY(!TeslaCamParser::parseTimestamp(u"2024-06", u"10-00-00"));
-        QVERIFY(!TeslaCamParser::parseTimestamp(u"2024-06-01-02", u"10-00-00"));
-        QVERIFY(!TeslaCamParser::parseTimestamp(u"2024-06-01", u"10-00-xx"));
+        QVERIFY(!ClipNames::parseTimestamp(u"2024-06", u"10-00-00"));
+        QVERIFY(!ClipNames::parseTimestamp(u"2024-06-01-02", u"10-00-00"));
+        QVERIFY(!ClipNames::parseTimestamp(u"2024-06-01", u"10-00-xx"));
         // Summer time in Berlin: 2024-07-01 12:00 local is 10:00 UTC.
-        QCOMPARE(TeslaCamParser::parseTimestamp(u"2024-07-01", u"12-00-00")->unixSeconds(), 1719828000.0);
-        QCOMPARE(TeslaCamParser::parseTimestamp(u"2024-01-01", u"12-00-00")->unixSeconds(), 1704106800.0);
+        QCOMPARE(ClipNames::parseTimestamp(u"2024-07-01", u"12-00-00")->unixSeconds(), 1719828000.0);
+        QCOMPARE(ClipNames::parseTimestamp(u"2024-01-01", u"12-00-00")->unixSeconds(), 1704106800.0);
     }
 
     void namePatterns()
     {
-        QVERIFY(TeslaCamParser::matchFolderName(u"2026-07-21_02-11-05"));
-        QVERIFY(!TeslaCamParser::matchFolderName(u"2026-07-21_02-11-05x"));
-        QVERIFY(!TeslaCamParser::matchFolderName(u"x2026-07-21_02-11-05"));
-        QVERIFY(!TeslaCamParser::matchFolderName(u"2026-7-21_02-11-05"));
-        const auto clip = TeslaCamParser::matchClipFilename(u"2026-07-21_02-11-05-left_b_pillar.mp4");
+        QVERIFY(ClipNames::matchFolderName(u"2026-07-21_02-11-05"));
+        QVERIFY(!ClipNames::matchFolderName(u"2026-07-21_02-11-05x"));
+        QVERIFY(!ClipNames::matchFolderName(u"x2026-07-21_02-11-05"));
+        QVERIFY(!ClipNames::matchFolderName(u"2026-7-21_02-11-05"));
+        const auto clip = ClipNames::matchClipFilename(u"2026-07-21_02-11-05-left_b_pillar.mp4");
         QVERIFY(clip);
         QCOMPARE(clip->date, QStringLiteral("2026-07-21"));
         QCOMPARE(clip->time, QStringLiteral("02-11-05"));
         QCOMPARE(clip->suffix, QStringLiteral("left_b_pillar"));
-        QVERIFY(!TeslaCamParser::matchClipFilename(u"2026-07-21_02-11-05-.mp4"));
-        QVERIFY(!TeslaCamParser::matchClipFilename(u"2026-07-21_02-11-05-Front.mp4"));
-        QVERIFY(!TeslaCamParser::matchClipFilename(u"2026-07-21_02-11-05-front.mp4.part"));
-        QVERIFY(!TeslaCamParser::matchClipFilename(u"2026-07-21_02-11-05-front2.mp4"));
+        QVERIFY(!ClipNames::matchClipFilename(u"2026-07-21_02-11-05-.mp4"));
+        QVERIFY(!ClipNames::matchClipFilename(u"2026-07-21_02-11-05-Front.mp4"));
+        QVERIFY(!ClipNames::matchClipFilename(u"2026-07-21_02-11-05-front.mp4.part"));
+        QVERIFY(!ClipNames::matchClipFilename(u"2026-07-21_02-11-05-front2.mp4"));
         // \d is any decimal digit: such a name matches but yields no time.
-        QVERIFY(TeslaCamParser::matchFolderName(u"\u0662\u0660\u0662\u0664-07-21_02-11-05"));
-        QVERIFY(!TeslaCamParser::parseTimestamp(u"\u0662\u0660\u0662\u0664-07-21", u"02-11-05"));
+        QVERIFY(ClipNames::matchFolderName(u"\u0662\u0660\u0662\u0664-07-21_02-11-05"));
+        QVERIFY(!ClipNames::parseTimestamp(u"\u0662\u0660\u0662\u0664-07-21", u"02-11-05"));
     }
 
     // Names as the system gives them, in any case; the computer's own file

@@ -6,6 +6,7 @@
 #include "base/ReadOnlyFs.h"
 #include "drive/ReasonMapper.h"
 #include "drive/TelemetryReader.h"
+#include "drive/ClipNames.h"
 #include "drive/TeslaCamParser.h"
 #include "base/IOWatchdog.h"
 #include "export/ExportError.h"
@@ -108,12 +109,12 @@ QString names(const QByteArray &input)
         // A directory entry's name ends at its first NUL. A deep copy: a line
         // may share the input's bytes, which have no NUL after them.
         const QString name = ReadOnlyFs::decodeName(QByteArray(line.constData(), line.size()).constData());
-        TeslaCamParser::isIgnoredName(name);
-        if (const auto groups = TeslaCamParser::matchFolderName(name)) {
-            if (const auto timestamp = TeslaCamParser::parseTimestamp(groups->date, groups->time))
+        ClipNames::isIgnoredName(name);
+        if (const auto groups = ClipNames::matchFolderName(name)) {
+            if (const auto timestamp = ClipNames::parseTimestamp(groups->date, groups->time))
                 ClipCalendar::folderNameString(*timestamp);
         }
-        TeslaCamParser::matchClipFilename(name);
+        ClipNames::matchClipFilename(name);
         if (auto clip = TeslaCamParser::parseClipFilename(folder + QLatin1Char('/') + name, issues, line.size()))
             clips.push_back(std::move(*clip));
     }

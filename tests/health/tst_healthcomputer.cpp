@@ -1,7 +1,7 @@
 // The health report: counts, fullness thresholds, texts and their order.
 
 #include "health/HealthComputer.h"
-#include "vault/ArchivedEvent.h"
+#include "model/ArchivedEvent.h"
 
 #include <QTest>
 

@@ -4,7 +4,7 @@
 // which clip and which camera it is, and events built from them.
 
 #include "model/TeslaEvent.h"
-#include "playback/Composition.h"
+#include "timeline/Composition.h"
 #include "support/TestClips.h"
 
 #include <QDir>

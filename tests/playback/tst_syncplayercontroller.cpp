@@ -1,6 +1,6 @@
 #include "PlaybackClips.h"
 
-#include "engine/EnginePools.h"
+#include "base/EnginePools.h"
 #include "playback/SyncPlayerController.h"
 #include "support/DamagedHeaders.h"
 #include "support/FaultyFs.h"

@@ -1,5 +1,5 @@
-#include "engine/AsyncRun.h"
-#include "engine/EnginePools.h"
+#include "base/AsyncRun.h"
+#include "base/EnginePools.h"
 #include "drive/TeslaCamParser.h"
 #include "engine/LiveEngine.h"
 #include "engine/MockEngine.h"
@@ -346,7 +346,7 @@ private Q_SLOTS:
 
         SyncPlayerController player(event);
         state.setActivePlayerController(&player);
-        QCOMPARE(state.activePlayerController(), &player);
+        QCOMPARE(state.activePlayerController(), static_cast<QObject *>(&player));
         QTRY_VERIFY_WITH_TIMEOUT(player.isPlaying(), 10000);
 
         // No Vault yet: still paused, and a first folder is asked for.

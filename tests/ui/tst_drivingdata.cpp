@@ -64,7 +64,7 @@ class DrivingDataTest : public QObject {
     std::unique_ptr<AppWindowHarness> app_;
 
     AppState &state() const { return app_->state; }
-    SyncPlayerController *controller() const { return state().activePlayerController(); }
+    SyncPlayerController *controller() const { return qobject_cast<SyncPlayerController *>(state().activePlayerController()); }
     PlayerDrivingData *drivingData() const
     {
         auto *view = app_->find<QQuickItem>(QStringLiteral("eventPlayerView"));

@@ -171,7 +171,7 @@ private Q_SLOTS:
         QVERIFY(presenter.hasEvent());
         SyncPlayerController *controller = presenter.controller();
         QVERIFY(controller);
-        QCOMPARE(state.activePlayerController(), controller);
+        QCOMPARE(state.activePlayerController(), static_cast<QObject *>(controller));
         QCOMPARE(state.triageStateFor(a), QStringLiteral("reviewed"));
         const QVariantMap meta = presenter.metadata();
         QCOMPARE(meta.value("city").toString(), QStringLiteral("Taylor"));
@@ -199,7 +199,7 @@ private Q_SLOTS:
         // signal rather than the flag.)
         QSignalSpy loading(controller, &SyncPlayerController::isLoadingTilesChanged);
         presenter.setEventID(b);
-        QCOMPARE(state.activePlayerController(), controller);
+        QCOMPARE(state.activePlayerController(), static_cast<QObject *>(controller));
         QVERIFY(loading.count() >= 1);
         QTRY_VERIFY_WITH_TIMEOUT(!controller->isLoadingTiles(), 15000);
         QCOMPARE(int(controller->tiles().size()), 2);

@@ -93,7 +93,7 @@ class PlayerScreenTest : public QObject {
     QTemporaryDir work_;
     QString shotsDir_;
 
-    SyncPlayerController *controller() const { return state_->activePlayerController(); }
+    SyncPlayerController *controller() const { return qobject_cast<SyncPlayerController *>(state_->activePlayerController()); }
 
     void key(Qt::Key k) { QTest::keyClick(window_, k, Qt::NoModifier); }
 

@@ -178,7 +178,7 @@ private Q_SLOTS:
         QTRY_VERIFY(!app->state.activePlayerController());
         app->state.setSelectedEventID(EncryptedDrive::sentryID);
         SyncPlayerController *c = nullptr;
-        QTRY_VERIFY_WITH_TIMEOUT((c = app->state.activePlayerController()) && !c->isLoadingTiles() && !c->tiles().empty(),
+        QTRY_VERIFY_WITH_TIMEOUT((c = qobject_cast<SyncPlayerController *>(app->state.activePlayerController())) && !c->isLoadingTiles() && !c->tiles().empty(),
                                  20000);
         const auto front = std::find_if(c->tiles().begin(), c->tiles().end(),
                                         [](const SyncPlayerController::Tile &t) { return t.camera == Camera::front; });

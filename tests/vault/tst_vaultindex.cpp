@@ -2,7 +2,7 @@
 #include "support/TeslaCamFixture.h"
 #include "support/DriveBuilder.h"
 #include "support/TmpfsMount.h"
-#include "vault/ArchivedEvent.h"
+#include "model/ArchivedEvent.h"
 #include "vault/VaultIndex.h"
 
 #include <QDir>

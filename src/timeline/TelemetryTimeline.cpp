@@ -1,10 +1,10 @@
-#include "playback/TelemetryTimeline.h"
+#include "timeline/TelemetryTimeline.h"
 
 #include "base/IOWatchdog.h"
 #include "crypt/DecryptingClipReader.h"
 #include "drive/TelemetryReader.h"
 #include "base/CancellationError.h"
-#include "playback/Composition.h"
+#include "timeline/Composition.h"
 
 #include <QHash>
 #include <algorithm>

@@ -2,7 +2,7 @@
 
 #include "model/Camera.h"
 #include "model/TeslaEvent.h"
-#include "playback/Composition.h"
+#include "timeline/Composition.h"
 
 #include <QString>
 #include <chrono>

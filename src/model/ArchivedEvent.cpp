@@ -1,4 +1,4 @@
-#include "vault/ArchivedEvent.h"
+#include "model/ArchivedEvent.h"
 
 #include "model/JsonCoding.h"
 

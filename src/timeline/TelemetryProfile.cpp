@@ -1,4 +1,4 @@
-#include "playback/TelemetryProfile.h"
+#include "timeline/TelemetryProfile.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,6 @@
 #include "drive/TeslaCamParser.h"
 #include "base/CancellationError.h"
-#include "playback/TelemetryTimeline.h"
+#include "timeline/TelemetryTimeline.h"
 #include "support/TelemetryClipWriter.h"
 #include "support/TeslaCamFixture.h"
 #include "support/TestClips.h"

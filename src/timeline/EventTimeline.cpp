@@ -1,4 +1,4 @@
-#include "playback/EventTimeline.h"
+#include "timeline/EventTimeline.h"
 
 #include "crypt/DecryptingClipReader.h"
 #include "media/MediaClip.h"

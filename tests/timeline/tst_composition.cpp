@@ -1,5 +1,5 @@
-#include "playback/Composition.h"
-#include "playback/MediaTime.h"
+#include "timeline/Composition.h"
+#include "timeline/MediaTime.h"
 
 #include <QtTest>
 

@@ -1,4 +1,4 @@
-#include "vault/ArchivedFile.h"
+#include "model/ArchivedFile.h"
 
 #include "model/JsonCoding.h"
 

@@ -2,7 +2,7 @@
 // data where the axis has no footage, and hard braking told from a gentle
 // stop and from slowing without the brake.
 
-#include "playback/TelemetryProfile.h"
+#include "timeline/TelemetryProfile.h"
 
 #include <QTest>
 #include <functional>

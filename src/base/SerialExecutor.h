@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/AsyncRun.h"
+#include "base/AsyncRun.h"
 
 #include <QFuture>
 #include <QThreadPool>

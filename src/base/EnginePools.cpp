@@ -1,4 +1,4 @@
-#include "engine/EnginePools.h"
+#include "base/EnginePools.h"
 
 namespace EnginePools {
 

@@ -1,4 +1,4 @@
-#include "playback/Composition.h"
+#include "timeline/Composition.h"
 
 #include <algorithm>
 

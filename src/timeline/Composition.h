@@ -1,6 +1,6 @@
 #pragma once
 
-#include "playback/MediaTime.h"
+#include "timeline/MediaTime.h"
 
 #include <QString>
 #include <optional>

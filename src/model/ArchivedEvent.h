@@ -2,7 +2,7 @@
 
 #include "model/Date.h"
 #include "model/EventKind.h"
-#include "vault/ArchivedFile.h"
+#include "model/ArchivedFile.h"
 
 #include <QJsonObject>
 #include <QString>
