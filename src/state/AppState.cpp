@@ -17,7 +17,6 @@
 #include <QStorageInfo>
 #include <QTimer>
 #include <QWindow>
-#include <QtConcurrent/QtConcurrentRun>
 #include <qcoro/qcorofuture.h>
 
 namespace {
@@ -601,27 +600,26 @@ void AppState::setVaultURL(const QString &url)
         Q_EMIT verificationProgressChanged();
         Q_EMIT verificationChanged();
     }
-    QPointer<AppState> self(this);
+    struct Loaded {
+        VaultIndex index;
+        VerificationLog log;
+    };
+    auto loaded = onMainThread<Loaded>(QPointer<AppState>(this), [url](AppState &self, const Loaded &l) {
+        if (self.vaultURL_ != url)
+            return;
+        self.setVaultIndex(l.index);
+        self.setVerificationLog(l.log);
+        // A first keep that waited for this folder goes on, planned
+        // against what the folder already holds.
+        if (!self.keepAwaitingVault_.empty() && !self.isArchiving_)
+            self.keep(std::exchange(self.keepAwaitingVault_, {}));
+        else
+            self.verifyVaultIfDue();
+    });
     EngineFacade *engine = &engine_;
-    // Detached: the index load runs off the main thread and hops back.
-    detachedLoads_.addFuture(QtConcurrent::run(&EnginePools::quick(), [self, engine, url] {
-        VaultIndex index = engine->loadVaultIndex(url);
-        VerificationLog log = engine->loadVerificationLog(url);
-        QMetaObject::invokeMethod(
-            self.data(),
-            [self, url, index = std::move(index), log = std::move(log)]() mutable {
-                if (!self || self->vaultURL_ != url)
-                    return;
-                self->setVaultIndex(std::move(index));
-                self->setVerificationLog(std::move(log));
-                // A first keep that waited for this folder goes on, planned
-                // against what the folder already holds.
-                if (!self->keepAwaitingVault_.empty() && !self->isArchiving_)
-                    self->keep(std::exchange(self->keepAwaitingVault_, {}));
-                else
-                    self->verifyVaultIfDue();
-            },
-            Qt::QueuedConnection);
+    // Detached, but waited for when the state goes: the load uses its engine.
+    detachedLoads_.addFuture(AsyncRun::onPool(EnginePools::quick(), [engine, url, loaded] {
+        loaded(Loaded{engine->loadVaultIndex(url), engine->loadVerificationLog(url)});
     }));
     loadVaultEvents();
 }

@@ -1,5 +1,7 @@
 #include "ExportFlow.h"
 
+#include "state/OnMainThread.h"
+
 #include "DrivingDataPreferences.h"
 #include "FileChooser.h"
 
@@ -406,19 +408,13 @@ void ExportFlow::startExport()
     if (isCombined())
         return startCombined(folder);
     const QString output = QDir(folder).filePath(Exporter::suggestedFileName(event_, *selectedCamera_));
-    QPointer<ExportFlow> self = this;
-    auto progress = [self](double fraction) {
-        QMetaObject::invokeMethod(
-            qApp,
-            [self, fraction] {
-                if (!self || !self->isExporting_)
-                    return;
-                self->sessionBegan_ = true;
-                self->progress_ = fraction;
-                Q_EMIT self->changed();
-            },
-            Qt::QueuedConnection);
-    };
+    auto progress = onMainThread<double>(QPointer<ExportFlow>(this), [](ExportFlow &self, double fraction) {
+        if (!self.isExporting_)
+            return;
+        self.sessionBegan_ = true;
+        self.progress_ = fraction;
+        Q_EMIT self.changed();
+    });
     running_ = engine_.exportFootage(*selectedCamera_, event_, std::nullopt, output, progress);
     Awaiting::whenFinished(this, running_, [this, output](const QFuture<void> &done) { finish(done, output); });
 }
@@ -430,20 +426,15 @@ void ExportFlow::startCombined(const QString &folder)
     if (exportingRange_ && timelineLength_)
         exportingRange_->second = std::min(exportingRange_->second, *timelineLength_);
     const QString output = QDir(folder).filePath(CombinedExport::suggestedFileName(event_, options));
-    QPointer<ExportFlow> self = this;
-    auto progress = [self](const CombinedExportProgress &report) {
-        QMetaObject::invokeMethod(
-            qApp,
-            [self, report] {
-                if (!self || !self->isExporting_)
-                    return;
-                self->sessionBegan_ = true;
-                self->combinedProgress_ = report;
-                self->progress_ = report.fraction();
-                Q_EMIT self->changed();
-            },
-            Qt::QueuedConnection);
-    };
+    auto progress = onMainThread<CombinedExportProgress>(
+        QPointer<ExportFlow>(this), [](ExportFlow &self, const CombinedExportProgress &report) {
+            if (!self.isExporting_)
+                return;
+            self.sessionBegan_ = true;
+            self.combinedProgress_ = report;
+            self.progress_ = report.fraction();
+            Q_EMIT self.changed();
+        });
     progress_ = 0;
     running_ = engine_.exportCombined(event_, options, output, progress);
     Awaiting::whenFinished(this, running_, [this, output](const QFuture<void> &done) { finish(done, output); });

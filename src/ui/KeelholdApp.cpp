@@ -7,6 +7,7 @@
 #include "state/DriveFailure.h"
 #include "state/SidebarSection.h"
 
+#include <QLoggingCategory>
 #include <QQmlComponent>
 #include <QQmlContext>
 #include <QQuickStyle>
@@ -35,6 +36,9 @@ KeelholdApp::KeelholdApp(QObject *parent)
         // window's thread for seconds.
         if (!qEnvironmentVariableIsSet("QT_MEDIA_BACKEND"))
             qputenv("QT_MEDIA_BACKEND", "ffmpeg");
+        // That backend says hello on the terminal in the default category,
+        // which our own code doesn't use (QT_LOGGING_RULES still wins).
+        QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
         QQuickStyle::setStyle(QStringLiteral("Fusion"));
         ColorScheme::apply();
         QmlTypes::registerAll();

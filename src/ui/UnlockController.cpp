@@ -1,6 +1,8 @@
 #include "UnlockController.h"
 
 #include "SymbolIcons.h"
+#include "base/AsyncRun.h"
+#include "base/EnginePools.h"
 #include "crypt/KeyStore.h"
 #include "model/TeslaViewer.h"
 #include "state/AppState.h"
@@ -9,7 +11,6 @@
 
 #include <QDesktopServices>
 #include <QDir>
-#include <QtConcurrent/QtConcurrentRun>
 #include <qcoro/qcorofuture.h>
 
 UnlockController::UnlockController(AppState *state, QObject *parent)
@@ -279,7 +280,7 @@ QCoro::Task<bool> UnlockController::fetchKeys(QPointer<UnlockController> self)
             }
         }
         if (!besides.empty()) {
-            QFuture<void> writing = QtConcurrent::run([besides] {
+            QFuture<void> writing = AsyncRun::onPool(EnginePools::quick(), [besides] {
                 for (const auto &[folder, copies] : besides)
                     KeyRing::storeBeside(folder, copies);
             });

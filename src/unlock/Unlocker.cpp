@@ -1,7 +1,9 @@
 #include "unlock/Unlocker.h"
 
-#include "crypt/EcryptfsReader.h"
+#include "base/AsyncRun.h"
+#include "base/EnginePools.h"
 #include "base/IOWatchdog.h"
+#include "crypt/EcryptfsReader.h"
 #include "crypt/KeyStore.h"
 #include "drive/EcryptfsHeader.h"
 #include "unlock/KeyServiceClient.h"
@@ -10,7 +12,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QMap>
-#include <QtConcurrent/QtConcurrentRun>
 #include <qcoro/qcorofuture.h>
 
 #include <algorithm>
@@ -97,7 +98,7 @@ QCoro::Task<std::vector<Unlocker::FileOutcome>> Unlocker::unlock(std::vector<QSt
     // Futures are named before they are awaited: g++ 12 destroys a lambda
     // temporary of an awaited full-expression twice.
     QFuture<std::vector<Looked>> lookup =
-        QtConcurrent::run([paths, limit = readLimit_, store = &store_] { return lookUp(paths, limit, store); });
+        AsyncRun::onPool(EnginePools::media(), [paths, limit = readLimit_, store = &store_] { return lookUp(paths, limit, store); });
     const std::vector<Looked> looked = co_await lookup;
 
     std::vector<FileOutcome> outcomes(paths.size());
@@ -143,7 +144,7 @@ QCoro::Task<std::vector<Unlocker::FileOutcome>> Unlocker::unlock(std::vector<QSt
     if (fetched.empty())
         co_return outcomes;
     QFuture<Kept> keeping =
-        QtConcurrent::run([fetched, vaultURL, store = &store_] { return keepFitting(fetched, vaultURL, *store); });
+        AsyncRun::onPool(EnginePools::quick(), [fetched, vaultURL, store = &store_] { return keepFitting(fetched, vaultURL, *store); });
     const Kept kept = co_await keeping;
     for (size_t k = 0; k < kept.fits.size(); ++k) {
         outcomes[fetchedIndex[k]].outcome = kept.fits[k] ? Outcome::key : Outcome::keyDoesNotFit;
