@@ -1,3 +1,4 @@
+#include "support/CliRun.h"
 #include "support/FaultyFs.h"
 #include "support/HeldClip.h"
 #include "support/MovieFacts.h"
@@ -16,12 +17,6 @@
 namespace {
 const QString eventId = QStringLiteral("sentry|2024-06-01_15-05-00");
 const QString twoCameraEventId = QStringLiteral("saved|2024-06-01_16-05-00");
-
-struct Run {
-    int exitCode = -1;
-    QString out;
-    QString err;
-};
 
 // The tool exporting a saved event from the failing test drive. Whatever ends
 // the test, the drive lets go and the tool ends: a process can't end while
@@ -64,20 +59,11 @@ bool readErrorsUntil(QProcess &process, QByteArray &err, const char *needle, int
     return err.contains(needle);
 }
 
-Run runCli(const QStringList &arguments)
+CliRun::Result runCli(const QStringList &arguments)
 {
-    QProcess process;
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
     env.insert(QStringLiteral("TZ"), QStringLiteral("UTC"));
-    process.setProcessEnvironment(env);
-    process.start(QStringLiteral(KEELHOLD_CLI_PATH), QStringList{QStringLiteral("export")} + arguments);
-    Run run;
-    if (!process.waitForFinished(120000) || process.exitStatus() != QProcess::NormalExit)
-        return run;
-    run.exitCode = process.exitCode();
-    run.out = QString::fromUtf8(process.readAllStandardOutput());
-    run.err = QString::fromUtf8(process.readAllStandardError());
-    return run;
+    return CliRun::run(QStringList{QStringLiteral("export")} + arguments, env);
 }
 } // namespace
 
@@ -119,11 +105,11 @@ private Q_SLOTS:
     {
         const TreeSnapshot before = TreeSnapshot::take(root_);
         const QString file = out(QStringLiteral("grid.mp4"));
-        const Run run = runCli({root_, QStringLiteral("--event"), twoCameraEventId, QStringLiteral("--layout"),
+        const CliRun::Result run = runCli({root_, QStringLiteral("--event"), twoCameraEventId, QStringLiteral("--layout"),
                                 QStringLiteral("grid"), QStringLiteral("--size"), QStringLiteral("720"),
                                 QStringLiteral("--overlay"), QStringLiteral("time,names"), QStringLiteral("-o"), file});
         QVERIFY2(run.exitCode == 0, qPrintable(run.err));
-        QCOMPARE(run.out.trimmed(), file);
+        QCOMPARE(QString::fromUtf8(run.out).trimmed(), file);
         QVERIFY2(run.err.contains(QStringLiteral("of 72 frames")), qPrintable(run.err));
         QVERIFY(run.err.contains(QStringLiteral(" fps")));
         QVERIFY(run.err.trimmed().split(QLatin1Char('\n')).last().startsWith(QStringLiteral("Exporting\u2026 100% (72 of 72 frames")));
@@ -137,12 +123,12 @@ private Q_SLOTS:
 
         const QString folder = dir_.path() + QStringLiteral("/combined-named");
         QDir().mkpath(folder);
-        const Run named = runCli({root_, QStringLiteral("--event"), twoCameraEventId, QStringLiteral("--layout"),
+        const CliRun::Result named = runCli({root_, QStringLiteral("--event"), twoCameraEventId, QStringLiteral("--layout"),
                                   QStringLiteral("front-sides"), QStringLiteral("--size"), QStringLiteral("720"),
                                   QStringLiteral("--from"), QStringLiteral("1"), QStringLiteral("-o"), folder});
         QCOMPARE(named.exitCode, 0);
         const QString expected = folder + QStringLiteral("/Tesla Saved 2024-06-01 4.04 PM \u2014 Front and Sides.mp4");
-        QCOMPARE(named.out.trimmed(), expected);
+        QCOMPARE(QString::fromUtf8(named.out).trimmed(), expected);
         QCOMPARE(MovieFacts::read(expected).firstOf(QStringLiteral("video"))->decodedFrames, 36);
     }
 
@@ -202,7 +188,7 @@ private Q_SLOTS:
         QFETCH(QStringList, options);
         QFETCH(QString, sentence);
         const QString file = out(QStringLiteral("refused.mp4"));
-        const Run run = runCli(QStringList{root_, QStringLiteral("--event"), twoCameraEventId, QStringLiteral("-o"), file}
+        const CliRun::Result run = runCli(QStringList{root_, QStringLiteral("--event"), twoCameraEventId, QStringLiteral("-o"), file}
                                + options);
         QCOMPARE(run.exitCode, 2);
         QCOMPARE(run.err.trimmed().split(QLatin1Char('\n')).last(), sentence);
@@ -255,12 +241,12 @@ private Q_SLOTS:
         const TreeSnapshot before = TreeSnapshot::take(root_);
         const QString folder = dir_.path() + QStringLiteral("/named");
         QDir().mkpath(folder);
-        const Run run = runCli({root_, QStringLiteral("--event"), eventId, QStringLiteral("--camera"),
+        const CliRun::Result run = runCli({root_, QStringLiteral("--event"), eventId, QStringLiteral("--camera"),
                                 QStringLiteral("front"), QStringLiteral("-o"), folder, QStringLiteral("--from"),
                                 QStringLiteral("3")});
         QVERIFY2(run.exitCode == 0, qPrintable(run.err));
         const QString expected = folder + QStringLiteral("/Tesla Sentry 2024-06-01 3.05 PM \u2014 Front.mp4");
-        QCOMPARE(run.out.trimmed(), expected);
+        QCOMPARE(QString::fromUtf8(run.out).trimmed(), expected);
         QVERIFY(run.err.contains(QStringLiteral("Exporting\u2026 100%")));
         const MovieFacts facts = MovieFacts::read(expected, false);
         QVERIFY(std::abs(facts.duration - 1.0) < 0.05);
@@ -299,7 +285,7 @@ private Q_SLOTS:
         if (arguments[0].isEmpty())
             arguments[0] = root_;
         arguments[6] = out(arguments[6]);
-        const Run run = runCli(arguments);
+        const CliRun::Result run = runCli(arguments);
         QCOMPARE(run.exitCode, 2);
         const QStringList lines = run.err.trimmed().split(QLatin1Char('\n'));
         if (!sentence.isEmpty())
@@ -382,7 +368,7 @@ private Q_SLOTS:
 
     void missingOptionsShowTheUsage()
     {
-        const Run run = runCli({root_, QStringLiteral("--camera"), QStringLiteral("front")});
+        const CliRun::Result run = runCli({root_, QStringLiteral("--camera"), QStringLiteral("front")});
         QCOMPARE(run.exitCode, 64);
         QVERIFY(run.err.contains(QStringLiteral("Usage: keelhold-cli export")));
     }

@@ -3,6 +3,7 @@
 #include "drive/EcryptfsHeader.h"
 #include "drive/TeslaCamParser.h"
 #include "base/CancellationError.h"
+#include "support/CliRun.h"
 #include "support/DamagedHeaders.h"
 #include "support/DriveBuilder.h"
 #include "support/FaultyFs.h"
@@ -633,22 +634,10 @@ private Q_SLOTS:
         fixture.addRecentClip(QStringLiteral("2026-07-21_01-00-00"), QStringLiteral("front"), 0, h265_);
         TeslaCamFixture::writeFile(fixture.path(QStringLiteral("RecentClips/2026-07-21_01-00-00-back.mp4")),
                                    randomBytes(70000, 13));
-        const auto cli = [&](const QStringList &arguments, QByteArray *out = nullptr) {
-            QProcess process;
-            process.start(QStringLiteral(KEELHOLD_CLI_PATH), arguments);
-            if (!process.waitForFinished(60000))
-                return -1;
-            if (out)
-                *out = process.readAllStandardOutput();
-            return process.exitCode();
-        };
-
-        QByteArray out;
-        QCOMPARE(cli({QStringLiteral("scan"), fixture.root(), QStringLiteral("--probe"), QStringLiteral("--timeout"),
-                      QStringLiteral("5")},
-                     &out),
-                 0);
-        const QJsonObject scan = QJsonDocument::fromJson(out).object();
+        CliRun::Result r = CliRun::run({QStringLiteral("scan"), fixture.root(), QStringLiteral("--probe"),
+                                        QStringLiteral("--timeout"), QStringLiteral("5")});
+        QCOMPARE(r.exitCode, 0);
+        const QJsonObject scan = QJsonDocument::fromJson(r.out).object();
         QMap<QString, QJsonObject> byName;
         for (const auto &event : scan.value(QStringLiteral("events")).toArray())
             for (const auto &clip : event.toObject().value(QStringLiteral("clips")).toArray())
@@ -661,17 +650,15 @@ private Q_SLOTS:
                  QStringLiteral("unreadable"));
 
         // Without --probe the clips keep the scan's unknown health.
-        QCOMPARE(cli({QStringLiteral("scan"), fixture.root()}, &out), 0);
-        QVERIFY(!out.contains("\"ok\""));
-        QVERIFY(out.contains("\"unknown\""));
+        r = CliRun::run({QStringLiteral("scan"), fixture.root()});
+        QCOMPARE(r.exitCode, 0);
+        QVERIFY(!r.out.contains("\"ok\""));
+        QVERIFY(r.out.contains("\"unknown\""));
 
-        QCOMPARE(cli({QStringLiteral("scan"), fixture.root(), QStringLiteral("--probe"), QStringLiteral("--timeout"),
-                      QStringLiteral("soon")}),
-                 64);
-        QCOMPARE(cli({QStringLiteral("scan"), fixture.root(), QStringLiteral("--probe"), QStringLiteral("--timeout"),
-                      QStringLiteral("0")}),
-                 64);
-        QCOMPARE(cli({QStringLiteral("scan"), fixture.root(), QStringLiteral("--timeout"), QStringLiteral("5")}), 64);
+        // A limit that isn't a positive number of seconds, or one without --probe, is a usage error.
+        for (const QStringList &limit : {QStringList{"--probe", "--timeout", "soon"}, QStringList{"--probe", "--timeout", "0"},
+                                         QStringList{"--timeout", "5"}})
+            QCOMPARE(CliRun::run(QStringList{QStringLiteral("scan"), fixture.root()} + limit).exitCode, 64);
     }
 };
 

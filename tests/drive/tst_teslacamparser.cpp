@@ -182,25 +182,6 @@ private Q_SLOTS:
         QCOMPARE(scan.issues[1].path, fx.path("RecentClips/old"));
     }
 
-    void groupingToleranceBoundary()
-    {
-        auto clipAt = [](double t) {
-            ClipRef c;
-            c.url = QStringLiteral("/r/x-front.mp4");
-            c.startDate = Date(t);
-            return c;
-        };
-        QCOMPARE(TeslaCamParser::groupIntoRecentEvents({clipAt(0), clipAt(150)}, "/r", 150.0).size(), size_t(1));
-        QCOMPARE(TeslaCamParser::groupIntoRecentEvents({clipAt(0), clipAt(151)}, "/r", 150.0).size(), size_t(2));
-        QVERIFY(TeslaCamParser::groupIntoRecentEvents({}, "/r", 150.0).empty());
-        // Unordered input, ascending output.
-        const auto events = TeslaCamParser::groupIntoRecentEvents({clipAt(1000), clipAt(0), clipAt(60)}, "/r", 150.0);
-        QCOMPARE(events.size(), size_t(2));
-        QCOMPARE(events[0].timestamp, Date(0));
-        QCOMPARE(events[0].clips.size(), size_t(2));
-        QCOMPARE(events[1].timestamp, Date(1000));
-    }
-
     void encryptedAndEmptyDrives()
     {
         QTemporaryDir tmp;

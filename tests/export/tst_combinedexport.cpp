@@ -7,6 +7,7 @@
 #include "drive/DriveBoundary.h"
 #include "base/CancellationError.h"
 #include "support/DamagedHeaders.h"
+#include "support/EventFootage.h"
 #include "support/FaultyFs.h"
 #include "support/FrameGrab.h"
 #include "support/HeldClip.h"
@@ -92,69 +93,6 @@ QString describe(const QColor &c)
     return QStringLiteral("(%1, %2, %3)").arg(c.red()).arg(c.green()).arg(c.blue());
 }
 
-// One event's footage in a TeslaCam folder; clips start where the test says,
-// to the second, from the event's first moment.
-class Footage {
-public:
-    Footage() : base_(Date::fromQDateTime(QDateTime(QDate(2024, 6, 1), QTime(15, 0), Qt::UTC)))
-    {
-        QDir().mkpath(folder());
-        QDir().mkpath(outputs());
-        event.kind = EventKind::sentry;
-        event.folderName = QStringLiteral("2024-06-01_15-05-00");
-        event.folderURL = folder();
-        event.timestamp = base_.addingTimeInterval(2);
-        event.missingEventJSON = false;
-        event.city = QStringLiteral("Taylor");
-    }
-
-    QString root() const { return dir_.path() + QStringLiteral("/TeslaCam"); }
-    QString folder() const { return root() + QStringLiteral("/SentryClips/2024-06-01_15-05-00"); }
-    QString outputs() const { return dir_.path() + QStringLiteral("/out"); }
-    QString output(const QString &name = QStringLiteral("movie.mp4")) const { return outputs() + QLatin1Char('/') + name; }
-    Date base() const { return base_; }
-
-    QString add(Camera camera, const QString &source, double startSecond)
-    {
-        const QString path = pathFor(camera, startSecond);
-        QFile::remove(path);
-        if (!QFile::copy(source, path))
-            qFatal("could not copy a test clip");
-        place(camera, path, startSecond);
-        return path;
-    }
-    void addBytes(Camera camera, const QByteArray &bytes, double startSecond)
-    {
-        const QString path = pathFor(camera, startSecond);
-        QFile f(path);
-        if (!f.open(QIODevice::WriteOnly))
-            qFatal("could not write a test file");
-        f.write(bytes);
-        f.close();
-        place(camera, path, startSecond);
-    }
-    void place(Camera camera, const QString &path, double startSecond)
-    {
-        ClipRef clip;
-        clip.url = path;
-        clip.camera = camera;
-        clip.startDate = base_.addingTimeInterval(startSecond);
-        clip.fileSize = QFileInfo(path).size();
-        event.clips.push_back(clip);
-    }
-
-    TeslaEvent event;
-
-private:
-    QString pathFor(Camera camera, double startSecond) const
-    {
-        return folder() + QStringLiteral("/2024-06-01_15-00-%1-%2.mp4").arg(int(startSecond), 2, 10, QLatin1Char('0')).arg(camera.rawValue());
-    }
-
-    QTemporaryDir dir_;
-    Date base_;
-};
-
 CombinedExportOptions optionsFor(Layout layout, Size size = Size::p720)
 {
     CombinedExportOptions o;
@@ -176,17 +114,6 @@ std::optional<quint32> markerOf(const FrameGrab &grab, const CombinedLayout &lay
 QStringList everythingIn(const QString &folder)
 {
     return QDir(folder).entryList(QDir::Files | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-}
-
-template <typename F>
-std::optional<ExportError::Case> exportErrorOf(F &&f)
-{
-    try {
-        f();
-    } catch (const ExportError &e) {
-        return e.errorCase();
-    }
-    return std::nullopt;
 }
 
 // Words drawn by the ffmpeg tool's drawtext on a black canvas, to compare
@@ -256,7 +183,7 @@ private Q_SLOTS:
     // end to end with the frames, size and length asked for.
     void gridShowsEveryCameraInItsCell()
     {
-        Footage footage;
+        EventFootage footage;
         for (const Camera camera : sixCameras)
             footage.add(camera, colourClip(camera, 3.0), 0);
         std::vector<CombinedExportProgress> reports;
@@ -309,7 +236,7 @@ private Q_SLOTS:
     // the front's picture keeps its shape, with black beside it.
     void frontAndSidesPutsTheFrontOnTop()
     {
-        Footage footage;
+        EventFootage footage;
         for (const Camera camera : {Camera::back, Camera::front, Camera::leftRepeater, Camera::rightRepeater})
             footage.add(camera, colourClip(camera, 1.0), 0);
         CombinedExportOptions options = optionsFor(Layout::frontAndSides);
@@ -334,7 +261,7 @@ private Q_SLOTS:
     // own start date counts again.
     void missingFootageIsBlackWithTheName()
     {
-        Footage footage;
+        EventFootage footage;
         footage.add(Camera::front, colourClip(Camera::front, 2.0), 0);
         footage.add(Camera::front, colourClip(Camera::front, 2.0), 4);
         footage.add(Camera::back, colourClip(Camera::back, 6.0), 0);
@@ -364,41 +291,21 @@ private Q_SLOTS:
         QVERIFY(shown->meanLuma(front.x + front.width / 4, top, front.width / 2, band) > 50); // red, no words
     }
 
-    // A clip that isn't a movie costs its own stretch, which stays black;
-    // the rest of the movie is whole.
-    void damagedClipCostsItsOwnStretch()
-    {
-        Footage footage;
-        footage.add(Camera::front, colourClip(Camera::front, 2.0), 0);
-        footage.addBytes(Camera::front, QByteArray(50000, 'x'), 2);
-        footage.add(Camera::front, colourClip(Camera::front, 2.0), 4);
-        footage.add(Camera::back, colourClip(Camera::back, 6.0), 0);
-        CombinedExportOptions options = optionsFor(Layout::grid);
-        CombinedExport::exportMovie(footage.event, options, footage.output(), {});
-        const MovieFacts facts = MovieFacts::read(footage.output());
-        QCOMPARE(facts.firstOf(QStringLiteral("video"))->decodedFrames, 6 * fps);
-        QCOMPARE(facts.firstOf(QStringLiteral("video"))->decodeErrors, 0);
-        for (const double t : {1.0, 3.0, 5.0}) {
-            const auto grab = FrameGrab::at(footage.output(), t);
-            const QColor seen = grab->meanColour(320, 200);
-            QVERIFY2(near(seen, t == 3.0 ? QColor(Qt::black) : colourOf(Camera::front)), qPrintable(describe(seen)));
-        }
-    }
-
-    // A header its own data contradict costs its own stretch, black with
-    // the camera's name; the movie ends where the good footage ends and
-    // decodes cleanly throughout.
+    // A clip that isn't a movie, or whose header its own data contradict,
+    // costs its own stretch, black with the camera's name; the movie ends
+    // where the good footage ends and decodes cleanly throughout.
     void damagedHeadersCostTheirOwnStretch_data()
     {
         DamagedHeaders::addRows();
+        QTest::newRow("not a movie at all") << -1;
     }
     void damagedHeadersCostTheirOwnStretch()
     {
         QFETCH(int, damage);
-        Footage footage;
+        EventFootage footage;
         const QString good = colourClip(Camera::front, 2.0);
         footage.add(Camera::front, good, 0);
-        footage.addBytes(Camera::front, DamagedHeaders::damaged(damage, good), 2);
+        footage.addBytes(Camera::front, damage < 0 ? QByteArray(50000, 'x') : DamagedHeaders::damaged(damage, good), 2);
         footage.add(Camera::front, good, 4);
         CombinedExportOptions options = optionsFor(Layout::single);
         options.timeMarker = false;
@@ -423,7 +330,7 @@ private Q_SLOTS:
     // event's axis gives that many frames. Full size keeps the pixels.
     void singleCameraSizesAndStretch()
     {
-        Footage footage;
+        EventFootage footage;
         footage.add(Camera::front, colourClip(Camera::front, 2.0), 0);
         footage.add(Camera::front, colourClip(Camera::front, 2.0), 2);
         footage.add(Camera::back, colourClip(Camera::back, 4.0), 0);
@@ -459,7 +366,7 @@ private Q_SLOTS:
     // at the fastest camera's rate and every camera keeps up.
     void camerasOfDifferentRatesStayInStep()
     {
-        Footage footage;
+        EventFootage footage;
         footage.add(Camera::front, colourClip(Camera::front, 2.0, 20), 0);
         footage.add(Camera::back, colourClip(Camera::back, 2.0, 10), 0);
         CombinedExport::exportMovie(footage.event, optionsFor(Layout::grid), footage.output(), {});
@@ -476,7 +383,7 @@ private Q_SLOTS:
     // one of the second after it.
     void timeTextIsTheClipsStartPlusMediaTime()
     {
-        Footage footage;
+        EventFootage footage;
         footage.add(Camera::front, blackClip(3.0), 0);
         CombinedExportOptions options = optionsFor(Layout::single);
         options.timeMarker = false;
@@ -511,7 +418,7 @@ private Q_SLOTS:
     // for); frames without a record get no panel, not the last one seen.
     void drivingDataPanelShowsEachFramesRecord()
     {
-        Footage footage;
+        EventFootage footage;
         const QString withRecords = footage.outputs() + QStringLiteral("/records.mp4");
         TelemetryClipWriter::remux(blackClip(4.0), withRecords, [](int, double time) {
             std::optional<TelemetryClipWriter::FrameRecord> record;
@@ -593,7 +500,7 @@ private Q_SLOTS:
     // when switched off; the marker reads back a number drawn anywhere.
     void overlayPartsSwitchOnAndOff()
     {
-        Footage footage;
+        EventFootage footage;
         footage.add(Camera::front, colourClip(Camera::front, 1.0), 0);
         footage.add(Camera::back, colourClip(Camera::back, 1.0), 0);
         CombinedExportOptions options = optionsFor(Layout::grid);
@@ -692,7 +599,7 @@ private Q_SLOTS:
 
     void failuresSayWhyAndLeaveNothing()
     {
-        Footage footage;
+        EventFootage footage;
         footage.add(Camera::front, colourClip(Camera::front, 1.0), 0);
         CombinedExportOptions options = optionsFor(Layout::single);
 
@@ -738,7 +645,7 @@ private Q_SLOTS:
     // half-written movie is gone.
     void fullDiskLeavesNothing()
     {
-        Footage footage;
+        EventFootage footage;
         TestClips::ClipOptions busy; // pictures that take room, unlike flat colours
         busy.seconds = 3.0;
         busy.fps = fps;
@@ -764,7 +671,7 @@ private Q_SLOTS:
     // drive untouched and nothing left in the folder.
     void stopMidwayLeavesNothing()
     {
-        Footage footage;
+        EventFootage footage;
         for (const Camera camera : {Camera::front, Camera::back})
             footage.add(camera, colourClip(camera, 3.0), 0);
         const TreeSnapshot before = TreeSnapshot::take(footage.root());
@@ -802,7 +709,7 @@ private Q_SLOTS:
         FaultyFs fs(mountPoint.path());
         QVERIFY(fs.isMounted());
         const auto releaseAtEnd = qScopeGuard([&] { fs.release(); });
-        Footage footage;
+        EventFootage footage;
         footage.add(Camera::front, colourClip(Camera::front, 8.0, 30), 0);
         // 6 s of pictures whose reads stop answering past 70 % of the file.
         const QByteArray bytes = HeldClip::indexFirst(6.0, 30);
@@ -847,7 +754,7 @@ private Q_SLOTS:
         QTemporaryDir mountPoint;
         FaultyFs fs(mountPoint.path());
         QVERIFY(fs.isMounted());
-        Footage footage;
+        EventFootage footage;
         footage.add(Camera::back, colourClip(Camera::back, 8.0), 0);
         const QByteArray bytes = HeldClip::indexFirst(8.0, fps);
         QVERIFY(bytes.size() > 1024 * 1024);
@@ -888,7 +795,7 @@ private Q_SLOTS:
     // Where no graphics hardware answers, x264 makes the same movie.
     void hardwareThatIsntThereFallsBackToSoftware()
     {
-        Footage footage;
+        EventFootage footage;
         footage.add(Camera::front, colourClip(Camera::front, 1.0), 0);
         CombinedExportOptions options = optionsFor(Layout::single);
         options.encoder = CombinedExportOptions::Encoder::automatic;

@@ -2,6 +2,7 @@
 #include "drive/DriveBoundary.h"
 #include "base/CancellationError.h"
 #include "support/DamagedHeaders.h"
+#include "support/EventFootage.h"
 #include "support/FaultyFs.h"
 #include "support/HeldClip.h"
 #include "support/MovieFacts.h"
@@ -28,65 +29,6 @@ extern "C" {
 using Exporter::ExportError;
 
 namespace {
-
-// One event's footage in a folder of its own, as the car names it.
-class Footage {
-public:
-    Footage() : base_(Date::fromQDateTime(QDateTime(QDate(2024, 6, 1), QTime(15, 0), Qt::UTC)))
-    {
-        QDir().mkpath(folder());
-        event.kind = EventKind::sentry;
-        event.folderName = QStringLiteral("2024-06-01_15-05-00");
-        event.folderURL = folder();
-        event.timestamp = base_.addingTimeInterval(300);
-    }
-
-    QString folder() const { return dir_.path() + QStringLiteral("/TeslaCam/SentryClips/2024-06-01_15-05-00"); }
-    QString root() const { return dir_.path() + QStringLiteral("/TeslaCam"); }
-    QString output(const QString &name = QStringLiteral("out.mp4")) const { return dir_.path() + QLatin1Char('/') + name; }
-
-    // A copy of a generated clip that starts `minute` minutes into the event.
-    QString addClip(const QString &source, int minute, Camera camera = Camera::front)
-    {
-        const QString path = pathFor(minute, camera);
-        QFile::remove(path);
-        if (!QFile::copy(source, path))
-            qFatal("could not copy a test clip");
-        add(path, minute, camera);
-        return path;
-    }
-    QString addBytes(const QByteArray &bytes, int minute, Camera camera = Camera::front)
-    {
-        const QString path = pathFor(minute, camera);
-        QFile f(path);
-        if (!f.open(QIODevice::WriteOnly))
-            qFatal("could not write a test file");
-        f.write(bytes);
-        add(path, minute, camera);
-        return path;
-    }
-    void addMissing(int minute, Camera camera = Camera::front) { add(pathFor(minute, camera), minute, camera); }
-
-    TeslaEvent event;
-
-private:
-    QString pathFor(int minute, Camera camera) const
-    {
-        return folder() + QStringLiteral("/2024-06-01_15-%1-00-%2.mp4").arg(minute, 2, 10, QLatin1Char('0')).arg(camera.rawValue());
-    }
-    void add(const QString &path, int minute, Camera camera)
-    {
-        ClipRef clip;
-        clip.url = path;
-        clip.camera = camera;
-        clip.startDate = base_.addingTimeInterval(60.0 * minute);
-        clip.fileSize = QFileInfo(path).size();
-        event.clips.push_back(clip);
-    }
-
-    QTemporaryDir dir_;
-    Date base_;
-};
 
 TestClips::ClipOptions clipOptions(double seconds, int width = 320, int height = 240)
 {
@@ -127,7 +69,7 @@ bool remuxed(const QString &source, const QString &destination, const QStringLis
 // An 8-second 640x480 clip on the test drive, `minute` minutes in, whose
 // reads hang past its first 512 KiB: past what judging it and the reader's
 // first 256 KiB read, so the hold comes while its pictures are written.
-void addClipHeldMidway(FaultyFs &fs, Footage &footage, int minute)
+void addClipHeldMidway(FaultyFs &fs, EventFootage &footage, int minute)
 {
     const QByteArray bytes = HeldClip::indexFirst(8.0, 36);
     if (bytes.size() <= 600 * 1024)
@@ -180,17 +122,6 @@ struct ExportThread {
             thread.join();
     }
 };
-
-template <typename F>
-std::optional<ExportError::Case> exportErrorOf(F &&f)
-{
-    try {
-        f();
-    } catch (const ExportError &e) {
-        return e.errorCase();
-    }
-    return std::nullopt;
-}
 
 } // namespace
 
@@ -251,13 +182,13 @@ private Q_SLOTS:
     // The damaged middle minute closes up; the rest is copied sample for sample.
     void joinsClipsBackToBackSkippingDamaged()
     {
-        Footage footage;
+        EventFootage footage;
         const QString source = TestClips::clip(clipOptions(2.0));
-        footage.addClip(source, 2);
+        footage.add(Camera::front, source, 120);
         QFile whole(source);
         QVERIFY(whole.open(QIODevice::ReadOnly));
-        footage.addBytes(whole.read(6000), 3); // cut off in the middle of its data
-        footage.addClip(source, 4);
+        footage.addBytes(Camera::front, whole.read(6000), 180); // cut off in the middle of its data
+        footage.add(Camera::front, source, 240);
         const TreeSnapshot before = TreeSnapshot::take(footage.root());
 
         ProgressLog progress;
@@ -304,11 +235,11 @@ private Q_SLOTS:
         QFETCH(int, field);
         QFETCH(quint32, value);
         QFETCH(int, frames);
-        Footage footage;
+        EventFootage footage;
         const QString source = TestClips::clip(clipOptions(2.0));
-        footage.addClip(source, 2);
-        footage.addBytes(withTableField(source, box.constData(), field, value), 3);
-        footage.addClip(source, 4);
+        footage.add(Camera::front, source, 120);
+        footage.addBytes(Camera::front, withTableField(source, box.constData(), field, value), 180);
+        footage.add(Camera::front, source, 240);
 
         Exporter::exportFootage(Camera::front, footage.event, std::nullopt, footage.output(), {});
 
@@ -336,11 +267,11 @@ private Q_SLOTS:
     void damagedHeadersCostTheirMinute()
     {
         QFETCH(int, damage);
-        Footage footage;
+        EventFootage footage;
         const QString source = TestClips::clip(clipOptions(2.0));
-        footage.addClip(source, 2);
-        footage.addBytes(DamagedHeaders::damaged(damage, source), 3);
-        footage.addClip(source, 4);
+        footage.add(Camera::front, source, 120);
+        footage.addBytes(Camera::front, DamagedHeaders::damaged(damage, source), 180);
+        footage.add(Camera::front, source, 240);
 
         Exporter::exportFootage(Camera::front, footage.event, std::nullopt, footage.output(), {});
 
@@ -359,12 +290,12 @@ private Q_SLOTS:
     // clip with sound starts the sound track at its place on the timeline.
     void soundStartsWithTheFirstClipThatHasIt()
     {
-        Footage footage;
+        EventFootage footage;
         TestClips::ClipOptions withSound = clipOptions(2.0);
         withSound.audio = true;
-        footage.addClip(TestClips::clip(withSound), 3);
-        footage.addClip(TestClips::clip(withSound), 4);
-        footage.addClip(TestClips::clip(clipOptions(2.0)), 2); // silent, and first by date
+        footage.add(Camera::front, TestClips::clip(withSound), 180);
+        footage.add(Camera::front, TestClips::clip(withSound), 240);
+        footage.add(Camera::front, TestClips::clip(clipOptions(2.0)), 120); // silent, and first by date
 
         Exporter::exportFootage(Camera::front, footage.event, std::nullopt, footage.output(), {});
 
@@ -385,12 +316,12 @@ private Q_SLOTS:
     // first) still goes straight behind the one before it.
     void clipStartingLateClosesUp()
     {
-        Footage footage;
+        EventFootage footage;
         const QString source = TestClips::clip(clipOptions(2.0));
-        footage.addClip(source, 2);
+        footage.add(Camera::front, source, 120);
         const QString late = footage.output(QStringLiteral("late.mp4"));
         QVERIFY(remuxed(source, late, {QStringLiteral("-output_ts_offset"), QStringLiteral("5")}));
-        footage.addClip(late, 3);
+        footage.add(Camera::front, late, 180);
 
         Exporter::exportFootage(Camera::front, footage.event, std::nullopt, footage.output(), {});
 
@@ -404,12 +335,12 @@ private Q_SLOTS:
 
     void h265JoinsByCopy()
     {
-        Footage footage;
+        EventFootage footage;
         TestClips::ClipOptions hevc = clipOptions(1.5);
         hevc.codec = QStringLiteral("libx265");
         const QString source = TestClips::clip(hevc);
-        footage.addClip(source, 2);
-        footage.addClip(source, 3);
+        footage.add(Camera::front, source, 120);
+        footage.add(Camera::front, source, 180);
 
         Exporter::exportFootage(Camera::front, footage.event, std::nullopt, footage.output(), {});
 
@@ -439,14 +370,14 @@ private Q_SLOTS:
         QFETCH(int, width);
         QFETCH(int, height);
         QFETCH(QString, pixelFormat);
-        Footage footage;
+        EventFootage footage;
         const QString small = TestClips::clip(clipOptions(1.0));
         TestClips::ClipOptions otherOptions = clipOptions(1.0, width, height);
         otherOptions.pixelFormat = pixelFormat;
         const QString other = TestClips::clip(otherOptions);
-        footage.addClip(small, 2);
-        footage.addClip(other, 3);
-        footage.addClip(small, 4);
+        footage.add(Camera::front, small, 120);
+        footage.add(Camera::front, other, 180);
+        footage.add(Camera::front, small, 240);
         const TreeSnapshot before = TreeSnapshot::take(footage.root());
 
         ProgressLog progress;
@@ -492,10 +423,10 @@ private Q_SLOTS:
         QFETCH(double, from);
         QFETCH(double, to);
         QFETCH(double, expected);
-        Footage footage;
+        EventFootage footage;
         const QString source = TestClips::clip(clipOptions(2.0));
-        footage.addClip(source, 2);
-        footage.addClip(source, 3);
+        footage.add(Camera::front, source, 120);
+        footage.add(Camera::front, source, 180);
 
         Exporter::exportFootage(Camera::front, footage.event, std::make_pair(from, to), footage.output(), {});
 
@@ -511,8 +442,8 @@ private Q_SLOTS:
 
     void rangeOutsideTheFootageFails()
     {
-        Footage footage;
-        footage.addClip(TestClips::clip(clipOptions(2.0)), 2);
+        EventFootage footage;
+        footage.add(Camera::front, TestClips::clip(clipOptions(2.0)), 120);
         for (const auto &range : {std::make_pair(10.0, 20.0), std::make_pair(1.5, 1.0)}) {
             const auto error = exportErrorOf([&] {
                 Exporter::exportFootage(Camera::front, footage.event, range, footage.output(), {});
@@ -526,8 +457,8 @@ private Q_SLOTS:
     // a clip been looked at, the stop would have won.
     void cameraWithoutClipsFailsAtOnce()
     {
-        Footage footage;
-        footage.addClip(TestClips::clip(clipOptions(1.0)), 2, Camera::front);
+        EventFootage footage;
+        footage.add(Camera::front, TestClips::clip(clipOptions(1.0)), 120);
         std::stop_source stop;
         stop.request_stop();
         const auto error = exportErrorOf([&] {
@@ -539,17 +470,17 @@ private Q_SLOTS:
 
     void noUsableClipFails()
     {
-        Footage footage;
+        EventFootage footage;
         const QString source = TestClips::clip(clipOptions(1.0));
         QFile whole(source);
         QVERIFY(whole.open(QIODevice::ReadOnly));
-        footage.addBytes(QByteArray(), 2);                         // zero bytes
-        footage.addBytes(QByteArray(200000, '\x5a'), 3);           // not a movie
-        footage.addBytes(whole.read(2000), 4);                     // header cut off
-        footage.addMissing(5);                                     // gone since the scan
+        footage.addBytes(Camera::front, QByteArray(), 120);               // zero bytes
+        footage.addBytes(Camera::front, QByteArray(200000, '\x5a'), 180); // not a movie
+        footage.addBytes(Camera::front, whole.read(2000), 240);           // header cut off
+        footage.addMissing(Camera::front, 300);                           // gone since the scan
         QDir().mkpath(footage.folder() + QStringLiteral("/2024-06-01_15-06-00-front.mp4"));
-        footage.addMissing(6);                                     // a folder by that name
-        footage.addClip(source, 2, Camera::back);                  // another camera's good clip
+        footage.addMissing(Camera::front, 360);                           // a folder by that name
+        footage.add(Camera::back, source, 120);                           // another camera's good clip
         const TreeSnapshot before = TreeSnapshot::take(footage.root());
 
         const auto error = exportErrorOf([&] {
@@ -564,7 +495,7 @@ private Q_SLOTS:
     // empty movie is made of it.
     void clipWithoutSamplesFails()
     {
-        Footage footage;
+        EventFootage footage;
         TestClips::ClipOptions options = clipOptions(1.0);
         options.faststart = true;
         QFile source(TestClips::clip(options));
@@ -573,7 +504,7 @@ private Q_SLOTS:
         const qint64 moov = TestClips::topLevelBoxOffset(bytes, "moov");
         const qint64 mdat = TestClips::topLevelBoxOffset(bytes, "mdat");
         QVERIFY(moov >= 0 && mdat > moov);
-        footage.addBytes(bytes.left(mdat), 2);
+        footage.addBytes(Camera::front, bytes.left(mdat), 120);
 
         const auto error = exportErrorOf([&] {
             Exporter::exportFootage(Camera::front, footage.event, std::nullopt, footage.output(), {});
@@ -583,8 +514,8 @@ private Q_SLOTS:
 
     void cancelledBeforeWritingIsACancellation()
     {
-        Footage footage;
-        footage.addClip(TestClips::clip(clipOptions(1.0)), 2);
+        EventFootage footage;
+        footage.add(Camera::front, TestClips::clip(clipOptions(1.0)), 120);
         std::stop_source stop;
         stop.request_stop();
         ProgressLog progress;
@@ -606,9 +537,9 @@ private Q_SLOTS:
         QTemporaryDir mountPoint;
         FaultyFs fs(mountPoint.path());
         QVERIFY(fs.isMounted());
-        Footage footage;
+        EventFootage footage;
         const QString source = TestClips::clip(clipOptions(1.0));
-        footage.addClip(source, 0);
+        footage.add(Camera::front, source, 0);
         QFile clip(source);
         QVERIFY(clip.open(QIODevice::ReadOnly));
         fs.addFile(QStringLiteral("stuck.mp4"), clip.readAll());
@@ -617,7 +548,7 @@ private Q_SLOTS:
         stuck.url = mountPoint.filePath(QStringLiteral("stuck.mp4"));
         stuck.startDate = stuck.startDate.addingTimeInterval(60);
         footage.event.clips.push_back(stuck);
-        footage.addClip(source, 2);
+        footage.add(Camera::front, source, 120);
 
         ExportThread worker(footage.event, footage.output());
         QVERIFY(fs.waitUntilHeld());
@@ -638,9 +569,9 @@ private Q_SLOTS:
         QTemporaryDir mountPoint;
         FaultyFs fs(mountPoint.path());
         QVERIFY(fs.isMounted());
-        Footage footage;
+        EventFootage footage;
         const QString source = TestClips::clip(clipOptions(8.0, 640, 480));
-        footage.addClip(source, 0);
+        footage.add(Camera::front, source, 0);
         addClipHeldMidway(fs, footage, 1);
 
         ExportThread worker(footage.event, footage.output());
@@ -661,11 +592,11 @@ private Q_SLOTS:
         QTemporaryDir mountPoint;
         FaultyFs fs(mountPoint.path());
         QVERIFY(fs.isMounted());
-        Footage footage;
+        EventFootage footage;
         const QString source = TestClips::clip(clipOptions(8.0, 640, 480));
-        footage.addClip(source, 0);
+        footage.add(Camera::front, source, 0);
         addClipHeldMidway(fs, footage, 1);
-        footage.addClip(source, 2);
+        footage.add(Camera::front, source, 120);
 
         Exporter::exportFootage(Camera::front, footage.event, std::nullopt, footage.output(), {}, {},
                                 std::chrono::milliseconds(1000));
@@ -691,10 +622,10 @@ private Q_SLOTS:
     void cancelledWhileWritingIsAnExportError()
     {
         QFETCH(double, stopAt);
-        Footage footage;
+        EventFootage footage;
         const QString source = TestClips::clip(clipOptions(2.0));
         for (int minute = 2; minute < 6; ++minute)
-            footage.addClip(source, minute);
+            footage.add(Camera::front, source, 60 * minute);
         const TreeSnapshot before = TreeSnapshot::take(footage.root());
         std::stop_source stop;
         double stoppedAt = -1;
@@ -717,8 +648,8 @@ private Q_SLOTS:
 
     void destinationMustBeNew()
     {
-        Footage footage;
-        footage.addClip(TestClips::clip(clipOptions(1.0)), 2);
+        EventFootage footage;
+        footage.add(Camera::front, TestClips::clip(clipOptions(1.0)), 120);
         {
             QFile existing(footage.output());
             QVERIFY(existing.open(QIODevice::WriteOnly));

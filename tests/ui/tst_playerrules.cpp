@@ -1,6 +1,5 @@
 #include "DrivingDataPreferences.h"
 #include "ExportFlow.h"
-#include "KeyboardHints.h"
 #include "ListPlayerKeyRouter.h"
 #include "PlayerKeyActions.h"
 #include "PlayerLayout.h"
@@ -53,18 +52,6 @@ private Q_SLOTS:
         QVERIFY(PlayerLayout::momentMarkX(QVariant(), 60.0, 224) < 0);
         QVERIFY(PlayerLayout::momentMarkX(QVariant(5.0), 0.0, 224) < 0);
         QCOMPARE(PlayerLayout::coordinatesText(QVariant(), QVariant(2.0)), QStringLiteral("Location unknown"));
-    }
-
-    void hintBarSettingDefaultsOnAndPersists()
-    {
-        QSettings().remove(KeyboardHints::settingKey);
-        KeyboardHints hints;
-        QVERIFY(hints.showHints());
-        QSignalSpy spy(&hints, &KeyboardHints::showHintsChanged);
-        hints.setShowHints(false);
-        QCOMPARE(spy.count(), 1);
-        QCOMPARE(KeyboardHints().showHints(), false);
-        hints.setShowHints(true);
     }
 
     void routerIgnoresModifiersAndStrangers()

@@ -7,6 +7,7 @@
 #include "EventPlayerPresenter.h"
 #include "ExportFlow.h"
 #include "KeelholdApp.h"
+#include "KeyboardHints.h"
 #include "playback/SyncPlayerController.h"
 #include "playback/TrackPlayer.h"
 #include "state/AppState.h"
@@ -555,8 +556,8 @@ private Q_SLOTS:
         QTRY_VERIFY(findItem(window_->contentItem(), QStringLiteral("keyboardHintBar")));
         click(QStringLiteral("hideHintsButton"));
         QTRY_VERIFY(!findItem(window_->contentItem(), QStringLiteral("keyboardHintBar")));
-        QCOMPARE(QSettings().value(QStringLiteral("KHShowKeyboardHints")).toBool(), false);
-        QSettings().setValue(QStringLiteral("KHShowKeyboardHints"), true);
+        QVERIFY(!KeyboardHints().showHints()); // as the next start reads it
+        QSettings().setValue(KeyboardHints::settingKey, true);
     }
 
     // Moving the selection through the inbox plays each event in turn from
