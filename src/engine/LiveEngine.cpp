@@ -6,8 +6,6 @@
 #include "engine/BookmarkStore.h"
 #include "engine/DriveWatcher.h"
 #include "base/EnginePools.h"
-#include "engine/ScanCache.h"
-#include "engine/TriageStore.h"
 #include "export/CombinedExport.h"
 #include "export/Exporter.h"
 #include "timeline/TelemetryTimeline.h"
@@ -15,7 +13,10 @@
 #include "vault/VaultBrowser.h"
 
 // Building the watcher starts no observation; that waits for driveEvents().
-LiveEngine::LiveEngine() : driveWatcher_(std::make_unique<DriveWatcher>()) {}
+LiveEngine::LiveEngine(ScanCache &scanCache, TriageStore &triage)
+    : scanCache_(scanCache), triage_(triage), driveWatcher_(std::make_unique<DriveWatcher>())
+{
+}
 
 LiveEngine::~LiveEngine() = default;
 
@@ -26,12 +27,12 @@ QFuture<DriveScan> LiveEngine::scanDrive(const QString &root, ScanProgressCallba
 
 QFuture<std::optional<DriveScan>> LiveEngine::cachedScan(const QString &key)
 {
-    return ScanCache::shared().cached(key);
+    return scanCache_.cached(key);
 }
 
 QFuture<void> LiveEngine::storeScanInCache(const DriveScan &scan, const QString &key)
 {
-    return ScanCache::shared().store(scan, key);
+    return scanCache_.store(scan, key);
 }
 
 QFuture<std::vector<TeslaEvent>> LiveEngine::probeAll(const std::vector<TeslaEvent> &events)
@@ -100,10 +101,10 @@ TriageState LiveEngine::triageState(const QString &) { return TriageState::new_;
 
 void LiveEngine::setTriageState(TriageState state, const QString &eventID)
 {
-    TriageStore::shared().set(state, eventID);
+    triage_.set(state, eventID);
 }
 
-QFuture<EngineFacade::TriageStates> LiveEngine::loadAllTriageStates() { return TriageStore::shared().allStates(); }
+QFuture<EngineFacade::TriageStates> LiveEngine::loadAllTriageStates() { return triage_.allStates(); }
 
 QFuture<EventTelemetry> LiveEngine::loadTelemetry(const TeslaEvent &event, Camera camera)
 {

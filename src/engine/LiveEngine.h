@@ -1,6 +1,8 @@
 #pragma once
 
 #include "engine/EngineFacade.h"
+#include "engine/ScanCache.h"
+#include "engine/TriageStore.h"
 
 #include <memory>
 
@@ -9,12 +11,14 @@ class DriveWatcher;
 // The engine over real files and volumes: every operation is one step to
 // the scanner, prober, archive engine, Vault browser, stores, drive watcher
 // and exporter. It decides nothing beyond the fixed arguments it supplies.
-class LiveEngine final : public EngineFacade {
+// Not final: a test may put a drive of its own making in front of the rest.
+class LiveEngine : public EngineFacade {
 public:
     static constexpr std::chrono::milliseconds probeTimeoutPerClip{10000};
     static constexpr int probeConcurrencyCap = 4;
 
-    LiveEngine();
+    // The stores must outlive the engine; the program's own by default.
+    explicit LiveEngine(ScanCache &scanCache = ScanCache::shared(), TriageStore &triage = TriageStore::shared());
     ~LiveEngine() override;
 
     QFuture<DriveScan> scanDrive(const QString &root, ScanProgressCallback progress) override;
@@ -50,5 +54,7 @@ public:
                                  CombinedExportProgressCallback progress) override;
 
 private:
+    ScanCache &scanCache_;
+    TriageStore &triage_;
     std::unique_ptr<DriveWatcher> driveWatcher_;
 };

@@ -3,12 +3,12 @@
 #include "base/Awaiting.h"
 #include "base/LogCategories.h"
 #include "base/AsyncRun.h"
-#include "engine/EngineFacade.h"
+#include "engine/TelemetryAccess.h"
 #include "base/EnginePools.h"
 
 #include <QSet>
 
-EventRoutes::EventRoutes(EngineFacade &engine, QObject *parent) : QObject(parent), engine_(engine) {}
+EventRoutes::EventRoutes(TelemetryAccess &engine, QObject *parent) : QObject(parent), engine_(engine) {}
 
 EventRoutes::~EventRoutes()
 {

@@ -12,7 +12,7 @@
 #include <deque>
 #include <optional>
 
-class EngineFacade;
+class TelemetryAccess;
 
 // The GPS routes of the map's events, read from their front clips one event
 // at a time on the engine's drive pool, and kept per event (and per copy:
@@ -22,7 +22,7 @@ class EventRoutes : public QObject {
     Q_OBJECT
 
 public:
-    explicit EventRoutes(EngineFacade &engine, QObject *parent = nullptr);
+    explicit EventRoutes(TelemetryAccess &engine, QObject *parent = nullptr);
     ~EventRoutes() override;
 
     // The events whose routes are wanted now; the ones already read are kept,
@@ -47,7 +47,7 @@ private:
     static QCoro::Task<void> readTask(QPointer<EventRoutes> self, QFuture<EventTelemetry> reading, QString key,
                                       QString id);
 
-    EngineFacade &engine_;
+    TelemetryAccess &engine_;
     QHash<QString, MapRoute> cache_;
     std::vector<QString> wanted_;
     std::deque<TeslaEvent> queue_;

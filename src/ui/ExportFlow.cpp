@@ -29,7 +29,7 @@
 #include <cmath>
 #include <cstdio>
 
-ExportFlow::ExportFlow(EngineFacade &engine, const TeslaEvent &event, QObject *parent)
+ExportFlow::ExportFlow(ExportAccess &engine, const TeslaEvent &event, QObject *parent)
     : QObject(parent), engine_(engine), event_(event), cameras_(event.cameras())
 {
     std::sort(cameras_.begin(), cameras_.end(),

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/EngineFacade.h"
+#include "engine/ExportAccess.h"
 #include "export/CombinedExportOptions.h"
 #include "export/CombinedExportProgress.h"
 #include "model/Camera.h"
@@ -76,7 +76,7 @@ public:
     static inline const QString stopTooltip =
         QStringLiteral("Stops the export. Your original footage is untouched either way.");
 
-    ExportFlow(EngineFacade &engine, const TeslaEvent &event, QObject *parent = nullptr);
+    ExportFlow(ExportAccess &engine, const TeslaEvent &event, QObject *parent = nullptr);
     ~ExportFlow() override;
 
     State state() const;
@@ -184,7 +184,7 @@ private:
     std::optional<std::pair<double, double>> momentRange() const;
     std::optional<std::pair<double, double>> chosenRange() const;
 
-    EngineFacade &engine_;
+    ExportAccess &engine_;
     TeslaEvent event_;
     std::vector<Camera> cameras_;
     std::optional<Camera> selectedCamera_;

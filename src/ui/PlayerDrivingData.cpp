@@ -7,7 +7,7 @@
 #include "base/EnginePools.h"
 #include "model/DrivingDataText.h"
 #include "SymbolIcons.h"
-#include "engine/EngineFacade.h"
+#include "engine/TelemetryAccess.h"
 #include "playback/SyncPlayerController.h"
 #include "playback/TrackPlayer.h"
 
@@ -40,7 +40,7 @@ PlayerDrivingData::~PlayerDrivingData()
         pending_.cancel();
 }
 
-void PlayerDrivingData::load(EngineFacade *engine, const std::optional<TeslaEvent> &event)
+void PlayerDrivingData::load(TelemetryAccess *engine, const std::optional<TeslaEvent> &event)
 {
     const quint64 generation = ++generation_;
     if (pending_.isRunning())

@@ -15,7 +15,7 @@
 #include <memory>
 #include <optional>
 
-class EngineFacade;
+class TelemetryAccess;
 class SyncPlayerController;
 class TrackPlayer;
 
@@ -55,7 +55,7 @@ public:
 
     // A new event (or none): any load still running is dropped, and its
     // result, should it come, is ignored.
-    void load(EngineFacade *engine, const std::optional<TeslaEvent> &event);
+    void load(TelemetryAccess *engine, const std::optional<TeslaEvent> &event);
     // The controller whose front camera the overlay follows.
     void follow(SyncPlayerController *controller);
 

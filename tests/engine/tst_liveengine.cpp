@@ -1,9 +1,10 @@
-// The live engine over real drives, real clips, a real Vault and the real
-// stores in a temporary home: each operation reaches the layer below, off
+// The live engine over real drives, real clips, a real Vault and stores of
+// its own in a temporary folder: each operation reaches the layer below, off
 // the caller's thread where it should, with errors of their own type.
 
 #include "drive/TeslaCamParser.h"
 #include "engine/LiveEngine.h"
+#include "engine/ScanCache.h"
 #include "engine/TriageStore.h"
 #include "export/ExportError.h"
 #include "playback/SyncPlayerController.h"
@@ -48,7 +49,7 @@ private Q_SLOTS:
     void scanRunsOffTheCallersThread();
     void scanErrorsKeepTheirType();
     void archiveStopsWhenItsFutureIsCancelled();
-    void triageStateIsAlwaysNewButMarksAreKept();
+    void marksAndScansGoToTheStoresItWasGiven();
     void exportErrorsKeepTheirType();
     void combinedExportRunsOffTheCallerAndStopsClean();
     void theDriveIsNeverWritten();
@@ -56,9 +57,13 @@ private Q_SLOTS:
 
 private:
     QString drivePath() const { return dir_.filePath(QStringLiteral("drive/TeslaCam")); }
+    QString scanCacheFile() const { return dir_.filePath(QStringLiteral("scan-cache.json")); }
+    QString triageFile() const { return dir_.filePath(QStringLiteral("triage.json")); }
     QTemporaryDir dir_;
     TreeSnapshot before_;
-    LiveEngine live_;
+    ScanCache scanCache_{scanCacheFile()};
+    TriageStore triage_{triageFile()};
+    LiveEngine live_{scanCache_, triage_};
     EngineFacade &engine_ = live_;
 };
 
@@ -153,7 +158,10 @@ void TestLiveEngine::archiveStopsWhenItsFutureIsCancelled()
     QVERIFY(engine_.loadVaultIndex(vault).events.size() < total);
 }
 
-void TestLiveEngine::triageStateIsAlwaysNewButMarksAreKept()
+// Marks and scans land in the stores the engine was handed, where a second
+// engine on the same files (the next launch) finds them, and never in the
+// program's own files in the home folder.
+void TestLiveEngine::marksAndScansGoToTheStoresItWasGiven()
 {
     const QString id = QStringLiteral("sentry|2024-06-01_15-05-30");
     engine_.setTriageState(TriageState::kept, id);
@@ -161,9 +169,31 @@ void TestLiveEngine::triageStateIsAlwaysNewButMarksAreKept()
     // The true marks come only from loading them all.
     QTRY_COMPARE(engine_.loadAllTriageStates().result().value(id), TriageState::kept);
     QCOMPARE(engine_.triageState(id), TriageState::new_);
-    const QString file = qEnvironmentVariable("XDG_DATA_HOME") + QStringLiteral("/Keelhold/triage.json");
-    QTRY_VERIFY(DriveBuilder::readQuietly(file).contains("\"saved|2024-06-02_09-00-00\":\"dismissed\""));
-    QCOMPARE(TriageStore(file).state(id).result(), TriageState::kept);
+    QTRY_VERIFY(DriveBuilder::readQuietly(triageFile()).contains("\"saved|2024-06-02_09-00-00\":\"dismissed\""));
+
+    const DriveScan scan = engine_.scanDrive(drivePath(), {}).result();
+    const QString key = ScanCache::key(QStringLiteral("UNTITLED"), 64000000000);
+    QVERIFY(!engine_.cachedScan(key).result().has_value());
+    engine_.storeScanInCache(scan, key).waitForFinished();
+    QVERIFY(QFile::exists(scanCacheFile()));
+
+    {
+        ScanCache cache(scanCacheFile());
+        TriageStore triage(triageFile());
+        LiveEngine next(cache, triage);
+        const std::optional<DriveScan> cached = next.cachedScan(key).result();
+        QVERIFY(cached.has_value());
+        QCOMPARE(cached->teslaCamURL, drivePath());
+        QCOMPARE(cached->events.size(), scan.events.size());
+        QVERIFY(!next.cachedScan(ScanCache::key(QStringLiteral("OTHER"), std::nullopt)).result().has_value());
+        const EngineFacade::TriageStates marks = next.loadAllTriageStates().result();
+        QCOMPARE(marks.size(), 2);
+        QCOMPARE(marks.value(id), TriageState::kept);
+    }
+
+    const QString programsOwn = qEnvironmentVariable("XDG_DATA_HOME") + QStringLiteral("/Keelhold/");
+    QVERIFY(!QFile::exists(programsOwn + QLatin1String(TriageStore::fileName)));
+    QVERIFY(!QFile::exists(programsOwn + QLatin1String(ScanCache::fileName)));
 }
 
 void TestLiveEngine::exportErrorsKeepTheirType()

@@ -31,16 +31,21 @@ namespace {
 
 // The live engine, with the drive's format told by the test: the one way to
 // put a drive of any format in front of the state without mounting it.
-class FormatEngine final : public EngineFacade {
+class FormatEngine final : public LiveEngine {
 public:
-    LiveEngine inner;
+    // No cache but what the test sets in `cached`; nothing is stored.
+    FormatEngine() = default;
+    // Given: the cache is a real file of the test's own, which outlives the
+    // engine as it outlives a run of the program.
+    explicit FormatEngine(ScanCache &cache) : LiveEngine(cache), givenCache_(true) {}
+
     std::optional<VolumeFormat> freshFormat;
     std::optional<DriveScan> cached;
 
     QFuture<DriveScan> scanDrive(const QString &root, ScanProgressCallback progress) override
     {
         const std::optional<VolumeFormat> format = freshFormat;
-        QFuture<DriveScan> scanning = inner.scanDrive(root, std::move(progress));
+        QFuture<DriveScan> scanning = LiveEngine::scanDrive(root, std::move(progress));
         return AsyncRun::onPool(EnginePools::quick(), [scanning, format]() mutable {
             DriveScan scan = scanning.result();
             if (format)
@@ -48,17 +53,13 @@ public:
             return scan;
         });
     }
-    // Given: the cache is a real file of the test's own, which outlives the
-    // engine as it outlives a run of the program.
-    std::unique_ptr<ScanCache> scanCache;
-
     QFuture<std::optional<DriveScan>> cachedScan(const QString &key) override
     {
-        return scanCache ? scanCache->cached(key) : QtFuture::makeReadyFuture(cached);
+        return givenCache_ ? LiveEngine::cachedScan(key) : QtFuture::makeReadyFuture(cached);
     }
     QFuture<void> storeScanInCache(const DriveScan &scan, const QString &key) override
     {
-        return scanCache ? scanCache->store(scan, key) : QtFuture::makeReadyFuture();
+        return givenCache_ ? LiveEngine::storeScanInCache(scan, key) : QtFuture::makeReadyFuture();
     }
     // Held probes answer only when the test says, in the order it says.
     bool holdProbes = false;
@@ -67,7 +68,7 @@ public:
     QFuture<std::vector<TeslaEvent>> probeAll(const std::vector<TeslaEvent> &events) override
     {
         if (!holdProbes)
-            return inner.probeAll(events);
+            return LiveEngine::probeAll(events);
         auto promise = std::make_shared<QPromise<std::vector<TeslaEvent>>>();
         promise->start();
         heldProbes.emplace_back(promise, events);
@@ -76,55 +77,12 @@ public:
     void answerHeldProbe(size_t i)
     {
         auto &[promise, events] = heldProbes.at(i);
-        promise->addResult(inner.probeAll(events).result());
+        promise->addResult(LiveEngine::probeAll(events).result());
         promise->finish();
     }
-    QFuture<QHash<QString, KeyCoverage>> keyCoverage(const std::vector<TeslaEvent> &events) override
-    {
-        return inner.keyCoverage(events);
-    }
-    void saveBookmark(const QString &url, BookmarkKey key) override { inner.saveBookmark(url, key); }
-    BookmarkResult resolveBookmark(BookmarkKey key) override { return inner.resolveBookmark(key); }
-    std::vector<VolumeCandidate> mountedTeslaCamVolumes() override { return inner.mountedTeslaCamVolumes(); }
-    std::shared_ptr<DriveEventStream> driveEvents() override { return inner.driveEvents(); }
-    ArchivePlan planArchive(const std::vector<TeslaEvent> &events, const VaultIndex &vault) override
-    {
-        return inner.planArchive(events, vault);
-    }
-    QFuture<ArchiveReport> runArchive(const ArchivePlan &plan, const QString &vaultURL,
-                                      ArchiveProgressCallback progress, std::stop_token stop) override
-    {
-        return inner.runArchive(plan, vaultURL, std::move(progress), stop);
-    }
-    VaultIndex loadVaultIndex(const QString &vaultURL) override { return inner.loadVaultIndex(vaultURL); }
-    bool removeFromVault(const QString &eventID, const QString &vaultURL) override
-    {
-        return inner.removeFromVault(eventID, vaultURL);
-    }
-    QFuture<std::vector<TeslaEvent>> scanVault(const QString &url) override { return inner.scanVault(url); }
-    QFuture<VaultVerifier::Result> verifyVault(const QString &vaultURL, const QStringList &eventIDs,
-                                               VaultVerifier::ProgressCallback progress, std::stop_token stop) override
-    {
-        return inner.verifyVault(vaultURL, eventIDs, std::move(progress), stop);
-    }
-    VerificationLog loadVerificationLog(const QString &vaultURL) override { return inner.loadVerificationLog(vaultURL); }
-    TriageState triageState(const QString &eventID) override { return inner.triageState(eventID); }
-    void setTriageState(TriageState state, const QString &eventID) override { inner.setTriageState(state, eventID); }
-    QFuture<TriageStates> loadAllTriageStates() override { return inner.loadAllTriageStates(); }
-    QFuture<EventTelemetry> loadTelemetry(const TeslaEvent &event, Camera camera) override
-    {
-        return inner.loadTelemetry(event, camera);
-    }
-    QFuture<void> exportFootage(Camera camera, const TeslaEvent &event, std::optional<SecondsRange> range,
-                                const QString &to, FractionCallback progress) override
-    {
-        return inner.exportFootage(camera, event, range, to, std::move(progress));
-    }
-    QFuture<void> exportCombined(const TeslaEvent &event, const CombinedExportOptions &options, const QString &to,
-                                 CombinedExportProgressCallback progress) override
-    {
-        return inner.exportCombined(event, options, to, std::move(progress));
-    }
+
+private:
+    const bool givenCache_ = false;
 };
 
 // As the parser reads a file-system type; "unknown" is no type at all.
@@ -628,8 +586,8 @@ private Q_SLOTS:
                                    QStringLiteral("sentry|2023-03-03_10-00-00: 1")};
 
         {
-            FormatEngine engine;
-            engine.scanCache = std::make_unique<ScanCache>(cacheFile);
+            ScanCache cache(cacheFile);
+            FormatEngine engine(cache);
             AppState state(engine);
             state.beginScan(drive.root());
             QTRY_VERIFY_WITH_TIMEOUT(state.driveScan() && state.healthReport()
@@ -639,8 +597,8 @@ private Q_SLOTS:
         }
 
         // The restart: a new engine and state on the same home, drive and cache file.
-        FormatEngine engine;
-        engine.scanCache = std::make_unique<ScanCache>(cacheFile);
+        ScanCache cache(cacheFile);
+        FormatEngine engine(cache);
         engine.holdProbes = true;
         AppState state(engine);
         std::vector<QStringList> shown;
@@ -672,8 +630,10 @@ private Q_SLOTS:
     {
         // Two roots on the same volume share one cached answer; the key is
         // "<name>|<capacity>", so a drive mounted elsewhere finds it too.
+        // The cache starts empty: only A can have put an answer there.
         QTemporaryDir tmp;
-        LiveEngine engine;
+        ScanCache cache(tmp.filePath(QStringLiteral("scan-cache.json")));
+        LiveEngine engine(cache);
         AppState state(engine);
         const QString a = driveWithOneEvent(tmp, QStringLiteral("A"));
         state.beginScan(a);
