@@ -233,7 +233,7 @@ bool write(const QString &eventFolder, const std::vector<KeyEntry> &entries)
 
 namespace KeyRing {
 
-std::optional<QByteArray> keyFor(const QString &clipPath, const Ecryptfs::Header &header, KeyStore &store)
+std::optional<QByteArray> keyBeside(const QString &clipPath, const Ecryptfs::Header &header)
 {
     if (header.state != Ecryptfs::Header::State::ok)
         return std::nullopt;
@@ -242,6 +242,15 @@ std::optional<QByteArray> keyFor(const QString &clipPath, const Ecryptfs::Header
         if (e.file == name && e.keyId == header.keyBlock.keyId && e.vin == header.keyBlock.vin)
             return e.key;
     }
+    return std::nullopt;
+}
+
+std::optional<QByteArray> keyFor(const QString &clipPath, const Ecryptfs::Header &header, KeyStore &store)
+{
+    if (header.state != Ecryptfs::Header::State::ok)
+        return std::nullopt;
+    if (auto beside = keyBeside(clipPath, header))
+        return beside;
     return store.find(header.keyBlock);
 }
 

@@ -62,6 +62,9 @@ bool write(const QString &eventFolder, const std::vector<KeyEntry> &entries);
 
 namespace KeyRing {
 
+// The key kept beside the clip's event in the Vault, if any: a read of that
+// folder, nothing of the store.
+std::optional<QByteArray> keyBeside(const QString &clipPath, const Ecryptfs::Header &header);
 // The key of one encrypted clip: the Vault's file beside it first, then the
 // app's store. Nothing when none is held or the header can't be read.
 std::optional<QByteArray> keyFor(const QString &clipPath, const Ecryptfs::Header &header,

@@ -34,12 +34,17 @@ std::vector<Looked> lookUp(const std::vector<QString> &paths, std::chrono::milli
     looked.reserve(paths.size());
     for (const QString &path : paths) {
         try {
-            looked.push_back(IOWatchdog::run(limit, [path, store](std::stop_token) {
+            // Only the reads are watched: one left behind after its limit
+            // must touch nothing its caller may have let go, such as the store.
+            looked.push_back(IOWatchdog::run(limit, [path](std::stop_token) {
                 Looked l;
                 l.header = Ecryptfs::read(path);
-                l.held = KeyRing::keyFor(path, l.header, *store).has_value();
+                l.held = KeyRing::keyBeside(path, l.header).has_value();
                 return l;
             }));
+            Looked &l = looked.back();
+            if (!l.held && l.header.state == Ecryptfs::Header::State::ok)
+                l.held = store->find(l.header.keyBlock).has_value();
         } catch (const IOWatchdog::TimedOut &) {
             Looked l;
             l.answered = false;

@@ -733,10 +733,11 @@ private Q_SLOTS:
         QFETCH(int, damage);
         EventBuilder b(tmp.path() + QStringLiteral("/damaged-%1").arg(damage));
         b.add(Camera::front, 0);
-        ClipRef &damaged = b.add(Camera::front, 1, ClipHealth::unknown);
+        // A copy: the next clip may move the event's list of clips.
+        const QString damaged = b.add(Camera::front, 1, ClipHealth::unknown).url;
         b.add(Camera::front, 2);
-        const QByteArray bytes = DamagedHeaders::damaged(damage, damaged.url);
-        QFile file(damaged.url);
+        const QByteArray bytes = DamagedHeaders::damaged(damage, damaged);
+        QFile file(damaged);
         QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate) && file.write(bytes) == bytes.size());
         file.close();
 
