@@ -1,7 +1,6 @@
 #include "playback/PlaybackGroup.h"
 
 #include "playback/HostClock.h"
-#include "playback/TrackPlayer.h"
 
 #include <algorithm>
 
@@ -21,26 +20,26 @@ PlaybackGroup::~PlaybackGroup()
     clear();
 }
 
-void PlaybackGroup::add(TrackPlayer *player)
+void PlaybackGroup::add(Member *player)
 {
     prune();
     if (members_.empty())
         *clock_ = player->clock();
-    members_.emplace_back(player);
+    members_.push_back(Entry{player->lifetime(), player});
     player->setGroup(this);
 }
 
 void PlaybackGroup::clear()
 {
     for (const auto &m : members_)
-        if (m && m->group() == this)
+        if (m.alive && m->group() == this)
             m->setGroup(nullptr);
     members_.clear();
     laggingSince_.clear();
     timer_.stop();
 }
 
-void PlaybackGroup::clockChanged(TrackPlayer *member)
+void PlaybackGroup::clockChanged(Member *member)
 {
     // A member lagging since before keeps its count: a seek doesn't make a
     // stuck drive answer.
@@ -56,7 +55,7 @@ void PlaybackGroup::wake()
 
 void PlaybackGroup::prune()
 {
-    members_.erase(std::remove_if(members_.begin(), members_.end(), [](const QPointer<TrackPlayer> &m) { return !m; }),
+    members_.erase(std::remove_if(members_.begin(), members_.end(), [](const Entry &m) { return !m.alive; }),
                    members_.end());
 }
 
@@ -80,11 +79,11 @@ void PlaybackGroup::tick()
     bool prepared = true;
     for (const auto &m : members_) {
         // One that never gave a picture (its clip doesn't open) holds nobody.
-        if (m->preparedFor(t) || m->status() != TrackPlayer::ReadyToPlay) {
-            laggingSince_.erase(m.data());
+        if (m->preparedFor(t) || !m->isReadyToPlay()) {
+            laggingSince_.erase(m.member);
             continue;
         }
-        const auto [it, fresh] = laggingSince_.emplace(m.data(), now);
+        const auto [it, fresh] = laggingSince_.emplace(m.member, now);
         if (now - it->second < stallLimit)
             prepared = false;
     }
@@ -100,7 +99,7 @@ void PlaybackGroup::tick()
                 m->presentPreview();
         clock_->hold(preparedUpTo_, now);
     }
-    const bool busy = clock_->running() || std::any_of(members_.begin(), members_.end(), [](const QPointer<TrackPlayer> &m) {
+    const bool busy = clock_->running() || std::any_of(members_.begin(), members_.end(), [](const Entry &m) {
                           return m->isSeeking();
                       });
     if (!busy)

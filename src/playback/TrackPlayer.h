@@ -23,7 +23,7 @@
 // sink when the clock reaches it. Alone, the player has a clock of its own;
 // in a group, every member reads the group's one clock.
 // Empty stretches of the track show no picture.
-class TrackPlayer : public QObject {
+class TrackPlayer : public QObject, public PlaybackGroup::Member {
     Q_OBJECT
     Q_PROPERTY(QVideoSink *videoSink READ videoSink WRITE setVideoSink NOTIFY videoSinkChanged)
     Q_PROPERTY(Status status READ status NOTIFY statusChanged)
@@ -52,7 +52,9 @@ public:
     static int runningWorkers();
 
     Status status() const { return status_; }
-    MediaTime trackDuration() const { return MediaTime::fromSeconds(trackEnd_); }
+    bool isReadyToPlay() const override { return status_ == ReadyToPlay; }
+    QObject *lifetime() override { return this; }
+    MediaTime trackDuration() const override { return MediaTime::fromSeconds(trackEnd_); }
 
     // Plays from time at rate, beginning at hostTime of HostClock. A time
     // other than the present position seeks there first.
@@ -64,7 +66,7 @@ public:
     // this one or the player is not ready.
     void seek(MediaTime time, std::function<void(bool)> completion = {});
     MediaTime currentTime() const { return MediaTime::fromSeconds(currentSeconds()); }
-    double currentSeconds() const;
+    double currentSeconds() const override;
 
     QVideoSink *videoSink() const { return sink_; }
     void setVideoSink(QVideoSink *sink);
@@ -77,24 +79,24 @@ public:
     // Frames decoded so far, shown or not (for measurements).
     quint64 decodedFrameCount() const;
     // True until the frame of the latest seek is on screen.
-    bool isSeeking() const { return presentedGeneration_ != generation_; }
+    bool isSeeking() const override { return presentedGeneration_ != generation_; }
     // Time of the next decoded frame after the one shown, if already queued.
     std::optional<double> nextFrameTime() const;
 
     // Joins a group that presents its members' frames from one clock (null
     // to leave); alone, the player presents on its own timer.
-    void setGroup(PlaybackGroup *group);
-    PlaybackGroup *group() const { return group_; }
-    const PlaybackClock &clock() const { return *clock_; }
+    void setGroup(PlaybackGroup *group) override;
+    PlaybackGroup *group() const override { return group_; }
+    const PlaybackClock &clock() const override { return *clock_; }
     bool isPlaying() const { return clock_->running(); }
     // For the group: true when the frame for time t is known (a later frame
     // is queued, or nothing more will come).
-    bool preparedFor(double t);
+    bool preparedFor(double t) override;
     // Shows the newest queued frame not after t, if there is one.
-    void presentFor(double t);
+    void presentFor(double t) override;
     // For the group, while a seek is decoding its exact frame: shows the
     // key frame before the target once, if the worker has it. True if shown.
-    bool presentPreview();
+    bool presentPreview() override;
     // The picture is a key frame near the last seek's target, not yet its exact frame.
     bool isShowingPreview() const { return showingPreview_; }
     // Makes every decoded frame take at least this long (measurements and tests).
