@@ -3,6 +3,7 @@
 #include "engine/BookmarkAccess.h"
 #include "engine/DriveAccess.h"
 #include "engine/ExportAccess.h"
+#include "engine/SettingsAccess.h"
 #include "engine/TelemetryAccess.h"
 #include "engine/TriageAccess.h"
 #include "engine/VaultAccess.h"
@@ -22,7 +23,8 @@ class EngineFacade : public DriveAccess,
                      public VaultAccess,
                      public TriageAccess,
                      public TelemetryAccess,
-                     public ExportAccess {
+                     public ExportAccess,
+                     public SettingsAccess {
 public:
     ~EngineFacade() override = default;
 };

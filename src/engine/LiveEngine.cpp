@@ -3,6 +3,9 @@
 #include "drive/ClipProber.h"
 #include "drive/TeslaCamParser.h"
 #include "base/AsyncRun.h"
+#include "base/IOWatchdog.h"
+#include "base/LogCategories.h"
+#include "drive/DriveBoundary.h"
 #include "engine/BookmarkStore.h"
 #include "engine/DriveWatcher.h"
 #include "base/EnginePools.h"
@@ -11,6 +14,10 @@
 #include "timeline/TelemetryTimeline.h"
 #include "vault/ArchiveEngine.h"
 #include "vault/VaultBrowser.h"
+
+#include <QFileInfo>
+#include <QSettings>
+#include <QStorageInfo>
 
 // Building the watcher starts no observation; that waits for driveEvents().
 LiveEngine::LiveEngine(ScanCache &scanCache, TriageStore &triage)
@@ -51,6 +58,45 @@ QFuture<QHash<QString, KeyCoverage>> LiveEngine::keyCoverage(const std::vector<T
 void LiveEngine::saveBookmark(const QString &url, BookmarkKey key) { BookmarkStore::save(url, key); }
 
 BookmarkResult LiveEngine::resolveBookmark(BookmarkKey key) { return BookmarkStore::resolve(key); }
+
+QFuture<QString> LiveEngine::scanCacheKey(const QString &root)
+{
+    return AsyncRun::onPool(EnginePools::driveRuns(), [root] {
+        QStorageInfo info(root);
+        QString volume = info.isValid() ? info.rootPath() : root;
+        if (volume.isEmpty())
+            volume = root;
+        QString name = info.isValid() ? info.name() : QString();
+        if (name.isEmpty()) {
+            while (volume.size() > 1 && volume.endsWith(QLatin1Char('/')))
+                volume.chop(1);
+            name = QFileInfo(volume).fileName();
+        }
+        const qint64 capacity = info.isValid() && info.bytesTotal() > 0 ? info.bytesTotal() : -1;
+        return name + QLatin1Char('|') + QString::number(capacity);
+    });
+}
+
+QFuture<std::optional<DriveIdentity::Mounted>> LiveEngine::identifyDrive(const QString &folder)
+{
+    return AsyncRun::onPool(EnginePools::quick(), [folder]() -> std::optional<DriveIdentity::Mounted> {
+        try {
+            // A drive just plugged in, or one failing, may be slow to answer.
+            return IOWatchdog::run(std::chrono::seconds(3), [folder](std::stop_token) {
+                return QFileInfo(folder).isDir() ? DriveIdentity::of(folder) : std::nullopt;
+            });
+        } catch (...) {
+            KEELHOLD_LOG_CAUGHT(lcEngine);
+            return std::nullopt;
+        }
+    });
+}
+
+QFuture<std::optional<bool>> LiveEngine::writesIntoDrive(const QString &driveRoot, const QString &destination)
+{
+    return AsyncRun::onPool(EnginePools::quick(),
+                            [driveRoot, destination] { return DriveBoundary::writesInto(driveRoot, destination); });
+}
 
 std::vector<VolumeCandidate> LiveEngine::mountedTeslaCamVolumes() { return DriveWatcher::mountedTeslaCamVolumes(); }
 
@@ -127,4 +173,14 @@ QFuture<void> LiveEngine::exportCombined(const TeslaEvent &event, const Combined
     return AsyncRun::cancellable(EnginePools::driveRuns(), [event, options, to, progress](std::stop_token stop) {
         CombinedExport::exportMovie(event, options, to, progress, stop);
     });
+}
+
+bool LiveEngine::flag(const QString &key, bool fallback)
+{
+    return QSettings(QStringLiteral("Keelhold"), QStringLiteral("Keelhold")).value(key, fallback).toBool();
+}
+
+void LiveEngine::setFlag(const QString &key, bool value)
+{
+    QSettings(QStringLiteral("Keelhold"), QStringLiteral("Keelhold")).setValue(key, value);
 }

@@ -28,6 +28,9 @@ public:
     QFuture<QHash<QString, KeyCoverage>> keyCoverage(const std::vector<TeslaEvent> &events) override;
     void saveBookmark(const QString &url, BookmarkKey key) override;
     BookmarkResult resolveBookmark(BookmarkKey key) override;
+    QFuture<QString> scanCacheKey(const QString &root) override;
+    QFuture<std::optional<DriveIdentity::Mounted>> identifyDrive(const QString &folder) override;
+    QFuture<std::optional<bool>> writesIntoDrive(const QString &driveRoot, const QString &destination) override;
     std::vector<VolumeCandidate> mountedTeslaCamVolumes() override;
     std::shared_ptr<DriveEventStream> driveEvents() override;
     ArchivePlan planArchive(const std::vector<TeslaEvent> &events, const VaultIndex &vault) override;
@@ -52,6 +55,9 @@ public:
                                 const QString &to, FractionCallback progress) override;
     QFuture<void> exportCombined(const TeslaEvent &event, const CombinedExportOptions &options, const QString &to,
                                  CombinedExportProgressCallback progress) override;
+
+    bool flag(const QString &key, bool fallback) override;
+    void setFlag(const QString &key, bool value) override;
 
 private:
     ScanCache &scanCache_;

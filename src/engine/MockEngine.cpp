@@ -256,6 +256,22 @@ void MockEngine::saveBookmark(const QString &, BookmarkKey) {}
 
 BookmarkResult MockEngine::resolveBookmark(BookmarkKey) { return BookmarkError::makeNotFound(); }
 
+QFuture<QString> MockEngine::scanCacheKey(const QString &)
+{
+    return QtFuture::makeReadyFuture(volumeName + QLatin1Char('|') + QString::number(capacityBytes));
+}
+
+// The made-up drive is nowhere: a keep from it can't wait for it to return.
+QFuture<std::optional<DriveIdentity::Mounted>> MockEngine::identifyDrive(const QString &)
+{
+    return QtFuture::makeReadyFuture(std::optional<DriveIdentity::Mounted>());
+}
+
+QFuture<std::optional<bool>> MockEngine::writesIntoDrive(const QString &, const QString &)
+{
+    return QtFuture::makeReadyFuture(std::optional<bool>(false));
+}
+
 std::vector<VolumeCandidate> MockEngine::mountedTeslaCamVolumes()
 {
     return {VolumeCandidate{fixtureURL(), volumeName, true, capacityBytes, freeBytes}};

@@ -37,6 +37,9 @@ public:
     QFuture<QHash<QString, KeyCoverage>> keyCoverage(const std::vector<TeslaEvent> &events) override;
     void saveBookmark(const QString &url, BookmarkKey key) override;
     BookmarkResult resolveBookmark(BookmarkKey key) override;
+    QFuture<QString> scanCacheKey(const QString &root) override;
+    QFuture<std::optional<DriveIdentity::Mounted>> identifyDrive(const QString &folder) override;
+    QFuture<std::optional<bool>> writesIntoDrive(const QString &driveRoot, const QString &destination) override;
     std::vector<VolumeCandidate> mountedTeslaCamVolumes() override;
     std::shared_ptr<DriveEventStream> driveEvents() override;
     ArchivePlan planArchive(const std::vector<TeslaEvent> &events, const VaultIndex &vault) override;
@@ -58,6 +61,9 @@ public:
     QFuture<void> exportCombined(const TeslaEvent &event, const CombinedExportOptions &options, const QString &to,
                                  CombinedExportProgressCallback progress) override;
 
+    bool flag(const QString &key, bool fallback) override { return flags_.value(key, fallback); }
+    void setFlag(const QString &key, bool value) override { flags_.insert(key, value); }
+
 private:
     struct State {
         TriageStates triage;
@@ -69,4 +75,5 @@ private:
     std::shared_ptr<SerialExecutor> executor_;
     // Nothing is ever sent on it.
     std::shared_ptr<DriveEventStream> driveEventStream_;
+    QHash<QString, bool> flags_; // main thread only
 };

@@ -1,17 +1,12 @@
 // Keeping: the run, its pause while the drive is away and its resumption
-// when the same drive returns, and the re-reading of the Vault.
+// when the same drive returns.
 #include "state/AppState.h"
 #include "base/LogCategories.h"
 
 #include "drive/DriveBoundary.h"
-#include "base/IOWatchdog.h"
-#include "base/AsyncRun.h"
-#include "base/EnginePools.h"
 #include "state/OnMainThread.h"
 
-#include <QFileInfo>
 #include <QSet>
-#include <QSettings>
 #include <qcoro/qcorofuture.h>
 
 #include <algorithm>
@@ -80,25 +75,24 @@ ArchiveReport merged(const ArchiveReport &earlier, const ArchiveReport &later, c
 
 void AppState::keep(const std::vector<TeslaEvent> &events)
 {
-    pauseActivePlayer();
-    if (!vaultURL_) {
+    shell_.pauseActivePlayer();
+    const std::optional<QString> &vaultURL = vault_.vaultURL();
+    if (!vaultURL) {
         // The first keep: the screens ask for a folder, and the keep goes on
         // once one is set.
         keepAwaitingVault_ = events;
         Q_EMIT vaultFolderWanted();
         return;
     }
-    ArchivePlan plan = engine_.planArchive(events, vaultIndex_);
+    ArchivePlan plan = engine_.planArchive(events, vault_.vaultIndex());
     setIsArchiving(true);
     setArchiveProgress(ArchiveProgress{0, plan.totalNewBytes(), 0, int(plan.newItems().size()), std::nullopt});
     auto task = std::make_shared<std::stop_source>();
     currentArchiveTask_ = task;
     mountsDuringKeep_.clear();
     keepDrive_.reset();
-    keepTask(QPointer<AppState>(this), std::move(plan), *vaultURL_, events, task, std::nullopt);
+    keepTask(QPointer<AppState>(this), std::move(plan), *vaultURL, events, task, std::nullopt);
 }
-
-void AppState::declineVaultFolder() { keepAwaitingVault_.clear(); }
 
 QCoro::Task<void> AppState::keepTask(QPointer<AppState> self, ArchivePlan plan, QString vaultURL,
                                      std::vector<TeslaEvent> events, std::shared_ptr<std::stop_source> task,
@@ -112,10 +106,9 @@ QCoro::Task<void> AppState::keepTask(QPointer<AppState> self, ArchivePlan plan, 
     // The Vault may have been chosen before this drive was opened.
     // (No temporaries inside the awaits: GCC 12 frees them twice.)
     std::optional<bool> intoDrive;
-    const std::optional<QString> root = self->driveRootURL_;
+    const std::optional<QString> root = self->drive_.driveRootURL();
     if (root) {
-        QFuture<std::optional<bool>> check = AsyncRun::onPool(
-            EnginePools::quick(), [drive = *root, vaultURL] { return DriveBoundary::writesInto(drive, vaultURL); });
+        QFuture<std::optional<bool>> check = self->engine_.writesIntoDrive(*root, vaultURL);
         intoDrive = co_await check;
         if (!self)
             co_return;
@@ -124,23 +117,13 @@ QCoro::Task<void> AppState::keepTask(QPointer<AppState> self, ArchivePlan plan, 
     // it go away mid-run, only the same drive takes the keep up again.
     const std::vector<ArchivePlan::Item> fresh = plan.newItems();
     if (!fresh.empty()) {
-        QFuture<std::optional<KeepDrive>> where =
-            AsyncRun::onPool(EnginePools::quick(), [folder = fresh.front().event.folderURL] {
-                std::optional<KeepDrive> found;
-                try {
-                    const auto mounted = IOWatchdog::run(std::chrono::seconds(3),
-                                                         [folder](std::stop_token) { return DriveIdentity::of(folder); });
-                    if (mounted)
-                        found = KeepDrive{mounted->drive, mounted->mountPoint};
-                } catch (...) {
-                    KEELHOLD_LOG_CAUGHT(lcState);
-                }
-                return found;
-            });
-        std::optional<KeepDrive> drive = co_await where;
+        QFuture<std::optional<DriveIdentity::Mounted>> where = self->engine_.identifyDrive(fresh.front().event.folderURL);
+        const std::optional<DriveIdentity::Mounted> mounted = co_await where;
         if (!self)
             co_return;
-        self->keepDrive_ = std::move(drive);
+        self->keepDrive_.reset();
+        if (mounted)
+            self->keepDrive_ = KeepDrive{mounted->drive, mounted->mountPoint};
     }
     if (intoDrive.value_or(false)) {
         report.failedFiles.push_back({vaultURL, DriveBoundary::vaultRefusal});
@@ -172,17 +155,11 @@ QCoro::Task<void> AppState::keepTask(QPointer<AppState> self, ArchivePlan plan, 
     }
     // What this run recorded counts at once, whatever comes next; part of
     // an event is no kept event.
-    VaultIndex index = self->vaultIndex_;
-    index.events.insert(index.events.end(), recorded.begin(), recorded.end());
-    self->setVaultIndex(std::move(index));
-    for (const ArchivedEvent &a : recorded) {
-        if (a.isIncomplete())
-            continue;
-        self->setTriageStateEntry(a.eventID, TriageState::kept);
-        self->engine_.setTriageState(TriageState::kept, a.eventID);
-    }
-    self->recomputeHealth();
-    self->loadVaultEvents();
+    self->vault_.recordKept(recorded);
+    for (const ArchivedEvent &a : recorded)
+        if (!a.isIncomplete())
+            self->triage_.setTriage(TriageState::kept, a.eventID);
+    self->vault_.loadEvents();
     // It may have come back before the run saw it go.
     if (paused)
         for (const QString &mountPoint : std::exchange(self->mountsDuringKeep_, {}))
@@ -197,7 +174,7 @@ void AppState::finishKeep(const ArchiveReport &report)
     keepDrive_.reset();
     mountsDuringKeep_.clear();
     setLastArchiveReport(report);
-    setShowArchiveReport(true);
+    shell_.setShowArchiveReport(true);
 }
 
 void AppState::cancelCurrentArchiveTask()
@@ -242,20 +219,11 @@ QCoro::Task<void> AppState::resumeTask(QPointer<AppState> self, QString mountPoi
             break;
         }
     }
-    // Asked off this thread: a drive just plugged in may be slow to answer.
-    QFuture<bool> look = AsyncRun::onPool(EnginePools::quick(), [from, mountPoint, folder] {
-        try {
-            const auto mounted = IOWatchdog::run(std::chrono::seconds(3), [mountPoint](std::stop_token) {
-                return DriveIdentity::of(mountPoint);
-            });
-            return mounted && mounted->mountPoint == mountPoint && mounted->drive.isSameDrive(from.drive)
-                && (folder.isEmpty() || QFileInfo(folder).isDir());
-        } catch (...) {
-            KEELHOLD_LOG_CAUGHT(lcState);
-            return false;
-        }
-    });
-    const bool same = co_await look;
+    // The folder itself: it must be there, on the same drive, at this mount.
+    QFuture<std::optional<DriveIdentity::Mounted>> look =
+        self->engine_.identifyDrive(folder.isEmpty() ? mountPoint : folder);
+    const std::optional<DriveIdentity::Mounted> mounted = co_await look;
+    const bool same = mounted && mounted->mountPoint == mountPoint && mounted->drive.isSameDrive(from.drive);
     // Another mount may have taken it up meanwhile, or the user ended it.
     if (!self || !self->interruptedKeep_)
         co_return;
@@ -271,7 +239,7 @@ QCoro::Task<void> AppState::resumeTask(QPointer<AppState> self, QString mountPoi
     ArchiveReport soFar = waiting.soFar;
     for (ArchiveReport::FailedFile &f : soFar.failedFiles)
         f.path = rebasedPath(f.path, waiting.from.mountPoint, mountPoint);
-    ArchivePlan plan = self->engine_.planArchive(events, self->vaultIndex_);
+    ArchivePlan plan = self->engine_.planArchive(events, self->vault_.vaultIndex());
     // Where it stopped: what the cut-off run placed is not copied again.
     for (ArchivePlan::Item &item : plan.items) {
         const auto record = std::find_if(soFar.archivedEvents.rbegin(), soFar.archivedEvents.rend(),
@@ -285,85 +253,4 @@ QCoro::Task<void> AppState::resumeTask(QPointer<AppState> self, QString mountPoi
     self->keepDrive_ = KeepDrive{waiting.from.drive, mountPoint};
     keepTask(self, std::move(plan), waiting.vaultURL, std::move(events), task, std::move(soFar));
     Q_EMIT self->keepDriveChecked(mountPoint, true);
-}
-
-// --- re-reading the Vault ----------------------------------------------------
-
-void AppState::verifyVault(const QStringList &eventIDs)
-{
-    if (!vaultURL_)
-        return;
-    if (currentVerification_) {
-        // The weekly check already on its way becomes the one asked for.
-        if (!verificationShown_) {
-            verificationShown_ = true;
-            Q_EMIT verificationChanged();
-        }
-        return;
-    }
-    verificationShown_ = true;
-    auto task = std::make_shared<std::stop_source>();
-    currentVerification_ = task;
-    Q_EMIT verificationChanged();
-    verifyTask(QPointer<AppState>(this), *vaultURL_, eventIDs, task);
-}
-
-void AppState::cancelVerification()
-{
-    if (currentVerification_)
-        currentVerification_->request_stop();
-}
-
-bool AppState::verifyVaultIfDue()
-{
-    if (!vaultURL_ || currentVerification_ || isArchiving_ || vaultIndex_.events.empty())
-        return false;
-    if (!QSettings(QStringLiteral("Keelhold"), QStringLiteral("Keelhold")).value(verifyWeeklyKey, true).toBool())
-        return false;
-    // A Vault never checked counts from its first keep.
-    Date last = vaultIndex_.events.front().archivedAt;
-    for (const ArchivedEvent &a : vaultIndex_.events)
-        last = std::min(last, a.archivedAt);
-    if (verificationLog_.wholeVaultCheckedAt)
-        last = *verificationLog_.wholeVaultCheckedAt;
-    if (Date::now().timeIntervalSince(last) < verifyEverySeconds)
-        return false;
-    verificationShown_ = false;
-    auto task = std::make_shared<std::stop_source>();
-    currentVerification_ = task;
-    verifyTask(QPointer<AppState>(this), *vaultURL_, {}, task);
-    return true;
-}
-
-QCoro::Task<void> AppState::verifyTask(QPointer<AppState> self, QString vaultURL, QStringList eventIDs,
-                                       std::shared_ptr<std::stop_source> task)
-{
-    auto progress = onMainThread<VaultVerifier::Progress>(self, [task](AppState &state, const VaultVerifier::Progress &p) {
-        if (state.currentVerification_ != task || !state.verificationShown_)
-            return;
-        state.verificationProgress_ = p;
-        Q_EMIT state.verificationProgressChanged();
-    });
-    VaultVerifier::Result result;
-    bool read = true;
-    try {
-        auto verifying = self->engine_.verifyVault(vaultURL, eventIDs, progress, task->get_token());
-        result = co_await verifying;
-    } catch (...) {
-        KEELHOLD_LOG_CAUGHT(lcState);
-        read = false;
-    }
-    if (!self || self->currentVerification_ != task)
-        co_return;
-    self->currentVerification_.reset();
-    self->verificationProgress_.reset();
-    if (read && self->vaultURL_ == vaultURL) {
-        VerificationLog log = self->verificationLog_;
-        log.record(result.events);
-        if (result.vaultCheckedAt)
-            log.wholeVaultCheckedAt = result.vaultCheckedAt;
-        self->setVerificationLog(std::move(log));
-    }
-    Q_EMIT self->verificationProgressChanged();
-    Q_EMIT self->verificationChanged();
 }

@@ -7,15 +7,25 @@
 
 #include <algorithm>
 
+namespace {
+
+QString lockWord(const QHash<QString, KeyCoverage> &coverage, const QString &eventID)
+{
+    const auto it = coverage.constFind(eventID);
+    return it != coverage.cend() && it->isUnlocked() ? QStringLiteral("unlocked") : QStringLiteral("locked");
+}
+
+} // namespace
+
 void AppState::refreshKeyCoverage()
 {
     std::vector<TeslaEvent> events;
     const auto addEncrypted = [&](const std::vector<TeslaEvent> &from) {
         std::copy_if(from.begin(), from.end(), std::back_inserter(events), [](const TeslaEvent &e) { return e.encrypted; });
     };
-    if (driveScan_)
-        addEncrypted(driveScan_->events);
-    addEncrypted(vaultEvents_);
+    if (driveScan())
+        addEncrypted(driveScan()->events);
+    addEncrypted(vaultEvents());
     const quint64 run = ++keyCoverageRun_;
     // The events themselves changed: their marks may have, before any answer.
     Q_EMIT keyCoverageChanged();
@@ -50,44 +60,37 @@ QString AppState::lockState(const QString &eventID) const
         event = findVaultEvent(eventID);
     if (!event || !event->encrypted)
         return {};
-    const auto it = keyCoverage_.constFind(eventID);
-    return it != keyCoverage_.cend() && it->isUnlocked() ? QStringLiteral("unlocked") : QStringLiteral("locked");
+    return lockWord(keyCoverage_, eventID);
 }
 
 int AppState::encryptedEventCount() const
 {
-    if (!driveScan_)
+    if (!driveScan())
         return 0;
-    return int(std::count_if(driveScan_->events.begin(), driveScan_->events.end(),
-                             [](const TeslaEvent &e) { return e.encrypted; }));
+    const std::vector<TeslaEvent> &events = driveScan()->events;
+    return int(std::count_if(events.begin(), events.end(), [](const TeslaEvent &e) { return e.encrypted; }));
 }
 
 int AppState::lockedEventCount() const
 {
-    if (!driveScan_)
+    if (!driveScan())
         return 0;
-    return int(std::count_if(driveScan_->events.begin(), driveScan_->events.end(), [this](const TeslaEvent &e) {
-        if (!e.encrypted)
-            return false;
-        const auto it = keyCoverage_.constFind(e.id());
-        return it == keyCoverage_.cend() || !it->isUnlocked();
+    const std::vector<TeslaEvent> &events = driveScan()->events;
+    return int(std::count_if(events.begin(), events.end(), [this](const TeslaEvent &e) {
+        return e.encrypted && lockWord(keyCoverage_, e.id()) == QLatin1String("locked");
     }));
 }
 
-QVariantMap AppState::lockStatesForQml() const
+QHash<QString, QString> AppState::lockStates() const
 {
-    QVariantMap states;
+    QHash<QString, QString> states;
     const auto add = [&](const std::vector<TeslaEvent> &events) {
-        for (const TeslaEvent &e : events) {
-            if (!e.encrypted)
-                continue;
-            const auto it = keyCoverage_.constFind(e.id());
-            states.insert(e.id(), it != keyCoverage_.cend() && it->isUnlocked() ? QStringLiteral("unlocked")
-                                                                                   : QStringLiteral("locked"));
-        }
+        for (const TeslaEvent &e : events)
+            if (e.encrypted)
+                states.insert(e.id(), lockWord(keyCoverage_, e.id()));
     };
-    if (driveScan_)
-        add(driveScan_->events);
-    add(vaultEvents_);
+    if (driveScan())
+        add(driveScan()->events);
+    add(vaultEvents());
     return states;
 }

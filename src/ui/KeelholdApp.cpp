@@ -15,7 +15,7 @@
 
 
 KeelholdApp::KeelholdApp(QObject *parent)
-    : QObject(parent), state_(engine_), ui_(&state_), picker_(&state_, &licence_),
+    : QObject(parent), state_(engine_), face_(state_), ui_(&state_), picker_(&state_, &licence_),
       help_([this](HelpArticleSelection *selection) -> QWindow * {
           QQmlComponent component(&qml_, QUrl(helpWindowUrl));
           QObject *made = component.createWithInitialProperties({{QStringLiteral("selection"), QVariant::fromValue<QObject *>(selection)}});
@@ -47,7 +47,7 @@ KeelholdApp::KeelholdApp(QObject *parent)
         styled = true;
     }
     QQmlContext *ctx = qml_.rootContext();
-    ctx->setContextProperty(QStringLiteral("appState"), &state_);
+    ctx->setContextProperty(QStringLiteral("appState"), &face_);
     ctx->setContextProperty(QStringLiteral("ui"), &ui_);
     ctx->setContextProperty(QStringLiteral("drivePicker"), &picker_);
     ctx->setContextProperty(QStringLiteral("help"), &help_);

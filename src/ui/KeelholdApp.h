@@ -1,5 +1,6 @@
 #pragma once
 
+#include "AppStateFace.h"
 #include "DrivePicker.h"
 #include "HelpWindowController.h"
 #include "LicenceGate.h"
@@ -44,6 +45,7 @@ public:
 private:
     LiveEngine engine_;
     AppState state_;
+    AppStateFace face_;
     UiBridge ui_;
     LicenceGate licence_;
     DrivePicker picker_;

@@ -239,13 +239,13 @@ QString VaultViewModel::verifyLine() const
 void VaultViewModel::verifyAll()
 {
     if (state_)
-        state_->verifyWholeVault();
+        state_->verifyVault();
 }
 
 void VaultViewModel::verifyEvent(const QString &eventID)
 {
     if (state_)
-        state_->verifyEvent(eventID);
+        state_->verifyVault({eventID});
 }
 
 void VaultViewModel::cancelVerification()

@@ -66,7 +66,7 @@ private Q_SLOTS:
         QCOMPARE(state.selectedSection(), SidebarSection::drive);
         QVERIFY(!state.driveRootURL());
         // Set before the stored map arrives: it must win.
-        state.setTriage(QStringLiteral("dismissed"), QStringLiteral("sentry|a"));
+        state.setTriage(TriageState::dismissed, QStringLiteral("sentry|a"));
         QTRY_VERIFY(state.triageStates().contains(QStringLiteral("sentry|b")));
         QCOMPARE(state.triageStates().value(QStringLiteral("sentry|a")), TriageState::dismissed);
         QCOMPARE(state.triageStates().value(QStringLiteral("sentry|b")), TriageState::reviewed);

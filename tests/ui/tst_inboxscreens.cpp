@@ -256,8 +256,8 @@ private Q_SLOTS:
         waitForKeep();
         QCOMPARE(int(app->state.lastArchiveReport()->archivedEvents.size()), 19);
         for (const QString &id : recent.mid(0, 19))
-            QCOMPARE(app->state.triageStateFor(id), QStringLiteral("kept"));
-        QCOMPARE(app->state.triageStateFor(recent.last()), QStringLiteral("dismissed"));
+            QCOMPARE(app->state.triageState(id).rawValue(), QStringLiteral("kept"));
+        QCOMPARE(app->state.triageState(recent.last()).rawValue(), QStringLiteral("dismissed"));
     }
 
     void bulkKeepTakesTheVisibleTickedRowsOnly()
@@ -272,7 +272,7 @@ private Q_SLOTS:
         // Tick three Saved events and one Sentry event through their tick buttons.
         QStringList saved, sentry;
         for (const TeslaEvent &e : rows()->events()) {
-            if (e.kind == EventKind::saved && saved.size() < 3 && app->state.triageStateFor(e.id()) == QLatin1String("new"))
+            if (e.kind == EventKind::saved && saved.size() < 3 && app->state.triageState(e.id()).rawValue() == QLatin1String("new"))
                 saved << e.id();
             if (e.kind == EventKind::sentry && sentry.isEmpty())
                 sentry << e.id();
@@ -317,8 +317,8 @@ private Q_SLOTS:
         waitForKeep();
         QVERIFY(app->state.selectedEventIDsForBulk().isEmpty());
         for (const QString &id : saved)
-            QCOMPARE(app->state.triageStateFor(id), QStringLiteral("kept"));
-        QCOMPARE(app->state.triageStateFor(sentry.first()), QStringLiteral("new"));
+            QCOMPARE(app->state.triageState(id).rawValue(), QStringLiteral("kept"));
+        QCOMPARE(app->state.triageState(sentry.first()).rawValue(), QStringLiteral("new"));
 
         // The report sheet tells what happened.
         QTRY_VERIFY(app->state.showArchiveReport());
@@ -359,7 +359,7 @@ private Q_SLOTS:
     {
         QString id;
         for (const TeslaEvent &e : rows()->events())
-            if (e.kind == EventKind::sentry && app->state.triageStateFor(e.id()) == QLatin1String("new")) {
+            if (e.kind == EventKind::sentry && app->state.triageState(e.id()).rawValue() == QLatin1String("new")) {
                 id = e.id();
                 break;
             }
@@ -391,7 +391,7 @@ private Q_SLOTS:
         QTRY_COMPARE(app->state.selectedEventID().value_or(QString()), second);
         QTest::keyClick(app->window(), Qt::Key_D);
         QTRY_VERIFY(rows()->indexOf(second) < 0);
-        QCOMPARE(app->state.triageStateFor(second), QStringLiteral("dismissed"));
+        QCOMPARE(app->state.triageState(second).rawValue(), QStringLiteral("dismissed"));
         // Far down the list: the selection scrolls into view.
         const QString far = rows()->idAt(300);
         app->state.setSelectedEventID(far);
@@ -404,7 +404,7 @@ private Q_SLOTS:
         }());
         QTest::keyClick(app->window(), Qt::Key_K);
         waitForKeep();
-        QCOMPARE(app->state.triageStateFor(rows()->idAt(300)), QStringLiteral("kept"));
+        QCOMPARE(app->state.triageState(rows()->idAt(300)).rawValue(), QStringLiteral("kept"));
     }
 
     void thumbnailsLoadOffTheGuiThreadAndStayCached()
@@ -518,7 +518,7 @@ private Q_SLOTS:
     {
         std::vector<TeslaEvent> fresh;
         for (const TeslaEvent &e : app->state.driveScan()->events)
-            if (e.kind != EventKind::recent && app->state.triageStateFor(e.id()) == QLatin1String("new") && fresh.size() < 4)
+            if (e.kind != EventKind::recent && app->state.triageState(e.id()).rawValue() == QLatin1String("new") && fresh.size() < 4)
                 fresh.push_back(e);
         app->state.keep(fresh);
         waitForKeep();
@@ -630,7 +630,7 @@ private Q_SLOTS:
     {
         std::vector<TeslaEvent> batch, second;
         for (const TeslaEvent &e : app->state.driveScan()->events) {
-            if (app->state.triageStateFor(e.id()) != QLatin1String("new"))
+            if (app->state.triageState(e.id()).rawValue() != QLatin1String("new"))
                 continue;
             if (batch.size() < 120)
                 batch.push_back(e);

@@ -148,7 +148,7 @@ private Q_SLOTS:
         LiveEngine engine;
         AppState state(engine);
         scan(state, fx.root(), 2);
-        state.setTriage(QStringLiteral("dismissed"), b);
+        state.setTriage(TriageState::dismissed, b);
 
         EventPlayerPresenter presenter;
         presenter.setAppState(&state);
@@ -159,7 +159,7 @@ private Q_SLOTS:
         SyncPlayerController *controller = presenter.controller();
         QVERIFY(controller);
         QCOMPARE(state.activePlayerController(), static_cast<QObject *>(controller));
-        QCOMPARE(state.triageStateFor(a), QStringLiteral("reviewed"));
+        QCOMPARE(state.triageState(a).rawValue(), QStringLiteral("reviewed"));
         const QVariantMap meta = presenter.metadata();
         QCOMPARE(meta.value("city").toString(), QStringLiteral("Taylor"));
         QCOMPARE(meta.value("coordinatesText").toString(), QStringLiteral("30.6075, -97.4812"));
@@ -174,7 +174,7 @@ private Q_SLOTS:
         presenter.setEventID(b);
         QCOMPARE(presenter.controller(), controller);
         QCOMPARE(controller->rate(), 2.0f);
-        QCOMPARE(state.triageStateFor(b), QStringLiteral("dismissed"));
+        QCOMPARE(state.triageState(b).rawValue(), QStringLiteral("dismissed"));
         QTRY_VERIFY_WITH_TIMEOUT(!controller->isLoadingTiles(), 15000);
 
         presenter.setEventID(QStringLiteral("saved|1999-01-01_00-00-00"));

@@ -1,3 +1,4 @@
+#include "AppStateFace.h"
 #include "EventListModel.h"
 #include "InboxViewModel.h"
 #include "MapViewModel.h"
@@ -41,6 +42,41 @@ class ScreenModelsTest : public QObject {
 private Q_SLOTS:
     void init() { QSettings().clear(); }
 
+    // What QML reads and writes arrives in the state typed, and back as
+    // QML expects it: absent as null or "", unknown words as nothing.
+    void theStatesQmlFaceConvertsBothWays()
+    {
+        MockEngine engine;
+        AppState state(engine);
+        AppStateFace face(state);
+        QSignalSpy section(&face, &AppStateFace::selectedSectionChanged);
+        QVERIFY(face.property("driveScan").isNull());
+        QCOMPARE(face.property("selectedEventID").toString(), QString());
+
+        face.setProperty("selectedSection", int(SidebarSection::health));
+        face.setProperty("selectedSection", int(SidebarSection::health));
+        QCOMPARE(state.selectedSection(), SidebarSection::health);
+        QCOMPARE(section.count(), 1);
+
+        face.setProperty("filterState", QStringLiteral("kept"));
+        QCOMPARE(state.filterState(), std::optional<TriageState>(TriageState::kept));
+        face.setProperty("filterState", QStringLiteral("archived"));
+        QVERIFY(!state.filterState());
+        face.setProperty("filterState", QStringLiteral("kept"));
+        face.setProperty("filterState", QString());
+        QVERIFY(!state.filterState());
+
+        face.setProperty("selectedEventID", QStringLiteral("x"));
+        QCOMPARE(state.selectedEventID(), std::optional<QString>(QStringLiteral("x")));
+        face.setProperty("selectedEventID", QString());
+        QVERIFY(!state.selectedEventID());
+
+        scanDemo(state);
+        const QVariantMap scan = face.property("driveScan").toMap();
+        QCOMPARE(scan.value(QStringLiteral("events")).toList().size(), qsizetype(state.driveScan()->events.size()));
+        QVERIFY(face.property("lockStates").toMap().isEmpty()); // the demo drive is clear
+    }
+
     void rowModelMovesOnlyTheRowsThatChange()
     {
         MockEngine engine;
@@ -77,11 +113,11 @@ private Q_SLOTS:
         removed.clear();
         inserted.clear();
         changed.clear();
-        state.setTriage(QStringLiteral("reviewed"), rows->idAt(0));
+        state.setTriage(TriageState::reviewed, rows->idAt(0));
         QCOMPARE(removed.size() + inserted.size(), 0);
         QVERIFY(changed.size() >= 1);
         QCOMPARE(rows->data(rows->index(0), EventListModel::OverlayKindRole).toString(), QString());
-        state.setTriage(QStringLiteral("kept"), rows->idAt(0));
+        state.setTriage(TriageState::kept, rows->idAt(0));
         QCOMPARE(rows->data(rows->index(0), EventListModel::OverlayKindRole).toString(), QStringLiteral("kept"));
         QCOMPARE(rows->data(rows->index(1), EventListModel::OverlayKindRole).toString(), QStringLiteral("dot"));
     }
@@ -146,7 +182,7 @@ private Q_SLOTS:
 
         const QString last = rows->idAt(rows->count() - 1);
         inbox.dismissSelected();
-        QCOMPARE(state.triageStateFor(last), QStringLiteral("dismissed"));
+        QCOMPARE(state.triageState(last).rawValue(), QStringLiteral("dismissed"));
         QCOMPARE(rows->indexOf(last), -1);
 
         // A selection the filters hide is not acted on.
@@ -154,7 +190,7 @@ private Q_SLOTS:
         state.setFilterState(TriageState::kept);
         inbox.dismissSelected();
         state.setFilterState(std::nullopt);
-        QCOMPARE(state.triageStateFor(rows->idAt(0)), QStringLiteral("new"));
+        QCOMPARE(state.triageState(rows->idAt(0)).rawValue(), QStringLiteral("new"));
 
         // Keeping without a Vault asks for a first one; the list stays.
         QSignalSpy wanted(&state, &AppState::vaultFolderWanted);

@@ -449,7 +449,7 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(state.showArchiveReport(), 20000);
         QVERIFY2(state.lastArchiveReport()->completeEvents() == 1,
                  QJsonDocument(state.lastArchiveReport()->toJson()).toJson().constData());
-        QCOMPARE(state.triageStateFor(id), QStringLiteral("kept"));
+        QCOMPARE(state.triageState(id).rawValue(), QStringLiteral("kept"));
         QVERIFY(showing(QStringLiteral("Backup Complete")));
     }
 
@@ -547,7 +547,7 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(!state.isArchiving(), 20000);
         QVERIFY(state.lastArchiveReport());
         QVERIFY(state.lastArchiveReport()->cancelled);
-        QCOMPARE(state.triageStateFor(first), QStringLiteral("kept"));
+        QCOMPARE(state.triageState(first).rawValue(), QStringLiteral("kept"));
         QVERIFY(visibleItem(window, QStringLiteral("keepButton"))->isEnabled());
     }
 

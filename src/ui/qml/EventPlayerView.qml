@@ -19,7 +19,7 @@ Item {
 
     EventPlayerPresenter {
         id: playerPresenter
-        appState: view.stateObject
+        appState: view.stateObject.state
         fromVault: view.fromVault
         eventID: view.eventID
     }
@@ -152,7 +152,7 @@ Item {
     }
 
     PlayerKeyboardShortcuts {
-        state: view.stateObject
+        state: view.stateObject.state
         eventID: playerPresenter.hasEvent ? view.eventID : ""
         drivingData: playerPresenter.drivingData
         active: view.visible && playerPresenter.hasEvent
