@@ -379,21 +379,6 @@ private Q_SLOTS:
         QVERIFY(!ClipNames::parseTimestamp(u"\u0662\u0660\u0662\u0664-07-21", u"02-11-05"));
     }
 
-    // Names as the system gives them, in any case; the computer's own file
-    // systems stay readable but are told apart from a car's drive.
-    void volumeFormatsAndWhatIsReadable()
-    {
-        using namespace ReadableFormats;
-        using TeslaCamParser::volumeFormat;
-        QCOMPARE(volumeFormat(QString("exfat")), VolumeFormat(VolumeFormat::exFAT));
-        QCOMPARE(volumeFormat(QString("vfat")), VolumeFormat(VolumeFormat::fat32));
-        QCOMPARE(volumeFormat(QString("Ext4")), VolumeFormat::makeOther("Ext4"));
-        QVERIFY(isReadable(VolumeFormat::exFAT) && !isComputerDisk(VolumeFormat::exFAT));
-        QVERIFY(isComputerDisk(VolumeFormat::makeOther("EXT3")) && isReadable(VolumeFormat::makeOther("EXT3")));
-        QVERIFY(!isReadable(VolumeFormat::makeOther("ntfs")));
-        QVERIFY(!isReadable(VolumeFormat::unknown));
-    }
-
     // The host disk a scan reads here is one of the computer's own.
     void volumeFactsOfTheHost()
     {
