@@ -328,44 +328,6 @@ private Q_SLOTS:
         QCOMPARE(run.process.exitCode(), 2);
     }
 
-    // A read the drive never answers while the movie is being written costs
-    // that clip after the read limit, as a keep's dead read costs its file:
-    // the minutes around it are written and the movie is whole.
-    void deadReadWhileWritingCostsOnlyItsClip()
-    {
-        if (!FaultyFs::available())
-            QSKIP("needs root and /dev/fuse");
-        DriveExport run;
-        QVERIFY(run.fs.isMounted());
-        const QByteArray clip = HeldClip::indexFirst(4.0, 36);
-        run.fs.addFile(DriveExport::folder + QStringLiteral("2024-06-02_09-57-00-front.mp4"), clip);
-        HeldClip::add(run.fs, DriveExport::folder + QStringLiteral("2024-06-02_09-58-00-front.mp4"), clip, clip.size() / 2);
-        run.fs.addFile(DriveExport::folder + QStringLiteral("2024-06-02_09-59-00-front.mp4"), clip);
-        const QString file = out(QStringLiteral("dead-read.mp4"));
-
-        QVERIFY(run.start(file, {QStringLiteral("--camera"), QStringLiteral("front")}));
-        // Done once the path is printed; the process itself ends only when
-        // the drive gives up the read it left behind.
-        QByteArray printed;
-        const QDeadlineTimer limit(120000);
-        while (!printed.contains('\n') && !limit.hasExpired() && run.process.state() == QProcess::Running) {
-            run.process.waitForReadyRead(100);
-            printed += run.process.readAllStandardOutput();
-        }
-        QCOMPARE(QString::fromUtf8(printed).trimmed(), file);
-        QCOMPARE(run.fs.heldRequests(), 1);
-        run.fs.release();
-        QVERIFY(run.process.waitForFinished(60000));
-        QCOMPARE(run.process.exitCode(), 0);
-        const MovieFacts facts = MovieFacts::read(file);
-        const MovieFacts::Stream *video = facts.firstOf(QStringLiteral("video"));
-        QVERIFY(video);
-        QCOMPARE(video->decodeErrors, 0);
-        // Both whole clips and the held one's pictures up to the hold.
-        QVERIFY2(facts.duration > 8.0 && facts.duration < 11.5, qPrintable(QString::number(facts.duration)));
-        QVERIFY(video->dtsStrictlyIncreasing);
-    }
-
     void missingOptionsShowTheUsage()
     {
         const CliRun::Result run = runCli({root_, QStringLiteral("--camera"), QStringLiteral("front")});

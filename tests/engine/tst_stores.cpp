@@ -56,11 +56,8 @@ class TestStores : public QObject {
 private Q_SLOTS:
 
     void scanCacheRoundTripAcrossInstances();
-    void scanCacheFirstLookupLeavesNoFile();
     void scanCacheCorruptFileReadsEmptyAndIsReplaced();
-    void scanCacheStoreTwiceKeepsTheLater();
-    void scanCacheInvalidateRewritesEvenForUnknownKey();
-    void scanCacheLoadsOnlyOnce();
+    void scanCacheWritesTheWholeMapAndReadsItOnce();
     void scanCacheWriteFailureIsSilent();
 
     void triageSurvivesIntoAnotherProcess();
@@ -68,11 +65,8 @@ private Q_SLOTS:
     void triageAllStatesIsASnapshot();
     void triageCallsFromManyThreadsAreSerialised();
 
-    void bookmarkRoundTripAndClear();
-    void bookmarkKeysAreIndependent();
-    void bookmarkGoneFolderIsStale();
-    void bookmarkGarbageInSettingsIsStale();
-    void bookmarkSaveOfMissingFolderStoresNothing();
+    void bookmarkKeysRoundTripAndClearApart();
+    void bookmarkOfAGoneFolderOrGarbageIsStale();
 
 private:
     QTemporaryDir dir_;
@@ -103,14 +97,6 @@ void TestStores::scanCacheRoundTripAcrossInstances()
     QVERIFY(!second.cached(QStringLiteral("OTHER|-1")).result().has_value());
 }
 
-void TestStores::scanCacheFirstLookupLeavesNoFile()
-{
-    const QString file = dir_.filePath(QStringLiteral("never.json"));
-    ScanCache cache(file);
-    QVERIFY(!cache.cached(QStringLiteral("X|1")).result().has_value());
-    QVERIFY(!QFile::exists(file));
-}
-
 void TestStores::scanCacheCorruptFileReadsEmptyAndIsReplaced()
 {
     const QString file = dir_.filePath(QStringLiteral("corrupt.json"));
@@ -131,52 +117,34 @@ void TestStores::scanCacheCorruptFileReadsEmptyAndIsReplaced()
     QCOMPARE(readObject(file).keys(), QStringList{QStringLiteral("D|4")});
 }
 
-void TestStores::scanCacheStoreTwiceKeepsTheLater()
+// Every store and invalidation rewrites the whole map, even when the key is
+// unknown; a first lookup writes nothing; the file is read once per instance.
+void TestStores::scanCacheWritesTheWholeMapAndReadsItOnce()
 {
-    const QString file = dir_.filePath(QStringLiteral("twice.json"));
-    DriveScan first = sampleScan(dir_.filePath(QStringLiteral("twice-drive")));
-    DriveScan second = first;
-    second.volumeName = QStringLiteral("LATER");
-    second.events.clear();
-    {
-        ScanCache cache(file);
-        cache.store(first, QStringLiteral("K|1"));
-        cache.store(second, QStringLiteral("K|1")).waitForFinished();
-    }
-    QCOMPARE(readObject(file).keys(), QStringList{QStringLiteral("K|1")});
-    ScanCache reader(file);
-    QCOMPARE(reader.cached(QStringLiteral("K|1")).result()->volumeName, QStringLiteral("LATER"));
-}
-
-void TestStores::scanCacheInvalidateRewritesEvenForUnknownKey()
-{
-    const QString file = dir_.filePath(QStringLiteral("invalidate.json"));
-    const DriveScan scan = sampleScan(dir_.filePath(QStringLiteral("invalidate-drive")));
+    const QString file = dir_.filePath(QStringLiteral("map.json"));
+    const DriveScan scan = sampleScan(dir_.filePath(QStringLiteral("map-drive")));
+    DriveScan later = scan;
+    later.volumeName = QStringLiteral("LATER");
+    later.events.clear();
     ScanCache cache(file);
+    QVERIFY(!cache.cached(QStringLiteral("X|1")).result().has_value());
+    QVERIFY(!QFile::exists(file));
     cache.store(scan, QStringLiteral("A|1"));
-    cache.store(scan, QStringLiteral("B|2")).waitForFinished();
+    cache.store(scan, QStringLiteral("B|2"));
+    cache.store(later, QStringLiteral("B|2")).waitForFinished();
     QVERIFY(QFile::remove(file));
     cache.invalidate(QStringLiteral("nobody|0")).waitForFinished();
     QCOMPARE(readObject(file).keys(), (QStringList{QStringLiteral("A|1"), QStringLiteral("B|2")}));
     cache.invalidate(QStringLiteral("A|1")).waitForFinished();
     QCOMPARE(readObject(file).keys(), QStringList{QStringLiteral("B|2")});
     QVERIFY(!cache.cached(QStringLiteral("A|1")).result().has_value());
-}
 
-void TestStores::scanCacheLoadsOnlyOnce()
-{
-    const QString file = dir_.filePath(QStringLiteral("once.json"));
-    const DriveScan scan = sampleScan(dir_.filePath(QStringLiteral("once-drive")));
-    {
-        ScanCache writer(file);
-        writer.store(scan, QStringLiteral("A|1")).waitForFinished();
-    }
-    ScanCache cache(file);
-    QVERIFY(cache.cached(QStringLiteral("A|1")).result().has_value());
+    ScanCache reader(file);
+    QCOMPARE(reader.cached(QStringLiteral("B|2")).result()->volumeName, QStringLiteral("LATER"));
     // Another writer changes the file behind this instance's back: this
     // process keeps what it loaded.
     TeslaCamFixture::writeFile(file, "{}");
-    QVERIFY(cache.cached(QStringLiteral("A|1")).result().has_value());
+    QVERIFY(reader.cached(QStringLiteral("B|2")).result().has_value());
 }
 
 void TestStores::scanCacheWriteFailureIsSilent()
@@ -270,33 +238,13 @@ void TestStores::triageCallsFromManyThreadsAreSerialised()
     QCOMPARE(TriageStore(file).state(QStringLiteral("e3-6")).result(), TriageState::kept);
 }
 
-void TestStores::bookmarkRoundTripAndClear()
+void TestStores::bookmarkKeysRoundTripAndClearApart()
 {
-    const QString folder = dir_.filePath(QStringLiteral("drive/TeslaCam"));
-    QVERIFY(QDir().mkpath(folder));
-    BookmarkStore::save(folder + QStringLiteral("/"), BookmarkKey::teslaDrive);
-    const BookmarkResult result = BookmarkStore::resolve(BookmarkKey::teslaDrive);
-    QVERIFY(std::holds_alternative<QString>(result));
-    QCOMPARE(std::get<QString>(result), folder);
-
-    // Stored as the plain path under the fixed key in the user's settings file.
-    const QString settingsFile =
-        qEnvironmentVariable("XDG_CONFIG_HOME") + QStringLiteral("/Keelhold/Keelhold.conf");
-    QSettings onDisk(settingsFile, QSettings::IniFormat);
-    QCOMPARE(onDisk.value(QStringLiteral("com.quennet.keelhold.bookmark.teslaDrive")).toString(), folder);
-
-    BookmarkStore::clear(BookmarkKey::teslaDrive);
-    QCOMPARE(std::get<BookmarkError>(BookmarkStore::resolve(BookmarkKey::teslaDrive)).errorCase(),
-             BookmarkError::notFound);
-}
-
-void TestStores::bookmarkKeysAreIndependent()
-{
-    const QString drive = dir_.filePath(QStringLiteral("k-drive"));
+    const QString drive = dir_.filePath(QStringLiteral("drive/TeslaCam"));
     const QString vault = dir_.filePath(QStringLiteral("k-vault"));
     QVERIFY(QDir().mkpath(drive));
     QVERIFY(QDir().mkpath(vault));
-    BookmarkStore::save(drive, BookmarkKey::teslaDrive);
+    BookmarkStore::save(drive + QStringLiteral("/"), BookmarkKey::teslaDrive);
     BookmarkStore::save(vault, BookmarkKey::vaultFolder);
     QCOMPARE(std::get<QString>(BookmarkStore::resolve(BookmarkKey::teslaDrive)), drive);
     QCOMPARE(std::get<QString>(BookmarkStore::resolve(BookmarkKey::vaultFolder)), vault);
@@ -304,9 +252,15 @@ void TestStores::bookmarkKeysAreIndependent()
     QCOMPARE(std::get<QString>(BookmarkStore::resolve(BookmarkKey::teslaDrive)), drive);
     QCOMPARE(std::get<BookmarkError>(BookmarkStore::resolve(BookmarkKey::vaultFolder)).errorCase(),
              BookmarkError::notFound);
+
+    // A folder that isn't there is never saved.
+    QVERIFY_THROWS_EXCEPTION(BookmarkStore::StoreError,
+                             BookmarkStore::save(dir_.filePath(QStringLiteral("nowhere")), BookmarkKey::vaultFolder));
+    QCOMPARE(std::get<BookmarkError>(BookmarkStore::resolve(BookmarkKey::vaultFolder)).errorCase(),
+             BookmarkError::notFound);
 }
 
-void TestStores::bookmarkGoneFolderIsStale()
+void TestStores::bookmarkOfAGoneFolderOrGarbageIsStale()
 {
     const QString folder = dir_.filePath(QStringLiteral("gone"));
     QVERIFY(QDir().mkpath(folder));
@@ -320,31 +274,16 @@ void TestStores::bookmarkGoneFolderIsStale()
              BookmarkError::stale);
     QSettings settings(QStringLiteral("Keelhold"), QStringLiteral("Keelhold"));
     QCOMPARE(settings.value(BookmarkStore::settingsKey(BookmarkKey::vaultFolder)).toString(), folder);
-}
 
-void TestStores::bookmarkGarbageInSettingsIsStale()
-{
     const QString key = BookmarkStore::settingsKey(BookmarkKey::teslaDrive);
-    const QList<QVariant> garbage{QVariant(QByteArray("\x01\x02bookmark-bytes")), QVariant(42),
-                                  QVariant(QStringLiteral("relative/path")), QVariant(QStringList{"/", "/tmp"})};
-    for (const QVariant &value : garbage) {
-        {
-            QSettings settings(QStringLiteral("Keelhold"), QStringLiteral("Keelhold"));
-            settings.setValue(key, value);
-        }
+    for (const QVariant &value : {QVariant(QByteArray("\x01\x02bookmark-bytes")), QVariant(42),
+                                  QVariant(QStringLiteral("relative/path")), QVariant(QStringList{"/", "/tmp"})}) {
+        settings.setValue(key, value);
+        settings.sync();
         const BookmarkResult result = BookmarkStore::resolve(BookmarkKey::teslaDrive);
         QVERIFY2(std::holds_alternative<BookmarkError>(result), qPrintable(value.toString()));
         QCOMPARE(std::get<BookmarkError>(result).errorCase(), BookmarkError::stale);
     }
-}
-
-void TestStores::bookmarkSaveOfMissingFolderStoresNothing()
-{
-    BookmarkStore::clear(BookmarkKey::vaultFolder);
-    QVERIFY_THROWS_EXCEPTION(BookmarkStore::StoreError,
-                             BookmarkStore::save(dir_.filePath(QStringLiteral("nowhere")), BookmarkKey::vaultFolder));
-    QCOMPARE(std::get<BookmarkError>(BookmarkStore::resolve(BookmarkKey::vaultFolder)).errorCase(),
-             BookmarkError::notFound);
 }
 
 int main(int argc, char **argv)

@@ -512,20 +512,6 @@ private Q_SLOTS:
         QCOMPARE(error, std::optional(ExportError::noClipsForCamera));
     }
 
-    void cancelledBeforeWritingIsACancellation()
-    {
-        EventFootage footage;
-        footage.add(Camera::front, TestClips::clip(clipOptions(1.0)), 120);
-        std::stop_source stop;
-        stop.request_stop();
-        ProgressLog progress;
-        QVERIFY_THROWS_EXCEPTION(CancellationError, Exporter::exportFootage(Camera::front, footage.event, std::nullopt,
-                                                                            footage.output(), progress.callback(),
-                                                                            stop.get_token()));
-        QVERIFY(progress.values.empty());
-        QVERIFY(!QFile::exists(footage.output()));
-    }
-
     // Stopped while clips are still being looked at: the same cancellation,
     // and the movie file was never made. The drive holds the second clip's
     // first read until the stop has been asked for, so the export is surely

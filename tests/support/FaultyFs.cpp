@@ -384,12 +384,6 @@ void FaultyFs::vanishAfterBytes(qint64 bytes)
         state_->vanished = true;
 }
 
-void FaultyFs::vanish()
-{
-    std::lock_guard lock(state_->mutex);
-    state_->vanished = true;
-}
-
 qint64 FaultyFs::bytesServed() const
 {
     return state_->served;

@@ -57,7 +57,6 @@ public:
     int mostHeldRequests() const;
     // Until at least `count` requests are held at once; false past the limit.
     bool waitUntilHeld(int count = 1, std::chrono::milliseconds limit = std::chrono::seconds(20));
-    void vanish();
     qint64 bytesServed() const;
 
     struct State;

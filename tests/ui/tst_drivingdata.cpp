@@ -250,8 +250,8 @@ private Q_SLOTS:
         verifyOverlayMatchesPicture();
     }
 
-    // The strip's slices come from the event's records: top speed, braking,
-    // and the hard stop in red where it happened.
+    // The strip's slices come from the event's records (how they are cut is
+    // the profile's own test): the hard stop shows in red where it happened.
     void stripShowsSpeedAndHardBraking()
     {
         open(withRecords);
@@ -260,23 +260,6 @@ private Q_SLOTS:
         QCOMPARE(profile.topSpeed, 20.0f);
         QVERIFY(!profile.slices.empty());
         auto sliceTime = [&](size_t i) { return (i + 0.5) * profile.duration / double(profile.slices.size()); };
-        int hard = 0;
-        for (size_t i = 0; i < profile.slices.size(); ++i) {
-            const auto &slice = profile.slices[i];
-            const double t = sliceTime(i);
-            if (!slice.hasData)
-                continue;
-            // A slice's half-second window reaches a quarter second each side.
-            if (slice.hardBraking) {
-                ++hard;
-                QVERIFY2(t > 1.5 - 0.05 && t < 2.5 + 0.05, qPrintable(QString::number(t)));
-            }
-            if (t > 0.1 && t < 1.2)
-                QVERIFY2(!slice.braking && qFuzzyCompare(slice.topSpeed, 20.0f), qPrintable(QString::number(t)));
-            if (t > 2.7)
-                QVERIFY2(!slice.braking && slice.topSpeed == 12.0f, qPrintable(QString::number(t)));
-        }
-        QVERIFY(hard > 0);
 
         auto *strip = qobject_cast<SpeedStrip *>(item(QStringLiteral("speedStrip")));
         QVERIFY(strip);

@@ -202,10 +202,7 @@ private Q_SLOTS:
             QVERIFY(at.x() > 0 && at.x() < map()->width() && at.y() > 0 && at.y() < map()->height());
         }
         QVERIFY(!app->find(QStringLiteral("pin_") + unlocated));
-        const QVariantList sections = app->screens.map()->sections();
-        QCOMPARE(sections.size(), 2);
-        QCOMPARE(sections[0].toMap().value(QStringLiteral("title")).toString(), QStringLiteral("All located events"));
-        QCOMPARE(sections[1].toMap().value(QStringLiteral("title")).toString(), QStringLiteral("No location recorded"));
+        QCOMPARE(app->screens.map()->sections().size(), 2); // how they are cut is the presenter's test
     }
 
     void dragPansAndWheelZooms()

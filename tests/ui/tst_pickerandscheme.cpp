@@ -52,9 +52,10 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("chosen");
         QTest::addColumn<QString>("root");
-        // The volume, its TeslaCam folder and a file URL are chosen in the
-        // wizard window test. Only the exact name counts; the folder need not
-        // exist yet.
+        // Only the exact name counts; the folder need not exist yet. The
+        // volume itself is chosen in the wizard window test.
+        QTest::newRow("its TeslaCam folder") << QStringLiteral("STICK/TeslaCam") << QStringLiteral("STICK/TeslaCam");
+        QTest::newRow("as a file URL") << QStringLiteral("file://%1/STICK") << QStringLiteral("STICK/TeslaCam");
         QTest::newRow("teslacam in lower case") << QStringLiteral("STICK/teslacam")
                                                 << QStringLiteral("STICK/teslacam/TeslaCam");
         QTest::newRow("a folder with no TeslaCam") << QStringLiteral("EMPTY") << QStringLiteral("EMPTY/TeslaCam");
@@ -73,7 +74,7 @@ private Q_SLOTS:
         LicenceGate gate;
         DrivePicker picker(&state, &gate);
         QSignalSpy picked(&picker, &DrivePicker::picked);
-        picker.panelFinished(true, tmp.filePath(chosen));
+        picker.panelFinished(true, chosen.contains(QLatin1String("%1")) ? chosen.arg(tmp.path()) : tmp.filePath(chosen));
         QCOMPARE(picked.count(), 1);
         QCOMPARE(picked.at(0).at(0).toString(), tmp.filePath(root));
         // The bookmark is saved on the root before the scan is asked for.

@@ -371,9 +371,9 @@ private Q_SLOTS:
 
         // F fills the window with the player; Esc gives the list back.
         key(Qt::Key_F);
-        QTRY_VERIFY_WITH_TIMEOUT(state_->isFocusMode(), 10000);
+        QTRY_VERIFY_WITH_TIMEOUT(state_->isFocusMode() && !findItem(window_->contentItem(), QStringLiteral("sidebar")), 10000);
         key(Qt::Key_Escape);
-        QTRY_VERIFY_WITH_TIMEOUT(!state_->isFocusMode(), 10000);
+        QTRY_VERIFY_WITH_TIMEOUT(!state_->isFocusMode() && findItem(window_->contentItem(), QStringLiteral("sidebar")), 10000);
         // With a modifier held the keys are not the player's. The player acts
         // on its keys in order, one turn later: once a plain 3 has shown its
         // camera, the keys before it would have acted too.

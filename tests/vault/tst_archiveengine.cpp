@@ -385,39 +385,6 @@ private Q_SLOTS:
         QCOMPARE(drive.changes(), QString());
     }
 
-    void hangingClipTimesOutAndTheRunGoesOn()
-    {
-        if (!FaultyFs::available())
-            QSKIP("needs root and /dev/fuse");
-        Drive drive;
-        drive.builder.addEvent("SentryClips", "2026-07-18_09-15-32", 2, 1000);
-        auto event = drive.builder.scan().at(0);
-        // A clip on a drive whose first read doesn't answer.
-        QTemporaryDir mountPoint;
-        FaultyFs fs(mountPoint.path());
-        QVERIFY(fs.isMounted());
-        fs.addFile(QStringLiteral("2026-07-18_09-13-32-front.mp4"), QByteArray(4096, 'x'));
-        fs.hangReadsFrom(QStringLiteral("2026-07-18_09-13-32-front.mp4"), 0);
-        const QString held = mountPoint.filePath(QStringLiteral("2026-07-18_09-13-32-front.mp4"));
-        event.clips.insert(event.clips.begin(), clipAt(held, 4096));
-        drive.freeze();
-
-        // It never answers: the read is left behind and the run goes on.
-        QTemporaryDir vault;
-        QElapsedTimer timer;
-        timer.start();
-        const ArchiveReport report = ArchiveEngine::run(ArchiveEngine::plan({event}, VaultIndex{}), vault.path(), {}, 300ms);
-        QVERIFY(!report.cancelled);
-        QCOMPARE(report.failedFiles.size(), size_t(1));
-        QCOMPARE(report.failedFiles[0].path, held);
-        QCOMPARE(report.failedFiles[0].reason,
-                 QStringLiteral("This file took too long to read \u2014 the drive may be failing."));
-        QCOMPARE(report.archivedEvents.size(), size_t(1));
-        QCOMPARE(report.archivedEvents[0].files.size(), size_t(4)); // the run went on with the rest
-        QVERIFY(timer.elapsed() < 10000);
-        QCOMPARE(drive.changes(), QString());
-    }
-
     // A crafted stick: clip-named links out of the drive (to a private file,
     // to an endless device) and a FIFO. None is followed or read; each
     // costs its own file at once, and the real clips are kept.

@@ -13,9 +13,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <cmath>
 #include <optional>
-#include <cstring>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -151,27 +149,6 @@ private Q_SLOTS:
         // A removal rewrites the rest as they were.
         QVERIFY(VaultIndex::removeEvent(counted.eventID, vault.path()));
         QCOMPARE(VaultIndex::load(vault.path()).events, std::vector<ArchivedEvent>{part});
-    }
-
-    void datesWithFractionsRoundTripBitForBit()
-    {
-        QTemporaryDir vault;
-        const double values[] = {806058932.123456789, 0.1 + 0.2, std::nextafter(806058932.5, 1e12), -1234.000001,
-                                  1e-300};
-        VaultIndex index;
-        for (double v : values) {
-            auto e = makeEvent(QStringLiteral("2026-07-18_09-15-32"), {});
-            e.timestamp = Date(v);
-            e.archivedAt = Date(std::nextafter(v, 0.0));
-            index.events.push_back(e);
-        }
-        index.save(vault.path());
-        const VaultIndex back = VaultIndex::load(vault.path());
-        QCOMPARE(back.events.size(), index.events.size());
-        for (size_t i = 0; i < back.events.size(); ++i) {
-            QVERIFY(std::memcmp(&back.events[i].timestamp, &index.events[i].timestamp, sizeof(Date)) == 0);
-            QVERIFY(std::memcmp(&back.events[i].archivedAt, &index.events[i].archivedAt, sizeof(Date)) == 0);
-        }
     }
 
     void readerIsStrictAboutKeysAndTypes_data()
