@@ -1,7 +1,9 @@
 #include "crypt/EcryptfsReader.h"
 
-#include "crypt/PageIV.h"
 #include "base/ReadOnlyFs.h"
+#include "base/SecondLane.h"
+#include "crypt/PageDecrypter.h"
+#include "crypt/PageIV.h"
 
 extern "C" {
 #include <libavformat/avio.h>
@@ -11,6 +13,7 @@ extern "C" {
 #include <openssl/evp.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -21,17 +24,14 @@ namespace {
 // The most pages read and decrypted in one go: a stop is noticed between
 // runs, and a run is read straight into the caller's buffer.
 constexpr qint64 pagesPerRun = 256;
+// A long run is shared with a second thread in parts this size: each is a
+// read of its own, and more parts would cost more calls than they balance.
+constexpr qint64 pagesPerPart = 16;
 
 const EVP_MD *md5()
 {
     static EVP_MD *md = EVP_MD_fetch(nullptr, "MD5", nullptr);
     return md;
-}
-
-const EVP_CIPHER *aes128cbc()
-{
-    static EVP_CIPHER *cipher = EVP_CIPHER_fetch(nullptr, "AES-128-CBC", nullptr);
-    return cipher;
 }
 
 } // namespace
@@ -54,7 +54,7 @@ QByteArray EcryptfsReader::pageIV(const QByteArray &root, qint64 page)
 std::unique_ptr<EcryptfsReader> EcryptfsReader::open(const QString &path, const QByteArray &key,
                                                      std::function<bool()> shouldStop)
 {
-    if (key.size() != Ecryptfs::fileKeySize || !md5() || !aes128cbc())
+    if (key.size() != Ecryptfs::fileKeySize || !md5())
         return nullptr;
     const Ecryptfs::Header header = Ecryptfs::read(path);
     if (header.state != Ecryptfs::Header::State::ok)
@@ -67,73 +67,87 @@ std::unique_ptr<EcryptfsReader> EcryptfsReader::open(const QString &path, const 
     reader->plainSize_ = header.plainSize;
     reader->key_ = key;
     reader->rootIV_ = rootIV(key);
-    reader->cipher_ = EVP_CIPHER_CTX_new();
-    if (!reader->cipher_
-        || EVP_DecryptInit_ex2(reader->cipher_, aes128cbc(), reinterpret_cast<const unsigned char *>(key.constData()),
-                               nullptr, nullptr)
-            != 1)
+    reader->decrypter_ = std::make_unique<PageDecrypter>(reader->fd_, reader->key_, reader->rootIV_, reader->shouldStop_);
+    if (!reader->decrypter_->isReady())
         return nullptr;
-    EVP_CIPHER_CTX_set_padding(reader->cipher_, 0);
     return reader;
 }
 
 EcryptfsReader::~EcryptfsReader()
 {
-    if (cipher_)
-        EVP_CIPHER_CTX_free(cipher_);
+    lane_.reset(); // joined before the file it reads closes
     if (fd_ >= 0)
         ::close(fd_);
 }
 
-bool EcryptfsReader::readCipher(qint64 page, qint64 pages, uint8_t *into)
+bool EcryptfsReader::runPages(qint64 page, qint64 pages, uint8_t *into)
 {
-    const size_t bytes = size_t(pages * Ecryptfs::pageSize);
-    size_t got = 0;
-    const off_t start = off_t(Ecryptfs::payloadOffset + page * Ecryptfs::pageSize);
-    while (got < bytes) {
-        if (shouldStop_ && shouldStop_()) {
-            lastError_ = ECANCELED;
-            return false;
-        }
-        const ssize_t n = ::pread(fd_, into + got, bytes - got, start + off_t(got));
-        if (n < 0 && errno == EINTR)
-            continue;
-        if (n <= 0) {
-            lastError_ = n < 0 ? errno : EIO; // the header promised these pages
-            return false;
-        }
-        got += size_t(n);
-    }
-    return true;
-}
-
-// Each page is chained on its own IV. One pass over the run chains every page
-// on the last block of the page before it instead; the first block of each
-// page is put right afterwards, which costs 16 bytes of XOR a page. The pass
-// runs in place, so those last blocks are put aside first.
-bool EcryptfsReader::decryptInPlace(qint64 page, qint64 pages, uint8_t *data)
-{
-    const auto *root = reinterpret_cast<const uint8_t *>(rootIV_.constData());
-    lastBlocks_.resize(size_t(pages * 16));
-    for (qint64 i = 0; i + 1 < pages; ++i)
-        std::memcpy(lastBlocks_.data() + i * 16, data + (i + 1) * Ecryptfs::pageSize - 16, 16);
-    uint8_t iv[16];
-    PageIV::compute(root, page, iv);
-    int out = 0;
-    const int bytes = int(pages * Ecryptfs::pageSize);
-    if (EVP_DecryptInit_ex2(cipher_, nullptr, nullptr, iv, nullptr) != 1
-        || EVP_DecryptUpdate(cipher_, data, &out, data, bytes) != 1 || out != bytes) {
-        lastError_ = EIO;
+    const qint64 ready = fromReadAhead(page, pages, into);
+    page += ready;
+    pages -= ready;
+    into += ready * Ecryptfs::pageSize;
+    if (pages == 0)
+        return true;
+    if (pages < 2 * pagesPerPart || !SecondLane::worthIt()) {
+        if (decrypter_->run(page, pages, into))
+            return true;
+        lastError_ = decrypter_->error();
         return false;
     }
-    for (qint64 i = 1; i < pages; ++i) {
-        PageIV::compute(root, page + i, iv);
-        uint8_t *first = data + i * Ecryptfs::pageSize;
-        const uint8_t *chained = lastBlocks_.data() + (i - 1) * 16;
-        for (int b = 0; b < 16; ++b)
-            first[b] ^= uint8_t(chained[b] ^ iv[b]);
+    if (!lane_) {
+        secondDecrypter_ = std::make_unique<PageDecrypter>(fd_, key_, rootIV_, shouldStop_);
+        lane_ = std::make_unique<SecondLane>();
     }
-    return true;
+    PageDecrypter *const decrypters[2] = {decrypter_.get(), secondDecrypter_.get()};
+    const int parts = int((pages + pagesPerPart - 1) / pagesPerPart);
+    const bool ok = lane_->runShared(parts, [&](int side, int part) {
+        const qint64 first = part * pagesPerPart;
+        return decrypters[side]->run(page + first, std::min(pagesPerPart, pages - first),
+                                     into + first * Ecryptfs::pageSize);
+    });
+    if (!ok)
+        lastError_ = decrypters[0]->error() ? decrypters[0]->error() : decrypters[1]->error();
+    return ok;
+}
+
+// The pages from `page` on that were read ahead, copied into `into`; how
+// many. Whatever the lane was reading ahead is finished first, with the
+// caller's help, since its buffer is about to be read or reused.
+qint64 EcryptfsReader::fromReadAhead(qint64 page, qint64 pages, uint8_t *into)
+{
+    if (!lane_)
+        return 0;
+    if (lane_->isStarted())
+        readAheadOk_ = lane_->finish();
+    if (!readAheadOk_ || page < readAheadFirst_ || page >= readAheadFirst_ + readAheadPages_)
+        return 0;
+    const qint64 n = std::min(pages, readAheadFirst_ + readAheadPages_ - page);
+    std::memcpy(into, readAhead_.data() + (page - readAheadFirst_) * Ecryptfs::pageSize,
+                size_t(n * Ecryptfs::pageSize));
+    return n;
+}
+
+// Decrypts the next `pages` pages after the position on the second thread
+// while the caller gets on with what it has read.
+void EcryptfsReader::readAhead(qint64 pages)
+{
+    qint64 first = position_ / Ecryptfs::pageSize;
+    if (first == pageNumber_)
+        ++first;
+    pages = std::min(pages, Ecryptfs::pageCount(plainSize_) - first);
+    if (!lane_ || pages <= 0)
+        return;
+    readAhead_.resize(size_t(pages * Ecryptfs::pageSize));
+    readAheadFirst_ = first;
+    readAheadPages_ = pages;
+    readAheadOk_ = false;
+    readAheadWork_ = [this, decrypters = std::array<PageDecrypter *, 2>{decrypter_.get(), secondDecrypter_.get()}](
+                         int side, int part) {
+        const qint64 from = part * pagesPerPart;
+        return decrypters[size_t(side)]->run(readAheadFirst_ + from, std::min(pagesPerPart, readAheadPages_ - from),
+                                             readAhead_.data() + from * Ecryptfs::pageSize);
+    };
+    lane_->start(int((pages + pagesPerPart - 1) / pagesPerPart), readAheadWork_);
 }
 
 bool EcryptfsReader::loadPage(qint64 page)
@@ -142,8 +156,10 @@ bool EcryptfsReader::loadPage(qint64 page)
         return true;
     page_.resize(size_t(Ecryptfs::pageSize));
     pageNumber_ = -1;
-    if (!readCipher(page, 1, page_.data()) || !decryptInPlace(page, 1, page_.data()))
+    if (fromReadAhead(page, 1, page_.data()) == 0 && !decrypter_->run(page, 1, page_.data())) {
+        lastError_ = decrypter_->error();
         return false;
+    }
     pageNumber_ = page;
     return true;
 }
@@ -153,6 +169,8 @@ int EcryptfsReader::read(uint8_t *buffer, int size)
     if (size <= 0 || position_ >= plainSize_)
         return 0;
     int copied = 0;
+    qint64 longestRun = 0;
+    const bool streaming = position_ == lastReadEnd_;
     const qint64 lastPage = Ecryptfs::pageCount(plainSize_);
     while (copied < size && position_ < plainSize_) {
         const qint64 page = position_ / Ecryptfs::pageSize;
@@ -161,8 +179,9 @@ int EcryptfsReader::read(uint8_t *buffer, int size)
         // there: a demuxer reading through the file pays for no copy of its own.
         const qint64 wholePages = std::min({qint64(size - copied) / Ecryptfs::pageSize, pagesPerRun, lastPage - page});
         if (inPage == 0 && wholePages > 0 && page != pageNumber_) {
-            if (!readCipher(page, wholePages, buffer + copied) || !decryptInPlace(page, wholePages, buffer + copied))
+            if (!runPages(page, wholePages, buffer + copied))
                 return copied > 0 ? copied : -lastError_;
+            longestRun = std::max(longestRun, wholePages);
             const int n = int(std::min(wholePages * Ecryptfs::pageSize, plainSize_ - position_));
             copied += n;
             position_ += n;
@@ -177,6 +196,11 @@ int EcryptfsReader::read(uint8_t *buffer, int size)
         copied += n;
         position_ += n;
     }
+    lastReadEnd_ = position_;
+    // A demuxer reading on from where it stopped, in long reads, will ask for
+    // the next pages in a moment.
+    if (streaming && longestRun >= 2 * pagesPerPart)
+        readAhead(longestRun + 1);
     return copied;
 }
 

@@ -9,13 +9,16 @@
 #include <memory>
 #include <vector>
 
-typedef struct evp_cipher_ctx_st EVP_CIPHER_CTX;
+class PageDecrypter;
+class SecondLane;
 
 // Reads the plain bytes of one of the car's encrypted files, given its
 // 16-byte key, decrypting page by page as they are asked for: a seek
 // decrypts only the pages it lands on, and nothing decrypted is written
 // anywhere. Its read and seek are shaped like an AVIOContext's callbacks,
-// so a demuxer can sit on it. One thread at a time.
+// so a demuxer can sit on it. One thread at a time; a long read is shared
+// with a second thread of its own, which also reads ahead while a demuxer
+// streaming through the file is busy with what it got.
 class EcryptfsReader {
 public:
     // Null when the file can't be opened, isn't one of the car's encrypted
@@ -47,9 +50,10 @@ public:
 
 private:
     EcryptfsReader() = default;
-    bool readCipher(qint64 page, qint64 pages, uint8_t *into);
-    bool decryptInPlace(qint64 page, qint64 pages, uint8_t *data);
+    bool runPages(qint64 page, qint64 pages, uint8_t *into);
     bool loadPage(qint64 page);
+    qint64 fromReadAhead(qint64 page, qint64 pages, uint8_t *into);
+    void readAhead(qint64 pages);
 
     int fd_ = -1;
     std::function<bool()> shouldStop_;
@@ -57,11 +61,19 @@ private:
     qint64 position_ = 0;
     QByteArray key_;
     QByteArray rootIV_;
-    EVP_CIPHER_CTX *cipher_ = nullptr;
+    std::unique_ptr<PageDecrypter> decrypter_;
+    // Made with the first long read.
+    std::unique_ptr<PageDecrypter> secondDecrypter_;
+    std::unique_ptr<SecondLane> lane_;
+    std::vector<uint8_t> readAhead_;
+    qint64 readAheadFirst_ = 0;
+    qint64 readAheadPages_ = 0;
+    bool readAheadOk_ = false;
+    std::function<bool(int, int)> readAheadWork_;
+    qint64 lastReadEnd_ = -1;
     // The page a read began or ended inside, decrypted: the next read
     // usually starts in it.
     std::vector<uint8_t> page_;
     qint64 pageNumber_ = -1;
-    std::vector<uint8_t> lastBlocks_; // each page's last cipher block, kept through an in-place run
     int lastError_ = 0;
 };

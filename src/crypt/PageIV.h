@@ -12,5 +12,7 @@ namespace PageIV {
 // MD5 of exactly 32 bytes.
 void md5Of32(const uint8_t input[32], uint8_t out[16]);
 void compute(const uint8_t rootIV[16], int64_t page, uint8_t out[16]);
+// The IVs of count pages from first, 16 bytes each, four at a time.
+void computeRun(const uint8_t rootIV[16], int64_t first, int64_t count, uint8_t *out);
 
 } // namespace PageIV
