@@ -423,13 +423,8 @@ private Q_SLOTS:
 
         // Export & Share: the front camera, then a copy over an existing file.
         click(QStringLiteral("exportButton"));
-        QQuickItem *sheetItem = nullptr;
-        QTRY_VERIFY((sheetItem = findItem(window_->contentItem(), QStringLiteral("startExportButton"))));
-        QQuickItem *view = findItem(window_->contentItem(), QStringLiteral("eventPlayerView"));
-        QVERIFY(view);
-        auto *presenter = qobject_cast<EventPlayerPresenter *>(view->property("presenter").value<QObject *>());
-        QVERIFY(presenter);
-        auto *flow = presenter->findChild<ExportFlow *>();
+        QTRY_VERIFY(findItem(window_->contentItem(), QStringLiteral("startExportButton")));
+        ExportFlow *flow = sheetFlow();
         QVERIFY(flow);
         QCOMPARE(flow->selectedCamera(), std::optional<Camera>(Camera::front));
         QCOMPARE(flow->stateName(), QStringLiteral("choosing"));
