@@ -158,43 +158,6 @@ private Q_SLOTS:
                  QSize(1440, 1080));
     }
 
-    void combinedOptionsSayWhatIsWrong_data()
-    {
-        QTest::addColumn<QStringList>("options");
-        QTest::addColumn<QString>("sentence");
-        QTest::newRow("layout") << QStringList{QStringLiteral("--layout"), QStringLiteral("diagonal")}
-                                << QStringLiteral("\u201cdiagonal\u201d is not a layout; use grid, front-sides or single.");
-        QTest::newRow("size") << QStringList{QStringLiteral("--layout"), QStringLiteral("grid"), QStringLiteral("--size"),
-                                             QStringLiteral("4k")}
-                              << QStringLiteral("\u201c4k\u201d is not a size; use 720, 1080 or full.");
-        QTest::newRow("overlay") << QStringList{QStringLiteral("--layout"), QStringLiteral("grid"),
-                                                QStringLiteral("--overlay"), QStringLiteral("time,weather")}
-                                 << QStringLiteral("--overlay takes time, names, reason and telemetry joined with commas, or none.");
-        QTest::newRow("camera with grid") << QStringList{QStringLiteral("--layout"), QStringLiteral("grid"),
-                                                         QStringLiteral("--camera"), QStringLiteral("front")}
-                                          << QStringLiteral("--camera picks the one camera of --layout single; grid and "
-                                                            "front-sides show every camera.");
-        QTest::newRow("no camera") << QStringList{QStringLiteral("--size"), QStringLiteral("720")}
-                                   << QStringLiteral("Name the camera with --camera, or choose --layout grid or front-sides.");
-        QTest::newRow("single without footage") << QStringList{QStringLiteral("--layout"), QStringLiteral("single"),
-                                                               QStringLiteral("--camera"), QStringLiteral("left_pillar")}
-                                                << QStringLiteral("The Left Pillar camera has no playable footage in this event.");
-        QTest::newRow("stretch outside") << QStringList{QStringLiteral("--layout"), QStringLiteral("grid"),
-                                                        QStringLiteral("--from"), QStringLiteral("30")}
-                                         << QStringLiteral("The chosen stretch lies outside this event's footage.");
-    }
-    void combinedOptionsSayWhatIsWrong()
-    {
-        QFETCH(QStringList, options);
-        QFETCH(QString, sentence);
-        const QString file = out(QStringLiteral("refused.mp4"));
-        const CliRun::Result run = runCli(QStringList{root_, QStringLiteral("--event"), twoCameraEventId, QStringLiteral("-o"), file}
-                               + options);
-        QCOMPARE(run.exitCode, 2);
-        QCOMPARE(run.err.trimmed().split(QLatin1Char('\n')).last(), sentence);
-        QVERIFY(!QFile::exists(file));
-    }
-
     // Ctrl-C while the drive holds a read in the middle of the movie: the
     // export stops at once and leaves nothing, not even a hidden part.
     void interruptStopsACombinedExportAndLeavesNothing()
@@ -254,44 +217,60 @@ private Q_SLOTS:
         QCOMPARE(before.differences(TreeSnapshot::take(root_)), QString());
     }
 
+    // Whatever is wrong is said in one sentence, with exit code 2, and no
+    // movie is begun.
     void failuresSayWhyInOneSentence_data()
     {
-        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QString>("root"); // none: the test's drive
+        QTest::addColumn<QStringList>("options");
         QTest::addColumn<QString>("sentence");
-        const QString e = QStringLiteral("--event"), c = QStringLiteral("--camera"), o = QStringLiteral("-o");
-        QTest::newRow("unknown event") << QStringList{QString(), e, QStringLiteral("sentry|2020-01-01_00-00-00"), c,
-                                                      QStringLiteral("front"), o, QStringLiteral("a.mp4")}
+        const QString e = QStringLiteral("--event"), c = QStringLiteral("--camera"), l = QStringLiteral("--layout");
+        const QString grid = QStringLiteral("grid"), front = QStringLiteral("front");
+        QTest::newRow("unknown event") << QString() << QStringList{e, QStringLiteral("sentry|2020-01-01_00-00-00"), c, front}
                                        << QStringLiteral("There is no event \u201csentry|2020-01-01_00-00-00\u201d in this TeslaCam folder.");
-        QTest::newRow("unknown camera") << QStringList{QString(), e, eventId, c, QStringLiteral("roof"), o,
-                                                       QStringLiteral("b.mp4")}
+        QTest::newRow("unknown camera") << QString() << QStringList{e, eventId, c, QStringLiteral("roof")}
                                         << QStringLiteral("\u201croof\u201d is not a camera; use one of front, back, "
                                                           "left_repeater, right_repeater, left_pillar, right_pillar, "
                                                           "rear_backup.");
-        QTest::newRow("camera without clips") << QStringList{QString(), e, eventId, c, QStringLiteral("back"), o,
-                                                             QStringLiteral("c.mp4")}
+        QTest::newRow("camera without clips") << QString() << QStringList{e, eventId, c, QStringLiteral("back")}
                                               << QStringLiteral("The Rear camera has no playable footage in this event.");
-        QTest::newRow("bad number") << QStringList{QString(), e, eventId, c, QStringLiteral("front"), o,
-                                                   QStringLiteral("e.mp4"), QStringLiteral("--from"),
-                                                   QStringLiteral("soon")}
+        QTest::newRow("bad number") << QString() << QStringList{e, eventId, c, front, QStringLiteral("--from"), QStringLiteral("soon")}
                                     << QStringLiteral("--from and --to take a number of seconds, such as 12.5.");
-        QTest::newRow("no such folder") << QStringList{QStringLiteral("/nonexistent/TeslaCam"), e, eventId, c,
-                                                       QStringLiteral("front"), o, QStringLiteral("g.mp4")}
+        QTest::newRow("no such folder") << QStringLiteral("/nonexistent/TeslaCam") << QStringList{e, eventId, c, front}
                                         << QString();
+        QTest::newRow("layout") << QString() << QStringList{e, twoCameraEventId, l, QStringLiteral("diagonal")}
+                                << QStringLiteral("\u201cdiagonal\u201d is not a layout; use grid, front-sides or single.");
+        QTest::newRow("size") << QString() << QStringList{e, twoCameraEventId, l, grid, QStringLiteral("--size"), QStringLiteral("4k")}
+                              << QStringLiteral("\u201c4k\u201d is not a size; use 720, 1080 or full.");
+        QTest::newRow("overlay") << QString()
+                                 << QStringList{e, twoCameraEventId, l, grid, QStringLiteral("--overlay"), QStringLiteral("time,weather")}
+                                 << QStringLiteral("--overlay takes time, names, reason and telemetry joined with commas, or none.");
+        QTest::newRow("camera with grid") << QString() << QStringList{e, twoCameraEventId, l, grid, c, front}
+                                          << QStringLiteral("--camera picks the one camera of --layout single; grid and "
+                                                            "front-sides show every camera.");
+        QTest::newRow("no camera") << QString() << QStringList{e, twoCameraEventId, QStringLiteral("--size"), QStringLiteral("720")}
+                                   << QStringLiteral("Name the camera with --camera, or choose --layout grid or front-sides.");
+        QTest::newRow("single without footage") << QString()
+                                                << QStringList{e, twoCameraEventId, l, QStringLiteral("single"), c,
+                                                               QStringLiteral("left_pillar")}
+                                                << QStringLiteral("The Left Pillar camera has no playable footage in this event.");
+        QTest::newRow("stretch outside") << QString()
+                                         << QStringList{e, twoCameraEventId, l, grid, QStringLiteral("--from"), QStringLiteral("30")}
+                                         << QStringLiteral("The chosen stretch lies outside this event's footage.");
     }
     void failuresSayWhyInOneSentence()
     {
-        QFETCH(QStringList, arguments);
+        QFETCH(QString, root);
+        QFETCH(QStringList, options);
         QFETCH(QString, sentence);
-        if (arguments[0].isEmpty())
-            arguments[0] = root_;
-        arguments[6] = out(arguments[6]);
-        const CliRun::Result run = runCli(arguments);
+        const QString file = out(QStringLiteral("refused.mp4"));
+        const CliRun::Result run = runCli(QStringList{root.isEmpty() ? root_ : root, QStringLiteral("-o"), file} + options);
         QCOMPARE(run.exitCode, 2);
-        const QStringList lines = run.err.trimmed().split(QLatin1Char('\n'));
+        const QString last = run.err.trimmed().split(QLatin1Char('\n')).last();
         if (!sentence.isEmpty())
-            QCOMPARE(lines.last(), sentence);
-        QVERIFY(lines.last().endsWith(QLatin1Char('.')));
-        QVERIFY(!QFile::exists(arguments[6]));
+            QCOMPARE(last, sentence);
+        QVERIFY(last.endsWith(QLatin1Char('.')));
+        QVERIFY(!QFile::exists(file));
     }
 
     // Interrupted while writing: stops like the app's Stop and leaves no

@@ -289,11 +289,7 @@ private Q_SLOTS:
     // caller's stop ends it at once.
     void aHangingReadIsLeftBehind()
     {
-        if (!FaultyFs::available())
-            QSKIP("needs root and /dev/fuse");
-        QTemporaryDir mount;
-        FaultyFs fs(mount.path());
-        QVERIFY(fs.isMounted());
+        KEELHOLD_FAULTY_FS(fs, mount);
         const QString held = fs.addHeldFile(QStringLiteral("held-front.mp4"), QByteArray(128 * 1024, 'x'));
         const ClipRef clip = clipAt(held);
         QVERIFY_THROWS_EXCEPTION(IOWatchdog::TimedOut, IOWatchdog::run(200ms, [clip](std::stop_token stop) {

@@ -296,11 +296,7 @@ private Q_SLOTS:
         QFETCH(QString, folder);
         QFETCH(int, error);
         QFETCH(bool, lookupsToo);
-        if (!FaultyFs::available())
-            QSKIP("needs root and /dev/fuse");
-        QTemporaryDir mountPoint;
-        FaultyFs fs(mountPoint.path());
-        QVERIFY(fs.isMounted());
+        KEELHOLD_FAULTY_FS(fs, mountPoint);
         const QByteArray clip(1000, 'x');
         fs.addFile("TeslaCam/SentryClips/2024-06-01_15-05-00/2024-06-01_15-04-00-front.mp4", clip);
         fs.addFile("TeslaCam/SavedClips/2024-06-02_09-00-00/2024-06-02_08-59-00-front.mp4", clip);
@@ -407,11 +403,7 @@ private Q_SLOTS:
         QVERIFY(own.ok());
         QVERIFY(TeslaCamParser::scan(TeslaCamFixture(own.path() + "/TeslaCam").root()).onSystemDisk);
         // A car's exFAT drive is never the computer's, wherever it is mounted.
-        if (!FaultyFs::available())
-            QSKIP("needs /dev/fuse");
-        QTemporaryDir mountPoint;
-        FaultyFs exfat(mountPoint.path());
-        QVERIFY(exfat.isMounted());
+        KEELHOLD_FAULTY_FS(exfat, mountPoint);
         exfat.addFile("TeslaCam/RecentClips/2024-06-03_08-00-00-front.mp4", QByteArray(1000, 'x'));
         QVERIFY(!TeslaCamParser::scan(mountPoint.filePath("TeslaCam")).onSystemDisk);
     }

@@ -64,85 +64,6 @@ QStringList names(const std::vector<VolumeCandidate> &candidates)
     return out;
 }
 
-} // namespace
-
-class TestDriveWatcher : public QObject {
-    Q_OBJECT
-
-private Q_SLOTS:
-    void initTestCase();
-    void cleanup();
-
-    void parsesRecordedMountinfo();
-    void removableMountsOnlyBelowTheMediaFolders();
-    void diffReportsMountsUnmountsAndRenames();
-    void candidateOfAFolderThatIsNoMountPoint();
-
-    void realMountUnmountAndReturn();
-    void realMoveIsARename();
-    void realTeslaCamVolumeIsListedFirst();
-    void realExfatLabelAndRelabel();
-    void finishedStreamStopsWatching();
-
-private:
-    // The watcher looks at a new volume for a moment (statvfs, blkid), and a
-    // FUSE volume can answer EBUSY meanwhile, as a desktop eject would retry.
-    static bool unmount(const QString &path)
-    {
-        const QDeadlineTimer limit(30000);
-        while (::umount2(QFile::encodeName(path).constData(), 0) != 0) {
-            if (errno != EBUSY || limit.hasExpired())
-                return false;
-            QThread::msleep(20); // between tries
-        }
-        return true;
-    }
-    // Mounts a small tmpfs at a fresh folder below /media; empty if not allowed.
-    QString mountTmpfs(const QString &name, const QString &size = QStringLiteral("8m"));
-    bool canMount_ = false;
-    QString base_;
-    QStringList mounted_;
-    QStringList loopDevices_;
-    QTemporaryDir scratch_;
-};
-
-void TestDriveWatcher::initTestCase()
-{
-    base_ = QStringLiteral("/media/keelhold-test-%1").arg(QCoreApplication::applicationPid());
-    if (::geteuid() != 0 || !QDir().mkpath(base_))
-        return;
-    const QString probe = base_ + QStringLiteral("/probe");
-    QDir().mkpath(probe);
-    canMount_ = ::mount("tmpfs", QFile::encodeName(probe).constData(), "tmpfs", 0, "size=1m") == 0;
-    if (canMount_)
-        ::umount2(QFile::encodeName(probe).constData(), MNT_DETACH);
-    QDir(probe).removeRecursively();
-}
-
-void TestDriveWatcher::cleanup()
-{
-    for (auto it = mounted_.crbegin(); it != mounted_.crend(); ++it)
-        ::umount2(QFile::encodeName(*it).constData(), MNT_DETACH);
-    mounted_.clear();
-    for (const QString &loop : std::as_const(loopDevices_))
-        run(QStringLiteral("losetup"), {QStringLiteral("-d"), loop});
-    loopDevices_.clear();
-    if (!base_.isEmpty())
-        QDir(base_).removeRecursively();
-}
-
-QString TestDriveWatcher::mountTmpfs(const QString &name, const QString &size)
-{
-    const QString path = base_ + QLatin1Char('/') + name;
-    QDir().mkpath(path);
-    const QByteArray options = "size=" + size.toLatin1();
-    if (::mount("tmpfs", QFile::encodeName(path).constData(), "tmpfs", 0, options.constData()) != 0)
-        return {};
-    mounted_ << path;
-    return path;
-}
-
-namespace {
 // Collects the stream's events that concern paths below prefix, until count
 // have come or the time is up; then waits a little more to catch extras.
 std::vector<DriveEvent> collect(DriveEventStream &stream, const QString &prefix, size_t count, int ms = 20000)
@@ -169,312 +90,364 @@ std::vector<DriveEvent> collect(DriveEventStream &stream, const QString &prefix,
 }
 } // namespace
 
-void TestDriveWatcher::parsesRecordedMountinfo()
-{
-    const std::vector<MountTable::Entry> table = MountTable::parse(recordedTable);
-    QCOMPARE(table.size(), size_t(12));
-    const MountTable::Entry &drive = table[4];
-    QCOMPARE(drive.mountID, 88);
-    QCOMPARE(drive.device, QStringLiteral("8:17"));
-    QCOMPARE(drive.mountPoint, QStringLiteral("/media/anna/TESLA DRIVE"));
-    QCOMPARE(drive.fileSystemType, QStringLiteral("fuseblk"));
-    QCOMPARE(drive.source, QStringLiteral("/dev/sdb1"));
-    // Optional fields (shared:, master:) don't shift the fields after "-".
-    QCOMPARE(table[5].fileSystemType, QStringLiteral("ext4"));
-    QCOMPARE(table[5].source, QStringLiteral("/dev/sdc1"));
-    QCOMPARE(table[1].mountPoint, QStringLiteral("/"));
+class TestDriveWatcher : public QObject {
+    Q_OBJECT
 
-    QVERIFY(MountTable::parse(QByteArray()).empty());
-    QVERIFY(MountTable::parse("garbage\n1 2 3\n- - -\n").empty());
-}
-
-void TestDriveWatcher::removableMountsOnlyBelowTheMediaFolders()
-{
-    const std::vector<MountTable::Entry> removable = MountTable::removableMounts(MountTable::parse(recordedTable));
-    QStringList points;
-    for (const auto &e : removable)
-        points << e.mountPoint;
-    QCOMPARE(points, (QStringList{QStringLiteral("/media/anna/TESLA DRIVE"), QStringLiteral("/run/media/anna/BACKUP"),
-                                  QStringLiteral("/mnt/scratch")}));
-    // A later mount over the same point is the one that shows.
-    QCOMPARE(removable[2].mountID, 95);
-
-    // With only the system's own mounts there is nothing to offer.
-    const QByteArray systemOnly = "22 27 0:21 / /proc rw - proc proc rw\n27 1 254:0 / / rw - ext4 /dev/vda rw\n";
-    QVERIFY(MountTable::removableMounts(MountTable::parse(systemOnly)).empty());
-}
-
-void TestDriveWatcher::diffReportsMountsUnmountsAndRenames()
-{
-    using C = MountTable::Change;
-    const auto a = entry(1, "0:40", "/media/A");
-    const auto b = entry(2, "0:41", "/media/B");
-    const auto c = entry(3, "0:42", "/media/C");
-
-    QVERIFY(MountTable::diff({a, b}, {a, b}).empty());
-    QCOMPARE(MountTable::diff({a}, {a, b}), (std::vector<C>{{C::mounted, "/media/B"}}));
-    QCOMPARE(MountTable::diff({a, b}, {b}), (std::vector<C>{{C::unmounted, "/media/A"}}));
-    // Unmounts come first, then mounts.
-    QCOMPARE(MountTable::diff({a}, {b, c}),
-             (std::vector<C>{{C::unmounted, "/media/A"}, {C::mounted, "/media/B"}, {C::mounted, "/media/C"}}));
-    // Gone and back between two looks: both are reported, each once.
-    const auto aAgain = entry(7, "0:43", "/media/A");
-    QCOMPARE(MountTable::diff({a}, {aAgain}), (std::vector<C>{{C::unmounted, "/media/A"}, {C::mounted, "/media/A"}}));
-    // The same file system at a new mount point is a rename, and the old
-    // point is never reported.
-    const auto aMoved = entry(1, "0:40", "/media/A2");
-    QCOMPARE(MountTable::diff({a, b}, {b, aMoved}), (std::vector<C>{{C::renamed, "/media/A2"}}));
-    const auto aRelabelled = entry(9, "0:40", "/media/NEWNAME");
-    QCOMPARE(MountTable::diff({a}, {aRelabelled}), (std::vector<C>{{C::renamed, "/media/NEWNAME"}}));
-    // Another part of the same device is not the same volume.
-    const auto otherRoot = entry(10, "0:40", "/media/Z", "/sub");
-    QCOMPARE(MountTable::diff({a}, {otherRoot}),
-             (std::vector<C>{{C::unmounted, "/media/A"}, {C::mounted, "/media/Z"}}));
-}
-
-void TestDriveWatcher::candidateOfAFolderThatIsNoMountPoint()
-{
-    // A folder that isn't a mount point of its own: its figures can't be
-    // read, so they stay unknown, and it is still a candidate.
-    const QString folder = scratch_.filePath(QStringLiteral("PLAIN"));
-    QDir().mkpath(folder);
-    QFile file(folder + QStringLiteral("/TeslaCam"));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.close();
-    auto c = DriveWatcher::volumeCandidate(folder);
-    QVERIFY(c.has_value());
-    QCOMPARE(c->volumeURL, folder);
-    QCOMPARE(c->id(), folder);
-    QCOMPARE(c->name, QStringLiteral("PLAIN"));
-    QVERIFY(!c->capacityBytes.has_value());
-    QVERIFY(!c->freeBytes.has_value());
-    // A file named TeslaCam is not the folder.
-    QVERIFY(!c->hasTeslaCamFolder);
-
-    QVERIFY(file.remove());
-    QVERIFY(QDir().mkpath(folder + QStringLiteral("/TeslaCam")));
-    QVERIFY(DriveWatcher::volumeCandidate(folder)->hasTeslaCamFolder);
-    QVERIFY(!DriveWatcher::volumeCandidate(QStringLiteral("relative/path")).has_value());
-}
-
-void TestDriveWatcher::realMountUnmountAndReturn()
-{
-    if (!canMount_)
-        QSKIP("Needs root to mount a tmpfs below /media.");
-    DriveWatcher watcher;
-    const auto stream = watcher.events();
-    QCOMPARE(watcher.events(), stream); // one stream per watcher
-    // A reader that waits before anything happens gets the first event.
-    QFuture<std::optional<DriveEvent>> first = stream->next();
-
-    const QString path = mountTmpfs(QStringLiteral("USBSTICK"));
-    QVERIFY(!path.isEmpty());
-    QTRY_VERIFY_WITH_TIMEOUT(first.isFinished(), 5000);
-    const std::optional<DriveEvent> mounted = first.result();
-    QVERIFY(mounted.has_value());
-    QCOMPARE(mounted->kind(), DriveEvent::mounted);
-    QCOMPARE(mounted->candidate().volumeURL, path);
-    QCOMPARE(mounted->candidate().name, QStringLiteral("USBSTICK"));
-    QCOMPARE(mounted->candidate().capacityBytes, std::optional<qint64>(8 * 1024 * 1024));
-    QVERIFY(mounted->candidate().freeBytes.has_value());
-    QVERIFY(*mounted->candidate().freeBytes > 7 * 1024 * 1024);
-    QVERIFY(!mounted->candidate().hasTeslaCamFolder);
-
-    // It is listed among the mounted volumes.
-    QVERIFY(names(DriveWatcher::mountedTeslaCamVolumes()).contains(QStringLiteral("USBSTICK")));
-
-    // Away and back while the main thread is busy, its event loop not
-    // running: each reported once, in order. Only the watcher's own calls
-    // are let through, and the drive returns once the reader thread has seen
-    // it leave (back at once, it may get the same ids and look unchanged).
-    QVERIFY(unmount(path));
-    mounted_.removeAll(path);
-    std::vector<DriveEvent> away;
-    const QDeadlineTimer seen(20000);
-    while (away.empty() && !seen.hasExpired()) {
-        QThread::msleep(5); // the main thread's busy work
-        QCoreApplication::sendPostedEvents(&watcher, QEvent::MetaCall);
-        while (const auto e = stream->takeNext())
-            if (e->kind() == DriveEvent::unmounted && e->volumePath().startsWith(base_))
-                away.push_back(*e);
-    }
-    QCOMPARE(away.size(), size_t(1));
-    QCOMPARE(away[0], DriveEvent::makeUnmounted(path));
-    QVERIFY(!mountTmpfs(QStringLiteral("USBSTICK"), QStringLiteral("4m")).isEmpty());
-    std::vector<DriveEvent> events = collect(*stream, base_, 1);
-    QCOMPARE(events.size(), size_t(1));
-    QCOMPARE(events[0].kind(), DriveEvent::mounted);
-    QCOMPARE(events[0].candidate().capacityBytes, std::optional<qint64>(4 * 1024 * 1024));
-
-    // Away with the loop running.
-    QVERIFY(unmount(path));
-    mounted_.removeAll(path);
-    events = collect(*stream, base_, 1);
-    QCOMPARE(events.size(), size_t(1));
-    QCOMPARE(events[0].kind(), DriveEvent::unmounted);
-    QCOMPARE(events[0].volumePath(), path);
-    QVERIFY(!names(DriveWatcher::mountedTeslaCamVolumes()).contains(QStringLiteral("USBSTICK")));
-}
-
-void TestDriveWatcher::realMoveIsARename()
-{
-    if (!canMount_)
-        QSKIP("Needs root to mount a tmpfs below /media.");
-    const QString oldPath = mountTmpfs(QStringLiteral("OLDNAME"));
-    QVERIFY(!oldPath.isEmpty());
-    DriveWatcher watcher;
-    const auto stream = watcher.events();
-    QThread *deliveredOn = nullptr;
-    connect(stream.get(), &DriveEventStream::available, this, [&] { deliveredOn = QThread::currentThread(); });
-
-    const QString newPath = base_ + QStringLiteral("/NEWNAME");
-    QDir().mkpath(newPath);
-    QCOMPARE(::mount(QFile::encodeName(oldPath).constData(), QFile::encodeName(newPath).constData(), nullptr,
-                     MS_MOVE, nullptr),
-             0);
-    mounted_.removeAll(oldPath);
-    mounted_ << newPath;
-    const std::vector<DriveEvent> events = collect(*stream, base_, 1);
-    QCOMPARE(events.size(), size_t(1));
-    QCOMPARE(events[0].kind(), DriveEvent::renamed);
-    QCOMPARE(events[0].candidate().volumeURL, newPath);
-    QCOMPARE(events[0].candidate().name, QStringLiteral("NEWNAME"));
-    QCOMPARE(deliveredOn, QCoreApplication::instance()->thread());
-}
-
-void TestDriveWatcher::realTeslaCamVolumeIsListedFirst()
-{
-    if (!canMount_)
-        QSKIP("Needs root to mount a tmpfs below /media.");
-    QVERIFY(!mountTmpfs(QStringLiteral("aaa-plain")).isEmpty());
-    QVERIFY(!mountTmpfs(QStringLiteral("BBB-plain")).isEmpty());
-    const QString car = mountTmpfs(QStringLiteral("zzz-car"));
-    QVERIFY(!car.isEmpty());
-    QVERIFY(QDir().mkpath(car + QStringLiteral("/TeslaCam")));
-    const QString otherCar = mountTmpfs(QStringLiteral("CAR"));
-    QVERIFY(!otherCar.isEmpty());
-    QVERIFY(QDir().mkpath(otherCar + QStringLiteral("/TeslaCam")));
-    const QString fileOnly = mountTmpfs(QStringLiteral("yyy-file"));
-    QFile stray(fileOnly + QStringLiteral("/TeslaCam"));
-    QVERIFY(stray.open(QIODevice::WriteOnly));
-    stray.close();
-
-    QStringList ours;
-    for (const VolumeCandidate &c : DriveWatcher::mountedTeslaCamVolumes())
-        if (c.volumeURL.startsWith(base_))
-            ours << c.name + (c.hasTeslaCamFolder ? QStringLiteral("+") : QString());
-    // Drives with a TeslaCam folder first, then by plain text comparison:
-    // upper case sorts before lower case.
-    QCOMPARE(ours, (QStringList{"CAR+", "zzz-car+", "BBB-plain", "aaa-plain", "yyy-file"}));
-}
-
-void TestDriveWatcher::realExfatLabelAndRelabel()
-{
-    if (!canMount_)
-        QSKIP("Needs root to mount below /media.");
-    const QString mkfs = QStandardPaths::findExecutable(QStringLiteral("mkfs.exfat"));
-    const QString fuse = QStandardPaths::findExecutable(QStringLiteral("mount.exfat-fuse"));
-    if (mkfs.isEmpty() || fuse.isEmpty() || !QFile::exists(QStringLiteral("/dev/fuse")))
-        QSKIP("Needs exfatprogs, exfat-fuse and /dev/fuse.");
-    const QString image = scratch_.filePath(QStringLiteral("drive.img"));
+private Q_SLOTS:
+    void initTestCase()
     {
-        QFile img(image);
-        QVERIFY(img.open(QIODevice::WriteOnly));
-        QVERIFY(img.resize(16 * 1024 * 1024));
+        base_ = QStringLiteral("/media/keelhold-test-%1").arg(QCoreApplication::applicationPid());
+        if (::geteuid() != 0 || !QDir().mkpath(base_))
+            return;
+        const QString probe = base_ + QStringLiteral("/probe");
+        QDir().mkpath(probe);
+        canMount_ = ::mount("tmpfs", QFile::encodeName(probe).constData(), "tmpfs", 0, "size=1m") == 0;
+        if (canMount_)
+            ::umount2(QFile::encodeName(probe).constData(), MNT_DETACH);
+        QDir(probe).removeRecursively();
     }
-    QProcess losetup;
-    losetup.start(QStringLiteral("losetup"), {QStringLiteral("-f"), QStringLiteral("--show"), image});
-    QVERIFY(losetup.waitForFinished(10000));
-    const QString loop = QString::fromUtf8(losetup.readAllStandardOutput()).trimmed();
-    if (losetup.exitCode() != 0 || loop.isEmpty())
-        QSKIP("No loop device available.");
-    loopDevices_ << loop;
-    QCOMPARE(run(mkfs, {QStringLiteral("-L"), QStringLiteral("TESLADRIVE"), loop}), 0);
-
-    DriveWatcher watcher;
-    const auto stream = watcher.events();
-    const QString path = base_ + QStringLiteral("/sdb1");
-    QDir().mkpath(path);
-    QCOMPARE(run(fuse, {loop, path}), 0);
-    mounted_ << path;
-    std::vector<DriveEvent> events = collect(*stream, base_, 1);
-    QCOMPARE(events.size(), size_t(1));
-    QCOMPARE(events[0].kind(), DriveEvent::mounted);
-    QCOMPARE(events[0].candidate().name, QStringLiteral("TESLADRIVE"));
-    QVERIFY(events[0].candidate().capacityBytes.has_value());
-
-    // Relabelled and mounted again under its new name, as a desktop does:
-    // the same device at a new place is a rename, and the old mount point
-    // is never reported.
-    QVERIFY(unmount(path));
-    mounted_.removeAll(path);
-    QCOMPARE(run(QStringLiteral("exfatlabel"), {loop, QStringLiteral("DASHCAM")}), 0);
-    const QString renamedPath = base_ + QStringLiteral("/DASHCAM");
-    QDir().mkpath(renamedPath);
-    QCOMPARE(run(fuse, {loop, renamedPath}), 0);
-    mounted_ << renamedPath;
-    events = collect(*stream, base_, 1);
-    QCOMPARE(events.size(), size_t(1));
-    QCOMPARE(events[0].kind(), DriveEvent::renamed);
-    QCOMPARE(events[0].candidate().name, QStringLiteral("DASHCAM"));
-    QCOMPARE(events[0].candidate().volumeURL, renamedPath);
-
-    // Pulled for good: the unmount comes once the drive had its chance to
-    // return, and nothing follows it.
-    QElapsedTimer clock;
-    clock.start();
-    QVERIFY(unmount(renamedPath));
-    mounted_.removeAll(renamedPath);
-    // Mounts elsewhere in the meantime (outside the removable-media
-    // folders) don't cut its moment short.
+    void cleanup()
     {
-        QTemporaryDir elsewhere;
-        if (::mount("tmpfs", QFile::encodeName(elsewhere.path()).constData(), "tmpfs", 0, "size=1m") == 0)
-            QVERIFY(unmount(elsewhere.path()));
+        for (auto it = mounted_.crbegin(); it != mounted_.crend(); ++it)
+            ::umount2(QFile::encodeName(*it).constData(), MNT_DETACH);
+        mounted_.clear();
+        for (const QString &loop : std::as_const(loopDevices_))
+            run(QStringLiteral("losetup"), {QStringLiteral("-d"), loop});
+        loopDevices_.clear();
+        if (!base_.isEmpty())
+            QDir(base_).removeRecursively();
     }
-    events = collect(*stream, base_, 1);
-    QCOMPARE(events.size(), size_t(1));
-    QCOMPARE(events[0], DriveEvent::makeUnmounted(renamedPath));
-    QVERIFY(clock.elapsed() >= DriveWatcher::renameWindow.count() - 100);
 
-    // Another drive arriving while one is held back: both, in order.
-    QCOMPARE(run(fuse, {loop, renamedPath}), 0);
-    mounted_ << renamedPath;
-    QCOMPARE(collect(*stream, base_, 1).size(), size_t(1));
-    QVERIFY(unmount(renamedPath));
-    mounted_.removeAll(renamedPath);
-    const QString other = mountTmpfs(QStringLiteral("OTHER"));
-    QVERIFY(!other.isEmpty());
-    events = collect(*stream, base_, 2);
-    QCOMPARE(events.size(), size_t(2));
-    QCOMPARE(events[0], DriveEvent::makeUnmounted(renamedPath));
-    QCOMPARE(events[1].kind(), DriveEvent::mounted);
-    QCOMPARE(events[1].candidate().volumeURL, other);
-}
+    void parsesRecordedMountinfo()
+    {
+        const std::vector<MountTable::Entry> table = MountTable::parse(recordedTable);
+        QCOMPARE(table.size(), size_t(12));
+        const MountTable::Entry &drive = table[4];
+        QCOMPARE(drive.mountID, 88);
+        QCOMPARE(drive.device, QStringLiteral("8:17"));
+        QCOMPARE(drive.mountPoint, QStringLiteral("/media/anna/TESLA DRIVE"));
+        QCOMPARE(drive.fileSystemType, QStringLiteral("fuseblk"));
+        QCOMPARE(drive.source, QStringLiteral("/dev/sdb1"));
+        // Optional fields (shared:, master:) don't shift the fields after "-".
+        QCOMPARE(table[5].fileSystemType, QStringLiteral("ext4"));
+        QCOMPARE(table[5].source, QStringLiteral("/dev/sdc1"));
+        QCOMPARE(table[1].mountPoint, QStringLiteral("/"));
 
-void TestDriveWatcher::finishedStreamStopsWatching()
-{
-    if (!canMount_)
-        QSKIP("Needs root to mount a tmpfs below /media.");
-    DriveWatcher watcher;
-    const auto stream = watcher.events();
-    QFuture<std::optional<DriveEvent>> waiting = stream->next();
-    stream->finish();
-    QVERIFY(waiting.isFinished());
-    QVERIFY(!waiting.result().has_value());
-    // A second watcher sees the next mount; the first, had it still been
-    // watching, would have queued its own report to this thread before.
-    DriveWatcher other;
-    const auto otherStream = other.events();
-    QFuture<std::optional<DriveEvent>> seen = otherStream->next();
-    QVERIFY(!mountTmpfs(QStringLiteral("AFTER")).isEmpty());
-    QTRY_VERIFY_WITH_TIMEOUT(seen.isFinished(), 20000);
-    QCOMPARE(seen.result()->kind(), DriveEvent::mounted);
-    QCOMPARE(stream->pendingCount(), 0);
-    // The same finished stream keeps being answered.
-    QCOMPARE(watcher.events(), stream);
-    QVERIFY(!stream->next().result().has_value());
-}
+        QVERIFY(MountTable::parse(QByteArray()).empty());
+        QVERIFY(MountTable::parse("garbage\n1 2 3\n- - -\n").empty());
+    }
+    void removableMountsOnlyBelowTheMediaFolders()
+    {
+        const std::vector<MountTable::Entry> removable = MountTable::removableMounts(MountTable::parse(recordedTable));
+        QStringList points;
+        for (const auto &e : removable)
+            points << e.mountPoint;
+        QCOMPARE(points, (QStringList{QStringLiteral("/media/anna/TESLA DRIVE"), QStringLiteral("/run/media/anna/BACKUP"),
+                                      QStringLiteral("/mnt/scratch")}));
+        // A later mount over the same point is the one that shows.
+        QCOMPARE(removable[2].mountID, 95);
+
+        // With only the system's own mounts there is nothing to offer.
+        const QByteArray systemOnly = "22 27 0:21 / /proc rw - proc proc rw\n27 1 254:0 / / rw - ext4 /dev/vda rw\n";
+        QVERIFY(MountTable::removableMounts(MountTable::parse(systemOnly)).empty());
+    }
+    void diffReportsMountsUnmountsAndRenames()
+    {
+        using C = MountTable::Change;
+        const auto a = entry(1, "0:40", "/media/A");
+        const auto b = entry(2, "0:41", "/media/B");
+        const auto c = entry(3, "0:42", "/media/C");
+
+        QVERIFY(MountTable::diff({a, b}, {a, b}).empty());
+        QCOMPARE(MountTable::diff({a}, {a, b}), (std::vector<C>{{C::mounted, "/media/B"}}));
+        QCOMPARE(MountTable::diff({a, b}, {b}), (std::vector<C>{{C::unmounted, "/media/A"}}));
+        // Unmounts come first, then mounts.
+        QCOMPARE(MountTable::diff({a}, {b, c}),
+                 (std::vector<C>{{C::unmounted, "/media/A"}, {C::mounted, "/media/B"}, {C::mounted, "/media/C"}}));
+        // Gone and back between two looks: both are reported, each once.
+        const auto aAgain = entry(7, "0:43", "/media/A");
+        QCOMPARE(MountTable::diff({a}, {aAgain}), (std::vector<C>{{C::unmounted, "/media/A"}, {C::mounted, "/media/A"}}));
+        // The same file system at a new mount point is a rename, and the old
+        // point is never reported.
+        const auto aMoved = entry(1, "0:40", "/media/A2");
+        QCOMPARE(MountTable::diff({a, b}, {b, aMoved}), (std::vector<C>{{C::renamed, "/media/A2"}}));
+        const auto aRelabelled = entry(9, "0:40", "/media/NEWNAME");
+        QCOMPARE(MountTable::diff({a}, {aRelabelled}), (std::vector<C>{{C::renamed, "/media/NEWNAME"}}));
+        // Another part of the same device is not the same volume.
+        const auto otherRoot = entry(10, "0:40", "/media/Z", "/sub");
+        QCOMPARE(MountTable::diff({a}, {otherRoot}),
+                 (std::vector<C>{{C::unmounted, "/media/A"}, {C::mounted, "/media/Z"}}));
+    }
+    void candidateOfAFolderThatIsNoMountPoint()
+    {
+        // A folder that isn't a mount point of its own: its figures can't be
+        // read, so they stay unknown, and it is still a candidate.
+        const QString folder = scratch_.filePath(QStringLiteral("PLAIN"));
+        QDir().mkpath(folder);
+        QFile file(folder + QStringLiteral("/TeslaCam"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.close();
+        auto c = DriveWatcher::volumeCandidate(folder);
+        QVERIFY(c.has_value());
+        QCOMPARE(c->volumeURL, folder);
+        QCOMPARE(c->id(), folder);
+        QCOMPARE(c->name, QStringLiteral("PLAIN"));
+        QVERIFY(!c->capacityBytes.has_value());
+        QVERIFY(!c->freeBytes.has_value());
+        // A file named TeslaCam is not the folder.
+        QVERIFY(!c->hasTeslaCamFolder);
+
+        QVERIFY(file.remove());
+        QVERIFY(QDir().mkpath(folder + QStringLiteral("/TeslaCam")));
+        QVERIFY(DriveWatcher::volumeCandidate(folder)->hasTeslaCamFolder);
+        QVERIFY(!DriveWatcher::volumeCandidate(QStringLiteral("relative/path")).has_value());
+    }
+
+    void realMountUnmountAndReturn()
+    {
+        if (!canMount_)
+            QSKIP("Needs root to mount a tmpfs below /media.");
+        DriveWatcher watcher;
+        const auto stream = watcher.events();
+        QCOMPARE(watcher.events(), stream); // one stream per watcher
+        // A reader that waits before anything happens gets the first event.
+        QFuture<std::optional<DriveEvent>> first = stream->next();
+
+        const QString path = mountTmpfs(QStringLiteral("USBSTICK"));
+        QVERIFY(!path.isEmpty());
+        QTRY_VERIFY_WITH_TIMEOUT(first.isFinished(), 5000);
+        const std::optional<DriveEvent> mounted = first.result();
+        QVERIFY(mounted.has_value());
+        QCOMPARE(mounted->kind(), DriveEvent::mounted);
+        QCOMPARE(mounted->candidate().volumeURL, path);
+        QCOMPARE(mounted->candidate().name, QStringLiteral("USBSTICK"));
+        QCOMPARE(mounted->candidate().capacityBytes, std::optional<qint64>(8 * 1024 * 1024));
+        QVERIFY(mounted->candidate().freeBytes.has_value());
+        QVERIFY(*mounted->candidate().freeBytes > 7 * 1024 * 1024);
+        QVERIFY(!mounted->candidate().hasTeslaCamFolder);
+
+        // It is listed among the mounted volumes.
+        QVERIFY(names(DriveWatcher::mountedTeslaCamVolumes()).contains(QStringLiteral("USBSTICK")));
+
+        // Away and back while the main thread is busy, its event loop not
+        // running: each reported once, in order. Only the watcher's own calls
+        // are let through, and the drive returns once the reader thread has seen
+        // it leave (back at once, it may get the same ids and look unchanged).
+        QVERIFY(unmount(path));
+        mounted_.removeAll(path);
+        std::vector<DriveEvent> away;
+        const QDeadlineTimer seen(20000);
+        while (away.empty() && !seen.hasExpired()) {
+            QThread::msleep(5); // the main thread's busy work
+            QCoreApplication::sendPostedEvents(&watcher, QEvent::MetaCall);
+            while (const auto e = stream->takeNext())
+                if (e->kind() == DriveEvent::unmounted && e->volumePath().startsWith(base_))
+                    away.push_back(*e);
+        }
+        QCOMPARE(away.size(), size_t(1));
+        QCOMPARE(away[0], DriveEvent::makeUnmounted(path));
+        QVERIFY(!mountTmpfs(QStringLiteral("USBSTICK"), QStringLiteral("4m")).isEmpty());
+        std::vector<DriveEvent> events = collect(*stream, base_, 1);
+        QCOMPARE(events.size(), size_t(1));
+        QCOMPARE(events[0].kind(), DriveEvent::mounted);
+        QCOMPARE(events[0].candidate().capacityBytes, std::optional<qint64>(4 * 1024 * 1024));
+
+        // Away with the loop running.
+        QVERIFY(unmount(path));
+        mounted_.removeAll(path);
+        events = collect(*stream, base_, 1);
+        QCOMPARE(events.size(), size_t(1));
+        QCOMPARE(events[0].kind(), DriveEvent::unmounted);
+        QCOMPARE(events[0].volumePath(), path);
+        QVERIFY(!names(DriveWatcher::mountedTeslaCamVolumes()).contains(QStringLiteral("USBSTICK")));
+    }
+    void realMoveIsARename()
+    {
+        if (!canMount_)
+            QSKIP("Needs root to mount a tmpfs below /media.");
+        const QString oldPath = mountTmpfs(QStringLiteral("OLDNAME"));
+        QVERIFY(!oldPath.isEmpty());
+        DriveWatcher watcher;
+        const auto stream = watcher.events();
+        QThread *deliveredOn = nullptr;
+        connect(stream.get(), &DriveEventStream::available, this, [&] { deliveredOn = QThread::currentThread(); });
+
+        const QString newPath = base_ + QStringLiteral("/NEWNAME");
+        QDir().mkpath(newPath);
+        QCOMPARE(::mount(QFile::encodeName(oldPath).constData(), QFile::encodeName(newPath).constData(), nullptr,
+                         MS_MOVE, nullptr),
+                 0);
+        mounted_.removeAll(oldPath);
+        mounted_ << newPath;
+        const std::vector<DriveEvent> events = collect(*stream, base_, 1);
+        QCOMPARE(events.size(), size_t(1));
+        QCOMPARE(events[0].kind(), DriveEvent::renamed);
+        QCOMPARE(events[0].candidate().volumeURL, newPath);
+        QCOMPARE(events[0].candidate().name, QStringLiteral("NEWNAME"));
+        QCOMPARE(deliveredOn, QCoreApplication::instance()->thread());
+    }
+    void realTeslaCamVolumeIsListedFirst()
+    {
+        if (!canMount_)
+            QSKIP("Needs root to mount a tmpfs below /media.");
+        QVERIFY(!mountTmpfs(QStringLiteral("aaa-plain")).isEmpty());
+        QVERIFY(!mountTmpfs(QStringLiteral("BBB-plain")).isEmpty());
+        const QString car = mountTmpfs(QStringLiteral("zzz-car"));
+        QVERIFY(!car.isEmpty());
+        QVERIFY(QDir().mkpath(car + QStringLiteral("/TeslaCam")));
+        const QString otherCar = mountTmpfs(QStringLiteral("CAR"));
+        QVERIFY(!otherCar.isEmpty());
+        QVERIFY(QDir().mkpath(otherCar + QStringLiteral("/TeslaCam")));
+        const QString fileOnly = mountTmpfs(QStringLiteral("yyy-file"));
+        QFile stray(fileOnly + QStringLiteral("/TeslaCam"));
+        QVERIFY(stray.open(QIODevice::WriteOnly));
+        stray.close();
+
+        QStringList ours;
+        for (const VolumeCandidate &c : DriveWatcher::mountedTeslaCamVolumes())
+            if (c.volumeURL.startsWith(base_))
+                ours << c.name + (c.hasTeslaCamFolder ? QStringLiteral("+") : QString());
+        // Drives with a TeslaCam folder first, then by plain text comparison:
+        // upper case sorts before lower case.
+        QCOMPARE(ours, (QStringList{"CAR+", "zzz-car+", "BBB-plain", "aaa-plain", "yyy-file"}));
+    }
+    void realExfatLabelAndRelabel()
+    {
+        if (!canMount_)
+            QSKIP("Needs root to mount below /media.");
+        const QString mkfs = QStandardPaths::findExecutable(QStringLiteral("mkfs.exfat"));
+        const QString fuse = QStandardPaths::findExecutable(QStringLiteral("mount.exfat-fuse"));
+        if (mkfs.isEmpty() || fuse.isEmpty() || !QFile::exists(QStringLiteral("/dev/fuse")))
+            QSKIP("Needs exfatprogs, exfat-fuse and /dev/fuse.");
+        const QString image = scratch_.filePath(QStringLiteral("drive.img"));
+        {
+            QFile img(image);
+            QVERIFY(img.open(QIODevice::WriteOnly));
+            QVERIFY(img.resize(16 * 1024 * 1024));
+        }
+        QProcess losetup;
+        losetup.start(QStringLiteral("losetup"), {QStringLiteral("-f"), QStringLiteral("--show"), image});
+        QVERIFY(losetup.waitForFinished(10000));
+        const QString loop = QString::fromUtf8(losetup.readAllStandardOutput()).trimmed();
+        if (losetup.exitCode() != 0 || loop.isEmpty())
+            QSKIP("No loop device available.");
+        loopDevices_ << loop;
+        QCOMPARE(run(mkfs, {QStringLiteral("-L"), QStringLiteral("TESLADRIVE"), loop}), 0);
+
+        DriveWatcher watcher;
+        const auto stream = watcher.events();
+        const QString path = base_ + QStringLiteral("/sdb1");
+        QDir().mkpath(path);
+        QCOMPARE(run(fuse, {loop, path}), 0);
+        mounted_ << path;
+        std::vector<DriveEvent> events = collect(*stream, base_, 1);
+        QCOMPARE(events.size(), size_t(1));
+        QCOMPARE(events[0].kind(), DriveEvent::mounted);
+        QCOMPARE(events[0].candidate().name, QStringLiteral("TESLADRIVE"));
+        QVERIFY(events[0].candidate().capacityBytes.has_value());
+
+        // Relabelled and mounted again under its new name, as a desktop does:
+        // the same device at a new place is a rename, and the old mount point
+        // is never reported.
+        QVERIFY(unmount(path));
+        mounted_.removeAll(path);
+        QCOMPARE(run(QStringLiteral("exfatlabel"), {loop, QStringLiteral("DASHCAM")}), 0);
+        const QString renamedPath = base_ + QStringLiteral("/DASHCAM");
+        QDir().mkpath(renamedPath);
+        QCOMPARE(run(fuse, {loop, renamedPath}), 0);
+        mounted_ << renamedPath;
+        events = collect(*stream, base_, 1);
+        QCOMPARE(events.size(), size_t(1));
+        QCOMPARE(events[0].kind(), DriveEvent::renamed);
+        QCOMPARE(events[0].candidate().name, QStringLiteral("DASHCAM"));
+        QCOMPARE(events[0].candidate().volumeURL, renamedPath);
+
+        // Pulled for good: the unmount comes once the drive had its chance to
+        // return, and nothing follows it.
+        QElapsedTimer clock;
+        clock.start();
+        QVERIFY(unmount(renamedPath));
+        mounted_.removeAll(renamedPath);
+        // Mounts elsewhere in the meantime (outside the removable-media
+        // folders) don't cut its moment short.
+        {
+            QTemporaryDir elsewhere;
+            if (::mount("tmpfs", QFile::encodeName(elsewhere.path()).constData(), "tmpfs", 0, "size=1m") == 0)
+                QVERIFY(unmount(elsewhere.path()));
+        }
+        events = collect(*stream, base_, 1);
+        QCOMPARE(events.size(), size_t(1));
+        QCOMPARE(events[0], DriveEvent::makeUnmounted(renamedPath));
+        QVERIFY(clock.elapsed() >= DriveWatcher::renameWindow.count() - 100);
+
+        // Another drive arriving while one is held back: both, in order.
+        QCOMPARE(run(fuse, {loop, renamedPath}), 0);
+        mounted_ << renamedPath;
+        QCOMPARE(collect(*stream, base_, 1).size(), size_t(1));
+        QVERIFY(unmount(renamedPath));
+        mounted_.removeAll(renamedPath);
+        const QString other = mountTmpfs(QStringLiteral("OTHER"));
+        QVERIFY(!other.isEmpty());
+        events = collect(*stream, base_, 2);
+        QCOMPARE(events.size(), size_t(2));
+        QCOMPARE(events[0], DriveEvent::makeUnmounted(renamedPath));
+        QCOMPARE(events[1].kind(), DriveEvent::mounted);
+        QCOMPARE(events[1].candidate().volumeURL, other);
+    }
+    void finishedStreamStopsWatching()
+    {
+        if (!canMount_)
+            QSKIP("Needs root to mount a tmpfs below /media.");
+        DriveWatcher watcher;
+        const auto stream = watcher.events();
+        QFuture<std::optional<DriveEvent>> waiting = stream->next();
+        stream->finish();
+        QVERIFY(waiting.isFinished());
+        QVERIFY(!waiting.result().has_value());
+        // A second watcher sees the next mount; the first, had it still been
+        // watching, would have queued its own report to this thread before.
+        DriveWatcher other;
+        const auto otherStream = other.events();
+        QFuture<std::optional<DriveEvent>> seen = otherStream->next();
+        QVERIFY(!mountTmpfs(QStringLiteral("AFTER")).isEmpty());
+        QTRY_VERIFY_WITH_TIMEOUT(seen.isFinished(), 20000);
+        QCOMPARE(seen.result()->kind(), DriveEvent::mounted);
+        QCOMPARE(stream->pendingCount(), 0);
+        // The same finished stream keeps being answered.
+        QCOMPARE(watcher.events(), stream);
+        QVERIFY(!stream->next().result().has_value());
+    }
+
+private:
+    // The watcher looks at a new volume for a moment (statvfs, blkid), and a
+    // FUSE volume can answer EBUSY meanwhile, as a desktop eject would retry.
+    static bool unmount(const QString &path)
+    {
+        const QDeadlineTimer limit(30000);
+        while (::umount2(QFile::encodeName(path).constData(), 0) != 0) {
+            if (errno != EBUSY || limit.hasExpired())
+                return false;
+            QThread::msleep(20); // between tries
+        }
+        return true;
+    }
+    // Mounts a small tmpfs at a fresh folder below /media; empty if not allowed.
+    QString mountTmpfs(const QString &name, const QString &size = QStringLiteral("8m"))
+    {
+        const QString path = base_ + QLatin1Char('/') + name;
+        QDir().mkpath(path);
+        const QByteArray options = "size=" + size.toLatin1();
+        if (::mount("tmpfs", QFile::encodeName(path).constData(), "tmpfs", 0, options.constData()) != 0)
+            return {};
+        mounted_ << path;
+        return path;
+    }
+    bool canMount_ = false;
+    QString base_;
+    QStringList mounted_;
+    QStringList loopDevices_;
+    QTemporaryDir scratch_;
+};
 
 QTEST_GUILESS_MAIN(TestDriveWatcher)
 #include "tst_drivewatcher.moc"

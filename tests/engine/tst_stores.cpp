@@ -55,236 +55,216 @@ class TestStores : public QObject {
 
 private Q_SLOTS:
 
-    void scanCacheRoundTripAcrossInstances();
-    void scanCacheCorruptFileReadsEmptyAndIsReplaced();
-    void scanCacheWritesTheWholeMapAndReadsItOnce();
-    void scanCacheWriteFailureIsSilent();
+    void scanCacheRoundTripAcrossInstances()
+    {
+        const QString file = dir_.filePath(QStringLiteral("roundtrip.json"));
+        const DriveScan scan = sampleScan(dir_.filePath(QStringLiteral("roundtrip-drive")));
+        QVERIFY(!scan.events.empty());
+        QVERIFY(!scan.issues.empty());
+        {
+            ScanCache first(file);
+            first.store(scan, QStringLiteral("UNTITLED|-1")).waitForFinished();
+        }
+        // Compact JSON, keyed by the drive key, dates as plain numbers.
+        const QByteArray bytes = DriveBuilder::readQuietly(file);
+        QVERIFY(!bytes.contains('\n'));
+        const QJsonObject root = readObject(file);
+        QCOMPARE(root.keys(), QStringList{QStringLiteral("UNTITLED|-1")});
+        QCOMPARE(root.value(QStringLiteral("UNTITLED|-1")).toObject().value(QStringLiteral("scannedAt")).toDouble(),
+                 739000000.123456789);
 
-    void triageSurvivesIntoAnotherProcess();
-    void triageUnknownValueEmptiesTheStore();
-    void triageAllStatesIsASnapshot();
-    void triageCallsFromManyThreadsAreSerialised();
+        ScanCache second(file);
+        const std::optional<DriveScan> back = second.cached(QStringLiteral("UNTITLED|-1")).result();
+        QVERIFY(back.has_value());
+        QVERIFY(*back == scan);
+        QVERIFY(!second.cached(QStringLiteral("OTHER|-1")).result().has_value());
+    }
+    void scanCacheCorruptFileReadsEmptyAndIsReplaced()
+    {
+        const QString file = dir_.filePath(QStringLiteral("corrupt.json"));
+        const DriveScan scan = sampleScan(dir_.filePath(QStringLiteral("corrupt-drive")));
+        // Valid JSON, but one entry isn't a scan: the whole file counts as damaged.
+        TeslaCamFixture::writeFile(file, R"({"A|1":{"volumeName":"A"},"B|2":42})");
+        {
+            ScanCache cache(file);
+            QVERIFY(!cache.cached(QStringLiteral("A|1")).result().has_value());
+            cache.store(scan, QStringLiteral("C|3")).waitForFinished();
+        }
+        QCOMPARE(readObject(file).keys(), QStringList{QStringLiteral("C|3")});
 
-    void bookmarkKeysRoundTripAndClearApart();
-    void bookmarkOfAGoneFolderOrGarbageIsStale();
+        TeslaCamFixture::writeFile(file, "\x00\xff not json at all");
+        ScanCache again(file);
+        QVERIFY(!again.cached(QStringLiteral("C|3")).result().has_value());
+        again.store(scan, QStringLiteral("D|4")).waitForFinished();
+        QCOMPARE(readObject(file).keys(), QStringList{QStringLiteral("D|4")});
+    }
+    // Every store and invalidation rewrites the whole map, even when the key is
+    // unknown; a first lookup writes nothing; the file is read once per instance.
+    void scanCacheWritesTheWholeMapAndReadsItOnce()
+    {
+        const QString file = dir_.filePath(QStringLiteral("map.json"));
+        const DriveScan scan = sampleScan(dir_.filePath(QStringLiteral("map-drive")));
+        DriveScan later = scan;
+        later.volumeName = QStringLiteral("LATER");
+        later.events.clear();
+        ScanCache cache(file);
+        QVERIFY(!cache.cached(QStringLiteral("X|1")).result().has_value());
+        QVERIFY(!QFile::exists(file));
+        cache.store(scan, QStringLiteral("A|1"));
+        cache.store(scan, QStringLiteral("B|2"));
+        cache.store(later, QStringLiteral("B|2")).waitForFinished();
+        QVERIFY(QFile::remove(file));
+        cache.invalidate(QStringLiteral("nobody|0")).waitForFinished();
+        QCOMPARE(readObject(file).keys(), (QStringList{QStringLiteral("A|1"), QStringLiteral("B|2")}));
+        cache.invalidate(QStringLiteral("A|1")).waitForFinished();
+        QCOMPARE(readObject(file).keys(), QStringList{QStringLiteral("B|2")});
+        QVERIFY(!cache.cached(QStringLiteral("A|1")).result().has_value());
+
+        ScanCache reader(file);
+        QCOMPARE(reader.cached(QStringLiteral("B|2")).result()->volumeName, QStringLiteral("LATER"));
+        // Another writer changes the file behind this instance's back: this
+        // process keeps what it loaded.
+        TeslaCamFixture::writeFile(file, "{}");
+        QVERIFY(reader.cached(QStringLiteral("B|2")).result().has_value());
+    }
+    void scanCacheWriteFailureIsSilent()
+    {
+        // A file path whose folder is a plain file can never be written.
+        const QString blocker = dir_.filePath(QStringLiteral("blocker"));
+        TeslaCamFixture::writeFile(blocker, "x");
+        const QString file = blocker + QStringLiteral("/scan-cache.json");
+        const DriveScan scan = sampleScan(dir_.filePath(QStringLiteral("silent-drive")));
+        ScanCache cache(file);
+        cache.store(scan, QStringLiteral("A|1")).waitForFinished();
+        cache.invalidate(QStringLiteral("B|1")).waitForFinished();
+        // The change stays in memory for the life of the process.
+        QVERIFY(cache.cached(QStringLiteral("A|1")).result().has_value());
+        QVERIFY(!QFile::exists(file));
+    }
+
+    void triageSurvivesIntoAnotherProcess()
+    {
+        // The child process uses the shared store on the default file of this
+        // same isolated home, as the application does.
+        const QString file = TriageStore::shared().filePath();
+        QFile::remove(file);
+        QProcess child;
+        child.start(QCoreApplication::applicationFilePath(),
+                    {QStringLiteral("--set-triage"), QStringLiteral("saved|2024-06-01_15-05-30"), QStringLiteral("kept"),
+                     QStringLiteral("sentry|2024-06-02_08-00-00"), QStringLiteral("new")});
+        QVERIFY(child.waitForFinished(30000));
+        QCOMPARE(child.exitCode(), 0);
+
+        const QJsonObject root = readObject(file);
+        QCOMPARE(root.value(QStringLiteral("saved|2024-06-01_15-05-30")).toString(), QStringLiteral("kept"));
+        // `new` is stored like any other state, not dropped.
+        QCOMPARE(root.value(QStringLiteral("sentry|2024-06-02_08-00-00")).toString(), QStringLiteral("new"));
+
+        TriageStore reader(file);
+        const TriageStore::States states = reader.allStates().result();
+        QCOMPARE(states.size(), 2);
+        QCOMPARE(states.value(QStringLiteral("saved|2024-06-01_15-05-30")), TriageState::kept);
+        QCOMPARE(reader.state(QStringLiteral("saved|2024-06-01_15-05-30")).result(), TriageState::kept);
+    }
+    void triageUnknownValueEmptiesTheStore()
+    {
+        const QString file = dir_.filePath(QStringLiteral("triage-bad.json"));
+        TeslaCamFixture::writeFile(file, R"({"sentry|a":"kept","sentry|b":"archived","saved|c":"dismissed"})");
+        {
+            TriageStore store(file);
+            QCOMPARE(store.state(QStringLiteral("sentry|a")).result(), TriageState::new_);
+            QVERIFY(store.allStates().result().isEmpty());
+            store.set(TriageState::reviewed, QStringLiteral("recent|d")).waitForFinished();
+        }
+        // The old marks are gone for good: only what this process set remains.
+        const QJsonObject root = readObject(file);
+        QCOMPARE(root.keys(), QStringList{QStringLiteral("recent|d")});
+        QCOMPARE(root.value(QStringLiteral("recent|d")).toString(), QStringLiteral("reviewed"));
+
+        // A value of the wrong type spoils the file just the same.
+        TeslaCamFixture::writeFile(file, R"({"sentry|a":"kept","sentry|b":1})");
+        TriageStore other(file);
+        QVERIFY(other.allStates().result().isEmpty());
+    }
+    void triageAllStatesIsASnapshot()
+    {
+        TriageStore store(dir_.filePath(QStringLiteral("triage-snap.json")));
+        store.set(TriageState::kept, QStringLiteral("a"));
+        const TriageStore::States before = store.allStates().result();
+        store.set(TriageState::dismissed, QStringLiteral("a"));
+        store.set(TriageState::reviewed, QStringLiteral("b"));
+        QCOMPARE(before.size(), 1);
+        QCOMPARE(before.value(QStringLiteral("a")), TriageState::kept);
+        QCOMPARE(store.allStates().result().value(QStringLiteral("a")), TriageState::dismissed);
+    }
+    void triageCallsFromManyThreadsAreSerialised()
+    {
+        const QString file = dir_.filePath(QStringLiteral("triage-many.json"));
+        TriageStore store(file);
+        QList<QFuture<void>> writers;
+        for (int t = 0; t < 8; ++t) {
+            writers.append(QtConcurrent::run([&store, t] {
+                for (int i = 0; i < 50; ++i)
+                    store.set(TriageState::allCases()[size_t(i % 4)], QStringLiteral("e%1-%2").arg(t).arg(i));
+            }));
+        }
+        for (auto &w : writers)
+            w.waitForFinished();
+        QCOMPARE(store.allStates().result().size(), 400);
+        QCOMPARE(readObject(file).size(), 400);
+        QCOMPARE(TriageStore(file).state(QStringLiteral("e3-6")).result(), TriageState::kept);
+    }
+
+    void bookmarkKeysRoundTripAndClearApart()
+    {
+        const QString drive = dir_.filePath(QStringLiteral("drive/TeslaCam"));
+        const QString vault = dir_.filePath(QStringLiteral("k-vault"));
+        QVERIFY(QDir().mkpath(drive));
+        QVERIFY(QDir().mkpath(vault));
+        BookmarkStore::save(drive + QStringLiteral("/"), BookmarkKey::teslaDrive);
+        BookmarkStore::save(vault, BookmarkKey::vaultFolder);
+        QCOMPARE(std::get<QString>(BookmarkStore::resolve(BookmarkKey::teslaDrive)), drive);
+        QCOMPARE(std::get<QString>(BookmarkStore::resolve(BookmarkKey::vaultFolder)), vault);
+        BookmarkStore::clear(BookmarkKey::vaultFolder);
+        QCOMPARE(std::get<QString>(BookmarkStore::resolve(BookmarkKey::teslaDrive)), drive);
+        QCOMPARE(std::get<BookmarkError>(BookmarkStore::resolve(BookmarkKey::vaultFolder)).errorCase(),
+                 BookmarkError::notFound);
+
+        // A folder that isn't there is never saved.
+        QVERIFY_THROWS_EXCEPTION(BookmarkStore::StoreError,
+                                 BookmarkStore::save(dir_.filePath(QStringLiteral("nowhere")), BookmarkKey::vaultFolder));
+        QCOMPARE(std::get<BookmarkError>(BookmarkStore::resolve(BookmarkKey::vaultFolder)).errorCase(),
+                 BookmarkError::notFound);
+    }
+    void bookmarkOfAGoneFolderOrGarbageIsStale()
+    {
+        const QString folder = dir_.filePath(QStringLiteral("gone"));
+        QVERIFY(QDir().mkpath(folder));
+        BookmarkStore::save(folder, BookmarkKey::vaultFolder);
+        QVERIFY(QDir(folder).removeRecursively());
+        QCOMPARE(std::get<BookmarkError>(BookmarkStore::resolve(BookmarkKey::vaultFolder)).errorCase(),
+                 BookmarkError::stale);
+        // A file where the folder was is no better. Stale is not repaired.
+        TeslaCamFixture::writeFile(folder, "not a folder");
+        QCOMPARE(std::get<BookmarkError>(BookmarkStore::resolve(BookmarkKey::vaultFolder)).errorCase(),
+                 BookmarkError::stale);
+        QSettings settings(QStringLiteral("Keelhold"), QStringLiteral("Keelhold"));
+        QCOMPARE(settings.value(BookmarkStore::settingsKey(BookmarkKey::vaultFolder)).toString(), folder);
+
+        const QString key = BookmarkStore::settingsKey(BookmarkKey::teslaDrive);
+        for (const QVariant &value : {QVariant(QByteArray("\x01\x02bookmark-bytes")), QVariant(42),
+                                      QVariant(QStringLiteral("relative/path")), QVariant(QStringList{"/", "/tmp"})}) {
+            settings.setValue(key, value);
+            settings.sync();
+            const BookmarkResult result = BookmarkStore::resolve(BookmarkKey::teslaDrive);
+            QVERIFY2(std::holds_alternative<BookmarkError>(result), qPrintable(value.toString()));
+            QCOMPARE(std::get<BookmarkError>(result).errorCase(), BookmarkError::stale);
+        }
+    }
 
 private:
     QTemporaryDir dir_;
 };
-
-void TestStores::scanCacheRoundTripAcrossInstances()
-{
-    const QString file = dir_.filePath(QStringLiteral("roundtrip.json"));
-    const DriveScan scan = sampleScan(dir_.filePath(QStringLiteral("roundtrip-drive")));
-    QVERIFY(!scan.events.empty());
-    QVERIFY(!scan.issues.empty());
-    {
-        ScanCache first(file);
-        first.store(scan, QStringLiteral("UNTITLED|-1")).waitForFinished();
-    }
-    // Compact JSON, keyed by the drive key, dates as plain numbers.
-    const QByteArray bytes = DriveBuilder::readQuietly(file);
-    QVERIFY(!bytes.contains('\n'));
-    const QJsonObject root = readObject(file);
-    QCOMPARE(root.keys(), QStringList{QStringLiteral("UNTITLED|-1")});
-    QCOMPARE(root.value(QStringLiteral("UNTITLED|-1")).toObject().value(QStringLiteral("scannedAt")).toDouble(),
-             739000000.123456789);
-
-    ScanCache second(file);
-    const std::optional<DriveScan> back = second.cached(QStringLiteral("UNTITLED|-1")).result();
-    QVERIFY(back.has_value());
-    QVERIFY(*back == scan);
-    QVERIFY(!second.cached(QStringLiteral("OTHER|-1")).result().has_value());
-}
-
-void TestStores::scanCacheCorruptFileReadsEmptyAndIsReplaced()
-{
-    const QString file = dir_.filePath(QStringLiteral("corrupt.json"));
-    const DriveScan scan = sampleScan(dir_.filePath(QStringLiteral("corrupt-drive")));
-    // Valid JSON, but one entry isn't a scan: the whole file counts as damaged.
-    TeslaCamFixture::writeFile(file, R"({"A|1":{"volumeName":"A"},"B|2":42})");
-    {
-        ScanCache cache(file);
-        QVERIFY(!cache.cached(QStringLiteral("A|1")).result().has_value());
-        cache.store(scan, QStringLiteral("C|3")).waitForFinished();
-    }
-    QCOMPARE(readObject(file).keys(), QStringList{QStringLiteral("C|3")});
-
-    TeslaCamFixture::writeFile(file, "\x00\xff not json at all");
-    ScanCache again(file);
-    QVERIFY(!again.cached(QStringLiteral("C|3")).result().has_value());
-    again.store(scan, QStringLiteral("D|4")).waitForFinished();
-    QCOMPARE(readObject(file).keys(), QStringList{QStringLiteral("D|4")});
-}
-
-// Every store and invalidation rewrites the whole map, even when the key is
-// unknown; a first lookup writes nothing; the file is read once per instance.
-void TestStores::scanCacheWritesTheWholeMapAndReadsItOnce()
-{
-    const QString file = dir_.filePath(QStringLiteral("map.json"));
-    const DriveScan scan = sampleScan(dir_.filePath(QStringLiteral("map-drive")));
-    DriveScan later = scan;
-    later.volumeName = QStringLiteral("LATER");
-    later.events.clear();
-    ScanCache cache(file);
-    QVERIFY(!cache.cached(QStringLiteral("X|1")).result().has_value());
-    QVERIFY(!QFile::exists(file));
-    cache.store(scan, QStringLiteral("A|1"));
-    cache.store(scan, QStringLiteral("B|2"));
-    cache.store(later, QStringLiteral("B|2")).waitForFinished();
-    QVERIFY(QFile::remove(file));
-    cache.invalidate(QStringLiteral("nobody|0")).waitForFinished();
-    QCOMPARE(readObject(file).keys(), (QStringList{QStringLiteral("A|1"), QStringLiteral("B|2")}));
-    cache.invalidate(QStringLiteral("A|1")).waitForFinished();
-    QCOMPARE(readObject(file).keys(), QStringList{QStringLiteral("B|2")});
-    QVERIFY(!cache.cached(QStringLiteral("A|1")).result().has_value());
-
-    ScanCache reader(file);
-    QCOMPARE(reader.cached(QStringLiteral("B|2")).result()->volumeName, QStringLiteral("LATER"));
-    // Another writer changes the file behind this instance's back: this
-    // process keeps what it loaded.
-    TeslaCamFixture::writeFile(file, "{}");
-    QVERIFY(reader.cached(QStringLiteral("B|2")).result().has_value());
-}
-
-void TestStores::scanCacheWriteFailureIsSilent()
-{
-    // A file path whose folder is a plain file can never be written.
-    const QString blocker = dir_.filePath(QStringLiteral("blocker"));
-    TeslaCamFixture::writeFile(blocker, "x");
-    const QString file = blocker + QStringLiteral("/scan-cache.json");
-    const DriveScan scan = sampleScan(dir_.filePath(QStringLiteral("silent-drive")));
-    ScanCache cache(file);
-    cache.store(scan, QStringLiteral("A|1")).waitForFinished();
-    cache.invalidate(QStringLiteral("B|1")).waitForFinished();
-    // The change stays in memory for the life of the process.
-    QVERIFY(cache.cached(QStringLiteral("A|1")).result().has_value());
-    QVERIFY(!QFile::exists(file));
-}
-
-void TestStores::triageSurvivesIntoAnotherProcess()
-{
-    // The child process uses the shared store on the default file of this
-    // same isolated home, as the application does.
-    const QString file = TriageStore::shared().filePath();
-    QFile::remove(file);
-    QProcess child;
-    child.start(QCoreApplication::applicationFilePath(),
-                {QStringLiteral("--set-triage"), QStringLiteral("saved|2024-06-01_15-05-30"), QStringLiteral("kept"),
-                 QStringLiteral("sentry|2024-06-02_08-00-00"), QStringLiteral("new")});
-    QVERIFY(child.waitForFinished(30000));
-    QCOMPARE(child.exitCode(), 0);
-
-    const QJsonObject root = readObject(file);
-    QCOMPARE(root.value(QStringLiteral("saved|2024-06-01_15-05-30")).toString(), QStringLiteral("kept"));
-    // `new` is stored like any other state, not dropped.
-    QCOMPARE(root.value(QStringLiteral("sentry|2024-06-02_08-00-00")).toString(), QStringLiteral("new"));
-
-    TriageStore reader(file);
-    const TriageStore::States states = reader.allStates().result();
-    QCOMPARE(states.size(), 2);
-    QCOMPARE(states.value(QStringLiteral("saved|2024-06-01_15-05-30")), TriageState::kept);
-    QCOMPARE(reader.state(QStringLiteral("saved|2024-06-01_15-05-30")).result(), TriageState::kept);
-}
-
-void TestStores::triageUnknownValueEmptiesTheStore()
-{
-    const QString file = dir_.filePath(QStringLiteral("triage-bad.json"));
-    TeslaCamFixture::writeFile(file, R"({"sentry|a":"kept","sentry|b":"archived","saved|c":"dismissed"})");
-    {
-        TriageStore store(file);
-        QCOMPARE(store.state(QStringLiteral("sentry|a")).result(), TriageState::new_);
-        QVERIFY(store.allStates().result().isEmpty());
-        store.set(TriageState::reviewed, QStringLiteral("recent|d")).waitForFinished();
-    }
-    // The old marks are gone for good: only what this process set remains.
-    const QJsonObject root = readObject(file);
-    QCOMPARE(root.keys(), QStringList{QStringLiteral("recent|d")});
-    QCOMPARE(root.value(QStringLiteral("recent|d")).toString(), QStringLiteral("reviewed"));
-
-    // A value of the wrong type spoils the file just the same.
-    TeslaCamFixture::writeFile(file, R"({"sentry|a":"kept","sentry|b":1})");
-    TriageStore other(file);
-    QVERIFY(other.allStates().result().isEmpty());
-}
-
-void TestStores::triageAllStatesIsASnapshot()
-{
-    TriageStore store(dir_.filePath(QStringLiteral("triage-snap.json")));
-    store.set(TriageState::kept, QStringLiteral("a"));
-    const TriageStore::States before = store.allStates().result();
-    store.set(TriageState::dismissed, QStringLiteral("a"));
-    store.set(TriageState::reviewed, QStringLiteral("b"));
-    QCOMPARE(before.size(), 1);
-    QCOMPARE(before.value(QStringLiteral("a")), TriageState::kept);
-    QCOMPARE(store.allStates().result().value(QStringLiteral("a")), TriageState::dismissed);
-}
-
-void TestStores::triageCallsFromManyThreadsAreSerialised()
-{
-    const QString file = dir_.filePath(QStringLiteral("triage-many.json"));
-    TriageStore store(file);
-    QList<QFuture<void>> writers;
-    for (int t = 0; t < 8; ++t) {
-        writers.append(QtConcurrent::run([&store, t] {
-            for (int i = 0; i < 50; ++i)
-                store.set(TriageState::allCases()[size_t(i % 4)], QStringLiteral("e%1-%2").arg(t).arg(i));
-        }));
-    }
-    for (auto &w : writers)
-        w.waitForFinished();
-    QCOMPARE(store.allStates().result().size(), 400);
-    QCOMPARE(readObject(file).size(), 400);
-    QCOMPARE(TriageStore(file).state(QStringLiteral("e3-6")).result(), TriageState::kept);
-}
-
-void TestStores::bookmarkKeysRoundTripAndClearApart()
-{
-    const QString drive = dir_.filePath(QStringLiteral("drive/TeslaCam"));
-    const QString vault = dir_.filePath(QStringLiteral("k-vault"));
-    QVERIFY(QDir().mkpath(drive));
-    QVERIFY(QDir().mkpath(vault));
-    BookmarkStore::save(drive + QStringLiteral("/"), BookmarkKey::teslaDrive);
-    BookmarkStore::save(vault, BookmarkKey::vaultFolder);
-    QCOMPARE(std::get<QString>(BookmarkStore::resolve(BookmarkKey::teslaDrive)), drive);
-    QCOMPARE(std::get<QString>(BookmarkStore::resolve(BookmarkKey::vaultFolder)), vault);
-    BookmarkStore::clear(BookmarkKey::vaultFolder);
-    QCOMPARE(std::get<QString>(BookmarkStore::resolve(BookmarkKey::teslaDrive)), drive);
-    QCOMPARE(std::get<BookmarkError>(BookmarkStore::resolve(BookmarkKey::vaultFolder)).errorCase(),
-             BookmarkError::notFound);
-
-    // A folder that isn't there is never saved.
-    QVERIFY_THROWS_EXCEPTION(BookmarkStore::StoreError,
-                             BookmarkStore::save(dir_.filePath(QStringLiteral("nowhere")), BookmarkKey::vaultFolder));
-    QCOMPARE(std::get<BookmarkError>(BookmarkStore::resolve(BookmarkKey::vaultFolder)).errorCase(),
-             BookmarkError::notFound);
-}
-
-void TestStores::bookmarkOfAGoneFolderOrGarbageIsStale()
-{
-    const QString folder = dir_.filePath(QStringLiteral("gone"));
-    QVERIFY(QDir().mkpath(folder));
-    BookmarkStore::save(folder, BookmarkKey::vaultFolder);
-    QVERIFY(QDir(folder).removeRecursively());
-    QCOMPARE(std::get<BookmarkError>(BookmarkStore::resolve(BookmarkKey::vaultFolder)).errorCase(),
-             BookmarkError::stale);
-    // A file where the folder was is no better. Stale is not repaired.
-    TeslaCamFixture::writeFile(folder, "not a folder");
-    QCOMPARE(std::get<BookmarkError>(BookmarkStore::resolve(BookmarkKey::vaultFolder)).errorCase(),
-             BookmarkError::stale);
-    QSettings settings(QStringLiteral("Keelhold"), QStringLiteral("Keelhold"));
-    QCOMPARE(settings.value(BookmarkStore::settingsKey(BookmarkKey::vaultFolder)).toString(), folder);
-
-    const QString key = BookmarkStore::settingsKey(BookmarkKey::teslaDrive);
-    for (const QVariant &value : {QVariant(QByteArray("\x01\x02bookmark-bytes")), QVariant(42),
-                                  QVariant(QStringLiteral("relative/path")), QVariant(QStringList{"/", "/tmp"})}) {
-        settings.setValue(key, value);
-        settings.sync();
-        const BookmarkResult result = BookmarkStore::resolve(BookmarkKey::teslaDrive);
-        QVERIFY2(std::holds_alternative<BookmarkError>(result), qPrintable(value.toString()));
-        QCOMPARE(std::get<BookmarkError>(result).errorCase(), BookmarkError::stale);
-    }
-}
 
 int main(int argc, char **argv)
 {

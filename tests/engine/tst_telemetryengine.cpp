@@ -91,11 +91,7 @@ private Q_SLOTS:
     // load at once, without waiting for the clip's time limit.
     void cancellingStopsAStuckLoad()
     {
-        if (!FaultyFs::available())
-            QSKIP("needs root and /dev/fuse");
-        QTemporaryDir mountPoint;
-        FaultyFs fs(mountPoint.path());
-        QVERIFY(fs.isMounted());
+        KEELHOLD_FAULTY_FS(fs, mountPoint);
         const QString held = fs.addHeldFile(
             QStringLiteral("TeslaCam/SavedClips/2024-06-05_10-00-00/2024-06-05_09-59-00-front.mp4"),
             QByteArray(100000, 'x'));

@@ -703,11 +703,7 @@ private Q_SLOTS:
     // is whole.
     void aReadThatNeverAnswersCostsOnlyItsClip()
     {
-        if (!FaultyFs::available())
-            QSKIP("needs FUSE");
-        QTemporaryDir mountPoint;
-        FaultyFs fs(mountPoint.path());
-        QVERIFY(fs.isMounted());
+        KEELHOLD_FAULTY_FS(fs, mountPoint);
         const auto releaseAtEnd = qScopeGuard([&] { fs.release(); });
         EventFootage footage;
         footage.add(Camera::front, colourClip(Camera::front, 8.0, 30), 0);
@@ -749,45 +745,28 @@ private Q_SLOTS:
     // left behind, and nothing is left of the movie.
     void stopWhileTheDriveHoldsAReadLeavesNothing()
     {
-        if (!FaultyFs::available())
-            QSKIP("needs FUSE");
-        QTemporaryDir mountPoint;
-        FaultyFs fs(mountPoint.path());
-        QVERIFY(fs.isMounted());
+        KEELHOLD_FAULTY_FS(fs, mountPoint);
         EventFootage footage;
         footage.add(Camera::back, colourClip(Camera::back, 8.0), 0);
         const QByteArray bytes = HeldClip::indexFirst(8.0, fps);
         QVERIFY(bytes.size() > 1024 * 1024);
         footage.place(Camera::front, HeldClip::add(fs, QStringLiteral("front.mp4"), bytes, bytes.size() * 6 / 10), 0);
 
-        std::stop_source stop;
+        const auto releaseAtEnd = qScopeGuard([&] { fs.release(); });
         std::atomic<bool> begun{false};
-        std::atomic<bool> ended{false};
-        std::exception_ptr error;
-        std::thread worker([&] {
-            try {
-                CombinedExport::exportMovie(
-                    footage.event, optionsFor(Layout::grid), footage.output(),
-                    [&](const CombinedExportProgress &) { begun = true; }, stop.get_token());
-            } catch (...) {
-                error = std::current_exception();
-            }
-            ended = true;
-        });
-        // Whatever fails below, the export is stopped and its thread joined.
-        const auto cleanUp = qScopeGuard([&] {
-            stop.request_stop();
-            worker.join();
-            fs.release();
+        ExportThread worker([&](std::stop_token stop) {
+            CombinedExport::exportMovie(
+                footage.event, optionsFor(Layout::grid), footage.output(),
+                [&](const CombinedExportProgress &) { begun = true; }, stop);
         });
         // Reading runs ahead of the movie, so the hold may come before the
         // first frame is written or after; the stop comes once both have.
         QVERIFY(fs.waitUntilHeld());
         QTRY_VERIFY_WITH_TIMEOUT(begun.load(), 20000);
-        stop.request_stop(); // the drive never answers
-        QTRY_VERIFY_WITH_TIMEOUT(ended.load(), 5000);
-        QVERIFY(error);
-        QCOMPARE(exportErrorOf([&] { std::rethrow_exception(error); }), std::optional(ExportError::cancelled));
+        worker.stop.request_stop(); // the drive never answers
+        QTRY_VERIFY_WITH_TIMEOUT(worker.ended.load(), 5000);
+        QVERIFY(worker.error);
+        QCOMPARE(exportErrorOf([&] { std::rethrow_exception(worker.error); }), std::optional(ExportError::cancelled));
         QCOMPARE(everythingIn(footage.outputs()), QStringList());
         QCOMPARE(fs.heldRequests(), 1);
     }

@@ -477,11 +477,7 @@ private Q_SLOTS:
     // the moment: nothing of the event's start is read or shown first.
     void opensAtTheIntendedStartFirst()
     {
-        if (!FaultyFs::available())
-            QSKIP("needs root and /dev/fuse");
-        QTemporaryDir mount;
-        FaultyFs fs(mount.path());
-        QVERIFY(fs.isMounted());
+        KEELHOLD_FAULTY_FS(fs, mount);
         EventBuilder b(mount.path(), 16.5);
         const std::vector<Camera> cameras{Camera::front, Camera::back};
         for (Camera camera : cameras)

@@ -269,11 +269,7 @@ private Q_SLOTS:
 
     void playerOnAHangingFileIsNeverReady()
     {
-        if (!FaultyFs::available())
-            QSKIP("needs root and /dev/fuse");
-        QTemporaryDir mountPoint;
-        FaultyFs fs(mountPoint.path());
-        QVERIFY(fs.isMounted());
+        KEELHOLD_FAULTY_FS(fs, mountPoint);
         const QString held = fs.addHeldFile(QStringLiteral("hang.mp4"), QByteArray(64 * 1024, 'x'));
         {
             const Composition c = oneClip(held, 3);
@@ -300,11 +296,7 @@ private Q_SLOTS:
     // waits for the stuck worker, which ends by itself once the read does.
     void stoppedPlayerOnAHangingFileGoesAtOnce()
     {
-        if (!FaultyFs::available())
-            QSKIP("needs root and /dev/fuse");
-        QTemporaryDir mountPoint;
-        FaultyFs fs(mountPoint.path());
-        QVERIFY(fs.isMounted());
+        KEELHOLD_FAULTY_FS(fs, mountPoint);
         const QString held = fs.addHeldFile(QStringLiteral("hang-stopped.mp4"), QByteArray(64 * 1024, 'x'));
         const Composition c = oneClip(held, 3);
         auto *player = new TrackPlayer(c);

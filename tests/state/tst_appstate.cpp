@@ -406,11 +406,8 @@ private Q_SLOTS:
     // and its report says why it stopped short.
     void cancelWhilePausedEndsWithWhatWasDone()
     {
-        if (!FaultyFs::available())
-            QSKIP("needs root and /dev/fuse");
-        QTemporaryDir mountPoint, vault;
-        FaultyFs fs(mountPoint.path());
-        QVERIFY(fs.isMounted());
+        KEELHOLD_FAULTY_FS(fs, mountPoint);
+        QTemporaryDir vault;
         for (const QString &name : {QStringLiteral("2026-07-18_09-15-32"), QStringLiteral("2026-07-17_09-15-32")})
             for (const QString &clip : DriveBuilder::clipNames(name, 2))
                 fs.addFile(QStringLiteral("TeslaCam/SentryClips/") + name + QLatin1Char('/') + clip,

@@ -5,7 +5,11 @@
 
 #include <QTemporaryDir>
 
+#include <atomic>
+#include <exception>
 #include <optional>
+#include <stop_token>
+#include <thread>
 
 // One Sentry event's footage in a TeslaCam folder of a temporary drive, as the
 // car names it; each clip starts where the test says, in seconds from the
@@ -48,3 +52,31 @@ std::optional<Exporter::ExportError::Case> exportErrorOf(F &&f)
     }
     return std::nullopt;
 }
+
+// An export on a thread of its own, for a test to stop while the drive holds
+// one of its reads; stopped and joined when it goes.
+struct ExportThread {
+    std::stop_source stop;
+    std::exception_ptr error;
+    std::atomic<bool> ended{false};
+    std::thread thread;
+
+    template <typename F>
+    explicit ExportThread(F work)
+        : thread([this, work] {
+              try {
+                  work(stop.get_token());
+              } catch (...) {
+                  error = std::current_exception();
+              }
+              ended = true;
+          })
+    {
+    }
+    ~ExportThread()
+    {
+        stop.request_stop();
+        if (thread.joinable())
+            thread.join();
+    }
+};

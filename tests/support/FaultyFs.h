@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QTemporaryDir>
 #include <chrono>
 #include <memory>
 
@@ -64,3 +65,12 @@ public:
 private:
     std::unique_ptr<State> state_;
 };
+
+// In a test function: skips it where FUSE can't be had, else mounts `fs` on
+// a fresh temporary folder `mountPoint`.
+#define KEELHOLD_FAULTY_FS(fs, mountPoint)                                                                             \
+    if (!FaultyFs::available())                                                                                        \
+        QSKIP("needs root and /dev/fuse");                                                                             \
+    QTemporaryDir mountPoint;                                                                                          \
+    FaultyFs fs(mountPoint.path());                                                                                    \
+    QVERIFY(fs.isMounted())

@@ -53,6 +53,36 @@ public:
         return nullptr;
     }
 
+    // Every item under root, root first; from the content item that takes
+    // in open popups (the overlay is its child).
+    static QList<QQuickItem *> itemsUnder(QQuickItem *root)
+    {
+        QList<QQuickItem *> out;
+        if (root) {
+            out << root;
+            for (QQuickItem *child : root->childItems())
+                out << itemsUnder(child);
+        }
+        return out;
+    }
+
+    // The items on screen (visible, with a width) named so, or whose name
+    // starts so.
+    QList<QQuickItem *> shownItems(const QString &name, bool prefix = false) const
+    {
+        QList<QQuickItem *> out;
+        for (QQuickItem *item : itemsUnder(window() ? window()->contentItem() : nullptr))
+            if ((prefix ? item->objectName().startsWith(name) : item->objectName() == name) && item->isVisible()
+                && item->width() > 0)
+                out << item;
+        return out;
+    }
+    QQuickItem *shown(const QString &name) const
+    {
+        const QList<QQuickItem *> items = shownItems(name);
+        return items.isEmpty() ? nullptr : items.first();
+    }
+
     // An entry of a menu or of its submenus, by object name.
     static QObject *menuEntry(QObject *menu, const QString &name)
     {

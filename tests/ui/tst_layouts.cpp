@@ -16,17 +16,6 @@
 
 namespace {
 
-QList<QQuickItem *> itemsUnder(QQuickItem *root)
-{
-    QList<QQuickItem *> out;
-    if (!root)
-        return out;
-    out << root;
-    for (QQuickItem *child : root->childItems())
-        out << itemsUnder(child);
-    return out;
-}
-
 QRectF sceneRect(QQuickItem *item)
 {
     return item->mapRectToScene(QRectF(0, 0, item->width(), item->height()));
@@ -41,20 +30,12 @@ class LayoutsTest : public QObject {
 
     QQuickItem *shown(const QString &name) const
     {
-        for (QQuickItem *item : itemsUnder(app->window()->contentItem()))
-            if (item->objectName() == name && item->isVisible() && item->width() > 0 && item->opacity() > 0)
+        for (QQuickItem *item : app->shownItems(name))
+            if (item->opacity() > 0)
                 return item;
         return nullptr;
     }
-
-    QList<QQuickItem *> shownWithPrefix(const QString &prefix) const
-    {
-        QList<QQuickItem *> out;
-        for (QQuickItem *item : itemsUnder(app->window()->contentItem()))
-            if (item->objectName().startsWith(prefix) && item->isVisible() && item->width() > 0)
-                out << item;
-        return out;
-    }
+    QList<QQuickItem *> shownWithPrefix(const QString &prefix) const { return app->shownItems(prefix, true); }
 
     // The event of the sample footage that carries driving data and a route.
     QString drivingEvent() const
@@ -63,6 +44,27 @@ class LayoutsTest : public QObject {
             if (e.kind == EventKind::saved)
                 return e.id();
         return {};
+    }
+
+    // Every control named is shown whole inside the window and on top of
+    // no other; layouts settle over a frame or two, so this is polled.
+    bool controlsHold(const QStringList &names, QString *why) const
+    {
+        const QRectF bounds(QPointF(0, 0), QSizeF(app->window()->size()));
+        QList<QRectF> rects;
+        for (const QString &name : names) {
+            QQuickItem *item = shown(name);
+            if (!item)
+                return *why = name + QStringLiteral(" is not shown"), false;
+            rects << sceneRect(item);
+            if (!bounds.contains(rects.last().adjusted(1, 1, -1, -1)))
+                return *why = name + QStringLiteral(" is cut off"), false;
+        }
+        for (int i = 0; i < rects.size(); ++i)
+            for (int j = i + 1; j < rects.size(); ++j)
+                if (rects[i].intersects(rects[j]))
+                    return *why = names[i] + QStringLiteral(" overlaps ") + names[j], false;
+        return true;
     }
 
     void openDrivingEvent()
@@ -127,6 +129,27 @@ private Q_SLOTS:
                                                     .arg(size.width())
                                                     .arg(size.height())));
         }
+        // The toolbar and the transport whole and apart; the times, the
+        // list's own buttons and every camera whole.
+        QString why;
+        QTRY_VERIFY2(controlsHold({QStringLiteral("keepButton"), QStringLiteral("dismissButton"), QStringLiteral("exportButton"),
+                                   QStringLiteral("focusModeButton"), QStringLiteral("stepBackButton"),
+                                   QStringLiteral("playPauseButton"), QStringLiteral("stepForwardButton"),
+                                   QStringLiteral("speedPicker")},
+                                  &why),
+                     qPrintable(why));
+        QStringList alone{QStringLiteral("durationText"), QStringLiteral("currentTimeText"), QStringLiteral("switchDrive"),
+                          QStringLiteral("selectToggle")};
+        for (QQuickItem *tile : shownWithPrefix(QStringLiteral("cameraTile_")))
+            alone << tile->objectName();
+        for (const QString &name : alone)
+            QVERIFY2(controlsHold({name}, &why), qPrintable(why));
+        // Room for rows under the banners (which scroll away with the list).
+        QQuickItem *list = shown(QStringLiteral("inboxList"));
+        QVERIFY(list);
+        auto *header = list->property("headerItem").value<QQuickItem *>();
+        if (size.height() >= 800)
+            QVERIFY(list->height() - (header ? header->height() : 0) >= 5 * 64);
         app->shot(QStringLiteral("player-%1x%2").arg(size.width()).arg(size.height()));
     }
 
@@ -170,27 +193,8 @@ private Q_SLOTS:
                                 QStringLiteral("playPauseButton"), QStringLiteral("stepForwardButton"),
                                 QStringLiteral("frameForwardButton"), QStringLiteral("momentButton"),
                                 QStringLiteral("speedPicker")};
-        // Layouts settle over a frame or two; what counts is that they settle.
-        QString overlap;
-        const auto apart = [&] {
-            QList<QRectF> rects;
-            for (const QString &name : names) {
-                QQuickItem *item = shown(name);
-                if (!item) {
-                    overlap = name + QStringLiteral(" is not shown");
-                    return false;
-                }
-                rects << sceneRect(item);
-            }
-            for (int i = 0; i < rects.size(); ++i)
-                for (int j = i + 1; j < rects.size(); ++j)
-                    if (rects[i].intersects(rects[j])) {
-                        overlap = names[i] + QStringLiteral(" overlaps ") + names[j];
-                        return false;
-                    }
-            return true;
-        };
-        QTRY_VERIFY2_WITH_TIMEOUT(apart(), qPrintable(overlap), 5000);
+        QString why;
+        QTRY_VERIFY2_WITH_TIMEOUT(controlsHold(names, &why), qPrintable(why), 5000);
         app->shot(QStringLiteral("player-large-from-the-start"));
     }
 };

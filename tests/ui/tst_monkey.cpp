@@ -198,20 +198,6 @@ bool copyTree(const QString &from, const QString &to)
     return true;
 }
 
-QList<QQuickItem *> itemsUnder(QQuickItem *root)
-{
-    QList<QQuickItem *> out;
-    if (!root)
-        return out;
-    std::function<void(QQuickItem *)> walk = [&](QQuickItem *item) {
-        out << item;
-        for (QQuickItem *child : item->childItems())
-            walk(child);
-    };
-    walk(root);
-    return out;
-}
-
 bool isClickable(QQuickItem *item)
 {
     if (item->inherits("QQuickAbstractButton") || item->inherits("QQuickMouseArea"))
@@ -248,7 +234,7 @@ class MonkeyTest : public QObject {
         QList<QQuickItem *> out;
         QQuickItem *root = window()->contentItem(); // popups too: the overlay is its child
         const QRectF bounds(0, 0, window()->width(), window()->height());
-        for (QQuickItem *item : itemsUnder(root)) {
+        for (QQuickItem *item : AppWindowHarness::itemsUnder(root)) {
             if (!item->isVisible() || !item->isEnabled() || item->width() < 3 || item->height() < 3)
                 continue;
             if (!isClickable(item))
@@ -264,23 +250,8 @@ class MonkeyTest : public QObject {
         return out;
     }
 
-    QQuickItem *shown(const QString &name) const
-    {
-        QQuickItem *root = window()->contentItem(); // popups too: the overlay is its child
-        for (QQuickItem *item : itemsUnder(root))
-            if (item->objectName() == name && item->isVisible() && item->width() > 0)
-                return item;
-        return nullptr;
-    }
-
-    QList<QQuickItem *> shownWithPrefix(const QString &prefix) const
-    {
-        QList<QQuickItem *> out;
-        for (QQuickItem *item : itemsUnder(window()->contentItem()))
-            if (item->objectName().startsWith(prefix) && item->isVisible() && item->width() > 0)
-                out << item;
-        return out;
-    }
+    QQuickItem *shown(const QString &name) const { return app->shown(name); }
+    QList<QQuickItem *> shownWithPrefix(const QString &prefix) const { return app->shownItems(prefix, true); }
 
     QString describe(QQuickItem *item) const
     {

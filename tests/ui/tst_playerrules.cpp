@@ -496,11 +496,7 @@ private Q_SLOTS:
     // the first read): back to choosing, without a message.
     void exportStoppedBeforeTheSessionEndsQuietly()
     {
-        if (!FaultyFs::available())
-            QSKIP("needs FUSE");
-        QTemporaryDir mountPoint;
-        FaultyFs fs(mountPoint.path());
-        QVERIFY(fs.isMounted());
+        KEELHOLD_FAULTY_FS(fs, mountPoint);
         QFile source(TestClips::clip());
         QVERIFY(source.open(QIODevice::ReadOnly));
         const QString relative = QStringLiteral("TeslaCam/SavedClips/2026-02-05_10-00-40/2026-02-05_10-00-00-front.mp4");

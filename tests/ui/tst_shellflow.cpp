@@ -17,7 +17,7 @@
 #include <QDir>
 #include <QJsonDocument>
 #include <QGuiApplication>
-#include <QProcess>
+#include <QQmlApplicationEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QScopeGuard>
@@ -31,7 +31,7 @@
 
 // The real application in this process, on a temporary home: the wizard's
 // sample and picker paths clicked through, the failure screens reached from
-// real drives, the sidebar and the help window.
+// real drives, the sidebar and the help window, none leaving a QML warning.
 //
 // With KEELHOLD_SAVE_SCREENSHOTS=<folder> the screens are also saved there
 // as PNGs (how docs/screenshots is made).
@@ -155,10 +155,18 @@ class ShellFlowTest : public QObject {
 
     std::unique_ptr<KeelholdApp> app;
     QQuickWindow *window = nullptr;
+    QStringList qmlWarnings;
 
     void start()
     {
         app = std::make_unique<KeelholdApp>();
+        // No screen reached here may leave a QML warning (checked in cleanup).
+        connect(&app->qmlEngine(), &QQmlApplicationEngine::warnings, this, [this](const QList<QQmlError> &list) {
+            for (const QQmlError &e : list)
+                // A thumbnail whose file has gone is drawn as none, by design.
+                if (!e.description().contains(QLatin1String("Failed to get image from provider")))
+                    qmlWarnings << e.toString();
+        });
         QVERIFY(app->load());
         window = app->mainWindow();
         QVERIFY(window);
@@ -190,6 +198,8 @@ private Q_SLOTS:
         app.reset();
         qunsetenv(DrivePicker::answerEnv);
         QSettings(QStringLiteral("Keelhold"), QStringLiteral("Keelhold")).clear();
+        const QStringList warnings = std::exchange(qmlWarnings, {});
+        QVERIFY2(warnings.isEmpty(), qPrintable(warnings.join(QLatin1Char('\n'))));
     }
 
     void shellHasItsSectionsAndLeastSize()
@@ -298,12 +308,6 @@ private Q_SLOTS:
         QTRY_VERIFY(showing(QStringLiteral("Welcome to Keelhold")));
         QVERIFY(click(window, QStringLiteral("getStarted")));
         QTRY_VERIFY(visibleItem(window, QStringLiteral("chooseManually")));
-
-        // A cancelled panel does nothing.
-        qputenv(DrivePicker::answerEnv, "-");
-        QVERIFY(click(window, QStringLiteral("chooseManually")));
-        QVERIFY(!app->appState().driveRootURL());
-        QVERIFY(showing(QStringLiteral("Show Me Your Tesla Drive")));
 
         qputenv(DrivePicker::answerEnv, tmp.filePath(QStringLiteral("USBSTICK")).toLocal8Bit());
         QVERIFY(click(window, QStringLiteral("chooseManually")));
@@ -439,11 +443,8 @@ private Q_SLOTS:
     // is held in place by a drive that stops answering partway through a file.
     void oneKeepAtATime()
     {
-        if (!FaultyFs::available())
-            QSKIP("needs FUSE");
-        QTemporaryDir mountPoint, vault;
-        FaultyFs fs(mountPoint.path());
-        QVERIFY(fs.isMounted());
+        KEELHOLD_FAULTY_FS(fs, mountPoint);
+        QTemporaryDir vault;
         // The app lets go of the drive before it is unmounted, however the test ends.
         const auto teardown = qScopeGuard([&] {
             fs.release();
@@ -531,92 +532,6 @@ private Q_SLOTS:
         QVERIFY(visibleItem(window, QStringLiteral("keepButton"))->isEnabled());
     }
 
-    // From the least size to full HD, nothing of the inbox and the player is
-    // cut off or on top of another control.
-    void layoutHoldsFromTheLeastSizeUp_data()
-    {
-        QTest::addColumn<QSize>("size");
-        QTest::newRow("least") << QSize(900, 600);
-        QTest::newRow("laptop") << QSize(1280, 800);
-        QTest::newRow("full HD") << QSize(1920, 1080);
-    }
-
-    void layoutHoldsFromTheLeastSizeUp()
-    {
-        QFETCH(QSize, size);
-        if (!AppState::sampleFootageURL())
-            QSKIP("the sample footage is not built (target sample_footage)");
-        setOnboardingDone(true);
-        start();
-        AppState &state = app->appState();
-        state.loadSampleFootage();
-        QTRY_VERIFY_WITH_TIMEOUT(state.isSampleMode() && state.driveScan() && !state.isScanning(), 30000);
-        // The event with the most cameras: the widest grid.
-        // A copy: the probe that follows the scan replaces the list.
-        const std::vector<TeslaEvent> events = state.driveScan()->events;
-        const TeslaEvent widest = *std::max_element(events.begin(), events.end(), [](const TeslaEvent &a, const TeslaEvent &b) {
-            return a.cameras().size() < b.cameras().size();
-        });
-        state.setSelectedEventID(widest.id());
-        window->resize(size);
-        QTRY_COMPARE(window->size(), size);
-        QTRY_VERIFY_WITH_TIMEOUT(visibleItem(window, QStringLiteral("cameraTile_front")), 20000);
-
-        const QRectF bounds(QPointF(0, 0), QSizeF(window->size()));
-        auto rectOf = [&](const QString &name) {
-            QQuickItem *item = visibleItem(window, name);
-            return item ? item->mapRectToScene(QRectF(0, 0, item->width(), item->height())) : QRectF();
-        };
-        auto inside = [&](const QString &name) {
-            const QRectF r = rectOf(name);
-            QVERIFY2(!r.isEmpty(), qPrintable(name + QStringLiteral(" is not shown")));
-            QVERIFY2(bounds.contains(r.adjusted(1, 1, -1, -1)),
-                     qPrintable(QStringLiteral("%1 at %2,%3 %4×%5 is cut off").arg(name).arg(r.x()).arg(r.y()).arg(r.width()).arg(r.height())));
-        };
-        auto apart = [&](const QStringList &row) {
-            for (int i = 0; i + 1 < row.size(); ++i) {
-                const QRectF a = rectOf(row[i]), b = rectOf(row[i + 1]);
-                QVERIFY2(a.right() <= b.left() + 0.5, qPrintable(row[i] + QStringLiteral(" runs into ") + row[i + 1]));
-            }
-        };
-        const QStringList toolbar{QStringLiteral("keepButton"), QStringLiteral("dismissButton"),
-                                  QStringLiteral("exportButton"), QStringLiteral("focusModeButton")};
-        const QStringList transport{QStringLiteral("stepBackButton"), QStringLiteral("playPauseButton"),
-                                    QStringLiteral("stepForwardButton"), QStringLiteral("speedPicker")};
-        // The layouts settle over the next frames: wait until nothing moves.
-        const QStringList watched = toolbar + transport + QStringList{QStringLiteral("durationText"), QStringLiteral("cameraTile_front")};
-        QString last;
-        auto settled = [&] {
-            QString now;
-            for (const QString &name : watched) {
-                const QRectF r = rectOf(name);
-                now += QStringLiteral("%1,%2,%3,%4;").arg(r.x()).arg(r.y()).arg(r.width()).arg(r.height());
-            }
-            const bool same = now == last;
-            last = now;
-            return same;
-        };
-        QTRY_VERIFY(settled());
-        for (const QString &name : toolbar + transport)
-            inside(name);
-        apart(toolbar);
-        apart(transport);
-        inside(QStringLiteral("durationText"));
-        inside(QStringLiteral("currentTimeText"));
-        for (const Camera &camera : widest.cameras())
-            inside(QStringLiteral("cameraTile_") + camera.rawValue());
-        inside(QStringLiteral("switchDrive"));
-        inside(QStringLiteral("selectToggle"));
-        // Room for rows under the banners (which scroll away with the list).
-        QQuickItem *list = visibleItem(window, QStringLiteral("inboxList"));
-        QVERIFY(list);
-        auto *header = list->property("headerItem").value<QQuickItem *>();
-        const double rowsRoom = list->height() - (header ? header->height() : 0);
-        if (size.height() >= 800)
-            QVERIFY2(rowsRoom >= 5 * 64, qPrintable(QString::number(rowsRoom)));
-        shoot(window, QStringLiteral("inbox-player-%1x%2").arg(size.width()).arg(size.height()));
-    }
-
     void lockedGateKeepsThePanelShutButNotTheSample()
     {
         QTemporaryDir tmp;
@@ -689,8 +604,6 @@ private Q_SLOTS:
         // Pulled out: the drive view turns into the disconnected screen.
         volume.unmount();
         QTRY_VERIFY_WITH_TIMEOUT(showing(QStringLiteral("Your drive was disconnected")), 10000);
-        QVERIFY(showing(QStringLiteral("No problem — nothing was lost. Whatever was in progress is paused and will pick "
-                                       "back up right where it left off as soon as you plug the drive back in.")));
         QVERIFY(!app->appState().driveIsConnected());
         shoot(window, QStringLiteral("failure-drive-disconnected"));
     }
@@ -710,8 +623,7 @@ private Q_SLOTS:
         QDir().mkpath(tmp.filePath(QStringLiteral("NOTACAR")));
         QVERIFY(scanned(tmp.filePath(QStringLiteral("NOTACAR/TeslaCam"))));
         QTRY_VERIFY(showing(QStringLiteral("We couldn't find a TeslaCam folder")));
-        QVERIFY(showingPrefix(QStringLiteral("\"TeslaCam\" doesn't have a TeslaCam folder on it, so it may not be the "
-                                             "drive from your car. Tesla dashcam and Sentry footage always lives")));
+        QVERIFY(showingPrefix(QStringLiteral("\"TeslaCam\" doesn't have a TeslaCam folder on it")));
         shoot(window, QStringLiteral("failure-no-teslacam"));
         QVERIFY(click(window, QStringLiteral("emptyStateAction")));
         QTRY_VERIFY(state.showOnboarding());
@@ -789,8 +701,7 @@ private Q_SLOTS:
         addOneEvent(ram.path() + QStringLiteral("/TeslaCam"));
         QVERIFY(scanned(ram.path() + QStringLiteral("/TeslaCam")));
         QTRY_VERIFY(showing(QStringLiteral("This drive needs to be reformatted")));
-        QVERIFY(showingPrefix(QStringLiteral("Your car needs a drive formatted as exFAT (or FAT32 for smaller drives), "
-                                             "and this one is ramfs. Back up anything important")));
+        QVERIFY(showingPrefix(QStringLiteral("Your car needs a drive formatted as exFAT")));
         QCOMPARE(state.driveScan()->events.size(), size_t(1)); // events don't save it
         shoot(window, QStringLiteral("failure-unreadable-format"));
     }

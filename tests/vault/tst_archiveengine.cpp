@@ -464,11 +464,7 @@ private Q_SLOTS:
 
     void sourceThatGrowsDuringTheCopyFailsWithoutLeftovers()
     {
-        if (!FaultyFs::available())
-            QSKIP("needs root and /dev/fuse");
-        QTemporaryDir mountPoint;
-        FaultyFs fs(mountPoint.path());
-        QVERIFY(fs.isMounted());
+        KEELHOLD_FAULTY_FS(fs, mountPoint);
         const QString name = QStringLiteral("2026-07-18_09-15-32");
         const QString clip = "TeslaCam/SentryClips/" + name + "/" + DriveBuilder::clipNames(name, 1)[0];
         fs.addFile(clip, DriveBuilder::randomBytes(3 << 20, 7));
@@ -637,12 +633,7 @@ private Q_SLOTS:
 
     void readErrorsOnTheDriveCostOneFile()
     {
-        if (!FaultyFs::available())
-            QSKIP("needs root and /dev/fuse");
-        QTemporaryDir mountPoint;
-        FaultyFs fs(mountPoint.path());
-        if (!fs.isMounted())
-            QSKIP("FUSE mount failed");
+        KEELHOLD_FAULTY_FS(fs, mountPoint);
         const QString name = QStringLiteral("2026-07-18_09-15-32");
         const QStringList clips = DriveBuilder::clipNames(name, 3);
         for (int i = 0; i < 3; ++i)
@@ -670,12 +661,7 @@ private Q_SLOTS:
     void driveThatStopsAnsweringMidFile()
     {
         QFETCH(bool, cancel);
-        if (!FaultyFs::available())
-            QSKIP("needs root and /dev/fuse");
-        QTemporaryDir mountPoint;
-        FaultyFs fs(mountPoint.path());
-        if (!fs.isMounted())
-            QSKIP("FUSE mount failed");
+        KEELHOLD_FAULTY_FS(fs, mountPoint);
         const QString name = QStringLiteral("2026-07-18_09-15-32");
         const QStringList clips = DriveBuilder::clipNames(name, 2);
         for (int i = 0; i < 2; ++i)
