@@ -578,8 +578,8 @@ private Q_SLOTS:
             TeslaEvent empty;
             SyncPlayerController c(empty);
             QTRY_VERIFY(!c.isLoadingTiles());
-            c.applyTileOutcomes({Outcome{Camera::front, good, std::nullopt, 3.0},
-                                 Outcome{Camera::back, stuck, std::nullopt, 3.0}});
+            c.applyTileOutcomes({Outcome{Camera::front, good, std::nullopt, 3.0, {}},
+                                 Outcome{Camera::back, stuck, std::nullopt, 3.0, {}}});
             QElapsedTimer timer;
             timer.start();
             c.jumpToMoment();
