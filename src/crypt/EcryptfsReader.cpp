@@ -137,6 +137,8 @@ void EcryptfsReader::readAhead(qint64 pages)
     pages = std::min(pages, Ecryptfs::pageCount(plainSize_) - first);
     if (!lane_ || pages <= 0)
         return;
+    if (lane_->isStarted())
+        lane_->finish(); // its buffer is about to be reused
     readAhead_.resize(size_t(pages * Ecryptfs::pageSize));
     readAheadFirst_ = first;
     readAheadPages_ = pages;
