@@ -4,9 +4,11 @@ namespace {
 
 enum State : int { idle, posted, running, done, stopping };
 
-// A few microseconds of polling before sleeping. Longer spins took cores from
-// the players' decoders (unlocked playback fell to 0.6 of clear) and won
-// nothing back: a late lane only leaves more parts to the caller.
+// A few microseconds of polling before sleeping. Beside six players'
+// decoders, longer polls (500 rounds and up) kept lanes taking parts, and a
+// lane the scheduler puts off in the middle of one holds its caller: unlocked
+// playback fell to 0.6 of clear. Polling briefly, a lane that isn't awake
+// when work comes leaves it to the caller.
 constexpr int spinRounds = 100;
 
 inline void relax()
