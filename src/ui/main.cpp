@@ -1,6 +1,7 @@
 #include "AppCommandLine.h"
 #include "KeelholdApp.h"
 #include "base/DiagnosticLog.h"
+#include "state/SidebarSection.h"
 
 #include <QQuickWindow>
 #include <QTimer>
@@ -54,8 +55,9 @@ int main(int argc, char *argv[])
     // (KEELHOLD_SCREENSHOT_MS) and quits; KEELHOLD_SECTION picks a section first.
     const QString shot = qEnvironmentVariable("KEELHOLD_SCREENSHOT");
     if (!shot.isEmpty()) {
-        if (qEnvironmentVariableIsSet("KEELHOLD_SECTION"))
-            appState.setProperty("selectedSection", qEnvironmentVariableIntValue("KEELHOLD_SECTION"));
+        const auto &sections = SidebarSection::allCases();
+        if (const int section = qEnvironmentVariableIntValue("KEELHOLD_SECTION"); section >= 0 && section < int(sections.size()))
+            appState.setSelectedSection(sections[size_t(section)]);
         if (qEnvironmentVariableIsSet("KEELHOLD_SCAN")) {
             appState.setShowOnboarding(false);
             appState.beginScan(qEnvironmentVariable("KEELHOLD_SCAN"));

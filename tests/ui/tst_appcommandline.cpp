@@ -69,7 +69,19 @@ private Q_SLOTS:
         env.insert(QStringLiteral("KEELHOLD_SCREENSHOT_MS"), QStringLiteral("500"));
         const ProgramRun::Result r = app({"-name", "keelhold-test", "--sample"}, env);
         QVERIFY2(r.exitCode == 0, qPrintable(r.err));
-        QVERIFY(!QImage(dir.filePath(QStringLiteral("window.png"))).isNull());
+        const QImage drive(dir.filePath(QStringLiteral("window.png")));
+        QVERIFY(!drive.isNull());
+        // The screenshot hook's section choice reaches the window: the
+        // sidebar's chosen row (Drive first, Drive Health fourth) is the blue one.
+        env.insert(QStringLiteral("KEELHOLD_SECTION"), QStringLiteral("3"));
+        QCOMPARE(app({"--sample"}, env).exitCode, 0);
+        const QImage health(dir.filePath(QStringLiteral("window.png")));
+        const auto chosen = [](const QImage &shot, int row) {
+            const QColor c = shot.pixelColor(145, 70 + 30 * row);
+            return c.blue() > 180 && c.red() < 100;
+        };
+        QVERIFY(chosen(drive, 0) && !chosen(drive, 3));
+        QVERIFY(chosen(health, 3) && !chosen(health, 0));
     }
 };
 
