@@ -238,7 +238,7 @@ private Q_SLOTS:
         std::vector<DriveEvent> away;
         const QDeadlineTimer seen(20000);
         while (away.empty() && !seen.hasExpired()) {
-            QThread::msleep(5); // the main thread's busy work
+            QThread::yieldCurrentThread(); // busy here, the event loop not running
             QCoreApplication::sendPostedEvents(&watcher, QEvent::MetaCall);
             while (const auto e = stream->takeNext())
                 if (e->kind() == DriveEvent::unmounted && e->volumePath().startsWith(base_))
@@ -419,17 +419,12 @@ private Q_SLOTS:
     }
 
 private:
-    // The watcher looks at a new volume for a moment (statvfs, blkid), and a
-    // FUSE volume can answer EBUSY meanwhile, as a desktop eject would retry.
+    // Detached at once, as a pulled drive goes: the watcher may be looking at
+    // the volume for a moment (statvfs, blkid) and would make a plain unmount
+    // answer EBUSY.
     static bool unmount(const QString &path)
     {
-        const QDeadlineTimer limit(30000);
-        while (::umount2(QFile::encodeName(path).constData(), 0) != 0) {
-            if (errno != EBUSY || limit.hasExpired())
-                return false;
-            QThread::msleep(20); // between tries
-        }
-        return true;
+        return ::umount2(QFile::encodeName(path).constData(), MNT_DETACH) == 0;
     }
     // Mounts a small tmpfs at a fresh folder below /media; empty if not allowed.
     QString mountTmpfs(const QString &name, const QString &size = QStringLiteral("8m"))
