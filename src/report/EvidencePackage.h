@@ -1,0 +1,36 @@
+#pragma once
+
+#include "model/TeslaEvent.h"
+
+#include <QString>
+#include <chrono>
+#include <functional>
+#include <optional>
+#include <stop_token>
+#include <vector>
+
+// One ZIP that an insurer or the police can check by themselves: the
+// report, every original file byte for byte, and SHA256SUMS as
+// `sha256sum -c` reads it, covering every file in the package.
+namespace EvidencePackage {
+
+struct Item {
+    QString source;                // the file to put in, read-only (it may be on the car's drive)
+    QString name;                  // its path inside the package, '/'-separated
+    std::optional<QString> sha256; // what the report printed: other bytes fail the package
+};
+
+struct Options {
+    std::function<void(double)> progress; // 0 to 1 by bytes, from the writing thread
+    std::stop_token stop;
+    std::chrono::milliseconds readLimit{10000}; // one read of a source that takes longer fails the package
+    // The events whose drive the package must never be written to.
+    std::vector<TeslaEvent> events;
+};
+
+// Blocking. Written under a hidden name beside destination and renamed over
+// it when whole. Throws ReportError (nothing left behind) or
+// CancellationError (nothing left behind either).
+void write(const std::vector<Item> &items, const QString &destination, const Options &options);
+
+} // namespace EvidencePackage
