@@ -5,6 +5,7 @@
 #include "cli/CliOutput.h"
 #include "cli/DecryptCommand.h"
 #include "cli/ExportCommand.h"
+#include "cli/ReportCommand.h"
 #include "cli/HealthCommand.h"
 #include "cli/KeepCommand.h"
 #include "cli/ScanCommand.h"
@@ -56,6 +57,9 @@ const std::vector<Command> &commands()
         {QStringLiteral("health"), CliOutput::tr("Print the health report of a TeslaCam folder as JSON."),
          HealthCommand::run},
         {QStringLiteral("export"), CliOutput::tr("Write one camera of one event as one MP4 movie, or all cameras at once."), ExportCommand::run},
+        {QStringLiteral("report"),
+         CliOutput::tr("Write the incident report of one event as a PDF, or an evidence package with every original."),
+         ReportCommand::run},
         {QStringLiteral("keep"), CliOutput::tr("Copy events into a Vault folder, checking every file."),
          KeepCommand::run},
         {QStringLiteral("vault"), CliOutput::tr("List, remove or re-check the events kept in a Vault folder."),

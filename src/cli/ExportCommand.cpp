@@ -1,6 +1,7 @@
 #include "cli/ExportCommand.h"
 
 #include "cli/CliEvents.h"
+#include "cli/CliInterrupt.h"
 #include "cli/CliOutput.h"
 #include "cli/CliScan.h"
 #include "cli/CliUnlock.h"
@@ -44,50 +45,6 @@ std::optional<double> seconds(const QCommandLineParser &parser, const QCommandLi
     }
     return value;
 }
-
-std::atomic<bool> interrupted{false};
-static_assert(std::atomic<bool>::is_always_lock_free);
-
-extern "C" void onInterrupt(int)
-{
-    interrupted.store(true);
-}
-
-// Ctrl-C or a polite kill stops the export the way the app's Stop does,
-// so the half-written movie is cleaned up instead of left behind.
-class InterruptStopsExport {
-public:
-    InterruptStopsExport()
-    {
-        struct sigaction action {};
-        action.sa_handler = onInterrupt;
-        sigemptyset(&action.sa_mask);
-        sigaction(SIGINT, &action, &previousInt_);
-        sigaction(SIGTERM, &action, &previousTerm_);
-        watcher_ = std::jthread([this](std::stop_token done) {
-            while (!done.stop_requested()) {
-                if (interrupted.load()) {
-                    source_.request_stop();
-                    return;
-                }
-                std::this_thread::sleep_for(std::chrono::milliseconds(50));
-            }
-        });
-    }
-    ~InterruptStopsExport()
-    {
-        watcher_ = std::jthread();
-        sigaction(SIGINT, &previousInt_, nullptr);
-        sigaction(SIGTERM, &previousTerm_, nullptr);
-    }
-    std::stop_token token() const { return source_.get_token(); }
-
-private:
-    std::stop_source source_;
-    struct sigaction previousInt_ {};
-    struct sigaction previousTerm_ {};
-    std::jthread watcher_;
-};
 
 int fail(const QString &sentence)
 {
@@ -259,7 +216,7 @@ int run(const QStringList &arguments)
 
         if (combined) {
             options.range = range;
-            const InterruptStopsExport interrupt;
+            const CliInterrupt::StopsWork interrupt;
             QString shown;
             // Stops itself cleanly: nothing is left of a stopped or failed movie.
             CombinedExport::exportMovie(*event, options, output, [&](const CombinedExportProgress &p) {
@@ -279,7 +236,7 @@ int run(const QStringList &arguments)
         // A half-written movie is of no use here; one that was there before
         // is never ours to remove.
         const bool existedBefore = QFileInfo::exists(output);
-        const InterruptStopsExport interrupt;
+        const CliInterrupt::StopsWork interrupt;
         try {
             int shownPercent = -1;
             Exporter::exportFootage(*camera, *event, range, output, [&](double fraction) {

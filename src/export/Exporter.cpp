@@ -20,11 +20,16 @@
 
 namespace Exporter {
 
-QString suggestedFileName(const TeslaEvent &event, Camera camera)
+QString suggestedStem(const TeslaEvent &event)
 {
     // A point instead of a colon, so the name is a valid file name everywhere.
     const QString date = event.timestamp.formatLocal(QStringLiteral("yyyy-MM-dd h.mm AP"));
-    return QStringLiteral("Tesla %1 %2 \u2014 %3.mp4").arg(event.kind.displayName(), date, camera.displayName());
+    return QStringLiteral("Tesla %1 %2").arg(event.kind.displayName(), date);
+}
+
+QString suggestedFileName(const TeslaEvent &event, Camera camera)
+{
+    return QStringLiteral("%1 \u2014 %2.mp4").arg(suggestedStem(event), camera.displayName());
 }
 
 void exportFootage(Camera camera, const TeslaEvent &event, std::optional<std::pair<double, double>> range,

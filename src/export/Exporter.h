@@ -18,6 +18,8 @@ namespace Exporter {
 
 // "Tesla Sentry 2024-06-01 3.05 PM — Front.mp4": valid as a file name.
 QString suggestedFileName(const TeslaEvent &event, Camera camera);
+// The part every name made of the event shares: "Tesla Sentry 2024-06-01 3.05 PM".
+QString suggestedStem(const TeslaEvent &event);
 
 // Blocking; call it off the main thread. The camera's clips are joined back
 // to back, whatever their start dates say. range: seconds of the joined
