@@ -82,6 +82,9 @@ void ReportDocument::write(const ReportContent &content, const QString &path, co
     doc.setDocumentMargin(0);
     QFont font(QStringLiteral("DejaVu Sans"));
     font.setPointSizeF(9.5);
+    // No ligatures: text copied from the page then reads "file", not
+    // "ﬁle", and a command copies as typed.
+    font.setStyleStrategy(QFont::PreferNoShaping);
     doc.setDefaultFont(font);
     doc.setDefaultStyleSheet(QStringLiteral(
         "h1 { font-size: 17pt; margin-bottom: 4pt; } h2 { font-size: 13pt; margin-top: 10pt; margin-bottom: 4pt; }"
@@ -273,7 +276,9 @@ void ReportDocument::write(const ReportContent &content, const QString &path, co
         painter.save();
         painter.translate(0, -i * pageSize.height());
         QAbstractTextDocumentLayout::PaintContext context;
-        context.clip = QRectF(0, i * pageSize.height(), pageSize.width(), pageSize.height());
+        // A hair inside the page: a block that starts right at the next page's
+        // top would be drawn here too, clipped, and its text found twice.
+        context.clip = QRectF(0, i * pageSize.height() + 1, pageSize.width(), pageSize.height() - 2);
         painter.setClipRect(context.clip);
         doc.documentLayout()->draw(&painter, context);
         painter.restore();

@@ -1,0 +1,357 @@
+#include "base/CancellationError.h"
+#include "drive/SeiMetadata.pb.h"
+#include "drive/TeslaCamParser.h"
+#include "report/IncidentReport.h"
+#include "support/CliRun.h"
+#include "support/DriveBuilder.h"
+#include "support/TeslaCamFixture.h"
+#include "support/TelemetryClipWriter.h"
+#include "support/TestClips.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QImage>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+#include <stop_token>
+
+namespace {
+
+const QString savedId = QStringLiteral("saved|2026-07-21_14-30-00");
+const QString roughId = QStringLiteral("sentry|2026-07-20_10-00-00");
+
+// Each camera's colour while the moment shows: grey before and after, so a
+// still from the wrong time shows grey.
+const std::vector<std::pair<QString, QColor>> cameraColours{
+    {QStringLiteral("front"), QColor(220, 30, 30)},
+    {QStringLiteral("back"), QColor(30, 200, 40)},
+    {QStringLiteral("left_repeater"), QColor(30, 60, 230)},
+    {QStringLiteral("right_repeater"), QColor(240, 220, 20)},
+};
+
+// 20 s at 10 frames a second; coloured from 8 s to 16 s. The event's moment is at 12 s.
+QString colourClip(const QColor &colour)
+{
+    TestClips::ClipOptions o;
+    o.seconds = 20;
+    o.fps = 10;
+    o.gop = 10;
+    o.width = 320;
+    o.height = 240;
+    o.pattern = QStringLiteral("color");
+    o.filter = QStringLiteral("drawbox=c=gray:t=fill,drawbox=c=%1:t=fill:enable='between(t,8,16)'").arg(colour.name());
+    return TestClips::clip(o);
+}
+
+// 10 m/s until the moment, 20 m/s after: the chart's line must step to twice its height there.
+std::optional<TelemetryClipWriter::FrameRecord> steppedSpeed(int frame, double time)
+{
+    TelemetryClipWriter::FrameRecord r;
+    r.message.set_version(1);
+    r.message.set_gear_state(keelhold::telemetry::SeiMetadata::GEAR_DRIVE);
+    r.message.set_frame_seq_no(quint64(frame));
+    r.message.set_vehicle_speed_mps(time < 12.0 ? 10.0f : 20.0f);
+    r.message.set_brake_applied(time >= 11 && time < 12);
+    r.message.set_latitude_deg(30.6075 + 1e-5 * frame);
+    r.message.set_longitude_deg(-97.4812);
+    return r;
+}
+
+QString run(const QString &program, const QStringList &arguments, int *exitCode = nullptr)
+{
+    QProcess p;
+    p.start(program, arguments);
+    p.waitForFinished(60000);
+    if (exitCode)
+        *exitCode = p.exitCode();
+    return QString::fromUtf8(p.readAllStandardOutput());
+}
+
+QString pdfText(const QString &pdf, int page = 0)
+{
+    QStringList args{QStringLiteral("-layout")};
+    if (page > 0)
+        args << QStringLiteral("-f") << QString::number(page) << QStringLiteral("-l") << QString::number(page);
+    return run(QStringLiteral("pdftotext"), args << pdf << QStringLiteral("-"));
+}
+
+int pageCount(const QString &pdf)
+{
+    const auto match = QRegularExpression(QStringLiteral("Pages:\\s+(\\d+)")).match(run(QStringLiteral("pdfinfo"), {pdf}));
+    return match.hasMatch() ? match.captured(1).toInt() : 0;
+}
+
+// The first page whose text holds needle, drawn at dpi.
+QImage pageWith(const QString &pdf, const QString &needle, int dpi, const QString &scratch)
+{
+    for (int page = 1; page <= pageCount(pdf); ++page)
+        if (pdfText(pdf, page).contains(needle)) {
+            const QString prefix = QDir(scratch).filePath(QStringLiteral("page"));
+            run(QStringLiteral("pdftoppm"), {QStringLiteral("-r"), QString::number(dpi), QStringLiteral("-f"),
+                                             QString::number(page), QStringLiteral("-l"), QString::number(page),
+                                             QStringLiteral("-singlefile"), QStringLiteral("-png"), pdf, prefix});
+            return QImage(prefix + QStringLiteral(".png"));
+        }
+    return {};
+}
+
+bool near(const QColor &a, const QColor &b, int tolerance = 40)
+{
+    return std::abs(a.red() - b.red()) <= tolerance && std::abs(a.green() - b.green()) <= tolerance
+        && std::abs(a.blue() - b.blue()) <= tolerance;
+}
+
+int countNear(const QImage &image, const QColor &colour, int tolerance = 40)
+{
+    int n = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            n += near(image.pixelColor(x, y), colour, tolerance);
+    return n;
+}
+
+} // namespace
+
+class TestIncidentReport : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir tmp_;
+    QString root_;
+    QString savedFolder_;
+
+    QString report(const QString &id, const QStringList &extra = {}, int *exitCode = nullptr, QString *err = nullptr)
+    {
+        const QString out = tmp_.filePath(QStringLiteral("out-%1").arg(QString(id).replace(QLatin1Char('|'), QLatin1Char('-'))));
+        QDir().mkpath(out);
+        const CliRun::Result r = CliRun::run(QStringList{QStringLiteral("report"), root_, QStringLiteral("--event"), id,
+                                                         QStringLiteral("-o"), out, QStringLiteral("--speed-unit"),
+                                                         QStringLiteral("km/h")}
+                                             + extra);
+        if (exitCode)
+            *exitCode = r.exitCode;
+        if (err)
+            *err = r.err;
+        return QString::fromUtf8(r.out).trimmed();
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        if (!TestClips::ffmpegAvailable())
+            QSKIP("needs the ffmpeg tool to make clips");
+        QVERIFY(tmp_.isValid());
+        tmp_.setAutoRemove(qEnvironmentVariableIsEmpty("KEEP_TMP"));
+        root_ = tmp_.filePath(QStringLiteral("TeslaCam"));
+        TeslaCamFixture fixture(root_);
+        // A saved event with a street and place, driving data on the front,
+        // and a GPS clock seven hours from the car's (a time zone, no note).
+        savedFolder_ = fixture.addEvent(
+            QStringLiteral("SavedClips"), QStringLiteral("2026-07-21_14-30-00"),
+            QByteArrayLiteral("{\"timestamp\":\"2026-07-21T14:30:12\",\"city\":\"Taylor\",\"street\":\"Main Street\","
+                              "\"est_lat\":\"30.6075\",\"est_lon\":\"-97.4812\",\"reason\":\"user_interaction_honk\",\"camera\":\"0\"}"));
+        for (const auto &[camera, colour] : cameraColours) {
+            const QString path = QDir(savedFolder_).filePath(QStringLiteral("2026-07-21_14-30-00-%1.mp4").arg(camera));
+            if (camera == QLatin1String("front"))
+                TelemetryClipWriter::remux(colourClip(colour), path, steppedSpeed, false,
+                                           QStringLiteral("2026-07-21T21:30:00Z"));
+            else
+                QVERIFY(QFile::copy(colourClip(colour), path));
+            TestClips::padTo(path);
+        }
+        // A Sentry event without event.json or driving data: one camera
+        // empty, one cut off, and the rear with no footage at all.
+        const QString rough = fixture.addEventFolder(QStringLiteral("SentryClips"), QStringLiteral("2026-07-20_10-00-00"));
+        const QString front = QDir(rough).filePath(QStringLiteral("2026-07-20_10-00-00-front.mp4"));
+        QVERIFY(QFile::copy(colourClip(Qt::red), front));
+        TestClips::padTo(front);
+        TeslaCamFixture::writeFile(QDir(rough).filePath(QStringLiteral("2026-07-20_10-00-00-left_repeater.mp4")), {});
+        TeslaCamFixture::writeFile(QDir(rough).filePath(QStringLiteral("2026-07-20_10-00-00-right_repeater.mp4")),
+                                   DriveBuilder::randomBytes(200 * 1024, 7));
+    }
+
+    // What a reader checks first: the words, the place, the times and every
+    // file with the digest of its bytes.
+    void reportSaysWhatWhenWhereAndWhichFiles()
+    {
+        int code = -1;
+        QString err;
+        const QString pdf = report(savedId, {}, &code, &err);
+        QCOMPARE(code, 0);
+        QVERIFY2(pdf.endsWith(QStringLiteral("Keelhold Report — Tesla Saved 2026-07-21 2.30 PM.pdf")), qPrintable(pdf));
+        const QString text = pdfText(pdf);
+        QVERIFY(text.contains(QStringLiteral("Incident report: Saved — You honked")));
+        QVERIFY(text.contains(QStringLiteral("Main Street, Taylor")));
+        QVERIFY(text.contains(QStringLiteral("30.60750, -97.48120")));
+        QVERIFY2(text.contains(QRegularExpression(QStringLiteral("\\b(14|2):30:12\\b"))), "the moment by the car's clock");
+        QVERIFY2(text.contains(QStringLiteral("2026-07-21 21:30:12 UTC")), "the moment by the GPS clock");
+        QVERIFY2(!text.contains(QStringLiteral("set wrong")), "seven hours apart is a time zone, not a wrong clock");
+        for (const auto &[camera, colour] : cameraColours) {
+            const QString file = QDir(savedFolder_).filePath(QStringLiteral("2026-07-21_14-30-00-%1.mp4").arg(camera));
+            QVERIFY2(text.contains(QFileInfo(file).fileName()), qPrintable(camera));
+            QVERIFY2(text.contains(DriveBuilder::sha256Hex(file)), qPrintable(camera));
+        }
+        QVERIFY(text.contains(QStringLiteral("sha256sum -c SHA256SUMS")));
+        QCOMPARE(text.count(QStringLiteral("Driving data")), 1); // no hidden copy at a page's foot
+        QVERIFY(text.contains(QStringLiteral("Page 1 of %1").arg(pageCount(pdf))));
+        QVERIFY(text.contains(QStringLiteral("Page %1 of %1").arg(pageCount(pdf))));
+
+        // Each camera's still is its frame at the moment, in its colour.
+        const QImage stills = pageWith(pdf, QStringLiteral("Each camera at the moment"), 40, tmp_.path());
+        QVERIFY(!stills.isNull());
+        for (const auto &[camera, colour] : cameraColours)
+            QVERIFY2(countNear(stills, colour) > 500, qPrintable(camera));
+
+        // The speed line steps to twice its height at the moment, on the
+        // panel's scale up to 80 km/h (72 km/h is the fastest reading).
+        const QImage chart = pageWith(pdf, QStringLiteral("Driving data"), 150, tmp_.path());
+        QVERIFY(!chart.isNull());
+        const QColor speed(0x15, 0x65, 0xC0), frame(0x9E, 0x9E, 0x9E), moment(0xE6, 0x51, 0x00);
+        int momentX = -1;
+        for (int x = 0; x < chart.width() && momentX < 0; ++x)
+            for (int y = 0; y < chart.height(); ++y)
+                if (near(chart.pixelColor(x, y), moment, 20)) {
+                    momentX = x;
+                    break;
+                }
+        QVERIFY2(momentX > 0, qPrintable(QStringLiteral("%1x%2").arg(chart.width()).arg(chart.height())));
+        const auto lineAt = [&](int x) {
+            for (int y = 0; y < chart.height(); ++y)
+                if (near(chart.pixelColor(x, y), speed, 30))
+                    return y;
+            return -1;
+        };
+        const auto frameFrom = [&](int x, int y, int step) {
+            for (y += step * 3; y > 0 && y < chart.height(); y += step)
+                if (near(chart.pixelColor(x, y), frame, 12))
+                    return y;
+            return -1;
+        };
+        const int before = momentX - 60, after = momentX + 60;
+        const int yBefore = lineAt(before), yAfter = lineAt(after);
+        QVERIFY(yBefore > 0 && yAfter > 0);
+        const int bottom = frameFrom(before, yBefore, 1), top = frameFrom(after, yAfter, -1);
+        QVERIFY(bottom > 0 && top > 0);
+        const double full = bottom - top;
+        QVERIFY2(std::abs((bottom - yBefore) / full - 36.0 / 80) < 0.04, qPrintable(QString::number((bottom - yBefore) / full)));
+        QVERIFY2(std::abs((bottom - yAfter) / full - 72.0 / 80) < 0.04, qPrintable(QString::number((bottom - yAfter) / full)));
+    }
+
+    // Damage, a camera without pictures, no place and no driving data each
+    // cost their own part; the report is still whole.
+    void roughEventStillGivesAWholeReport()
+    {
+        int code = -1;
+        QString err;
+        const QString pdf = report(roughId, {}, &code, &err);
+        QCOMPARE(code, 0);
+        QVERIFY(pageCount(pdf) >= 3);
+        const QString text = pdfText(pdf);
+        QVERIFY(text.contains(QStringLiteral("The car didn't name the place.")));
+        QVERIFY(text.contains(QStringLiteral("didn't record where this happened")));
+        QVERIFY(text.contains(QStringLiteral("carry no driving data")));
+        QVERIFY(text.contains(QStringLiteral("2026-07-20_10-00-00-left_repeater.mp4")));
+        QVERIFY(text.contains(QStringLiteral("Empty")));
+        QVERIFY(text.contains(QStringLiteral("2026-07-20_10-00-00-right_repeater.mp4")));
+        QVERIFY(text.contains(DriveBuilder::sha256Hex(QByteArray())));
+        QVERIFY(text.contains(QStringLiteral("didn't record properly")));
+    }
+
+    // A kept event's files are compared with the Vault's records; a changed
+    // copy is said in words.
+    void keptEventIsComparedWithTheVault()
+    {
+        const QString vault = tmp_.filePath(QStringLiteral("Vault"));
+        const CliRun::Result kept = CliRun::run({QStringLiteral("keep"), root_, QStringLiteral("--vault"), vault,
+                                                 QStringLiteral("--event"), savedId});
+        QCOMPARE(kept.exitCode, 0);
+        int code = -1;
+        QString pdf = report(savedId, {QStringLiteral("--vault"), vault}, &code);
+        QCOMPARE(code, 0);
+        QVERIFY(pdfText(pdf).contains(QStringLiteral("Every file matches the Vault's record")));
+
+        // The Vault's own copy, one byte changed.
+        QString backCopy;
+        QDirIterator it(vault, {QStringLiteral("*-back.mp4")}, QDir::Files, QDirIterator::Subdirectories);
+        if (it.hasNext())
+            backCopy = it.next();
+        QVERIFY(!backCopy.isEmpty());
+        QFile f(backCopy);
+        QVERIFY(f.open(QIODevice::ReadWrite));
+        f.seek(5000);
+        f.write("!");
+        f.close();
+        const CliRun::Result r = CliRun::run({QStringLiteral("report"), vault, QStringLiteral("--event"), savedId,
+                                              QStringLiteral("-o"), tmp_.filePath(QStringLiteral("vault.pdf"))});
+        QCOMPARE(r.exitCode, 0);
+        const QString text = pdfText(tmp_.filePath(QStringLiteral("vault.pdf")));
+        QVERIFY(text.contains(QStringLiteral("In the Vault")));
+        QVERIFY(text.contains(QStringLiteral("not the one that was kept")));
+    }
+
+    // The package unpacks with another tool and its SHA256SUMS checks.
+    void packageChecksWithSha256sum()
+    {
+        int code = -1;
+        QString err;
+        const QString zip = report(savedId, {QStringLiteral("--package")}, &code, &err);
+        QVERIFY2(code == 0, qPrintable(err));
+        QVERIFY(zip.endsWith(QStringLiteral(".zip")));
+        const QString unpacked = tmp_.filePath(QStringLiteral("unpacked"));
+        QDir().mkpath(unpacked);
+        QProcess unzip;
+        unzip.setWorkingDirectory(unpacked);
+        unzip.start(QStringLiteral("unzip"), {QStringLiteral("-q"), zip});
+        QVERIFY(unzip.waitForFinished(60000));
+        QCOMPARE(unzip.exitCode(), 0);
+        QProcess check;
+        check.setWorkingDirectory(unpacked);
+        check.start(QStringLiteral("sha256sum"), {QStringLiteral("-c"), QStringLiteral("SHA256SUMS")});
+        QVERIFY(check.waitForFinished(60000));
+        const QString said = QString::fromUtf8(check.readAllStandardOutput());
+        QVERIFY2(check.exitCode() == 0, qPrintable(said));
+        for (const auto &[camera, colour] : cameraColours)
+            QVERIFY(said.contains(QStringLiteral("2026-07-21_14-30-00/2026-07-21_14-30-00-%1.mp4: OK").arg(camera)));
+        QVERIFY(said.contains(QStringLiteral("2026-07-21_14-30-00/event.json: OK")));
+        QVERIFY(said.contains(QStringLiteral("Keelhold Report")));
+    }
+
+    // Stopped, or refused on the car's drive: nothing is left anywhere.
+    void stoppedOrRefusedLeavesNothing()
+    {
+        const TeslaEvent event = [&] {
+            for (const TeslaEvent &e : TeslaCamParser::scan(root_).events)
+                if (e.id() == savedId)
+                    return e;
+            return TeslaEvent();
+        }();
+        QCOMPARE(event.id(), savedId);
+        for (const bool package : {false, true}) {
+            QTemporaryDir out;
+            std::stop_source stop;
+            IncidentReport::Options options;
+            options.package = package;
+            options.stop = stop.get_token();
+            options.progress = [&](double f) {
+                if (f > (package ? 0.5 : 0.4))
+                    stop.request_stop();
+            };
+            QVERIFY_THROWS_EXCEPTION(CancellationError,
+                                     IncidentReport::make(event, out.filePath(QStringLiteral("r.out")), options));
+            QVERIFY2(QDir(out.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot).isEmpty(),
+                     package ? "package" : "report");
+        }
+
+        const auto before = QDir(savedFolder_).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+        int code = -1;
+        const CliRun::Result r = CliRun::run({QStringLiteral("report"), root_, QStringLiteral("--event"), savedId,
+                                              QStringLiteral("-o"), savedFolder_});
+        QCOMPARE(r.exitCode, 2);
+        QCOMPARE(QDir(savedFolder_).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot), before);
+        Q_UNUSED(code);
+    }
+};
+
+QTEST_MAIN(TestIncidentReport)
+#include "tst_incidentreport.moc"
