@@ -4,6 +4,7 @@
 #include "export/CombinedExportProgress.h"
 #include "model/Camera.h"
 #include "model/TeslaEvent.h"
+#include "report/IncidentReport.h"
 
 #include <QFuture>
 #include <QString>
@@ -26,6 +27,11 @@ public:
     // The event's cameras put together into one new movie at `to`, with
     // what the options draw over them. Errors: CancellationError, or
     // Exporter::ExportError; a stopped or failed one leaves no file.
+    // The event's incident report, or its evidence package, at `to`; the
+    // engine adds the stop and its read limit to the options. Errors:
+    // CancellationError, or ReportError; either leaves no file.
+    virtual QFuture<void> makeReport(const TeslaEvent &event, const IncidentReport::Options &options, const QString &to,
+                                     FractionCallback progress) = 0;
     virtual QFuture<void> exportCombined(const TeslaEvent &event, const CombinedExportOptions &options,
                                          const QString &to, CombinedExportProgressCallback progress) = 0;
 };

@@ -175,6 +175,17 @@ QFuture<void> LiveEngine::exportCombined(const TeslaEvent &event, const Combined
     });
 }
 
+QFuture<void> LiveEngine::makeReport(const TeslaEvent &event, const IncidentReport::Options &options,
+                                     const QString &to, FractionCallback progress)
+{
+    return AsyncRun::cancellable(EnginePools::driveRuns(), [event, options, to, progress](std::stop_token stop) {
+        IncidentReport::Options running = options;
+        running.stop = stop;
+        running.progress = progress;
+        IncidentReport::make(event, to, running);
+    });
+}
+
 bool LiveEngine::flag(const QString &key, bool fallback)
 {
     return QSettings(QStringLiteral("Keelhold"), QStringLiteral("Keelhold")).value(key, fallback).toBool();

@@ -440,6 +440,12 @@ QFuture<void> MockEngine::exportFootage(Camera, const TeslaEvent &, std::optiona
     });
 }
 
+QFuture<void> MockEngine::makeReport(const TeslaEvent &, const IncidentReport::Options &, const QString &,
+                                     FractionCallback progress)
+{
+    return exportFootage(Camera::front, TeslaEvent(), std::nullopt, QString(), std::move(progress));
+}
+
 QFuture<void> MockEngine::exportCombined(const TeslaEvent &, const CombinedExportOptions &, const QString &,
                                          CombinedExportProgressCallback progress)
 {

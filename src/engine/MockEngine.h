@@ -58,6 +58,8 @@ public:
     QFuture<EventTelemetry> loadTelemetry(const TeslaEvent &event, Camera camera) override;
     QFuture<void> exportFootage(Camera camera, const TeslaEvent &event, std::optional<SecondsRange> range,
                                 const QString &to, FractionCallback progress) override;
+    QFuture<void> makeReport(const TeslaEvent &event, const IncidentReport::Options &options, const QString &to,
+                             FractionCallback progress) override;
     QFuture<void> exportCombined(const TeslaEvent &event, const CombinedExportOptions &options, const QString &to,
                                  CombinedExportProgressCallback progress) override;
 

@@ -277,6 +277,7 @@ ExportFlow *EventPlayerPresenter::newExportFlow()
     }
     exportFlow_ = new ExportFlow(appState_->engine(), *event_, this);
     exportFlow_->setDriveRoot(appState_->driveRootURL());
+    exportFlow_->setVaultURL(appState_->vaultURL());
     // The player's timeline, once its tiles have told how long it is.
     if (controller_ && !controller_->isLoadingTiles() && !controller_->tiles().empty())
         exportFlow_->setTimelineLength(controller_->duration());

@@ -10,6 +10,8 @@
 #include "base/AsyncRun.h"
 #include "export/CombinedExport.h"
 #include "export/Exporter.h"
+#include "report/IncidentReport.h"
+#include "report/ReportError.h"
 #include "base/CancellationError.h"
 #include "model/PlatformWords.h"
 #include "drive/DriveBoundary.h"
@@ -92,14 +94,36 @@ void ExportFlow::setDrivingData(DrivingData data)
 
 void ExportFlow::setLayout(std::optional<CombinedExportOptions::Layout> layout)
 {
-    if (isExporting_ || layout == layout_)
+    if (isExporting_ || (layout == layout_ && product_ == Product::movie))
         return;
     layout_ = layout;
+    product_ = Product::movie;
+    Q_EMIT changed();
+}
+
+void ExportFlow::setProduct(Product product)
+{
+    if (isExporting_ || product == product_)
+        return;
+    product_ = product;
+    Q_EMIT changed();
+}
+
+void ExportFlow::setIncludeKeys(bool on)
+{
+    if (isExporting_ || on == includeKeys_)
+        return;
+    includeKeys_ = on;
     Q_EMIT changed();
 }
 
 QString ExportFlow::layoutWord() const
 {
+    switch (product_) {
+    case Product::report: return QStringLiteral("report");
+    case Product::package: return QStringLiteral("package");
+    case Product::movie: break;
+    }
     return layout_ ? CombinedExportOptions::word(*layout_) : QStringLiteral("original");
 }
 
@@ -107,6 +131,10 @@ void ExportFlow::setLayoutWord(const QString &word)
 {
     if (word == u"original")
         setLayout(std::nullopt);
+    else if (word == u"report")
+        setProduct(Product::report);
+    else if (word == u"package")
+        setProduct(Product::package);
     else if (const auto layout = CombinedExportOptions::layoutFromWord(word))
         setLayout(*layout);
 }
@@ -115,7 +143,7 @@ QVariantList ExportFlow::layoutsForQml() const
 {
     const QVariantMap t = texts();
     QVariantList list;
-    for (const char *key : {"original", "grid", "front-sides", "single"})
+    for (const char *key : {"original", "grid", "front-sides", "single", "report", "package"})
         list.append(QVariantMap{{QStringLiteral("value"), QString::fromLatin1(key)},
                                 {QStringLiteral("name"), t.value(QStringLiteral("layout_") + QString::fromLatin1(key))}});
     return list;
@@ -256,6 +284,8 @@ QString ExportFlow::timeLeftText(double seconds)
 
 QString ExportFlow::progressText() const
 {
+    if (isExporting_ && isReport())
+        return texts().value(QStringLiteral("making")).toString();
     if (!isExporting_ || !combinedProgress_)
         return {};
     const CombinedExportProgress &p = *combinedProgress_;
@@ -331,8 +361,11 @@ void ExportFlow::presentSavePanel()
     request.title = texts().value(QStringLiteral("saveTo")).toString();
     request.startFolder = suggestedSaveFolder();
     request.suggestedName = QDir(request.startFolder).filePath(exportedFileName());
-    request.nameFilters = {texts().value(QStringLiteral("movieFilter")).toString()};
-    request.defaultSuffix = QStringLiteral("mp4");
+    const QString filter = product_ == Product::report    ? QStringLiteral("reportFilter")
+                           : product_ == Product::package ? QStringLiteral("packageFilter")
+                                                          : QStringLiteral("movieFilter");
+    request.nameFilters = {texts().value(filter).toString()};
+    request.defaultSuffix = QFileInfo(exportedFileName()).suffix();
     QPointer<ExportFlow> self(this);
     FileChooser::open(request, [self](std::optional<QString> chosen) {
         if (self && chosen)
@@ -383,7 +416,21 @@ QVariantMap ExportFlow::texts()
             {QStringLiteral("emailTip"), QStringLiteral("Starts a new email with the file attached.")},
             {QStringLiteral("saveTo"), QStringLiteral("Save to…")},
             {QStringLiteral("saveToTip"), QStringLiteral("Choose exactly where on your ") + PlatformWords::computer() + QStringLiteral(" to save this file.")},
-            {QStringLiteral("movieFilter"), QStringLiteral("MPEG-4 movie (*.mp4)")}};
+            {QStringLiteral("movieFilter"), QStringLiteral("MPEG-4 movie (*.mp4)")},
+            {QStringLiteral("layout_report"), tr("Incident Report (PDF)")},
+            {QStringLiteral("layout_package"), tr("Evidence Package (ZIP)")},
+            {QStringLiteral("reportAbout"),
+             tr("When and where, each camera at the moment, the driving data, and every original file with its "
+                "SHA-256, ready for an insurer or the police.")},
+            {QStringLiteral("packageAbout"),
+             tr("The report, every original file exactly as the car wrote it, and a SHA256SUMS file anyone can "
+                "check them with, in one ZIP.")},
+            {QStringLiteral("includeKeys"), tr("Include unlock keys")},
+            {QStringLiteral("includeKeysTip"),
+             tr("Lets whoever receives the package play the encrypted footage. Anyone with the keys can watch it.")},
+            {QStringLiteral("making"), tr("Making the report…")},
+            {QStringLiteral("reportFilter"), tr("PDF document (*.pdf)")},
+            {QStringLiteral("packageFilter"), tr("ZIP archive (*.zip)")}};
 }
 
 void ExportFlow::startExport()
@@ -407,6 +454,8 @@ void ExportFlow::startExport()
     }
     if (isCombined())
         return startCombined(folder);
+    if (isReport())
+        return startReport(folder);
     const QString output = QDir(folder).filePath(Exporter::suggestedFileName(event_, *selectedCamera_));
     auto progress = onMainThread<double>(QPointer<ExportFlow>(this), [](ExportFlow &self, double fraction) {
         if (!self.isExporting_)
@@ -440,6 +489,27 @@ void ExportFlow::startCombined(const QString &folder)
     Awaiting::whenFinished(this, running_, [this, output](const QFuture<void> &done) { finish(done, output); });
 }
 
+void ExportFlow::startReport(const QString &folder)
+{
+    IncidentReport::Options options;
+    options.vaultURL = vaultURL_;
+    options.package = product_ == Product::package;
+    options.includeKeys = includeKeys();
+    options.miles = DrivingDataPreferences::shared()->useMiles();
+    options.version = QCoreApplication::applicationVersion();
+    const QString output = QDir(folder).filePath(options.package ? IncidentReport::suggestedPackageName(event_)
+                                                                 : IncidentReport::suggestedFileName(event_));
+    auto progress = onMainThread<double>(QPointer<ExportFlow>(this), [](ExportFlow &self, double fraction) {
+        if (!self.isExporting_)
+            return;
+        self.progress_ = fraction;
+        Q_EMIT self.changed();
+    });
+    progress_ = 0;
+    running_ = engine_.makeReport(event_, options, output, progress);
+    Awaiting::whenFinished(this, running_, [this, output](const QFuture<void> &done) { finish(done, output); });
+}
+
 void ExportFlow::finish(const QFuture<void> &future, const QString &output)
 {
     isExporting_ = false;
@@ -453,6 +523,8 @@ void ExportFlow::finish(const QFuture<void> &future, const QString &output)
             errorMessage_ = failureMessage; // stopped while the session was writing
     } catch (const CancellationError &) {
         // Stopped before the session began: back to choosing, quietly.
+    } catch (const ReportError &e) {
+        errorMessage_ = e.message(); // says what couldn't be done, in a sentence
     } catch (...) {
         KEELHOLD_LOG_CAUGHT(lcUi);
         // A new movie the user stopped is simply not made; the copy keeps

@@ -41,6 +41,12 @@ class ExportFlow : public QObject {
     Q_PROPERTY(QString layout READ layoutWord WRITE setLayoutWord NOTIFY changed)
     Q_PROPERTY(QVariantList layouts READ layoutsForQml CONSTANT)
     Q_PROPERTY(bool isCombined READ isCombined NOTIFY changed)
+    // The incident report or the evidence package is chosen: no camera,
+    // overlay, size or part to choose.
+    Q_PROPERTY(bool isReport READ isReport NOTIFY changed)
+    // The package of an encrypted event may carry its unlock keys.
+    Q_PROPERTY(bool keysOffered READ keysOffered NOTIFY changed)
+    Q_PROPERTY(bool includeKeys READ includeKeys WRITE setIncludeKeys NOTIFY changed)
     Q_PROPERTY(bool needsCamera READ needsCamera NOTIFY changed)
     Q_PROPERTY(bool showTime READ showTime WRITE setShowTime NOTIFY changed)
     Q_PROPERTY(bool showNames READ showNames WRITE setShowNames NOTIFY changed)
@@ -61,6 +67,8 @@ class ExportFlow : public QObject {
 
 public:
     enum class State { choosing, exporting, ready };
+    // What is made: a movie (as the layout says), the report, or the package.
+    enum class Product { movie, report, package };
     enum class Range { whole, moment, custom };
     // Whether the event's clips carry the car's driving data.
     enum class DrivingData { unknown, present, absent };
@@ -102,6 +110,8 @@ public:
 
     // The car's drive, where no copy may be saved.
     void setDriveRoot(const std::optional<QString> &root) { driveRoot_ = root; }
+    // The Vault the report compares the files with.
+    void setVaultURL(const std::optional<QString> &url) { vaultURL_ = url; }
     // The player's timeline in seconds; without it only the whole event
     // can be chosen.
     void setTimelineLength(std::optional<double> seconds);
@@ -112,8 +122,17 @@ public:
     // The combined layout; nothing for the camera copied as it is.
     std::optional<CombinedExportOptions::Layout> layout() const { return layout_; }
     void setLayout(std::optional<CombinedExportOptions::Layout> layout);
-    bool isCombined() const { return layout_.has_value(); }
-    bool needsCamera() const { return !layout_ || *layout_ == CombinedExportOptions::Layout::single; }
+    bool isCombined() const { return product_ == Product::movie && layout_.has_value(); }
+    bool needsCamera() const
+    {
+        return product_ == Product::movie && (!layout_ || *layout_ == CombinedExportOptions::Layout::single);
+    }
+    Product product() const { return product_; }
+    void setProduct(Product product);
+    bool isReport() const { return product_ != Product::movie; }
+    bool keysOffered() const { return product_ == Product::package && event_.encrypted; }
+    bool includeKeys() const { return includeKeys_ && keysOffered(); }
+    void setIncludeKeys(bool on);
     bool showTime() const { return overlay_.time; }
     void setShowTime(bool on) { setOverlayPart(&CombinedExportOptions::Overlay::time, on); }
     bool showNames() const { return overlay_.names; }
@@ -172,6 +191,7 @@ private:
     QString saveErrorMessageForQml() const { return saveErrorMessage_.value_or(QString()); }
     void finish(const QFuture<void> &future, const QString &output);
     void startCombined(const QString &folder);
+    void startReport(const QString &folder);
     QString layoutWord() const;
     void setLayoutWord(const QString &word);
     QVariantList layoutsForQml() const;
@@ -197,6 +217,9 @@ private:
     std::optional<QString> saveErrorMessage_;
     bool isSaving_ = false;
     std::optional<QString> driveRoot_;
+    std::optional<QString> vaultURL_;
+    Product product_ = Product::movie;
+    bool includeKeys_ = false;
     std::optional<CombinedExportOptions::Layout> layout_;
     CombinedExportOptions::Overlay overlay_;
     CombinedExportOptions::Size size_ = CombinedExportOptions::Size::p1080;

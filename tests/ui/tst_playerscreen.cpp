@@ -594,6 +594,30 @@ private Q_SLOTS:
 
         click(QStringLiteral("exportFooterButton")); // Done
         QTRY_VERIFY(!findItem(window_->contentItem(), QStringLiteral("saveToButton")));
+
+        // The incident report from the same sheet: nothing to choose but
+        // the report itself, then handed on like a movie.
+        click(QStringLiteral("exportButton"));
+        QTRY_VERIFY(findItem(window_->contentItem(), QStringLiteral("startExportButton")));
+        ExportFlow *report = sheetFlow();
+        choose(QStringLiteral("exportLayoutChoice"), QStringLiteral("exportLayout_report"));
+        QVERIFY(report->isReport());
+        QVERIFY(!findItem(window_->contentItem(), QStringLiteral("exportCameraChoice")));
+        QVERIFY(!findItem(window_->contentItem(), QStringLiteral("exportShowTime")));
+        QVERIFY(findItem(window_->contentItem(), QStringLiteral("exportReportAbout")));
+        QVERIFY(!findItem(window_->contentItem(), QStringLiteral("exportIncludeKeys"))); // clear footage
+        QVERIFY2(sheetFits(&why), qPrintable(why));
+        saveShot(QStringLiteral("export-sheet-report.png"));
+        click(QStringLiteral("startExportButton"));
+        QTRY_COMPARE_WITH_TIMEOUT(report->stateName(), QStringLiteral("ready"), 60000);
+        QVERIFY(!report->errorMessage());
+        QVERIFY(report->exportedFileName().startsWith(QStringLiteral("Keelhold Report")));
+        QFile pdf(*report->exportedPath());
+        QVERIFY(pdf.open(QIODevice::ReadOnly));
+        QCOMPARE(pdf.read(5), QByteArray("%PDF-"));
+        QTRY_VERIFY(findItem(window_->contentItem(), QStringLiteral("saveToButton")));
+        click(QStringLiteral("exportFooterButton")); // Done
+        QTRY_VERIFY(!findItem(window_->contentItem(), QStringLiteral("saveToButton")));
     }
 
     // A clip the drive never answers for costs that one tile, and the main

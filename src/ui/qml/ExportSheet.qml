@@ -73,6 +73,30 @@ Popup {
                     }
                 }
 
+                Item { visible: reportAbout.visible; implicitWidth: 1; implicitHeight: 1 }
+                Label {
+                    id: reportAbout
+                    objectName: "exportReportAbout"
+                    visible: sheet.flow !== null && sheet.flow.isReport
+                    Layout.preferredWidth: 280
+                    wrapMode: Text.WordWrap
+                    opacity: 0.8
+                    text: sheet.flow === null ? ""
+                          : sheet.flow.layout === "package" ? sheet.texts.packageAbout || ""
+                          : sheet.texts.reportAbout || ""
+                }
+                Item { visible: keysBox.visible; implicitWidth: 1; implicitHeight: 1 }
+                CheckBox {
+                    id: keysBox
+                    objectName: "exportIncludeKeys"
+                    visible: sheet.flow !== null && sheet.flow.keysOffered
+                    text: sheet.texts.includeKeys || ""
+                    checked: sheet.flow !== null && sheet.flow.includeKeys
+                    onToggled: sheet.flow.includeKeys = checked
+                    ToolTip.visible: hovered
+                    ToolTip.text: sheet.texts.includeKeysTip || ""
+                }
+
                 Label { text: sheet.texts.cameraLabel || ""; visible: cameraChoice.visible }
                 ComboBox {
                     id: cameraChoice
