@@ -378,7 +378,7 @@ QVariantMap ExportFlow::texts()
     return {{QStringLiteral("title"), title},
             {QStringLiteral("explanation"), explanation},
             {QStringLiteral("cameraLabel"), QStringLiteral("Camera")},
-            {QStringLiteral("layoutLabel"), QStringLiteral("Video")},
+            {QStringLiteral("layoutLabel"), tr("Export as")},
             {QStringLiteral("layout_original"), QStringLiteral("One camera (original quality)")},
             {QStringLiteral("layout_grid"), QStringLiteral("Grid of every camera")},
             {QStringLiteral("layout_front-sides"), QStringLiteral("Front and sides")},
