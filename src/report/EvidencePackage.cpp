@@ -10,7 +10,6 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
-#include <QScopeGuard>
 #include <QSet>
 #include <QUuid>
 
@@ -148,15 +147,17 @@ bool isPlainName(const QString &name)
 
 class Progress {
 public:
-    Progress(const Options &options, qint64 total) : report_(options.progress), total_(total) {}
+    Progress(const Options &options, qint64 total)
+        : report_(options.progress), total_(total), last_(std::chrono::steady_clock::now() - progressInterval)
+    {
+    }
 
     // The first block reports at once, later ones when enough time has passed.
     void add(qint64 bytes)
     {
         done_ += bytes;
         const auto now = std::chrono::steady_clock::now();
-        if (report_ && total_ > 0 && (!reported_ || now - last_ >= progressInterval)) {
-            reported_ = true;
+        if (report_ && total_ > 0 && now - last_ >= progressInterval) {
             last_ = now;
             report_(std::min(1.0, double(done_) / double(total_)));
         }
@@ -171,54 +172,170 @@ private:
     const std::function<void(double)> &report_;
     qint64 total_;
     qint64 done_ = 0;
-    bool reported_ = false;
     std::chrono::steady_clock::time_point last_;
 };
 
-// A writer that didn't finish is marked failed before it is freed, so that
-// freeing it doesn't write the end of a ZIP into a file about to be removed.
-struct Writer {
-    archive *zip = archive_write_new();
-    bool closed = false;
+// The package under its hidden name beside the destination, removed unless
+// it was placed whole.
+class HiddenFile {
+public:
+    explicit HiddenFile(const QString &destination) : destination_(destination)
+    {
+        const QFileInfo target(destination);
+        folder_ = target.absolutePath();
+        name_ = QFile::encodeName(folder_ + QStringLiteral("/.") + target.fileName() + QStringLiteral(".partial-")
+                                  + QUuid::createUuid().toString(QUuid::WithoutBraces));
+        fd_ = ::open(name_.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+        if (fd_ < 0)
+            throw ReportError(writeProblem(errno));
+    }
+    ~HiddenFile()
+    {
+        ::close(fd_);
+        if (!placed_)
+            ::unlink(name_.constData());
+    }
+    HiddenFile(const HiddenFile &) = delete;
+    HiddenFile &operator=(const HiddenFile &) = delete;
+
+    int fd() const { return fd_; }
+
+    // On the disk before it takes the destination's name: a power cut finds
+    // the old file or the whole new one.
+    void place()
+    {
+        if (::fsync(fd_) != 0)
+            throw ReportError(writeProblem(errno));
+        if (::rename(name_.constData(), QFile::encodeName(destination_).constData()) != 0)
+            throw ReportError(writeProblem(errno));
+        placed_ = true;
+        const int folder = ::open(QFile::encodeName(folder_).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+        if (folder >= 0) {
+            ::fsync(folder);
+            ::close(folder);
+        }
+    }
+
+private:
+    QString destination_;
+    QString folder_;
+    QByteArray name_;
+    int fd_ = -1;
+    bool placed_ = false;
+};
+
+// A ZIP writer on the hidden file. One that didn't finish is marked failed
+// before it is freed, so that freeing it writes no end of a ZIP into a
+// file about to be removed.
+class Writer {
+public:
+    explicit Writer(int fd)
+    {
+        // Stored, not compressed: footage doesn't shrink, and any reader
+        // finds the original bytes in place. Unbuffered: each block goes
+        // straight to the file.
+        if (!zip_ || archive_write_set_format_zip(zip_) != ARCHIVE_OK
+            || archive_write_set_options(zip_, "zip:compression=store,zip:hdrcharset=UTF-8") != ARCHIVE_OK
+            || archive_write_set_bytes_per_block(zip_, 0) != ARCHIVE_OK || archive_write_open_fd(zip_, fd) != ARCHIVE_OK)
+            fail();
+    }
     ~Writer()
     {
-        if (!closed)
-            archive_write_fail(zip);
-        archive_write_free(zip);
+        if (!closed_)
+            archive_write_fail(zip_);
+        archive_write_free(zip_);
     }
+    Writer(const Writer &) = delete;
+    Writer &operator=(const Writer &) = delete;
+
+    void header(const QString &name, qint64 size, time_t modified)
+    {
+        const std::unique_ptr<archive_entry, void (*)(archive_entry *)> entry(archive_entry_new(), archive_entry_free);
+        archive_entry_set_pathname_utf8(entry.get(), name.toUtf8().constData());
+        archive_entry_set_filetype(entry.get(), AE_IFREG);
+        archive_entry_set_perm(entry.get(), 0644);
+        // Known before the data: a stored entry needs it, and it is how
+        // libarchive decides on ZIP64 for an entry over 4 GB.
+        archive_entry_set_size(entry.get(), size);
+        archive_entry_set_mtime(entry.get(), modified, 0);
+        if (archive_write_header(zip_, entry.get()) != ARCHIVE_OK)
+            fail();
+    }
+    void data(const char *bytes, qint64 size)
+    {
+        if (archive_write_data(zip_, bytes, size_t(size)) != size)
+            fail();
+    }
+    void finishEntry()
+    {
+        if (archive_write_finish_entry(zip_) != ARCHIVE_OK)
+            fail();
+    }
+    void close()
+    {
+        if (archive_write_close(zip_) != ARCHIVE_OK)
+            fail();
+        closed_ = true;
+    }
+
+private:
+    [[noreturn]] void fail() { throw ReportError(writeProblem(zip_ ? archive_errno(zip_) : ENOMEM)); }
+
+    archive *zip_ = archive_write_new();
+    bool closed_ = false;
 };
 
-struct EntryFree {
-    void operator()(archive_entry *entry) const { archive_entry_free(entry); }
-};
-
-void writeHeader(archive *zip, const QString &name, qint64 size, time_t modified)
+// Adds one item, read block by block under the read limit; answers the
+// SHA-256 of the bytes that went into the package.
+QString addItem(Writer &zip, const Item &item, const std::shared_ptr<Block> &block, Progress &progress,
+                const Options &options)
 {
-    const std::unique_ptr<archive_entry, EntryFree> entry(archive_entry_new());
-    archive_entry_set_pathname_utf8(entry.get(), name.toUtf8().constData());
-    archive_entry_set_filetype(entry.get(), AE_IFREG);
-    archive_entry_set_perm(entry.get(), 0644);
-    // Known before the data: a stored entry needs it, and it is how
-    // libarchive decides on ZIP64 for an entry over 4 GB.
-    archive_entry_set_size(entry.get(), size);
-    archive_entry_set_mtime(entry.get(), modified, 0);
-    if (archive_write_header(zip, entry.get()) != ARCHIVE_OK)
-        throw ReportError(writeProblem(archive_errno(zip)));
+    const QString file = QFileInfo(item.source).fileName();
+    const std::shared_ptr<Source> source = openSource(item.source, file, options);
+    zip.header(item.name, source->size, source->modified);
+    Sha256 hash;
+    qint64 count = 0;
+    for (;;) {
+        if (options.stop.stop_requested())
+            throw CancellationError();
+        // One byte past the size is asked for, to tell a file that grew.
+        const qint64 want = std::min(blockSize, source->size + 1 - count);
+        const ReadResult read = readBlock(source, block, want, file, options);
+        if (read.error != 0)
+            throw ReportError(readProblem(file, read.error));
+        if (read.size == 0)
+            break;
+        count += read.size;
+        if (count > source->size)
+            break;
+        hash.update(block->data(), size_t(read.size));
+        zip.data(block->data(), read.size);
+        progress.add(read.size);
+    }
+    if (count != source->size)
+        throw ReportError(
+            tr("%1 changed while the package was being made — the package was not made.").arg(file));
+    zip.finishEntry();
+    const QString digest = hash.finishHex();
+    if (item.sha256 && item.sha256->compare(digest, Qt::CaseInsensitive) != 0)
+        throw ReportError(tr("%1 changed since the report was made — the package was not made.").arg(file));
+    return digest;
 }
 
-void writeData(archive *zip, const char *data, qint64 size)
+// Every source is looked at before anything is written: a file that is gone
+// fails the package at once, and the sizes make the progress.
+qint64 totalSize(const std::vector<Item> &items, const Options &options)
 {
-    if (archive_write_data(zip, data, size_t(size)) != size)
-        throw ReportError(writeProblem(archive_errno(zip)));
-}
-
-void syncFolder(const QString &folder)
-{
-    const int fd = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (fd < 0)
-        return;
-    ::fsync(fd);
-    ::close(fd);
+    qint64 total = 0;
+    for (const Item &item : items) {
+        const QString path = item.source;
+        const QString file = QFileInfo(path).fileName();
+        const auto info = onDrive(file, options, [path](std::stop_token) { return ReadOnlyFs::stat(path); });
+        if (!info.isRegularFile)
+            throw ReportError(readProblem(file, info.exists ? ReadOnlyFs::notRegularFile : info.error));
+        total += info.size;
+    }
+    return total;
 }
 
 } // namespace
@@ -227,7 +344,6 @@ void write(const std::vector<Item> &items, const QString &destination, const Opt
 {
     if (DriveBoundary::writesIntoDriveOf(options.events, destination))
         throw ReportError(tr("Keelhold never writes to your Tesla drive, so save the package somewhere else."));
-
     QSet<QString> names;
     for (const Item &item : items) {
         if (!isPlainName(item.name) || names.contains(item.name))
@@ -235,98 +351,19 @@ void write(const std::vector<Item> &items, const QString &destination, const Opt
         names.insert(item.name);
     }
 
-    // Every source is looked at before anything is written: a file that is
-    // gone fails the package at once, and the sizes make the progress.
-    qint64 total = 0;
-    for (const Item &item : items) {
-        const QString path = item.source;
-        const auto info = onDrive(QFileInfo(path).fileName(), options,
-                                  [path](std::stop_token) { return ReadOnlyFs::stat(path); });
-        if (!info.isRegularFile)
-            throw ReportError(readProblem(QFileInfo(path).fileName(),
-                                          info.exists ? ReadOnlyFs::notRegularFile : info.error));
-        total += info.size;
-    }
-
-    const QFileInfo target(destination);
-    const QString folder = target.absolutePath();
-    const QString partial = folder + QStringLiteral("/.") + target.fileName() + QStringLiteral(".partial-")
-        + QUuid::createUuid().toString(QUuid::WithoutBraces);
-    const QByteArray partialName = QFile::encodeName(partial);
-    const int out = ::open(partialName.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-    if (out < 0)
-        throw ReportError(writeProblem(errno));
-    bool placed = false;
-    const auto cleanUp = qScopeGuard([&] {
-        if (out >= 0)
-            ::close(out);
-        if (!placed)
-            ::unlink(partialName.constData());
-    });
-
-    Progress progress(options, total);
+    Progress progress(options, totalSize(items, options));
+    HiddenFile hidden(destination);
     {
-        Writer writer;
-        archive *zip = writer.zip;
-        // Stored, not compressed: footage doesn't shrink, and any reader
-        // sees the original bytes in place. Unbuffered: each block goes
-        // straight to the file.
-        if (archive_write_set_format_zip(zip) != ARCHIVE_OK
-            || archive_write_set_options(zip, "zip:compression=store,zip:hdrcharset=UTF-8") != ARCHIVE_OK
-            || archive_write_set_bytes_per_block(zip, 0) != ARCHIVE_OK || archive_write_open_fd(zip, out) != ARCHIVE_OK)
-            throw ReportError(writeProblem(archive_errno(zip)));
-
+        Writer zip(hidden.fd());
         const auto block = std::make_shared<Block>(size_t(blockSize));
         QByteArray sums;
-        for (const Item &item : items) {
-            const QString file = QFileInfo(item.source).fileName();
-            const QString changed = tr("%1 changed while the package was being made — the package was not made.").arg(file);
-            const std::shared_ptr<Source> source = openSource(item.source, file, options);
-            writeHeader(zip, item.name, source->size, source->modified);
-            Sha256 hash;
-            qint64 count = 0;
-            for (;;) {
-                if (options.stop.stop_requested())
-                    throw CancellationError();
-                // One byte past the size is asked for, to tell a file that grew.
-                const qint64 want = std::min(blockSize, source->size + 1 - count);
-                const ReadResult read = readBlock(source, block, want, file, options);
-                if (read.error != 0)
-                    throw ReportError(readProblem(file, read.error));
-                if (read.size == 0)
-                    break;
-                count += read.size;
-                if (count > source->size)
-                    throw ReportError(changed);
-                hash.update(block->data(), size_t(read.size));
-                writeData(zip, block->data(), read.size);
-                progress.add(read.size);
-            }
-            if (count != source->size)
-                throw ReportError(changed);
-            if (archive_write_finish_entry(zip) != ARCHIVE_OK)
-                throw ReportError(writeProblem(archive_errno(zip)));
-            const QString digest = hash.finishHex();
-            if (item.sha256 && item.sha256->compare(digest, Qt::CaseInsensitive) != 0)
-                throw ReportError(tr("%1 changed since the report was made — the package was not made.").arg(file));
-            sums += digest.toLatin1() + "  " + item.name.toUtf8() + '\n';
-        }
-
-        writeHeader(zip, sumsName, sums.size(), ::time(nullptr));
-        writeData(zip, sums.constData(), sums.size());
-        if (archive_write_close(zip) != ARCHIVE_OK)
-            throw ReportError(writeProblem(archive_errno(zip)));
-        writer.closed = true;
+        for (const Item &item : items)
+            sums += addItem(zip, item, block, progress, options).toLatin1() + "  " + item.name.toUtf8() + '\n';
+        zip.header(sumsName, sums.size(), ::time(nullptr));
+        zip.data(sums.constData(), sums.size());
+        zip.close();
     }
-
-    // On the disk before it takes the destination's name: a power cut must
-    // find the old file or the whole new one.
-    if (::fsync(out) != 0)
-        throw ReportError(writeProblem(errno));
-    if (::rename(partialName.constData(), QFile::encodeName(destination).constData()) != 0)
-        throw ReportError(writeProblem(errno));
-    placed = true;
-    syncFolder(folder);
+    hidden.place();
     progress.finish();
 }
 

@@ -34,7 +34,7 @@ struct Sources {
 
     QString add(const QString &name, const QByteArray &bytes, bool withDigest = true)
     {
-        const QString path = dir.filePath(QString::number(items.size()) + QStringLiteral(".bin"));
+        const QString path = dir.filePath(QString::number(items.size()) + QLatin1Char('-') + QFileInfo(name).fileName());
         TeslaCamFixture::writeFile(path, bytes);
         items.push_back({path, name, withDigest ? std::optional(DriveBuilder::sha256Hex(bytes)) : std::nullopt});
         return path;
@@ -71,6 +71,10 @@ Run runIn(const QString &folder, const QString &program, const QStringList &argu
 {
     QProcess p;
     p.setWorkingDirectory(folder);
+    // Info-ZIP's unzip spells non-ASCII names as "#U00fc" outside a UTF-8 locale.
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+    p.setProcessEnvironment(environment);
     p.start(program, arguments);
     if (!p.waitForFinished(120000) || p.exitStatus() != QProcess::NormalExit)
         return {};
