@@ -32,20 +32,21 @@ constexpr qint64 blockSize = 1 << 20;
 constexpr auto progressInterval = std::chrono::milliseconds(40);
 const QString sumsName = QStringLiteral("SHA256SUMS");
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("EvidencePackage", text);
-}
+// The texts' translation context, as lupdate sees it.
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(EvidencePackage)
+};
 
 QString readProblem(const QString &file, int error)
 {
     switch (error) {
     case ENOENT:
-    case ENOTDIR: return tr("Couldn't read %1 from the drive — it is no longer there.").arg(file);
-    case ReadOnlyFs::notRegularFile: return tr("Couldn't read %1 from the drive — it isn't an ordinary file.").arg(file);
+    case ENOTDIR: return Texts::tr("Couldn't read %1 from the drive — it is no longer there.").arg(file);
+    case ReadOnlyFs::notRegularFile:
+        return Texts::tr("Couldn't read %1 from the drive — it isn't an ordinary file.").arg(file);
     case EACCES:
-    case EPERM: return tr("Couldn't read %1 from the drive — the system refused to open it.").arg(file);
-    default: return tr("Couldn't read %1 from the drive — the drive reported an error.").arg(file);
+    case EPERM: return Texts::tr("Couldn't read %1 from the drive — the system refused to open it.").arg(file);
+    default: return Texts::tr("Couldn't read %1 from the drive — the drive reported an error.").arg(file);
     }
 }
 
@@ -53,14 +54,14 @@ QString writeProblem(int error)
 {
     switch (error) {
     case ENOSPC:
-    case EDQUOT: return tr("Couldn't write the package there — the disk is full.");
+    case EDQUOT: return Texts::tr("Couldn't write the package there — the disk is full.");
     case EACCES:
     case EPERM:
-    case EROFS: return tr("Couldn't write the package there — that folder can't be written to.");
+    case EROFS: return Texts::tr("Couldn't write the package there — that folder can't be written to.");
     case ENOENT:
-    case ENOTDIR: return tr("Couldn't write the package there — that folder doesn't exist.");
-    case EISDIR: return tr("Couldn't write the package there — a folder already has that name.");
-    default: return tr("Couldn't write the package there — the disk reported an error.");
+    case ENOTDIR: return Texts::tr("Couldn't write the package there — that folder doesn't exist.");
+    case EISDIR: return Texts::tr("Couldn't write the package there — a folder already has that name.");
+    default: return Texts::tr("Couldn't write the package there — the disk reported an error.");
     }
 }
 
@@ -93,7 +94,7 @@ auto onDrive(const QString &file, const Options &options, Op &&op)
     try {
         return IOWatchdog::run(options.readLimit, std::forward<Op>(op), options.stop);
     } catch (const IOWatchdog::TimedOut &) {
-        throw ReportError(tr("Couldn't read %1 from the drive — it stopped answering.").arg(file));
+        throw ReportError(Texts::tr("Couldn't read %1 from the drive — it stopped answering.").arg(file));
     }
 }
 
@@ -236,7 +237,8 @@ public:
         // straight to the file.
         if (!zip_ || archive_write_set_format_zip(zip_) != ARCHIVE_OK
             || archive_write_set_options(zip_, "zip:compression=store,zip:hdrcharset=UTF-8") != ARCHIVE_OK
-            || archive_write_set_bytes_per_block(zip_, 0) != ARCHIVE_OK || archive_write_open_fd(zip_, fd) != ARCHIVE_OK)
+            || archive_write_set_bytes_per_block(zip_, 0) != ARCHIVE_OK
+            || archive_write_open_fd(zip_, fd) != ARCHIVE_OK)
             fail();
     }
     ~Writer()
@@ -314,11 +316,11 @@ QString addItem(Writer &zip, const Item &item, const std::shared_ptr<Block> &blo
     }
     if (count != source->size)
         throw ReportError(
-            tr("%1 changed while the package was being made — the package was not made.").arg(file));
+            Texts::tr("%1 changed while the package was being made — the package was not made.").arg(file));
     zip.finishEntry();
     const QString digest = hash.finishHex();
     if (item.sha256 && item.sha256->compare(digest, Qt::CaseInsensitive) != 0)
-        throw ReportError(tr("%1 changed since the report was made — the package was not made.").arg(file));
+        throw ReportError(Texts::tr("%1 changed since the report was made — the package was not made.").arg(file));
     return digest;
 }
 
@@ -343,11 +345,12 @@ qint64 totalSize(const std::vector<Item> &items, const Options &options)
 void write(const std::vector<Item> &items, const QString &destination, const Options &options)
 {
     if (DriveBoundary::writesIntoDriveOf(options.events, destination))
-        throw ReportError(tr("Keelhold never writes to your Tesla drive, so save the package somewhere else."));
+        throw ReportError(Texts::tr("Keelhold never writes to your Tesla drive, so save the package somewhere else."));
     QSet<QString> names;
     for (const Item &item : items) {
         if (!isPlainName(item.name) || names.contains(item.name))
-            throw ReportError(tr("%1 can't be a name inside the package — the package was not made.").arg(item.name));
+            throw ReportError(
+                Texts::tr("%1 can't be a name inside the package — the package was not made.").arg(item.name));
         names.insert(item.name);
     }
 

@@ -34,7 +34,8 @@ struct Sources {
 
     QString add(const QString &name, const QByteArray &bytes, bool withDigest = true)
     {
-        const QString path = dir.filePath(QString::number(items.size()) + QLatin1Char('-') + QFileInfo(name).fileName());
+        const QString path =
+            dir.filePath(QString::number(items.size()) + QLatin1Char('-') + QFileInfo(name).fileName());
         TeslaCamFixture::writeFile(path, bytes);
         items.push_back({path, name, withDigest ? std::optional(DriveBuilder::sha256Hex(bytes)) : std::nullopt});
         return path;
@@ -135,8 +136,8 @@ private Q_SLOTS:
         const Run unzip = runIn(out.path(), QStringLiteral("unzip"), {QStringLiteral("-q"), destination,
                                                                        QStringLiteral("-d"), unpacked});
         QVERIFY2(unzip.exitCode == 0, qPrintable(unzip.out));
-        const Run check = runIn(unpacked, QStringLiteral("sha256sum"), {QStringLiteral("--strict"), QStringLiteral("-c"),
-                                                                         QStringLiteral("SHA256SUMS")});
+        const Run check = runIn(unpacked, QStringLiteral("sha256sum"),
+                                {QStringLiteral("--strict"), QStringLiteral("-c"), QStringLiteral("SHA256SUMS")});
         QVERIFY2(check.exitCode == 0, qPrintable(check.out));
         QCOMPARE(check.out.count(QStringLiteral(": OK\n")), int(sources.items.size()));
 
