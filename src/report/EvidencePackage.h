@@ -23,13 +23,14 @@ struct Item {
 struct Options {
     std::function<void(double)> progress; // 0 to 1 by bytes, from the writing thread
     std::stop_token stop;
-    std::chrono::milliseconds readLimit{10000}; // one read of a source that takes longer fails the package
+    std::chrono::milliseconds readLimit{10000}; // one open or read of a source that takes longer fails the package
     // The events whose drive the package must never be written to.
     std::vector<TeslaEvent> events;
 };
 
 // Blocking. Written under a hidden name beside destination and renamed over
-// it when whole. Throws ReportError (nothing left behind) or
+// it when whole; never onto the drive of options.events. Throws ReportError
+// (nothing left behind, a file that was at destination as it was) or
 // CancellationError (nothing left behind either).
 void write(const std::vector<Item> &items, const QString &destination, const Options &options);
 
