@@ -88,6 +88,8 @@ void IncidentReport::make(const TeslaEvent &event, const QString &destination, c
     const QString reportPath = scratch.filePath(QStringLiteral("report.pdf"));
     ReportDocument::write(content, reportPath, look);
     report(shares.gather + shares.document);
+    if (options.stop.stop_requested())
+        throw CancellationError();
 
     std::vector<EvidencePackage::Item> items;
     items.push_back({reportPath, reportName, std::nullopt});
