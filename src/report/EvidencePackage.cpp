@@ -360,8 +360,18 @@ void write(const std::vector<Item> &items, const QString &destination, const Opt
         Writer zip(hidden.fd());
         const auto block = std::make_shared<Block>(size_t(blockSize));
         QByteArray sums;
-        for (const Item &item : items)
-            sums += addItem(zip, item, block, progress, options).toLatin1() + "  " + item.name.toUtf8() + '\n';
+        std::vector<QString> digests;
+        for (const Item &item : items) {
+            digests.push_back(addItem(zip, item, block, progress, options));
+            sums += digests.back().toLatin1() + "  " + item.name.toUtf8() + '\n';
+        }
+        if (options.last) {
+            const Item last = options.last(digests);
+            if (!isPlainName(last.name) || names.contains(last.name))
+                throw ReportError(
+                    Texts::tr("%1 can't be a name inside the package — the package was not made.").arg(last.name));
+            sums += addItem(zip, last, block, progress, options).toLatin1() + "  " + last.name.toUtf8() + '\n';
+        }
         zip.header(sumsName, sums.size(), ::time(nullptr));
         zip.data(sums.constData(), sums.size());
         zip.close();

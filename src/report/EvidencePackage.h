@@ -26,6 +26,10 @@ struct Options {
     std::chrono::milliseconds readLimit{10000}; // one open or read of a source that takes longer fails the package
     // The events whose drive the package must never be written to.
     std::vector<TeslaEvent> events;
+    // Made once every item is in, from their digests in item order: one
+    // more item (the report that lists them) put in before SHA256SUMS, so
+    // the originals are read once.
+    std::function<Item(const std::vector<QString> &digests)> last;
 };
 
 // Blocking. Written under a hidden name beside destination and renamed over

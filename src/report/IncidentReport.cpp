@@ -18,6 +18,7 @@
 #include <QTemporaryDir>
 #include <QUuid>
 #include <cstdio>
+#include <future>
 
 namespace {
 
@@ -27,12 +28,6 @@ QString hiddenBeside(const QString &destination)
     return info.dir().filePath(QStringLiteral(".%1.partial-%2")
                                    .arg(info.fileName(), QUuid::createUuid().toString(QUuid::WithoutBraces)));
 }
-
-// The shares of the whole work each step takes, so progress moves evenly.
-struct Shares {
-    double gather;
-    double document;
-};
 
 } // namespace
 
@@ -53,21 +48,19 @@ void IncidentReport::make(const TeslaEvent &event, const QString &destination, c
         throw ReportError(DriveBoundary::exportRefusal);
     if (!QFileInfo(QFileInfo(destination).absolutePath()).isDir())
         throw ReportError(tr("There is no folder at %1.").arg(QFileInfo(destination).absolutePath()));
-    const Shares shares = options.package ? Shares{0.3, 0.05} : Shares{0.8, 0.2};
     const auto report = [&](double fraction) {
         if (options.progress)
             options.progress(std::min(1.0, fraction));
     };
-
     ReportContent::Options gathering;
     gathering.vaultURL = options.vaultURL;
     gathering.readLimit = options.readLimit;
     gathering.stop = options.stop;
-    gathering.progress = [&](double f) { report(f * shares.gather); };
-    const ReportContent content = ReportContent::gather(event, gathering);
-
     const ReportDocument::Options look{options.miles, options.locale, options.version, options.tiles};
+
     if (!options.package) {
+        gathering.progress = [&](double f) { report(f * 0.8); };
+        const ReportContent content = ReportContent::gather(event, gathering);
         const QString hidden = hiddenBeside(destination);
         auto cleanUp = qScopeGuard([&] { QFile::remove(hidden); });
         ReportDocument::write(content, hidden, look);
@@ -80,25 +73,33 @@ void IncidentReport::make(const TeslaEvent &event, const QString &destination, c
         return;
     }
 
-    // The package: the report first, then every original as the report listed it.
+    // The package: every original goes in, read once and hashed on the way,
+    // while a second thread gathers the report's pictures and driving data
+    // (the copying is the disk's and the decoding the processor's). The
+    // report, made with the digests, follows the originals, then SHA256SUMS.
+    std::stop_source gatherStop;
+    const std::stop_callback forwardStop(options.stop, [&] { gatherStop.request_stop(); });
+    gathering.stop = gatherStop.get_token();
+    gathering.hashFiles = false;
+    std::future<ReportContent> gathered =
+        std::async(std::launch::async, [&event, gathering] { return ReportContent::gather(event, gathering); });
+    // However the package ends, the gathering ends with it.
+    const auto endGathering = qScopeGuard([&] {
+        gatherStop.request_stop();
+        if (gathered.valid())
+            gathered.wait();
+    });
+
     QTemporaryDir scratch;
     if (!scratch.isValid())
         throw ReportError(tr("There is no room for the report on this computer."));
-    const QString reportName = suggestedFileName(event);
     const QString reportPath = scratch.filePath(QStringLiteral("report.pdf"));
-    ReportDocument::write(content, reportPath, look);
-    report(shares.gather + shares.document);
-    if (options.stop.stop_requested())
-        throw CancellationError();
-
+    std::vector<ClipRef> clips = event.clips;
+    ClipOrder::sort(clips); // the report's order
     std::vector<EvidencePackage::Item> items;
-    items.push_back({reportPath, reportName, std::nullopt});
     const QString folder = event.folderName;
-    for (const ReportContent::File &file : content.files) {
-        if (!file.sha256)
-            throw ReportError(tr("%1 couldn't be read, so the package can't hold every original.").arg(file.name));
-        items.push_back({file.path, folder + QLatin1Char('/') + file.name, file.sha256});
-    }
+    for (const ClipRef &clip : clips)
+        items.push_back({clip.url, folder + QLatin1Char('/') + clip.fileName(), std::nullopt});
     const QString eventJson = QDir(event.folderURL).filePath(QStringLiteral("event.json"));
     if (!event.folderURL.isEmpty() && ReadOnlyFs::stat(eventJson).isRegularFile)
         items.push_back({eventJson, folder + QStringLiteral("/event.json"), std::nullopt});
@@ -109,10 +110,10 @@ void IncidentReport::make(const TeslaEvent &event, const QString &destination, c
             items.push_back({beside, folder + QStringLiteral("/unlock-keys.json"), std::nullopt});
         } else {
             std::vector<KeyEntry> keys;
-            for (const ReportContent::File &file : content.files)
-                if (const Ecryptfs::Header header = Ecryptfs::read(file.path); header.state == Ecryptfs::Header::State::ok)
+            for (const ClipRef &clip : clips)
+                if (const Ecryptfs::Header header = Ecryptfs::read(clip.url); header.state == Ecryptfs::Header::State::ok)
                     if (const auto key = KeyStore::shared().find(header.keyBlock))
-                        keys.push_back(KeyEntry{file.name, header.keyBlock.keyId, header.keyBlock.vin, *key,
+                        keys.push_back(KeyEntry{clip.fileName(), header.keyBlock.keyId, header.keyBlock.vin, *key,
                                                 header.keyBlock.fingerprint()});
             if (!keys.empty() && VaultKeys::write(scratch.path(), keys))
                 items.push_back({scratch.filePath(VaultKeys::fileName), folder + QStringLiteral("/unlock-keys.json"),
@@ -124,8 +125,14 @@ void IncidentReport::make(const TeslaEvent &event, const QString &destination, c
     packing.stop = options.stop;
     packing.readLimit = options.readLimit;
     packing.events = {event};
-    const double before = shares.gather + shares.document;
-    packing.progress = [&](double f) { report(before + f * (1 - before)); };
+    packing.progress = report;
+    packing.last = [&](const std::vector<QString> &digests) {
+        ReportContent content = gathered.get();
+        for (size_t i = 0; i < content.files.size() && i < digests.size(); ++i)
+            content.files[i].sha256 = digests[i];
+        ReportDocument::write(content, reportPath, look);
+        return EvidencePackage::Item{reportPath, suggestedFileName(event), std::nullopt};
+    };
     EvidencePackage::write(items, destination, packing);
     report(1);
 }

@@ -239,8 +239,9 @@ ReportContent ReportContent::gather(const TeslaEvent &event, const Options &opti
         }
         file.condition = conditionText(health);
         file.damaged = health.isDamaged();
-        file.sha256 = hashFile(clip.url, clip.fileSize, options.readLimit, options.stop, &file.readProblem);
-        if (!file.sha256 && file.readProblem.isEmpty())
+        if (options.hashFiles)
+            file.sha256 = hashFile(clip.url, clip.fileSize, options.readLimit, options.stop, &file.readProblem);
+        if (options.hashFiles && !file.sha256 && file.readProblem.isEmpty())
             file.readProblem = tr("This file couldn't be read.");
         if (record)
             for (const ArchivedFile &kept : record->files)

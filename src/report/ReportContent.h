@@ -83,6 +83,8 @@ public:
         std::chrono::milliseconds readLimit{10000};
         std::stop_token stop;
         std::function<void(double)> progress; // 0 to 1
+        // Off when the files are hashed as they are packed, and filled in after.
+        bool hashFiles = true;
     };
     static constexpr double chartSeconds = 10;
 

@@ -334,7 +334,7 @@ private Q_SLOTS:
             options.package = package;
             options.stop = stop.get_token();
             options.progress = [&](double f) {
-                if (f > (package ? 0.3 : 0.4)) // the package: once its report is made
+                if (f > (package ? 0.3 : 0.4)) // the package: once its copying began
                     stop.request_stop();
             };
             bool stopped = false;
