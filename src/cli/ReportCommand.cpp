@@ -10,6 +10,7 @@
 #include "model/DrivingDataText.h"
 #include "report/IncidentReport.h"
 #include "report/ReportError.h"
+#include "report/TileFetch.h"
 
 extern "C" {
 #include <libavutil/log.h>
@@ -18,6 +19,7 @@ extern "C" {
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFileInfo>
+#include <QSettings>
 
 namespace ReportCommand {
 
@@ -56,7 +58,7 @@ int run(const QStringList &arguments)
         QStringLiteral("A Vault to compare the files with, for an event on the drive that was kept there."),
         QStringLiteral("folder"));
     const QCommandLineOption unitOption(QStringLiteral("speed-unit"),
-                                       QStringLiteral("km/h or mph; the default is the one your locale uses."),
+                                       QStringLiteral("km/h or mph; the default is the app's choice, else the one your locale uses."),
                                        QStringLiteral("unit"));
     const QCommandLineOption tokenFile = CliUnlock::tokenFileOption();
     parser.addOptions({eventOption, outputOption, packageOption, keysOption, vaultOption, unitOption, tokenFile});
@@ -67,7 +69,8 @@ int run(const QStringList &arguments)
         CliOutput::err(QString::fromLatin1(usage));
         return CliOutput::usageExit;
     }
-    bool miles = DrivingDataText::milesByDefault();
+    const QString chosenUnit = QSettings(QStringLiteral("Keelhold"), QStringLiteral("Keelhold")).value(QStringLiteral("KHSpeedUnit")).toString();
+    bool miles = chosenUnit.isEmpty() ? DrivingDataText::milesByDefault() : chosenUnit == QLatin1String("mph");
     if (parser.isSet(unitOption)) {
         const QString unit = parser.value(unitOption);
         if (unit != QLatin1String("km/h") && unit != QLatin1String("mph"))
@@ -114,6 +117,11 @@ int run(const QStringList &arguments)
     options.includeKeys = parser.isSet(keysOption);
     options.miles = miles;
     options.version = QStringLiteral(KEELHOLD_VERSION);
+    // The app's map settings: its tile server, and the speed unit chosen there.
+    const QSettings app(QStringLiteral("Keelhold"), QStringLiteral("Keelhold"));
+    const QString tiles = app.value(TileFetch::templateKey).toString();
+    options.tiles = TileFetch::fetcher({tiles.isEmpty() ? QString::fromLatin1(TileFetch::defaultTemplate) : tiles,
+                                        TileFetch::userAgent(options.version)});
     const CliInterrupt::StopsWork interrupt;
     options.stop = interrupt.token();
     int shown = -1;

@@ -56,7 +56,8 @@ void IncidentReport::make(const TeslaEvent &event, const QString &destination, c
     gathering.vaultURL = options.vaultURL;
     gathering.readLimit = options.readLimit;
     gathering.stop = options.stop;
-    const ReportDocument::Options look{options.miles, options.locale, options.version, options.tiles};
+    gathering.tiles = options.tiles;
+    const ReportDocument::Options look{options.miles, options.locale, options.version};
 
     if (!options.package) {
         gathering.progress = [&](double f) { report(f * 0.8); };

@@ -196,6 +196,18 @@ ReportContent ReportContent::gather(const TeslaEvent &event, const Options &opti
         }
     }
 
+    if (options.tiles && content.latitude && content.longitude) {
+        const auto frame = ReportMap::frame(content.route, *content.latitude, *content.longitude);
+        for (const ReportMap::TileKey &tile : ReportMap::tilesFor(frame)) {
+            if (options.stop.stop_requested())
+                throw CancellationError();
+            const auto image = options.tiles(tile.z, tile.x, tile.y);
+            if (!image) // all or nothing: the map is drawn plain
+                break;
+            content.mapTiles.insert(ReportMap::keyOf(tile), *image);
+        }
+    }
+
     for (size_t i = 0; i < tracks.size(); ++i) {
         content.stills.push_back(stillOf(tracks[i], moment, options.readLimit, options.stop));
         progress(0.3 + 0.3 * double(i + 1) / double(tracks.size()));

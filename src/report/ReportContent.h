@@ -5,8 +5,10 @@
 #include "model/EventTelemetry.h"
 #include "model/TeslaEvent.h"
 #include "model/TelemetryRecord.h"
+#include "report/ReportMap.h"
 
 #include <QCoreApplication>
+#include <QHash>
 #include <QImage>
 #include <QString>
 #include <chrono>
@@ -67,6 +69,8 @@ public:
     std::vector<EventTelemetry::RoutePoint> route; // positions over the whole event
     std::optional<double> routeMoment;             // the route point's time at the moment
 
+    QHash<QString, QImage> mapTiles; // under the route and the spot, by ReportMap::keyOf
+
     std::vector<Still> stills;      // one per camera of the event, grid order
     std::vector<Reading> readings;  // from 10 s before to 10 s after the moment
     std::optional<TelemetryRecord> atMoment;
@@ -85,6 +89,7 @@ public:
         std::function<void(double)> progress; // 0 to 1
         // Off when the files are hashed as they are packed, and filled in after.
         bool hashFiles = true;
+        ReportMap::Tiles tiles; // none: the map is drawn plain
     };
     static constexpr double chartSeconds = 10;
 

@@ -128,10 +128,10 @@ void ReportDocument::write(const ReportContent &content, const QString &path, co
     if (content.latitude && content.longitude) {
         const double lat = *content.latitude, lon = *content.longitude;
         const auto route = content.route;
-        const auto tiles = options.tiles;
+        const auto tiles = content.mapTiles;
         html += QStringLiteral("<h2>%1</h2>").arg(esc(route.size() > 1 ? tr("Where, and the route driven") : tr("Where")));
         html += drawing([=](QPainter &p, const QRectF &r) { ReportMap::paint(p, r, route, lat, lon, tiles); },
-                        ReportMap::heightFor(1));
+                        ReportMap::heightPerWidth);
     } else {
         html += QStringLiteral("<p>%1</p>").arg(esc(tr("The car didn't record where this happened, so there is no map.")));
     }

@@ -20,7 +20,6 @@ public:
         bool miles = false;
         QLocale locale;
         QString version;
-        ReportMap::Tiles tiles;
     };
 
     // A4, or Letter where the locale's paper is Letter.

@@ -35,14 +35,9 @@ double roundMetres(double metres)
 
 } // namespace
 
-void ReportMap::paint(QPainter &p, const QRectF &area, const std::vector<EventTelemetry::RoutePoint> &route,
-                      double latitude, double longitude, const Tiles &tiles)
+ReportMap::Frame ReportMap::frame(const std::vector<EventTelemetry::RoutePoint> &route, double latitude,
+                                  double longitude)
 {
-    p.save();
-    p.setClipRect(area);
-    p.setRenderHint(QPainter::Antialiasing);
-    const double unit = area.width() / 500.0;
-
     // Zero-sized rectangles don't unite: the corners are kept by hand.
     QPointF least(project(latitude, longitude)), most(least);
     for (const auto &point : route) {
@@ -50,41 +45,72 @@ void ReportMap::paint(QPainter &p, const QRectF &area, const std::vector<EventTe
         least = QPointF(std::min(least.x(), w.x()), std::min(least.y(), w.y()));
         most = QPointF(std::max(most.x(), w.x()), std::max(most.y(), w.y()));
     }
-    const QRectF world(least, most);
+    Frame f;
+    f.centre = (least + most) / 2;
     // At least about 400 m across, so a lone pin shows its surroundings.
     const double narrowest = 400 / metresPerWorldPixel(latitude);
-    const QPointF centre = world.center();
-    const double spanX = std::max(world.width() * 1.25, narrowest);
-    const double spanY = std::max(world.height() * 1.25, narrowest * area.height() / area.width());
-    const double scale = std::min(area.width() / spanX, area.height() / spanY); // page units per world pixel
+    f.spanX = std::max({(most.x() - least.x()) * 1.25, (most.y() - least.y()) * 1.25 / heightPerWidth, narrowest});
+    f.spanY = f.spanX * heightPerWidth;
+    // About five tiles across: sharp on paper, a couple of dozen to fetch.
+    f.zoom = std::clamp(int(std::floor(std::log2(1280.0 / f.spanX))), 0, 19);
+    return f;
+}
+
+std::vector<ReportMap::TileKey> ReportMap::tilesFor(const Frame &f)
+{
+    std::vector<TileKey> tiles;
+    const double tileWorld = 256.0 / std::pow(2, f.zoom);
+    const int n = 1 << f.zoom;
+    const int top = int(std::floor((f.centre.y() - f.spanY / 2) / tileWorld));
+    const int bottom = int(std::floor((f.centre.y() + f.spanY / 2) / tileWorld));
+    const int left = int(std::floor((f.centre.x() - f.spanX / 2) / tileWorld));
+    const int right = int(std::floor((f.centre.x() + f.spanX / 2) / tileWorld));
+    for (int y = std::max(0, top); y <= std::min(n - 1, bottom); ++y)
+        for (int x = left; x <= right; ++x)
+            tiles.push_back({f.zoom, ((x % n) + n) % n, y});
+    return tiles;
+}
+
+QString ReportMap::keyOf(const TileKey &tile)
+{
+    return QStringLiteral("%1/%2/%3").arg(tile.z).arg(tile.x).arg(tile.y);
+}
+
+void ReportMap::paint(QPainter &p, const QRectF &area, const std::vector<EventTelemetry::RoutePoint> &route,
+                      double latitude, double longitude, const QHash<QString, QImage> &tiles)
+{
+    p.save();
+    p.setClipRect(area);
+    p.setRenderHint(QPainter::Antialiasing);
+    const double unit = area.width() / 500.0;
+    const Frame view = frame(route, latitude, longitude);
+    const QPointF centre = view.centre;
+    const double scale = area.width() / view.spanX; // page units per world pixel
     const auto toPage = [&](double lat, double lon) {
         const QPointF w = project(lat, lon);
         return QPointF(area.center().x() + (w.x() - centre.x()) * scale, area.center().y() + (w.y() - centre.y()) * scale);
     };
 
     p.fillRect(area, QColor(0xEE, 0xF0, 0xEC));
-    bool tiled = false;
-    if (tiles) {
-        const int z = std::clamp(int(std::floor(std::log2(scale))), 0, 19);
-        const double tileWorld = 256.0 / std::pow(2, z); // one tile's size in world pixels
-        const double left = centre.x() - area.width() / 2 / scale;
-        const double top = centre.y() - area.height() / 2 / scale;
-        const int n = 1 << z;
-        tiled = true;
-        for (int ty = int(std::floor(top / tileWorld)); ty * tileWorld < top + area.height() / scale; ++ty)
-            for (int tx = int(std::floor(left / tileWorld)); tx * tileWorld < left + area.width() / scale; ++tx) {
-                if (ty < 0 || ty >= n)
-                    continue;
-                const auto image = tiles(z, ((tx % n) + n) % n, ty);
-                if (!image) {
-                    tiled = false;
-                    continue;
-                }
-                const QRectF target(area.center().x() + (tx * tileWorld - centre.x()) * scale,
-                                    area.center().y() + (ty * tileWorld - centre.y()) * scale, tileWorld * scale,
-                                    tileWorld * scale);
-                p.drawImage(target, *image);
-            }
+    // Tiles where every one needed was had; a patchwork would mislead.
+    const std::vector<TileKey> needed = tilesFor(view);
+    const bool tiled = !needed.empty() && std::all_of(needed.begin(), needed.end(), [&](const TileKey &t) {
+        return tiles.contains(keyOf(t));
+    });
+    if (tiled) {
+        const double tileWorld = 256.0 / std::pow(2, view.zoom);
+        const int n = 1 << view.zoom;
+        const int left = int(std::floor((centre.x() - view.spanX / 2) / tileWorld));
+        for (const TileKey &t : needed) {
+            // The column as laid out, before it was wrapped round the globe.
+            int column = t.x;
+            while (column < left)
+                column += n;
+            const QRectF target(area.center().x() + (column * tileWorld - centre.x()) * scale,
+                                area.center().y() + (t.y * tileWorld - centre.y()) * scale, tileWorld * scale,
+                                tileWorld * scale);
+            p.drawImage(target, tiles.value(keyOf(t)));
+        }
     }
     if (!tiled) {
         // A faint grid stands for the ground, so the scale reads.

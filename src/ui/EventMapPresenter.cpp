@@ -70,15 +70,6 @@ QPointF unproject(QPointF p, double zoom)
     return {lon, lat};
 }
 
-QString tileUrl(const QString &urlTemplate, int z, int x, int y)
-{
-    QString url = urlTemplate;
-    url.replace(QLatin1String("{z}"), QString::number(z));
-    url.replace(QLatin1String("{x}"), QString::number(x));
-    url.replace(QLatin1String("{y}"), QString::number(y));
-    return url;
-}
-
 View fitting(const std::vector<QPointF> &latLons, double width, double height, double margin, double maxZoom)
 {
     View view;

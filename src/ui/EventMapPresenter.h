@@ -28,12 +28,10 @@ inline const char *emptyTitle = "No events have a location yet";
 inline const char *emptyText = "Your car only records a location for some events. Once you have events with a place "
                                "attached, they'll appear here as pins.";
 inline const char *attribution = "© OpenStreetMap contributors";
-inline const char *defaultTileTemplate = "https://tile.openstreetmap.org/{z}/{x}/{y}.png";
 
 // Web Mercator: world pixel coordinates at a zoom level, 256-pixel tiles.
 QPointF project(double latitude, double longitude, double zoom);
 QPointF unproject(QPointF worldPixel, double zoom); // x = longitude, y = latitude
-QString tileUrl(const QString &urlTemplate, int z, int x, int y);
 
 struct View {
     double centerLatitude = 0;

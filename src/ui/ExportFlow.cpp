@@ -4,6 +4,7 @@
 
 #include "DrivingDataPreferences.h"
 #include "FileChooser.h"
+#include "TileSource.h"
 
 #include "base/Awaiting.h"
 #include "base/LogCategories.h"
@@ -12,6 +13,7 @@
 #include "export/Exporter.h"
 #include "report/IncidentReport.h"
 #include "report/ReportError.h"
+#include "report/TileFetch.h"
 #include "base/CancellationError.h"
 #include "model/PlatformWords.h"
 #include "drive/DriveBoundary.h"
@@ -497,6 +499,7 @@ void ExportFlow::startReport(const QString &folder)
     options.includeKeys = includeKeys();
     options.miles = DrivingDataPreferences::shared()->useMiles();
     options.version = QCoreApplication::applicationVersion();
+    options.tiles = TileFetch::fetcher({TileSource::shared()->urlTemplate(), TileSource::userAgent()});
     const QString output = QDir(folder).filePath(options.package ? IncidentReport::suggestedPackageName(event_)
                                                                  : IncidentReport::suggestedFileName(event_));
     auto progress = onMainThread<double>(QPointer<ExportFlow>(this), [](ExportFlow &self, double fraction) {

@@ -1,6 +1,6 @@
 #include "TileSource.h"
 
-#include "EventMapPresenter.h"
+#include "report/TileFetch.h"
 
 #include <QDateTime>
 #include <QNetworkDiskCache>
@@ -17,7 +17,7 @@
 TileSource::TileSource(QObject *parent) : QObject(parent)
 {
     auto *disk = new QNetworkDiskCache(&network_);
-    disk->setCacheDirectory(QStandardPaths::writableLocation(QStandardPaths::CacheLocation) + QStringLiteral("/tiles"));
+    disk->setCacheDirectory(TileFetch::cacheFolder());
     disk->setMaximumCacheSize(qint64(100) * 1024 * 1024);
     network_.setCache(disk);
     network_.setTransferTimeout(15000);
@@ -31,19 +31,18 @@ TileSource *TileSource::shared()
 
 QString TileSource::userAgent()
 {
-    return QStringLiteral("Keelhold/") + QStringLiteral(KEELHOLD_VERSION)
-        + QStringLiteral(" (+https://keelhold.app; desktop footage viewer)");
+    return TileFetch::userAgent(QStringLiteral(KEELHOLD_VERSION));
 }
 
 QString TileSource::urlTemplate() const
 {
     const QString stored = QSettings().value(templateKey).toString();
-    return stored.isEmpty() ? QString::fromLatin1(EventMapPresenter::defaultTileTemplate) : stored;
+    return stored.isEmpty() ? QString::fromLatin1(TileFetch::defaultTemplate) : stored;
 }
 
 std::optional<QImage> TileSource::tile(int z, int x, int y)
 {
-    const QString url = EventMapPresenter::tileUrl(urlTemplate(), z, x, y);
+    const QString url = TileFetch::url(urlTemplate(), z, x, y);
     if (const QImage *image = images_.object(url))
         return *image;
     if (pending_.contains(url))

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "report/TileFetch.h"
+
 #include <QCache>
 #include <QHash>
 #include <QImage>
@@ -19,7 +21,7 @@ class QNetworkReply;
 class TileSource : public QObject {
     Q_OBJECT
 public:
-    static inline const QString templateKey = QStringLiteral("KHMapTileURLTemplate");
+    static inline const QString templateKey = TileFetch::templateKey;
     static constexpr qint64 retryAfterMs = 30000;
 
     explicit TileSource(QObject *parent = nullptr);

@@ -4,6 +4,8 @@
 #include "report/IncidentReport.h"
 #include "support/CliRun.h"
 #include "support/DriveBuilder.h"
+#include "support/IsolatedHome.h"
+#include "support/LocalTileServer.h"
 #include "support/TeslaCamFixture.h"
 #include "support/TelemetryClipWriter.h"
 #include "support/TestClips.h"
@@ -13,6 +15,7 @@
 #include <QImage>
 #include <QProcess>
 #include <QRegularExpression>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
 #include <stop_token>
@@ -120,20 +123,29 @@ class TestIncidentReport : public QObject {
     QTemporaryDir tmp_;
     QString root_;
     QString savedFolder_;
+    LocalTileServer tiles_;
+
+    // The tool, while this thread's event loop serves the map's tiles.
+    QString runReport(const QStringList &arguments, int *exitCode = nullptr, QString *err = nullptr)
+    {
+        QProcess tool;
+        tool.start(QStringLiteral(KEELHOLD_CLI_PATH), QStringList{QStringLiteral("report")} + arguments);
+        [&] { QVERIFY(QTest::qWaitFor([&] { return tool.state() == QProcess::NotRunning; }, 120000)); }();
+        if (exitCode)
+            *exitCode = tool.exitStatus() == QProcess::NormalExit ? tool.exitCode() : -1;
+        if (err)
+            *err = QString::fromUtf8(tool.readAllStandardError());
+        return QString::fromUtf8(tool.readAllStandardOutput()).trimmed();
+    }
 
     QString report(const QString &id, const QStringList &extra = {}, int *exitCode = nullptr, QString *err = nullptr)
     {
         const QString out = tmp_.filePath(QStringLiteral("out-%1").arg(QString(id).replace(QLatin1Char('|'), QLatin1Char('-'))));
         QDir().mkpath(out);
-        const CliRun::Result r = CliRun::run(QStringList{QStringLiteral("report"), root_, QStringLiteral("--event"), id,
-                                                         QStringLiteral("-o"), out, QStringLiteral("--speed-unit"),
-                                                         QStringLiteral("km/h")}
-                                             + extra);
-        if (exitCode)
-            *exitCode = r.exitCode;
-        if (err)
-            *err = r.err;
-        return QString::fromUtf8(r.out).trimmed();
+        return runReport(QStringList{root_, QStringLiteral("--event"), id, QStringLiteral("-o"), out,
+                                     QStringLiteral("--speed-unit"), QStringLiteral("km/h")}
+                             + extra,
+                         exitCode, err);
     }
 
 private Q_SLOTS:
@@ -143,6 +155,9 @@ private Q_SLOTS:
             QSKIP("needs the ffmpeg tool to make clips");
         QVERIFY(tmp_.isValid());
         tmp_.setAutoRemove(qEnvironmentVariableIsEmpty("KEEP_TMP"));
+        // The tool reads the app's settings: its map tiles come from here.
+        QVERIFY(tiles_.start());
+        QSettings().setValue(QStringLiteral("KHMapTileURLTemplate"), tiles_.urlTemplate());
         root_ = tmp_.filePath(QStringLiteral("TeslaCam"));
         TeslaCamFixture fixture(root_);
         // A saved event with a street and place, driving data on the front,
@@ -196,6 +211,12 @@ private Q_SLOTS:
         QCOMPARE(text.count(QStringLiteral("Driving data")), 1); // no hidden copy at a page's foot
         QVERIFY(text.contains(QStringLiteral("Page 1 of %1").arg(pageCount(pdf))));
         QVERIFY(text.contains(QStringLiteral("Page %1 of %1").arg(pageCount(pdf))));
+
+        // The map lies on the tile server's tiles, asked for by name.
+        const QImage first = pageWith(pdf, QStringLiteral("Where"), 40, tmp_.path());
+        QVERIFY(countNear(first, LocalTileServer::colour, 6) > 2000);
+        QVERIFY(!tiles_.userAgents.isEmpty());
+        QVERIFY(tiles_.userAgents.first().startsWith(QStringLiteral("Keelhold/")));
 
         // Each camera's still is its frame at the moment, in its colour.
         const QImage stills = pageWith(pdf, QStringLiteral("Each camera at the moment"), 40, tmp_.path());
@@ -282,9 +303,9 @@ private Q_SLOTS:
         f.seek(5000);
         f.write("!");
         f.close();
-        const CliRun::Result r = CliRun::run({QStringLiteral("report"), vault, QStringLiteral("--event"), savedId,
-                                              QStringLiteral("-o"), tmp_.filePath(QStringLiteral("vault.pdf"))});
-        QCOMPARE(r.exitCode, 0);
+        runReport({vault, QStringLiteral("--event"), savedId, QStringLiteral("-o"), tmp_.filePath(QStringLiteral("vault.pdf"))},
+                  &code);
+        QCOMPARE(code, 0);
         const QString text = pdfText(tmp_.filePath(QStringLiteral("vault.pdf")));
         QVERIFY(text.contains(QStringLiteral("In the Vault")));
         QVERIFY(text.contains(QStringLiteral("not the one that was kept")));
@@ -350,13 +371,11 @@ private Q_SLOTS:
 
         const auto before = QDir(savedFolder_).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
         int code = -1;
-        const CliRun::Result r = CliRun::run({QStringLiteral("report"), root_, QStringLiteral("--event"), savedId,
-                                              QStringLiteral("-o"), savedFolder_});
-        QCOMPARE(r.exitCode, 2);
+        runReport({root_, QStringLiteral("--event"), savedId, QStringLiteral("-o"), savedFolder_}, &code);
+        QCOMPARE(code, 2);
         QCOMPARE(QDir(savedFolder_).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot), before);
-        Q_UNUSED(code);
     }
 };
 
-QTEST_MAIN(TestIncidentReport)
+KEELHOLD_APP_TEST_MAIN(TestIncidentReport)
 #include "tst_incidentreport.moc"

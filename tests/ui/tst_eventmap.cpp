@@ -6,6 +6,7 @@
 #include "TileSource.h"
 #include "support/IsolatedHome.h"
 #include "support/TelemetryClipWriter.h"
+#include "support/LocalTileServer.h"
 #include "support/TeslaCamFixture.h"
 #include "support/TestClips.h"
 
@@ -14,46 +15,6 @@
 #include <QTcpServer>
 #include <QTcpSocket>
 
-namespace {
-
-// A tile server on 127.0.0.1: every tile is one flat colour.
-class LocalTileServer : public QObject {
-public:
-    static inline const QColor colour{205, 228, 196};
-    QTcpServer server;
-    QStringList paths;
-    QStringList userAgents;
-
-    bool start()
-    {
-        connect(&server, &QTcpServer::newConnection, this, [this] {
-            while (QTcpSocket *socket = server.nextPendingConnection()) {
-                connect(socket, &QTcpSocket::readyRead, socket, [this, socket] {
-                    const QByteArray request = socket->readAll();
-                    const QList<QByteArray> lines = request.split('\n');
-                    const QList<QByteArray> first = lines.value(0).split(' ');
-                    paths << QString::fromLatin1(first.value(1));
-                    for (const QByteArray &l : lines)
-                        if (l.toLower().startsWith("user-agent:"))
-                            userAgents << QString::fromLatin1(l.mid(11).trimmed());
-                    socket->write("HTTP/1.1 200 OK\r\nContent-Type: image/png\r\nConnection: close\r\nContent-Length: "
-                                  + QByteArray::number(png().size()) + "\r\n\r\n" + png());
-                    socket->disconnectFromHost();
-                });
-                connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
-            }
-        });
-        return server.listen(QHostAddress::LocalHost);
-    }
-
-    static const QByteArray &png()
-    {
-        static const QByteArray bytes = TeslaCamFixture::flatPng(QSize(256, 256), colour);
-        return bytes;
-    }
-};
-
-} // namespace
 
 // The map in the real window: tiles from a local server are asked for with
 // the application's User-Agent and drawn; pins stand where their events
@@ -147,7 +108,7 @@ private Q_SLOTS:
             QSKIP("needs a display (run the suite under xvfb-run)");
         QVERIFY(tiles.start());
         QSettings().setValue(TileSource::templateKey,
-                             QStringLiteral("http://127.0.0.1:%1/{z}/{x}/{y}.png").arg(tiles.server.serverPort()));
+                             tiles.urlTemplate());
         buildDrive(tmp.filePath(QStringLiteral("drive/TeslaCam")));
         app = std::make_unique<AppWindowHarness>();
         QVERIFY(app->load());

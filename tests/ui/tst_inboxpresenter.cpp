@@ -144,9 +144,6 @@ private Q_SLOTS:
         // Poles are clamped, not infinite.
         QVERIFY(std::isfinite(project(90, 0, 3).y()));
 
-        QCOMPARE(tileUrl(QStringLiteral("http://127.0.0.1:8080/{z}/{x}/{y}.png"), 3, 4, 5),
-                 QStringLiteral("http://127.0.0.1:8080/3/4/5.png"));
-
         // Every point lands inside the view with the margin.
         const std::vector<QPointF> pts{{59.91, 10.75}, {60.39, 5.32}, {63.43, 10.39}};
         const View v = fitting(pts, 800, 600, 48);
