@@ -21,10 +21,12 @@ struct Panel {
     double y(double value) const { return plot.bottom() - (value - low) / (high - low) * plot.height(); }
 };
 
+// The first second the chart shows, set once per drawing.
+thread_local double chartFrom = 0;
+
 double xAt(const QRectF &plot, double time)
 {
-    const double span = ReportContent::chartSeconds;
-    return plot.left() + (time + span) / (2 * span) * plot.width();
+    return plot.left() + (time - chartFrom) / ReportContent::chartSeconds * plot.width();
 }
 
 void drawFrame(QPainter &p, const Panel &panel, const QString &title, const QString &lowText, const QString &highText,
@@ -96,8 +98,9 @@ int ReportChart::speedCeiling(const std::vector<ReportContent::Reading> &reading
 }
 
 void ReportChart::paint(QPainter &p, const QRectF &area, const std::vector<ReportContent::Reading> &readings,
-                        bool miles)
+                        bool miles, double from, bool atMoment)
 {
+    chartFrom = from;
     p.save();
     p.setRenderHint(QPainter::Antialiasing);
     // Everything is measured in hundredths of the width, whatever the device.
@@ -164,11 +167,14 @@ void ReportChart::paint(QPainter &p, const QRectF &area, const std::vector<Repor
              speedColour, unit * 1.6);
 
     // The moment, across every panel, and the time axis under them.
-    p.setPen(QPen(momentColour, unit * 0.8));
-    p.drawLine(QPointF(xAt(plots, 0), plots.top()), QPointF(xAt(plots, 0), acceleration.plot.bottom()));
+    if (atMoment) {
+        p.setPen(QPen(momentColour, unit * 0.8));
+        p.drawLine(QPointF(xAt(plots, 0), plots.top()), QPointF(xAt(plots, 0), acceleration.plot.bottom()));
+    }
     p.setPen(textColour);
-    for (int t = -10; t <= 10; t += 5) {
-        const QString text = t == 0 ? tr("moment") : tr("%1 s").arg(t > 0 ? QStringLiteral("+%1").arg(t) : QString::number(t));
+    for (int t = int(from); t <= int(from + ReportContent::chartSeconds); t += 5) {
+        const QString text = t == 0 ? (atMoment ? tr("moment") : tr("start"))
+                                    : tr("%1 s").arg(t > 0 ? QStringLiteral("+%1").arg(t) : QString::number(t));
         p.drawText(QRectF(xAt(plots, t) - unit * 20, acceleration.plot.bottom() + unit * 2, unit * 40, unit * 9),
                    Qt::AlignHCenter | Qt::AlignTop, text);
     }

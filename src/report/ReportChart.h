@@ -18,8 +18,9 @@ public:
     static inline const QColor speedColour{0x15, 0x65, 0xC0};
     static inline const QColor momentColour{0xE6, 0x51, 0x00};
 
+    // from: the first second shown, from the moment (or the start).
     static void paint(QPainter &painter, const QRectF &area, const std::vector<ReportContent::Reading> &readings,
-                      bool miles);
+                      bool miles, double from, bool atMoment);
     // The height the chart wants at a width, in the same units.
     static double heightFor(double width) { return width * 0.62; }
     // The top of the speed panel's scale, in the unit shown: the next round

@@ -169,7 +169,8 @@ ReportContent ReportContent::gather(const TeslaEvent &event, const Options &opti
             throw;
         }
         for (const EventTelemetry::Sample &sample : telemetry.frames())
-            if (sample.record && std::abs(sample.time - moment) <= chartSeconds)
+            if (sample.record && sample.time - moment >= content.chartFrom()
+                && sample.time - moment <= content.chartFrom() + chartSeconds)
                 content.readings.push_back({sample.time - moment, *sample.record});
         if (const TelemetryRecord *record = telemetry.recordAt(moment))
             content.atMoment = *record;

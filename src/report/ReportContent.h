@@ -72,7 +72,7 @@ public:
     QHash<QString, QImage> mapTiles; // under the route and the spot, by ReportMap::keyOf
 
     std::vector<Still> stills;      // one per camera of the event, grid order
-    std::vector<Reading> readings;  // from 10 s before to 10 s after the moment
+    std::vector<Reading> readings;  // the chart's 20 s: around the moment, or from the start
     std::optional<TelemetryRecord> atMoment;
 
     std::vector<File> files;        // every original, in clip order
@@ -91,7 +91,10 @@ public:
         bool hashFiles = true;
         ReportMap::Tiles tiles; // none: the map is drawn plain
     };
-    static constexpr double chartSeconds = 10;
+    static constexpr double chartSeconds = 20;
+    // Where the chart begins, in seconds from the moment: a stretch of
+    // driving with no trigger is shown from its start.
+    double chartFrom() const { return hasTrigger ? -chartSeconds / 2 : 0; }
 
     // Blocking; run it off the window's thread. A file or camera that can't
     // be read costs its own part only. Throws CancellationError when stopped.

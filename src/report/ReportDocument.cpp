@@ -61,6 +61,9 @@ QPageSize::PageSizeId ReportDocument::pageSizeFor(const QLocale &locale)
 QString ReportDocument::title(const TeslaEvent &event)
 {
     const QString reason = event.encrypted && !event.reasonRaw ? tr("Encrypted by your car") : event.reason.label();
+    // "Sentry — Sentry event" says it twice.
+    if (reason.startsWith(event.kind.displayName(), Qt::CaseInsensitive))
+        return tr("Incident report: %1").arg(reason);
     return tr("Incident report: %1 — %2").arg(event.kind.displayName(), reason);
 }
 
@@ -165,13 +168,19 @@ void ReportDocument::write(const ReportContent &content, const QString &path, co
     html += QStringLiteral("</table>");
 
     // The driving data around the moment.
-    html += QStringLiteral("<h2%1>%2</h2>").arg(newPage, esc(tr("Driving data")));
+    // Without driving data a line says so, under the stills.
+    html += QStringLiteral("<h2%1>%2</h2>").arg(content.hasDrivingData() ? newPage : QString(), esc(tr("Driving data")));
     if (content.hasDrivingData()) {
-        html += QStringLiteral("<p>%1</p>").arg(esc(tr("From 10 seconds before to 10 seconds after the moment, as the car "
-                                                        "recorded it with each frame.")));
+        html += QStringLiteral("<p>%1</p>")
+                    .arg(esc(content.hasTrigger ? tr("From 10 seconds before to 10 seconds after the moment, as the car "
+                                                     "recorded it with each frame.")
+                                                : tr("The first 20 seconds of the recording, as the car recorded it with "
+                                                     "each frame.")));
         const auto readings = content.readings;
         const bool miles = options.miles;
-        html += drawing([=](QPainter &p, const QRectF &r) { ReportChart::paint(p, r, readings, miles); },
+        const double from = content.chartFrom();
+        const bool atMoment = content.hasTrigger;
+        html += drawing([=](QPainter &p, const QRectF &r) { ReportChart::paint(p, r, readings, miles, from, atMoment); },
                         ReportChart::heightFor(1));
     } else {
         html += QStringLiteral("<p>%1</p>").arg(esc(tr("These clips carry no driving data: the car records it only with "
@@ -179,7 +188,7 @@ void ReportDocument::write(const ReportContent &content, const QString &path, co
     }
     if (content.atMoment) {
         const TelemetryRecord &r = *content.atMoment;
-        html += QStringLiteral("<h2>%1</h2><table>").arg(esc(tr("At the moment")));
+        html += QStringLiteral("<h2>%1</h2><table>").arg(esc(content.hasTrigger ? tr("At the moment") : tr("At the start")));
         html += row(tr("Speed"), esc(QStringLiteral("%1 %2").arg(DrivingDataText::speed(r.speed, options.miles))
                                          .arg(DrivingDataText::speedUnit(options.miles))));
         html += row(tr("Gear"), esc(TelemetryRecord::gearDisplayName(r.gear)));
@@ -262,6 +271,8 @@ void ReportDocument::write(const ReportContent &content, const QString &path, co
         if (!found.isNull())
             found.insertText(QString(QChar::ObjectReplacementCharacter), format);
     }
+    // The swap is laid out lazily; the pages are counted and drawn whole.
+    doc.markContentsDirty(0, doc.characterCount());
 
     QPainter painter;
     if (!painter.begin(&writer))

@@ -209,6 +209,7 @@ private Q_SLOTS:
         }
         QVERIFY(text.contains(QStringLiteral("sha256sum -c SHA256SUMS")));
         QCOMPARE(text.count(QStringLiteral("Driving data")), 1); // no hidden copy at a page's foot
+        QVERIFY2(text.contains(QStringLiteral("nothing on it was changed")), "the last words are on the last page");
         QVERIFY(text.contains(QStringLiteral("Page 1 of %1").arg(pageCount(pdf))));
         QVERIFY(text.contains(QStringLiteral("Page %1 of %1").arg(pageCount(pdf))));
 
@@ -277,6 +278,7 @@ private Q_SLOTS:
         QVERIFY(text.contains(QStringLiteral("2026-07-20_10-00-00-right_repeater.mp4")));
         QVERIFY(text.contains(DriveBuilder::sha256Hex(QByteArray())));
         QVERIFY(text.contains(QStringLiteral("didn't record properly")));
+        QVERIFY(text.contains(QStringLiteral("nothing on it was changed")));
     }
 
     // A kept event's files are compared with the Vault's records; a changed
