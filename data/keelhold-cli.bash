@@ -119,7 +119,7 @@ _keelhold_cli()
     case $prev in
         --event)
             [[ ${positional[0]} ]] || return
-            if [[ $command == telemetry || $command == decrypt ]]; then
+            if [[ $command == telemetry || $command == decrypt || $command == report ]]; then
                 # Its folder may be a drive's or a Vault's.
                 _keelhold_cli_reply_ids < <(_keelhold_cli_event_ids "$cli" scan "${positional[0]}"
                     _keelhold_cli_event_ids "$cli" vault list "${positional[0]}")

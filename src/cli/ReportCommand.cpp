@@ -58,7 +58,8 @@ int run(const QStringList &arguments)
         QStringLiteral("A Vault to compare the files with, for an event on the drive that was kept there."),
         QStringLiteral("folder"));
     const QCommandLineOption unitOption(QStringLiteral("speed-unit"),
-                                       QStringLiteral("km/h or mph; the default is the app's choice, else the one your locale uses."),
+                                       QStringLiteral("One of: km/h, mph. The default is the app's choice, else the one your "
+                                                      "locale uses."),
                                        QStringLiteral("unit"));
     const QCommandLineOption tokenFile = CliUnlock::tokenFileOption();
     parser.addOptions({eventOption, outputOption, packageOption, keysOption, vaultOption, unitOption, tokenFile});

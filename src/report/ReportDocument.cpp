@@ -23,7 +23,7 @@ QString esc(const QString &text) { return text.toHtmlEscaped(); }
 
 QString row(const QString &label, const QString &value)
 {
-    return QStringLiteral("<tr><td style=\"color:#555\">%1</td><td>%2</td></tr>").arg(esc(label), value);
+    return QStringLiteral("<tr><td width=\"130\" style=\"color:#555\">%1</td><td>%2</td></tr>").arg(esc(label), value);
 }
 
 QString coordinates(double latitude, double longitude)
@@ -107,7 +107,7 @@ void ReportDocument::write(const ReportContent &content, const QString &path, co
     const TeslaEvent &event = content.event;
 
     // What and when.
-    QString html = QStringLiteral("<h1>%1</h1><table>").arg(esc(title(event)));
+    QString html = QStringLiteral("<h1>%1</h1><table cellspacing=\"0\" cellpadding=\"2\">").arg(esc(title(event)));
     html += row(content.hasTrigger ? tr("The moment") : tr("Recording starts"),
                 QStringLiteral("<b>%1</b> %2").arg(esc(dateTime(locale, content.carClock)), esc(tr("(the car's clock)"))));
     if (content.gpsClock)
@@ -188,7 +188,7 @@ void ReportDocument::write(const ReportContent &content, const QString &path, co
     }
     if (content.atMoment) {
         const TelemetryRecord &r = *content.atMoment;
-        html += QStringLiteral("<h2>%1</h2><table>").arg(esc(content.hasTrigger ? tr("At the moment") : tr("At the start")));
+        html += QStringLiteral("<h2>%1</h2><table cellspacing=\"0\" cellpadding=\"2\">").arg(esc(content.hasTrigger ? tr("At the moment") : tr("At the start")));
         html += row(tr("Speed"), esc(QStringLiteral("%1 %2").arg(DrivingDataText::speed(r.speed, options.miles))
                                          .arg(DrivingDataText::speedUnit(options.miles))));
         html += row(tr("Gear"), esc(TelemetryRecord::gearDisplayName(r.gear)));
