@@ -2,8 +2,11 @@
 #include "drive/SeiMetadata.pb.h"
 #include "drive/TeslaCamParser.h"
 #include "report/IncidentReport.h"
+#include "report/ReportContent.h"
 #include "support/CliRun.h"
+#include "crypt/KeyStore.h"
 #include "support/DriveBuilder.h"
+#include "support/EncryptedDrive.h"
 #include "support/IsolatedHome.h"
 #include "support/LocalTileServer.h"
 #include "support/TeslaCamFixture.h"
@@ -338,6 +341,78 @@ private Q_SLOTS:
             QVERIFY(said.contains(QStringLiteral("2026-07-21_14-30-00/2026-07-21_14-30-00-%1.mp4: OK").arg(camera)));
         QVERIFY(said.contains(QStringLiteral("2026-07-21_14-30-00/event.json: OK")));
         QVERIFY(said.contains(QStringLiteral("Keelhold Report")));
+    }
+
+    // The car's clock keeps no zone: a whole number of quarter hours from
+    // the GPS clock is a zone; anything else over a minute is a wrong clock.
+    void clocksDisagreeBeyondAZone_data()
+    {
+        QTest::addColumn<int>("offsetSeconds");
+        QTest::addColumn<bool>("disagree");
+        QTest::newRow("same") << 0 << false;
+        QTest::newRow("seven hours west") << -7 * 3600 << false;
+        QTest::newRow("Nepal") << (5 * 3600 + 45 * 60) << false;
+        QTest::newRow("half a minute off") << (3600 + 30) << false;
+        QTest::newRow("thirteen minutes off") << (-7 * 3600 + 13 * 60) << true;
+        QTest::newRow("19 h 53 min off") << (19 * 3600 + 53 * 60) << true;
+    }
+    void clocksDisagreeBeyondAZone()
+    {
+        QFETCH(int, offsetSeconds);
+        QFETCH(bool, disagree);
+        ReportContent content;
+        const QDateTime wall(QDate(2026, 7, 21), QTime(14, 30, 12), Qt::LocalTime);
+        content.carClock = Date::fromQDateTime(wall);
+        content.gpsClock = Date::fromQDateTime(QDateTime(wall.date(), wall.time(), Qt::UTC).addSecs(-offsetSeconds));
+        QCOMPARE(content.clocksDisagree(), disagree);
+        content.gpsClock.reset();
+        QVERIFY(!content.clocksDisagree());
+    }
+
+    // The car's encrypted footage goes in as the car wrote it: locked
+    // cameras say so, and the keys go in only when asked for.
+    void encryptedEventGoesInAsItIs()
+    {
+        const QString plain = tmp_.filePath(QStringLiteral("plain.mp4"));
+        QVERIFY(QFile::copy(TestClips::clip(), plain));
+        TestClips::padTo(plain);
+        const EncryptedDrive drive(tmp_.filePath(QStringLiteral("encrypted/TeslaCam")), plain);
+        const QString vault = tmp_.filePath(QStringLiteral("EncryptedVault"));
+        QCOMPARE(CliRun::run({QStringLiteral("keep"), drive.root(), QStringLiteral("--vault"), vault,
+                              QStringLiteral("--event"), EncryptedDrive::sentryID})
+                     .exitCode,
+                 0);
+        QDirIterator kept(vault, {QStringLiteral("2026-07-21_02-11-05")}, QDir::Dirs, QDirIterator::Subdirectories);
+        QVERIFY(kept.hasNext());
+        const QString keptFolder = kept.next();
+        QVERIFY(VaultKeys::write(keptFolder, {KeyEntry{QFileInfo(drive.sentryFront()).fileName(), 7,
+                                                       QStringLiteral("5YJ3E1EA7KF000001"), QByteArray(16, 'k'), {}}}));
+
+        for (const bool keys : {false, true}) {
+            const QString out = tmp_.filePath(keys ? QStringLiteral("with-keys") : QStringLiteral("without-keys"));
+            QDir().mkpath(out);
+            int code = -1;
+            QString err;
+            QStringList arguments{vault, QStringLiteral("--event"), EncryptedDrive::sentryID, QStringLiteral("--package"),
+                                  QStringLiteral("-o"), out};
+            if (keys)
+                arguments << QStringLiteral("--include-keys");
+            const QString zip = runReport(arguments, &code, &err);
+            QVERIFY2(code == 0, qPrintable(err));
+            QProcess unzip;
+            unzip.setWorkingDirectory(out);
+            unzip.start(QStringLiteral("unzip"), {QStringLiteral("-q"), zip});
+            QVERIFY(unzip.waitForFinished(60000));
+            const QString inside = QDir(out).filePath(QStringLiteral("2026-07-21_02-11-05"));
+            const QString front = QDir(inside).filePath(QFileInfo(drive.sentryFront()).fileName());
+            QCOMPARE(DriveBuilder::sha256Hex(front), DriveBuilder::sha256Hex(drive.sentryFront()));
+            QCOMPARE(QFileInfo::exists(QDir(inside).filePath(QStringLiteral("unlock-keys.json"))), keys);
+            QDirIterator pdfs(out, {QStringLiteral("*.pdf")}, QDir::Files);
+            QVERIFY(pdfs.hasNext());
+            const QString text = pdfText(pdfs.next());
+            QVERIFY(text.contains(QStringLiteral("Locked — unlock to include this camera")));
+            QVERIFY(text.contains(QStringLiteral("Encrypted by your car")));
+        }
     }
 
     // Stopped, or refused on the car's drive: nothing is left anywhere.
