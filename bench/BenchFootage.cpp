@@ -100,4 +100,20 @@ int framesOf(const QString &path)
     return clip->isOpened() ? int(clip->video()->nb_frames) : -1;
 }
 
+const std::vector<Hw4Camera> &hw4Cameras()
+{
+    static const std::vector<Hw4Camera> cameras{
+        {Camera::front, 2896, 1876, 0},          {Camera::leftPillar, 1448, 938, 60},
+        {Camera::rightPillar, 1448, 938, 120},   {Camera::leftRepeater, 1448, 938, 180},
+        {Camera::rightRepeater, 1448, 938, 240}, {Camera::back, 1448, 938, 300},
+    };
+    return cameras;
+}
+
+QString hw4Minute(const Hw4Camera &camera)
+{
+    return minute({QStringLiteral("keelhold-combined-bench"), QStringLiteral("minute-%1.mp4").arg(camera.camera.rawValue()),
+                   camera.width, camera.height, camera.width > 2000 ? 10 : 4, QStringLiteral("hue=h=%1").arg(camera.hue)});
+}
+
 } // namespace BenchFootage

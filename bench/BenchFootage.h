@@ -3,8 +3,11 @@
 // What the export benchmarks share: the ffmpeg tool as the competitor, and
 // minutes of footage made like the car's, once, and kept between runs.
 
+#include "model/Camera.h"
+
 #include <QString>
 #include <QStringList>
+#include <vector>
 
 namespace BenchFootage {
 
@@ -24,6 +27,18 @@ struct Minute {
 // One minute of H.264 as the car writes it: full-range 4:2:0 at 36 fps, a
 // key frame a second. Made once and kept; empty when ffmpeg fails.
 QString minute(const Minute &minute);
+
+// A newer car's six cameras: the front 2896x1876, the others 1448x938,
+// each its own picture (a hue of the test pattern).
+struct Hw4Camera {
+    Camera camera;
+    int width;
+    int height;
+    int hue;
+};
+const std::vector<Hw4Camera> &hw4Cameras();
+// One minute of a camera at about the car's bitrate, kept between runs.
+QString hw4Minute(const Hw4Camera &camera);
 
 // The movie's length in seconds, and its video's frame count; -1 when it
 // can't be read.

@@ -41,28 +41,6 @@ using BenchFootage::runFfmpeg;
 constexpr int framesPerSecond = 36;
 constexpr int minutes = 2;
 
-struct CameraSource {
-    Camera camera;
-    int width;
-    int height;
-    int hue; // a different picture for each camera
-};
-
-const std::vector<CameraSource> cameras{
-    {Camera::front, 2896, 1876, 0},          {Camera::leftPillar, 1448, 938, 60},
-    {Camera::rightPillar, 1448, 938, 120},   {Camera::leftRepeater, 1448, 938, 180},
-    {Camera::rightRepeater, 1448, 938, 240}, {Camera::back, 1448, 938, 300},
-};
-
-// One minute of a camera as the car writes it, at about the car's bitrate.
-QString sourceMinute(const CameraSource &source)
-{
-    return BenchFootage::minute({QStringLiteral("keelhold-combined-bench"),
-                                 QStringLiteral("minute-%1.mp4").arg(source.camera.rawValue()), source.width,
-                                 source.height, source.width > 2000 ? 10 : 4,
-                                 QStringLiteral("hue=h=%1").arg(source.hue)});
-}
-
 // The front minute with a record on every frame, as a moving car writes it.
 QString withRecords(const QString &minute)
 {
@@ -123,8 +101,8 @@ int main(int argc, char **argv)
     // The ffmpeg tool reads each camera's minutes joined by its concat demuxer.
     QStringList inputs;
     std::vector<CombinedLayout::Source> sources;
-    for (const CameraSource &cam : cameras) {
-        QString minuteFile = sourceMinute(cam);
+    for (const BenchFootage::Hw4Camera &cam : BenchFootage::hw4Cameras()) {
+        QString minuteFile = BenchFootage::hw4Minute(cam);
         if (telemetry && cam.camera == Camera::front && !minuteFile.isEmpty())
             minuteFile = withRecords(minuteFile);
         if (minuteFile.isEmpty())

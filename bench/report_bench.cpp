@@ -28,27 +28,6 @@ extern "C" {
 
 namespace {
 
-struct CameraSource {
-    Camera camera;
-    int width;
-    int height;
-    int hue;
-};
-
-const std::vector<CameraSource> cameras{
-    {Camera::front, 2896, 1876, 0},          {Camera::leftPillar, 1448, 938, 60},
-    {Camera::rightPillar, 1448, 938, 120},   {Camera::leftRepeater, 1448, 938, 180},
-    {Camera::rightRepeater, 1448, 938, 240}, {Camera::back, 1448, 938, 300},
-};
-
-QString sourceMinute(const CameraSource &source)
-{
-    return BenchFootage::minute({QStringLiteral("keelhold-combined-bench"),
-                                 QStringLiteral("minute-%1.mp4").arg(source.camera.rawValue()), source.width,
-                                 source.height, source.width > 2000 ? 10 : 4,
-                                 QStringLiteral("hue=h=%1").arg(source.hue)});
-}
-
 // The front minute with a moving car's record, GPS fix included, on every frame.
 QString withRecords(const QString &minute)
 {
@@ -124,8 +103,8 @@ int main(int argc, char **argv)
     event.missingEventJSON = false;
     QStringList originals;
     qint64 bytes = 0;
-    for (const CameraSource &cam : cameras) {
-        QString minute = sourceMinute(cam);
+    for (const BenchFootage::Hw4Camera &cam : BenchFootage::hw4Cameras()) {
+        QString minute = BenchFootage::hw4Minute(cam);
         if (!minute.isEmpty() && cam.camera == Camera::front)
             minute = withRecords(minute);
         if (minute.isEmpty())
@@ -143,7 +122,7 @@ int main(int argc, char **argv)
         originals << path;
         bytes += clip.fileSize;
     }
-    std::printf("event: one minute, %zu cameras, %.1f MB of originals\n", cameras.size(), double(bytes) / 1e6);
+    std::printf("event: one minute, %zu cameras, %.1f MB of originals\n", BenchFootage::hw4Cameras().size(), double(bytes) / 1e6);
     // Warm: every run reads from memory, as the second look at a drive does.
     runTool(QStringLiteral("sha256sum"), originals);
 

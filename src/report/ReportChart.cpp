@@ -21,12 +21,10 @@ struct Panel {
     double y(double value) const { return plot.bottom() - (value - low) / (high - low) * plot.height(); }
 };
 
-// The first second the chart shows, set once per drawing.
-thread_local double chartFrom = 0;
-
+// time: seconds from the chart's first.
 double xAt(const QRectF &plot, double time)
 {
-    return plot.left() + (time - chartFrom) / ReportContent::chartSeconds * plot.width();
+    return plot.left() + time / ReportContent::chartSeconds * plot.width();
 }
 
 void drawFrame(QPainter &p, const Panel &panel, const QString &title, const QString &lowText, const QString &highText,
@@ -97,10 +95,13 @@ int ReportChart::speedCeiling(const std::vector<ReportContent::Reading> &reading
     return std::max(step, (fastest / step + 1) * step);
 }
 
-void ReportChart::paint(QPainter &p, const QRectF &area, const std::vector<ReportContent::Reading> &readings,
+void ReportChart::paint(QPainter &p, const QRectF &area, const std::vector<ReportContent::Reading> &fromMoment,
                         bool miles, double from, bool atMoment)
 {
-    chartFrom = from;
+    // Drawn in seconds from the chart's first.
+    std::vector<ReportContent::Reading> readings = fromMoment;
+    for (auto &r : readings)
+        r.time -= from;
     p.save();
     p.setRenderHint(QPainter::Antialiasing);
     // Everything is measured in hundredths of the width, whatever the device.
@@ -169,13 +170,13 @@ void ReportChart::paint(QPainter &p, const QRectF &area, const std::vector<Repor
     // The moment, across every panel, and the time axis under them.
     if (atMoment) {
         p.setPen(QPen(momentColour, unit * 0.8));
-        p.drawLine(QPointF(xAt(plots, 0), plots.top()), QPointF(xAt(plots, 0), acceleration.plot.bottom()));
+        p.drawLine(QPointF(xAt(plots, -from), plots.top()), QPointF(xAt(plots, -from), acceleration.plot.bottom()));
     }
     p.setPen(textColour);
     for (int t = int(from); t <= int(from + ReportContent::chartSeconds); t += 5) {
         const QString text = t == 0 ? (atMoment ? tr("moment") : tr("start"))
                                     : tr("%1 s").arg(t > 0 ? QStringLiteral("+%1").arg(t) : QString::number(t));
-        p.drawText(QRectF(xAt(plots, t) - unit * 20, acceleration.plot.bottom() + unit * 2, unit * 40, unit * 9),
+        p.drawText(QRectF(xAt(plots, t - from) - unit * 20, acceleration.plot.bottom() + unit * 2, unit * 40, unit * 9),
                    Qt::AlignHCenter | Qt::AlignTop, text);
     }
     // What the colours mean.

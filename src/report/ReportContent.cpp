@@ -162,12 +162,7 @@ ReportContent ReportContent::gather(const TeslaEvent &event, const Options &opti
         const Camera camera = std::find(cameras.begin(), cameras.end(), Camera::front) != cameras.end()
             ? Camera(Camera::front)
             : cameras.front();
-        EventTelemetry telemetry;
-        try {
-            telemetry = TelemetryTimeline::load(event, camera, options.stop, options.readLimit * 2);
-        } catch (const CancellationError &) {
-            throw;
-        }
+        const EventTelemetry telemetry = TelemetryTimeline::load(event, camera, options.stop, options.readLimit * 2);
         for (const EventTelemetry::Sample &sample : telemetry.frames())
             if (sample.record && sample.time - moment >= content.chartFrom()
                 && sample.time - moment <= content.chartFrom() + chartSeconds)
