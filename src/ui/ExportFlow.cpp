@@ -119,6 +119,14 @@ void ExportFlow::setIncludeKeys(bool on)
     Q_EMIT changed();
 }
 
+QString ExportFlow::explanationText() const
+{
+    if (!isReport())
+        return explanation;
+    return tr("Put together what an insurer, the police or a lawyer asks for: when and where it happened, what "
+              "each camera saw, how the car was driven, and every original file with a way to check it.");
+}
+
 QString ExportFlow::layoutWord() const
 {
     switch (product_) {

@@ -47,6 +47,8 @@ class ExportFlow : public QObject {
     // The package of an encrypted event may carry its unlock keys.
     Q_PROPERTY(bool keysOffered READ keysOffered NOTIFY changed)
     Q_PROPERTY(bool includeKeys READ includeKeys WRITE setIncludeKeys NOTIFY changed)
+    // The sheet's opening words, for a movie or for the report and package.
+    Q_PROPERTY(QString explanationText READ explanationText NOTIFY changed)
     Q_PROPERTY(bool needsCamera READ needsCamera NOTIFY changed)
     Q_PROPERTY(bool showTime READ showTime WRITE setShowTime NOTIFY changed)
     Q_PROPERTY(bool showNames READ showNames WRITE setShowNames NOTIFY changed)
@@ -133,6 +135,7 @@ public:
     bool keysOffered() const { return product_ == Product::package && event_.encrypted; }
     bool includeKeys() const { return includeKeys_ && keysOffered(); }
     void setIncludeKeys(bool on);
+    QString explanationText() const;
     bool showTime() const { return overlay_.time; }
     void setShowTime(bool on) { setOverlayPart(&CombinedExportOptions::Overlay::time, on); }
     bool showNames() const { return overlay_.names; }

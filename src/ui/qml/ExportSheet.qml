@@ -44,7 +44,7 @@ Popup {
             Label {
                 Layout.fillWidth: true
                 wrapMode: Text.WordWrap
-                text: sheet.texts.explanation || ""
+                text: sheet.flow ? sheet.flow.explanationText : ""
             }
             GridLayout {
                 objectName: "exportChoices"
