@@ -284,6 +284,25 @@ private Q_SLOTS:
         QVERIFY(text.contains(QStringLiteral("nothing on it was changed")));
     }
 
+    // The sample's five minutes of recent driving: twenty files and a chart
+    // from the recording's start, over four pages, whole to the last words.
+    void longEventIsWholeToItsLastPage()
+    {
+        const QString sample = QStringLiteral(KEELHOLD_BUILD_DIR "/resources/SampleTeslaCam/TeslaCam");
+        if (!QFileInfo(sample).isDir())
+            QSKIP("the sample footage is made with the build");
+        const QString pdf = tmp_.filePath(QStringLiteral("recent.pdf"));
+        int code = -1;
+        runReport({sample, QStringLiteral("--event"), QStringLiteral("recent|recent_2024-06-15_07-10-00"),
+                   QStringLiteral("-o"), pdf},
+                  &code);
+        QCOMPARE(code, 0);
+        const QString text = pdfText(pdf);
+        QVERIFY(text.contains(QStringLiteral("The first 20 seconds of the recording")));
+        QCOMPARE(text.count(QRegularExpression(QStringLiteral("SHA-256 [0-9a-f]{64}"))), 20);
+        QVERIFY2(pdfText(pdf, pageCount(pdf)).contains(QStringLiteral("nothing on it was changed")), "the last words");
+    }
+
     // A kept event's files are compared with the Vault's records; a changed
     // copy is said in words.
     void keptEventIsComparedWithTheVault()
