@@ -1,12 +1,14 @@
 #include "timeline/TelemetryProfile.h"
 
+#include "timeline/HardMoments.h"
+
 #include <algorithm>
 #include <cmath>
 
 namespace TelemetryProfile {
 
 namespace {
-constexpr double window = 0.25; // each side of a frame, for its deceleration
+constexpr double window = HardMoments::decelerationWindow / 2; // each side of a frame
 // A record holds until the next frame's, unless that is further away than
 // this: then the stretch between shows no data.
 constexpr double longestHold = 1.0;
@@ -42,7 +44,7 @@ Profile make(const EventTelemetry &telemetry, double duration, int count)
         const double deceleration =
             span > 0 ? (samples[behind].record->speed - samples[ahead].record->speed) / span : 0.0;
         const float speed = std::isfinite(r.speed) ? std::max(0.0f, r.speed) : 0.0f;
-        const bool hard = r.brakeApplied && deceleration >= hardBrakingDeceleration;
+        const bool hard = deceleration >= HardMoments::hardBrakingDeceleration;
         // Every slice the frame's record covers, so slices finer than the
         // frame rate leave no holes.
         // The last frame before a gap lasts one frame's time.

@@ -10,10 +10,6 @@
 // braked and braked hard.
 namespace TelemetryProfile {
 
-// Slowing by this much or more with the brake on is a hard stop (about a
-// third of a g: a firm stop, not a coast to the lights).
-inline constexpr double hardBrakingDeceleration = 3.0; // m/s²
-
 struct Slice {
     bool hasData = false; // a frame with a record lies in the slice
     float topSpeed = 0;   // m/s, the highest in the slice
@@ -29,9 +25,9 @@ struct Profile {
     bool isEmpty() const { return slices.empty(); }
 };
 
-// count slices of [0, duration). A frame counts as hard braking when the
-// brake is on and the speed over the half second around it falls at
-// hardBrakingDeceleration or more.
+// count slices of [0, duration). A frame counts as hard braking where the
+// timeline's marks find it: the speed over the half second around it
+// falling at HardMoments::hardBrakingDeceleration or more.
 Profile make(const EventTelemetry &telemetry, double duration, int count);
 
 } // namespace TelemetryProfile

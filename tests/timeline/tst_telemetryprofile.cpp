@@ -67,10 +67,11 @@ private Q_SLOTS:
         }
     }
 
-    void hardBrakingIsAFirmStopWithTheBrake()
+    void hardBrakingIsTheSpeedFallingAtFourTenthsOfAG()
     {
         // From 2 s to 4 s: slowing at 1 m/s² with the brake, at 5 m/s² with
-        // it, or at 5 m/s² without it (lifting off, regenerating).
+        // it, at 3.5 m/s² (a firm stop, short of 0.4 g), or at 5 m/s² with
+        // no brake reported (the car braking by itself).
         struct Case {
             const char *name;
             double deceleration;
@@ -79,7 +80,8 @@ private Q_SLOTS:
             bool hard;
         };
         for (const Case &c : {Case{"gentle", 1, true, true, false}, Case{"firm", 5, true, true, true},
-                              Case{"no brake", 5, false, false, false}}) {
+                              Case{"firm, short of hard", 3.5, true, true, false},
+                              Case{"no brake", 5, false, false, true}}) {
             EventTelemetry telemetry;
             telemetry.tracks.push_back(track(6, [&](double t) {
                 const bool stopping = t >= 2 && t < 4;
