@@ -126,6 +126,7 @@ PathInfo stat(const QString &path, Links links)
     info.isDirectory = S_ISDIR(st.st_mode);
     info.isRegularFile = S_ISREG(st.st_mode);
     info.size = qint64(st.st_size);
+    info.modifiedMs = qint64(st.st_mtim.tv_sec) * 1000 + st.st_mtim.tv_nsec / 1000000;
     return info;
 }
 

@@ -48,6 +48,7 @@ struct PathInfo {
     bool isDirectory = false;
     bool isRegularFile = false;
     qint64 size = 0;
+    qint64 modifiedMs = 0; // since 1970
     int error = 0; // errno when nothing could be seen, ENOENT for nothing there
 };
 enum class Links { notFollowed, followed };

@@ -100,6 +100,11 @@ bool VideoDecoder::openCodec(bool hardware)
     } else {
         context->thread_count = options_.threads;
     }
+    if (options_.keyFramesOnly) {
+        context->skip_frame = AVDISCARD_NONKEY;
+        context->skip_loop_filter = AVDISCARD_ALL;
+        context->flags2 |= AV_CODEC_FLAG2_FAST;
+    }
     if (avcodec_open2(context.get(), codec, nullptr) < 0)
         return false;
     context_ = std::move(context);

@@ -22,6 +22,9 @@ public:
         int threads = 1;       // software decoding threads; 0 lets FFmpeg choose
         bool hardware = false; // try the graphics hardware first
         int hardwareType = -1; // AVHWDeviceType to try; -1 for VAAPI
+        // Only key frames come out, decoded the fast way (no loop filter):
+        // for a look at the picture, not for showing it.
+        bool keyFramesOnly = false;
     };
 
     // Null when no decoder takes the stream's parameters.
