@@ -119,7 +119,7 @@ _keelhold_cli()
     case $prev in
         --event)
             [[ ${positional[0]} ]] || return
-            if [[ $command == telemetry || $command == decrypt || $command == report ]]; then
+            if [[ $command == telemetry || $command == decrypt || $command == report || $command == moments ]]; then
                 # Its folder may be a drive's or a Vault's.
                 _keelhold_cli_reply_ids < <(_keelhold_cli_event_ids "$cli" scan "${positional[0]}"
                     _keelhold_cli_event_ids "$cli" vault list "${positional[0]}")
@@ -129,7 +129,11 @@ _keelhold_cli()
             return
             ;;
         --format)
-            COMPREPLY=($(compgen -W 'csv json gpx' -- "$cur"))
+            if [[ $command == moments ]]; then
+                COMPREPLY=($(compgen -W 'csv json' -- "$cur"))
+            else
+                COMPREPLY=($(compgen -W 'csv json gpx' -- "$cur"))
+            fi
             return
             ;;
         --vault)

@@ -9,6 +9,7 @@
 #include "cli/HealthCommand.h"
 #include "cli/KeepCommand.h"
 #include "cli/ScanCommand.h"
+#include "cli/MomentsCommand.h"
 #include "cli/TelemetryCommand.h"
 #include "cli/UnlockCommand.h"
 #include "cli/VaultCommand.h"
@@ -66,6 +67,9 @@ const std::vector<Command> &commands()
          VaultCommand::run},
         {QStringLiteral("telemetry"), CliOutput::tr("Print the driving data recorded with an event's footage."),
          TelemetryCommand::run},
+        {QStringLiteral("moments"),
+         CliOutput::tr("Print where to look in an event: activity in front of each camera, and hard moments."),
+         MomentsCommand::run},
         {QStringLiteral("unlock"), CliOutput::tr("Check and remember your Tesla sign-in, for the car's encrypted clips."),
          UnlockCommand::run},
         {QStringLiteral("decrypt"), CliOutput::tr("Write an event's encrypted clips as the plain MP4 movies they hold."),

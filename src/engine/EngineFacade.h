@@ -3,6 +3,7 @@
 #include "engine/BookmarkAccess.h"
 #include "engine/DriveAccess.h"
 #include "engine/ExportAccess.h"
+#include "engine/MomentsAccess.h"
 #include "engine/SettingsAccess.h"
 #include "engine/TelemetryAccess.h"
 #include "engine/TriageAccess.h"
@@ -23,6 +24,7 @@ class EngineFacade : public DriveAccess,
                      public VaultAccess,
                      public TriageAccess,
                      public TelemetryAccess,
+                     public MomentsAccess,
                      public ExportAccess,
                      public SettingsAccess {
 public:

@@ -11,6 +11,8 @@
 #include "base/EnginePools.h"
 #include "export/CombinedExport.h"
 #include "export/Exporter.h"
+#include "engine/StoreFile.h"
+#include "moments/ActivityReader.h"
 #include "timeline/TelemetryTimeline.h"
 #include "vault/ArchiveEngine.h"
 #include "vault/VaultBrowser.h"
@@ -21,7 +23,8 @@
 
 // Building the watcher starts no observation; that waits for driveEvents().
 LiveEngine::LiveEngine(ScanCache &scanCache, TriageStore &triage)
-    : scanCache_(scanCache), triage_(triage), driveWatcher_(std::make_unique<DriveWatcher>())
+    : scanCache_(scanCache), triage_(triage), driveWatcher_(std::make_unique<DriveWatcher>()),
+      activityCache_(std::make_shared<ActivityCache>(StoreFile::defaultPath(QStringLiteral("activity-cache.bin"))))
 {
 }
 
@@ -156,6 +159,16 @@ QFuture<EventTelemetry> LiveEngine::loadTelemetry(const TeslaEvent &event, Camer
 {
     return AsyncRun::cancellable(EnginePools::driveRuns(), [event, camera](std::stop_token stop) {
         return TelemetryTimeline::load(event, camera, stop);
+    });
+}
+
+QFuture<EventActivity> LiveEngine::loadActivity(const TeslaEvent &event, bool background)
+{
+    return AsyncRun::cancellable(EnginePools::driveRuns(), [event, background, cache = activityCache_](std::stop_token stop) {
+        ActivityReader::Options options;
+        options.cache = cache.get();
+        options.background = background;
+        return ActivityReader::load(event, options, stop);
     });
 }
 

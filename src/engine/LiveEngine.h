@@ -3,6 +3,7 @@
 #include "engine/EngineFacade.h"
 #include "engine/ScanCache.h"
 #include "engine/TriageStore.h"
+#include "moments/ActivityCache.h"
 
 #include <memory>
 
@@ -51,6 +52,7 @@ public:
     void setTriageState(TriageState state, const QString &eventID) override;
     QFuture<TriageStates> loadAllTriageStates() override;
     QFuture<EventTelemetry> loadTelemetry(const TeslaEvent &event, Camera camera) override;
+    QFuture<EventActivity> loadActivity(const TeslaEvent &event, bool background) override;
     QFuture<void> exportFootage(Camera camera, const TeslaEvent &event, std::optional<SecondsRange> range,
                                 const QString &to, FractionCallback progress) override;
     QFuture<void> makeReport(const TeslaEvent &event, const IncidentReport::Options &options, const QString &to,
@@ -65,4 +67,6 @@ private:
     ScanCache &scanCache_;
     TriageStore &triage_;
     std::unique_ptr<DriveWatcher> driveWatcher_;
+    // Shared by every load, so its file is read once.
+    std::shared_ptr<ActivityCache> activityCache_;
 };

@@ -427,6 +427,29 @@ QFuture<EventTelemetry> MockEngine::loadTelemetry(const TeslaEvent &event, Camer
     });
 }
 
+QFuture<EventActivity> MockEngine::loadActivity(const TeslaEvent &event, bool)
+{
+    return AsyncRun::cancellable(generalPool(), [event](std::stop_token stop) {
+        if (!AsyncRun::sleepFor(50ms, stop))
+            throw CancellationError();
+        // A still scene on every camera; on a Sentry event someone passes
+        // the left side camera for five seconds of its first minute.
+        std::vector<std::pair<ClipRef, ClipActivity>> clips;
+        bool passed = false;
+        for (const ClipRef &clip : event.clips) {
+            if (!clip.health.isPlayable())
+                continue;
+            ClipActivity activity{60.0, std::vector<float>(60, 2.0f)};
+            if (event.kind == EventKind::sentry && clip.camera == Camera::leftRepeater && !passed) {
+                std::fill(activity.changePerSecond.begin() + 20, activity.changePerSecond.begin() + 25, 40.0f);
+                passed = true;
+            }
+            clips.emplace_back(clip, std::move(activity));
+        }
+        return EventActivity::make(event, clips);
+    });
+}
+
 QFuture<void> MockEngine::exportFootage(Camera, const TeslaEvent &, std::optional<SecondsRange>, const QString &,
                                         FractionCallback progress)
 {

@@ -53,6 +53,7 @@ void SyncPlayerController::loadEvent(const TeslaEvent &event)
     setIsPlaying(false);
     setCurrentTime(0);
     setFocusedCamera(std::nullopt);
+    setPlaces({});
     // The old players stop at once and go a little later: each one's
     // destructor waits for its worker, which would stall the GUI thread.
     group_.clear();
@@ -318,6 +319,43 @@ void SyncPlayerController::cue(double t, bool fresh)
     std::stop_source stop;
     cueTask_ = stop;
     cueAndPlay(QPointer<SyncPlayerController>(this), t, fresh, stop.get_token());
+}
+
+void SyncPlayerController::setPlaces(std::vector<Place> places)
+{
+    std::stable_sort(places.begin(), places.end(), [](const Place &a, const Place &b) { return a.time < b.time; });
+    if (places == places_)
+        return;
+    places_ = std::move(places);
+    Q_EMIT placesChanged();
+}
+
+bool SyncPlayerController::jumpToPlace(int direction)
+{
+    // Measured from where a jump lands, so a second press moves on from
+    // the place just reached rather than landing on it again.
+    const auto landing = [](const Place &p) { return std::max(0.0, p.time - placeLead); };
+    constexpr double slack = 0.5;
+    const Place *target = nullptr;
+    if (direction > 0) {
+        for (const Place &p : places_)
+            if (landing(p) > currentTime_ + slack) {
+                target = &p;
+                break;
+            }
+    } else {
+        for (auto it = places_.rbegin(); it != places_.rend(); ++it)
+            if (landing(*it) < currentTime_ - slack) {
+                target = &*it;
+                break;
+            }
+    }
+    if (!target)
+        return false;
+    if (target->camera && std::any_of(tiles_.begin(), tiles_.end(), [&](const Tile &t) { return t.camera == *target->camera; }))
+        setFocusedCamera(target->camera);
+    cue(std::min(landing(*target), std::max(0.0, duration_ - endMargin)), false);
+    return true;
 }
 
 double SyncPlayerController::cueTarget(std::optional<double> triggerOffset, double duration)

@@ -44,6 +44,8 @@ class SyncPlayerController : public QObject {
     // The speed the event really plays at, measured while it plays; 0 until known.
     Q_PROPERTY(double playingRate READ playingRateForQml NOTIFY playingRateChanged)
     Q_PROPERTY(bool isFallingBehind READ isFallingBehind NOTIFY playingRateChanged)
+    // Whether N and Shift+N have anywhere to go.
+    Q_PROPERTY(bool hasPlaces READ hasPlaces NOTIFY placesChanged)
 
 public:
     struct Tile {
@@ -57,10 +59,20 @@ public:
         Camera id() const { return camera; }
     };
 
+    // A place worth a look: something moving in front of a camera, or a
+    // hard moment of the drive (no camera of its own).
+    struct Place {
+        double time = 0;
+        std::optional<Camera> camera;
+        bool operator==(const Place &) const = default;
+    };
+
     static constexpr std::array<float, 5> allowedRates{0.5f, 1.0f, 1.5f, 2.0f, 4.0f};
     static constexpr double startLead = 0.15;
     static constexpr double stepSeconds = 5.0;
     static constexpr double cueLead = 10.0;
+    // A jump to a place starts a little before it, to see it begin.
+    static constexpr double placeLead = 2.0;
     static constexpr double endMargin = 1.0;
     static constexpr std::chrono::milliseconds cueWaitLimit{3000};
     static constexpr std::chrono::milliseconds cuePollInterval{50};
@@ -104,6 +116,14 @@ public:
     Q_INVOKABLE void stepBack() { seek(currentTime_ - stepSeconds); }
     Q_INVOKABLE void stepForward() { seek(currentTime_ + stepSeconds); }
     Q_INVOKABLE void jumpToMoment();
+    // The places of this event, any order; a new event clears them.
+    void setPlaces(std::vector<Place> places);
+    const std::vector<Place> &places() const { return places_; }
+    bool hasPlaces() const { return !places_.empty(); }
+    // Plays from just before the next place (direction > 0) or the one
+    // before the place shown now, enlarging its camera; false where there
+    // is none.
+    Q_INVOKABLE bool jumpToPlace(int direction);
     Q_INVOKABLE void focusCamera(int index);
     Q_INVOKABLE void clearFocus() { setFocusedCamera(std::nullopt); }
     // Moves every camera by one frame of the primary camera (+1 or -1),
@@ -122,6 +142,7 @@ Q_SIGNALS:
     void triggerOffsetChanged();
     void isShowingApproximateFramesChanged();
     void playingRateChanged();
+    void placesChanged();
 
 private:
     friend class TestSyncPlayerController;
@@ -175,6 +196,7 @@ private:
     double duration_ = 1.0;
     std::optional<Camera> focusedCamera_;
     std::optional<double> triggerOffset_;
+    std::vector<Place> places_; // by time
 
     std::optional<int> timeObserverToken_;
     QPointer<TrackPlayer> primaryPlayer_;

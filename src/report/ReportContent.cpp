@@ -170,6 +170,13 @@ ReportContent ReportContent::gather(const TeslaEvent &event, const Options &opti
         if (const TelemetryRecord *record = telemetry.recordAt(moment))
             content.atMoment = *record;
         content.route = telemetry.route();
+        const double end = telemetry.pieces.empty() ? 0.0 : telemetry.pieces.back().timelineEnd();
+        for (const HardMoment &hard : HardMoments::find(telemetry, event, std::max(end, event.approximateDuration()))) {
+            const auto at = telemetry.sampleAt(hard.time);
+            content.hardMoments.push_back(
+                {hard, at ? at->track->wallClock(at->mediaTime)
+                          : event.earliestClipDate().value_or(event.timestamp).addingTimeInterval(hard.time)});
+        }
         if (const auto sample = telemetry.sampleAt(moment)) {
             content.carClock = sample->track->wallClock(sample->mediaTime);
             content.gpsClock = sample->track->utcTime(sample->mediaTime);

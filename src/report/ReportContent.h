@@ -6,6 +6,7 @@
 #include "model/TeslaEvent.h"
 #include "model/TelemetryRecord.h"
 #include "report/ReportMap.h"
+#include "timeline/HardMoments.h"
 
 #include <QCoreApplication>
 #include <QHash>
@@ -74,6 +75,12 @@ public:
     std::vector<Still> stills;      // one per camera of the event, grid order
     std::vector<Reading> readings;  // the chart's 20 s: around the moment, or from the start
     std::optional<TelemetryRecord> atMoment;
+    // The drive's hard moments, each with the car's clock then.
+    struct Moment {
+        HardMoment what;
+        Date carClock;
+    };
+    std::vector<Moment> hardMoments;
 
     std::vector<File> files;        // every original, in clip order
 

@@ -213,6 +213,36 @@ void ReportDocument::write(const ReportContent &content, const QString &path, co
         html += QStringLiteral("</table>");
     }
 
+    // The hard moments the driving data shows, or that it shows none.
+    if (content.hasDrivingData() || !content.hardMoments.empty()) {
+        html += QStringLiteral("<h2>%1</h2>").arg(esc(tr("Hard moments of the drive")));
+        if (content.hardMoments.empty()) {
+            html += QStringLiteral("<p>%1</p>")
+                        .arg(esc(tr("The driving data shows no hard braking, swerve, sudden stop or Autopilot "
+                                    "switching off in this event.")));
+        } else {
+            html += QStringLiteral("<table cellspacing=\"0\" cellpadding=\"2\">");
+            for (const ReportContent::Moment &m : content.hardMoments) {
+                const HardMoment &h = m.what;
+                QString detail = QStringLiteral("%1 %2")
+                                     .arg(DrivingDataText::speed(float(h.speed), options.miles))
+                                     .arg(DrivingDataText::speedUnit(options.miles));
+                if (h.kind == HardMoment::Kind::hardBraking || h.kind == HardMoment::Kind::suddenStop)
+                    detail += tr(", slowing at %1 g").arg(h.deceleration / HardMoments::standardGravity, 0, 'f', 2);
+                else if (h.kind == HardMoment::Kind::swerve && h.steeringRate > 0)
+                    detail += tr(", steering turned at %1°/s").arg(std::lround(h.steeringRate));
+                html += QStringLiteral("<tr><td width=\"130\" style=\"color:#555\">%1</td><td><b>%2</b> %3</td></tr>")
+                            .arg(esc(tr("%1 (%2 in)").arg(m.carClock.formatCarClock(locale, locale.timeFormat(QLocale::LongFormat)),
+                                                          duration(h.time))),
+                                 esc(h.displayName()), esc(QStringLiteral("— ") + detail));
+            }
+            html += QStringLiteral("</table><p>%1</p>")
+                        .arg(esc(tr("Found from the car's own records: hard braking is the speed falling at 0.4 g or "
+                                    "more; a swerve is the wheel turned at 200°/s or more, or a sideways pull of 0.5 "
+                                    "g.")));
+        }
+    }
+
     // Every original file: where they are, then each with its digest.
     html += QStringLiteral("<h2%1>%2</h2><p>%3</p>")
                 .arg(newPage, esc(tr("The original files")),

@@ -1,5 +1,7 @@
 #include "state/AppState.h"
 
+#include "moments/ActivityReader.h"
+
 #include "health/HealthComputer.h"
 #include "state/ChangeSignal.h"
 
@@ -7,7 +9,8 @@
 #include <QWindow>
 
 AppState::AppState(EngineFacade &engine, QObject *parent)
-    : QObject(parent), engine_(engine), shell_(engine), triage_(engine), drive_(engine, engine), vault_(engine, engine, engine)
+    : QObject(parent), engine_(engine), shell_(engine), triage_(engine), drive_(engine, engine), vault_(engine, engine, engine),
+      activity_(engine)
 {
     relayPartSignals();
     if (auto *app = QCoreApplication::instance()) {
@@ -46,7 +49,17 @@ void AppState::relayPartSignals()
         Q_EMIT visibleInboxEventsChanged();
         recomputeHealth();
         refreshKeyCoverage();
+        if (!driveScan())
+            activity_.stop();
     });
+    connect(&drive_, &DriveSession::probeFinished, this, [this] {
+        std::vector<TeslaEvent> ahead;
+        if (driveScan())
+            std::copy_if(driveScan()->events.begin(), driveScan()->events.end(), std::back_inserter(ahead),
+                         ActivityReader::isWorthAhead);
+        activity_.start(std::move(ahead));
+    });
+    connect(this, &AppState::isArchivingChanged, this, [this] { activity_.setPaused(isArchiving_); });
     connect(&drive_, &DriveSession::scanProgressChanged, this, &AppState::scanProgressChanged);
     connect(&drive_, &DriveSession::isScanningChanged, this, &AppState::isScanningChanged);
     connect(&drive_, &DriveSession::isRevalidatingScanChanged, this, &AppState::isRevalidatingScanChanged);

@@ -7,6 +7,7 @@
 #include "model/ArchiveReport.h"
 #include "model/TeslaEvent.h"
 #include "model/TriageState.h"
+#include "state/ActivityPass.h"
 #include "state/DriveSession.h"
 #include "state/ShellState.h"
 #include "state/TriageFilters.h"
@@ -182,6 +183,10 @@ public:
     int lockedEventCount() const;
     // Event id to lockState, for the encrypted events of the drive and the Vault.
     QHash<QString, QString> lockStates() const;
+    // Where something happened in the drive's parked and saved events,
+    // worked out after each probe and waiting while a keep runs.
+    ActivityPass &activity() { return activity_; }
+    const ActivityPass &activity() const { return activity_; }
     // The drive's or the Vault's events with these ids, in the order given.
     std::vector<TeslaEvent> eventsWithIDs(const QStringList &ids) const;
 
@@ -282,4 +287,5 @@ private:
     std::optional<HealthReport> healthReport_;
     QHash<QString, KeyCoverage> keyCoverage_;
     quint64 keyCoverageRun_ = 0;
+    ActivityPass activity_;
 };

@@ -155,6 +155,8 @@ QCoro::Task<bool> DriveSession::probeTask(QPointer<DriveSession> self, std::vect
     DriveScan updated = *self->driveScan_;
     updated.events = std::move(probed);
     self->setDriveScan(std::move(updated));
+    if (self)
+        Q_EMIT self->probeFinished();
     co_return true;
 }
 

@@ -60,6 +60,8 @@ Q_SIGNALS:
     void isSampleModeChanged();
     // A folder of the drive was opened for reading.
     void accessBegan();
+    // The probe of the drive on screen ended and its health is in the scan.
+    void probeFinished();
     // Any volume mounted, the drive's or another.
     void volumeMounted(const QString &mountPoint);
 

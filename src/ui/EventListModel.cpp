@@ -31,6 +31,10 @@ EventListModel::EventListModel(AppState *state, Source source, QObject *parent)
     connect(state, &AppState::selectedEventIDsForBulkChanged, this, &EventListModel::refreshAllRows);
     connect(state, &AppState::resourceAccessEpochChanged, this, &EventListModel::refreshAllRows);
     connect(state, &AppState::keyCoverageChanged, this, &EventListModel::refreshAllRows);
+    connect(&state->activity(), &ActivityPass::highlightsChanged, this, [this](const QString &id) {
+        if (const int row = indexOf(id); row >= 0)
+            Q_EMIT dataChanged(index(row), index(row), {ActivityLineRole});
+    });
 }
 
 std::vector<TeslaEvent> EventListModel::currentEvents() const
@@ -85,6 +89,7 @@ QHash<int, QByteArray> EventListModel::roleNames() const
         {LockStateRole, "lockState"},
         {LockIconRole, "lockIcon"},
         {LockToolTipRole, "lockToolTip"},
+        {ActivityLineRole, "activityLine"},
     };
 }
 
@@ -147,6 +152,8 @@ QVariant EventListModel::data(const QModelIndex &index, int role) const
     }
     case LockToolTipRole:
         return InboxPresenter::lockMark(state_->lockState(e.id())).toolTip;
+    case ActivityLineRole:
+        return InboxPresenter::activityLine(state_->activity().highlights(e.id()));
     case CorruptCountRole:
         return e.corruptClipCount();
     case CorruptToolTipRole:

@@ -48,6 +48,7 @@ public:
         LockStateRole,
         LockIconRole,
         LockToolTipRole,
+        ActivityLineRole,
     };
 
     EventListModel(AppState *state, Source source, QObject *parent = nullptr);

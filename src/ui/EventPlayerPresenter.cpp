@@ -10,7 +10,7 @@
 #include "model/PlatformWords.h"
 
 EventPlayerPresenter::EventPlayerPresenter(QObject *parent)
-    : QObject(parent), drivingData_(new PlayerDrivingData(this))
+    : QObject(parent), drivingData_(new PlayerDrivingData(this)), moments_(new PlayerMoments(this))
 {
     connect(drivingData_, &PlayerDrivingData::loadFinished, this, &EventPlayerPresenter::tellExportFlowAboutDrivingData);
 }
@@ -89,6 +89,7 @@ void EventPlayerPresenter::resolve()
         }
         loadedID_.clear();
         drivingData_->load(nullptr, std::nullopt);
+        moments_->load(nullptr, std::nullopt, nullptr);
         return;
     }
     if (event_->id() == loadedID_)
@@ -103,6 +104,8 @@ void EventPlayerPresenter::resolve()
     }
     drivingData_->follow(controller_);
     drivingData_->load(appState_ ? &appState_->engine() : nullptr, event_);
+    moments_->follow(controller_, drivingData_);
+    moments_->load(appState_ ? &appState_->engine() : nullptr, event_, appState_ ? &appState_->activity() : nullptr);
     opened();
 }
 
@@ -196,6 +199,8 @@ QVariantMap EventPlayerPresenter::texts()
         {QStringLiteral("playTip"), QStringLiteral("Play or pause all cameras together, perfectly in sync. (Space)")},
         {QStringLiteral("moment"), QStringLiteral("Moment")},
         {QStringLiteral("momentIcon"), icon("flag.fill")},
+        {QStringLiteral("previousPlaceIcon"), icon("chevron.left")},
+        {QStringLiteral("nextPlaceIcon"), icon("chevron.right")},
         {QStringLiteral("momentTip"),
          QStringLiteral("Jump to just before the moment it happened — the honk, bump, or detection. (M)")},
         {QStringLiteral("speed"), QStringLiteral("Speed")},

@@ -2,6 +2,7 @@
 
 #include "model/TeslaEvent.h"
 #include "PlayerDrivingData.h"
+#include "PlayerMoments.h"
 #include "playback/SyncPlayerController.h"
 #include "state/AppState.h"
 
@@ -29,6 +30,7 @@ class EventPlayerPresenter : public QObject {
     Q_PROPERTY(bool keepProminent READ keepProminent NOTIFY eventChanged)
     Q_PROPERTY(QVariantMap texts READ texts CONSTANT)
     Q_PROPERTY(PlayerDrivingData *drivingData READ drivingData CONSTANT)
+    Q_PROPERTY(PlayerMoments *moments READ moments CONSTANT)
 
 public:
     explicit EventPlayerPresenter(QObject *parent = nullptr);
@@ -48,6 +50,8 @@ public:
     SyncPlayerController *controller() const { return controller_; }
     // The car's records for the overlay, the strip and the route.
     PlayerDrivingData *drivingData() const { return drivingData_; }
+    // Each camera's activity and the drive's hard moments.
+    PlayerMoments *moments() const { return moments_; }
     // The two rows over the grid: reason, damage, verification, date,
     // place and coordinates.
     QVariantMap metadata() const;
@@ -83,6 +87,7 @@ private:
     QString loadedID_;
     SyncPlayerController *controller_ = nullptr;
     PlayerDrivingData *drivingData_ = nullptr;
+    PlayerMoments *moments_ = nullptr;
     void tellExportFlowAboutDrivingData();
     QPointer<ExportFlow> exportFlow_;
     QList<QMetaObject::Connection> stateConnections_;

@@ -140,6 +140,10 @@ QStringList HelpArticle::listLines() const
             QStringLiteral("1 to 7 — jump straight to a camera (in the order shown in the grid)"),
             QStringLiteral("0 — back to all cameras"),
             QStringLiteral("M — replay the moment it happened (just before the honk, bump, or detection)"),
+            QCoreApplication::translate("HelpArticle",
+                                        "N and Shift+N — jump to the next or previous thing that happened: someone "
+                                        "moving in front of a camera (that camera is enlarged), or a hard brake, "
+                                        "swerve or Autosteer switching off"),
             QStringLiteral("F — fill the window with just the cameras (Esc goes back)"),
             QStringLiteral("T — show or hide the car's driving data over the video (speed, pedals, steering, "
                            "Autopilot)"),

@@ -1,5 +1,7 @@
 #include "InboxPresenter.h"
 
+#include "playback/SyncPlayerController.h"
+
 #include <QCoreApplication>
 
 #include <QLocale>
@@ -225,6 +227,18 @@ std::vector<TeslaEvent> recentDriving(const std::vector<TeslaEvent> &visibleEven
         if (e.kind == EventKind::recent)
             recent.push_back(e);
     return recent;
+}
+
+QString activityLine(const std::vector<ActivityBurst> &highlights)
+{
+    if (highlights.empty())
+        return {};
+    QStringList parts;
+    for (const ActivityBurst &burst : highlights)
+        parts << QCoreApplication::translate("InboxPresenter", "%1 %2")
+                     .arg(burst.camera.displayName(), SyncPlayerController::timeString(burst.start));
+    return QCoreApplication::translate("InboxPresenter", "Activity: %1")
+        .arg(parts.join(QCoreApplication::translate("InboxPresenter", ", ")));
 }
 
 } // namespace InboxPresenter

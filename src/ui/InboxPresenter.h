@@ -4,6 +4,7 @@
 #include "model/ReasonCategory.h"
 #include "model/TeslaEvent.h"
 #include "model/TriageState.h"
+#include "moments/EventActivity.h"
 
 #include <QDate>
 #include <QString>
@@ -60,6 +61,9 @@ struct LockMark {
     QString toolTip;
 };
 LockMark lockMark(const QString &lockState);
+// "Activity: Left Side 2:14, Rear 6:40": where to look, by camera and
+// time; empty when nothing happened or it isn't known yet.
+QString activityLine(const std::vector<ActivityBurst> &highlights);
 
 QString corruptionAccessibilityText(int count);
 QString corruptionToolTip(int count);

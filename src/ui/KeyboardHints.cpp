@@ -22,7 +22,7 @@ QVariantList KeyboardHints::items()
 {
     static const std::pair<const char16_t *, const char16_t *> table[] = {
         {u"Space", u"Play/Pause"}, {u"← →", u"Skip 5s"},     {u", .", u"Frame step"}, {u"1–7", u"Cameras"},
-        {u"0", u"All cameras"},    {u"M", u"The moment"},    {u"F", u"Fill window"},  {u"T", u"Driving data"}, {u"K", u"Keep"},
+        {u"0", u"All cameras"},    {u"M", u"The moment"},    {u"N ⇧N", u"What happened"}, {u"F", u"Fill window"},  {u"T", u"Driving data"}, {u"K", u"Keep"},
         {u"D", u"Dismiss"}};
     QVariantList list;
     for (const auto &[key, label] : table)

@@ -28,9 +28,15 @@ bool ListPlayerKeyRouter::keyPressed(int key, int modifiers, const QString &text
     using namespace PlayerKeyActions;
     // Keypad digits carry KeypadModifier; that one is not a held key.
     const int held = modifiers & ~int(Qt::KeypadModifier);
+    AppState *state = appState_;
+    // N and Shift+N, the one key with a modifier, go to the player.
+    if (key == Qt::Key_N && (held == Qt::NoModifier || held == Qt::ShiftModifier) && state &&
+        state->activePlayerController()) {
+        jumpToPlace(state, held == Qt::ShiftModifier ? -1 : +1);
+        return true;
+    }
     if (held != Qt::NoModifier)
         return false;
-    AppState *state = appState_;
     switch (key) {
     case Qt::Key_F:
         toggleFocusMode(state);

@@ -51,6 +51,10 @@ void PlayerDrivingData::load(TelemetryAccess *engine, const std::optional<TeslaE
     telemetry_.reset();
     profile_ = {};
     route_ = {};
+    const bool hadMoments = !moments_.empty();
+    moments_.clear();
+    if (hadMoments)
+        Q_EMIT momentsChanged();
     loading_ = engine && event;
     if (had)
         Q_EMIT dataChanged();
@@ -59,11 +63,11 @@ void PlayerDrivingData::load(TelemetryAccess *engine, const std::optional<TeslaE
         return;
     }
     pending_ = engine->loadTelemetry(*event, Camera::front);
-    loadTask(QPointer<PlayerDrivingData>(this), pending_, generation, event->id());
+    loadTask(QPointer<PlayerDrivingData>(this), pending_, generation, *event);
 }
 
 QCoro::Task<void> PlayerDrivingData::loadTask(QPointer<PlayerDrivingData> self, QFuture<EventTelemetry> pending,
-                                              quint64 generation, QString id)
+                                              quint64 generation, TeslaEvent event)
 {
     const auto isCurrent = [&] { return self && self->generation_ == generation; };
     auto pendingEnded = Awaiting::finished(pending);
@@ -73,12 +77,13 @@ QCoro::Task<void> PlayerDrivingData::loadTask(QPointer<PlayerDrivingData> self, 
     // without data: no overlay, no message.
     if (isCurrent()) {
         // The strip's slices and the route are made off this thread too.
-        QFuture<Loaded> shaped = AsyncRun::onPool(EnginePools::quick(), [pending, id]() mutable {
+        QFuture<Loaded> shaped = AsyncRun::onPool(EnginePools::quick(), [pending, event]() mutable {
             std::optional<EventTelemetry> telemetry = Awaiting::take(pending);
             auto shared = std::make_shared<const EventTelemetry>(telemetry ? std::move(*telemetry) : EventTelemetry{});
             const double end = shared->pieces.empty() ? 0.0 : shared->pieces.back().timelineEnd();
             return Loaded{shared, TelemetryProfile::make(*shared, end, profileSlices),
-                          MapRoute::fromTelemetry(id, *shared)};
+                          MapRoute::fromTelemetry(event.id(), *shared),
+                          HardMoments::find(*shared, event, std::max(end, event.approximateDuration()))};
         });
         auto shapedEnded = Awaiting::finished(shaped);
         co_await shapedEnded;
@@ -93,6 +98,10 @@ QCoro::Task<void> PlayerDrivingData::loadTask(QPointer<PlayerDrivingData> self, 
     if (!isCurrent())
         co_return; // a newer event took over
     self->loading_ = false;
+    if (loaded && !loaded->moments.empty()) {
+        self->moments_ = std::move(loaded->moments);
+        Q_EMIT self->momentsChanged();
+    }
     if (loaded && loaded->telemetry->hasRecords()) {
         self->telemetry_ = std::move(loaded->telemetry);
         self->profile_ = std::move(loaded->profile);

@@ -3,6 +3,7 @@
 #include "MapRoute.h"
 #include "model/EventTelemetry.h"
 #include "model/TeslaEvent.h"
+#include "timeline/HardMoments.h"
 #include "timeline/TelemetryProfile.h"
 
 #include <QFuture>
@@ -69,6 +70,9 @@ public:
     QVariantMap recordForQml() const;
     QVariant profileForQml() const;
     const MapRoute &route() const { return route_; }
+    // The drive's hard moments, on the event's axis; the car's emergency
+    // braking is one even without records.
+    const std::vector<HardMoment> &moments() const { return moments_; }
     bool hasRoute() const { return route_.points.size() > 1; }
     QVariant routeForQml() const { return QVariant::fromValue(MapRoutes{route_}); }
 
@@ -93,16 +97,18 @@ Q_SIGNALS:
     // A load ended, with data or without (for tests and the map).
     void loadFinished();
     void noticeChanged();
+    void momentsChanged();
 
 private:
     struct Loaded {
         std::shared_ptr<const EventTelemetry> telemetry;
         TelemetryProfile::Profile profile;
         MapRoute route;
+        std::vector<HardMoment> moments;
     };
 
     static QCoro::Task<void> loadTask(QPointer<PlayerDrivingData> self, QFuture<EventTelemetry> pending,
-                                      quint64 generation, QString id);
+                                      quint64 generation, TeslaEvent event);
     void attachToPrimary();
     void refresh();
     void setCurrent(const TelemetryRecord *record);
@@ -113,6 +119,7 @@ private:
     std::shared_ptr<const EventTelemetry> telemetry_;
     TelemetryProfile::Profile profile_;
     MapRoute route_;
+    std::vector<HardMoment> moments_;
     const TelemetryRecord *current_ = nullptr;
     QPointer<SyncPlayerController> controller_;
     QPointer<TrackPlayer> player_;

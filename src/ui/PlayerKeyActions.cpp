@@ -48,6 +48,11 @@ void jumpToMoment(AppState *state)
     later(state, [](SyncPlayerController &c) { c.jumpToMoment(); });
 }
 
+void jumpToPlace(AppState *state, int direction)
+{
+    later(state, [direction](SyncPlayerController &c) { c.jumpToPlace(direction); });
+}
+
 void toggleFocusMode(AppState *state)
 {
     if (!state)

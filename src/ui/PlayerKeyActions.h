@@ -13,6 +13,8 @@ void togglePlay(AppState *state);
 void skip(AppState *state, double seconds);
 void stepFrame(AppState *state, int direction);
 void jumpToMoment(AppState *state);
+// To the next (+1) or previous (-1) burst of activity or hard moment.
+void jumpToPlace(AppState *state, int direction);
 void toggleFocusMode(AppState *state);
 void focusCamera(AppState *state, int index);
 void clearFocus(AppState *state);

@@ -35,7 +35,8 @@ QStringList PlayerKeyboardShortcuts::keys()
             QStringLiteral("F"),     QStringLiteral("1"),    QStringLiteral("2"),     QStringLiteral("3"),
             QStringLiteral("4"),     QStringLiteral("5"),    QStringLiteral("6"),     QStringLiteral("7"),
             QStringLiteral("0"),     QStringLiteral("K"),    QStringLiteral("D"),     QStringLiteral(","),
-            QStringLiteral("."),     QStringLiteral("T"),     QStringLiteral("Esc")};
+            QStringLiteral("."),     QStringLiteral("T"),     QStringLiteral("N"),     QStringLiteral("Shift+N"),
+            QStringLiteral("Esc")};
 }
 
 bool PlayerKeyboardShortcuts::activate(const QString &sequence)
@@ -55,6 +56,10 @@ bool PlayerKeyboardShortcuts::activate(const QString &sequence)
         stepFrame(state, +1);
     else if (key == QLatin1String("M"))
         jumpToMoment(state);
+    else if (key == QLatin1String("N"))
+        jumpToPlace(state, +1);
+    else if (key == QLatin1String("SHIFT+N"))
+        jumpToPlace(state, -1);
     else if (key == QLatin1String("F"))
         toggleFocusMode(state);
     else if (key == QLatin1String("T")) {

@@ -8,7 +8,7 @@
 
 class PlayerDrivingData;
 
-// The keys of the player screen, all without modifier keys. The QML side
+// The keys of the player screen, all without modifier keys but Shift+N. The QML side
 // installs one Shortcut per key, which the toolkit keeps from firing while
 // a text field or a dialog has the keyboard, and hands the key here.
 class PlayerKeyboardShortcuts : public QObject {

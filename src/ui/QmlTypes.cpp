@@ -9,6 +9,8 @@
 #include "PlayerKeyboardShortcuts.h"
 #include "PlayerLayout.h"
 #include "SpeedStrip.h"
+#include "ActivityStrip.h"
+#include "PlayerMoments.h"
 #include "VideoMirror.h"
 #include "playback/SyncPlayerController.h"
 #include "playback/TrackPlayer.h"
@@ -43,6 +45,8 @@ void registerAll()
     qmlRegisterUncreatableType<PlayerDrivingData>(uri, 1, 0, "PlayerDrivingData",
                                                   QStringLiteral("made by the player screen"));
     qmlRegisterType<SpeedStrip>(uri, 1, 0, "SpeedStrip");
+    qmlRegisterType<ActivityStrip>(uri, 1, 0, "ActivityStrip");
+    qmlRegisterUncreatableType<PlayerMoments>(uri, 1, 0, "PlayerMoments", QStringLiteral("made by the player screen"));
     qmlRegisterUncreatableType<TrackPlayer>(uri, 1, 0, "TrackPlayer", QStringLiteral("made by the controller"));
 }
 

@@ -23,6 +23,7 @@ const QHash<QString, QString> &table()
         {QStringLiteral("externaldrive.fill"), QStringLiteral("devices/drive-removable-media")},
         {QStringLiteral("externaldrive.badge.questionmark"), QStringLiteral("devices/media-removable")},
         {QStringLiteral("chevron.right"), QStringLiteral("ui/pan-end")},
+        {QStringLiteral("chevron.left"), QStringLiteral("ui/pan-start")},
         // Failures
         {QStringLiteral("folder.badge.questionmark"), QStringLiteral("places/folder-saved-search")},
         {QStringLiteral("exclamationmark.arrow.triangle.2.circlepath"), QStringLiteral("status/software-update-urgent")},

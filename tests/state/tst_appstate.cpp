@@ -481,8 +481,9 @@ private Q_SLOTS:
         drive->setCapacity(capacity);
         fill(*drive, 100);
         state.beginScan(mountPoint + QStringLiteral("/TeslaCam"));
-        // Scanned and probed: nothing else reads the drive from here on.
+        // Scanned, probed and its activity worked out: nothing else reads the drive from here on.
         QTRY_VERIFY_WITH_TIMEOUT(state.healthReport() && state.healthReport()->probedClipCount == 6, 30000);
+        QTRY_VERIFY_WITH_TIMEOUT(!state.activity().isRunning(), 30000);
         const std::vector<TeslaEvent> events = state.driveScan()->events;
         QCOMPARE(events.size(), size_t(3));
         // Pulled halfway through the second event's second clip.

@@ -362,6 +362,23 @@ private Q_SLOTS:
         QVERIFY(item(QStringLiteral("speedStrip")));
         QVERIFY(std::any_of(drivingData()->profile().slices.begin(), drivingData()->profile().slices.end(),
                             [](const TelemetryProfile::Slice &s) { return s.hardBraking; }));
+        // The hard brake stands above the strip with its word, and Shift+N
+        // from just after it plays from just before it.
+        QTRY_VERIFY(item(QStringLiteral("hardMomentMarks")));
+        const auto &moments = drivingData()->moments();
+        const auto hard = std::find_if(moments.begin(), moments.end(),
+                                       [](const HardMoment &m) { return m.kind == HardMoment::Kind::hardBraking; });
+        QVERIFY(hard != moments.end());
+        QVERIFY2(hard->time > 85 && hard->time < 92, qPrintable(QString::number(hard->time)));
+        QVERIFY(controller()->hasPlaces());
+        const double braking = hard->time;
+        controller()->pause();
+        controller()->seek(braking + 1);
+        waitForExactFrame();
+        QTest::keyClick(app_->window(), Qt::Key_N, Qt::ShiftModifier);
+        QTRY_VERIFY_WITH_TIMEOUT(std::abs(controller()->currentTime() - (braking - SyncPlayerController::placeLead)) < 1.5,
+                                 10000);
+        controller()->pause();
         QTRY_VERIFY(item(QStringLiteral("routeMarker")));
         app_->shot(QStringLiteral("player-telemetry-overlay"));
 

@@ -141,12 +141,14 @@ Item {
             controller: view.controller
             texts: playerPresenter.texts
             drivingData: playerPresenter.drivingData
+            moments: playerPresenter.moments
         }
         PlayerTransportBar {
             Layout.fillWidth: true
             controller: view.controller
             presenter: playerPresenter
             texts: playerPresenter.texts
+            momentsTexts: playerPresenter.moments.texts
         }
         KeyboardHintBar { Layout.fillWidth: true }
     }

@@ -33,6 +33,7 @@ Rectangle {
     required property string lockState
     required property string lockIcon
     required property string lockToolTip
+    required property string activityLine
     property bool bulkMode: false
     property Component trailing: null
     signal activated()
@@ -40,7 +41,7 @@ Rectangle {
     signal menuRequested(real x, real y)
 
     objectName: "eventRow_" + eventID
-    implicitHeight: 64
+    implicitHeight: activityLine.length > 0 ? 80 : 64
     color: isSelected ? Qt.rgba(palette.highlight.r, palette.highlight.g, palette.highlight.b, 0.12) : "transparent"
     Accessible.role: Accessible.ListItem
     Accessible.name: accessibleName
@@ -156,6 +157,16 @@ Rectangle {
                 text: row.secondLine
                 opacity: 0.7
                 font.pixelSize: 12
+                elide: Text.ElideRight
+            }
+            // Where something happened, once the footage has been looked at.
+            Label {
+                objectName: "activityLine"
+                Layout.fillWidth: true
+                visible: row.activityLine.length > 0
+                text: row.activityLine
+                color: palette.highlight
+                font.pixelSize: 11
                 elide: Text.ElideRight
             }
         }

@@ -9,6 +9,7 @@ RowLayout {
     property var controller: null
     property var presenter: null
     property var texts: ({})
+    property var momentsTexts: ({})
     // Narrow panes drop the frame steps (the , and . keys remain) and the
     // words beside icons; nothing is cut off. Judged by the pane, not by the
     // row, whose width follows what it shows; and a turn after the pane's
@@ -79,6 +80,26 @@ RowLayout {
         tip: bar.texts.momentTip
         onClicked: bar.controller.jumpToMoment()
     }
+    // Where something happened: activity in front of a camera, hard moments.
+    TransportButton {
+        objectName: "previousPlaceButton"
+        visible: bar.controller !== null && bar.controller.hasPlaces
+        icon.source: bar.texts.previousPlaceIcon
+        tip: bar.momentsTexts.previousTip || ""
+        Accessible.name: bar.momentsTexts.previousTip || ""
+        onClicked: bar.controller.jumpToPlace(-1)
+    }
+    TransportButton {
+        objectName: "nextPlaceButton"
+        visible: bar.controller !== null && bar.controller.hasPlaces
+        text: bar.momentsTexts.next || ""
+        // Its words only where the row has room to spare for them.
+        display: bar.paneWidth < 900 ? AbstractButton.IconOnly : AbstractButton.TextBesideIcon
+        icon.source: bar.texts.nextPlaceIcon
+        tip: bar.momentsTexts.nextTip || ""
+        Accessible.name: bar.momentsTexts.next || ""
+        onClicked: bar.controller.jumpToPlace(1)
+    }
     Item { Layout.fillWidth: true }
     Label {
         objectName: "speedShortfall"
@@ -86,6 +107,9 @@ RowLayout {
         text: visible ? rules.speedShortfall(bar.controller.rate, bar.controller.playingRate) : ""
         color: "#c77700"
         elide: Text.ElideRight
+        // Gives way to the buttons: the whole sentence is in its tooltip.
+        Layout.fillWidth: true
+        Layout.minimumWidth: 0
         Layout.maximumWidth: bar.narrow ? 160 : 320
         ToolTip.visible: shortfallHover.hovered && truncated
         ToolTip.text: text

@@ -10,6 +10,7 @@ ColumnLayout {
     property var controller: null
     property var texts: ({})
     property var drivingData: null
+    property var moments: null
     spacing: 0
     PlayerLayout { id: rules }
 
@@ -48,6 +49,46 @@ ColumnLayout {
             ToolTip.text: scrubber.controller && mark.visible ? rules.momentMarkTooltip(scrubber.controller.triggerOffset) : ""
         }
     }
+    // The drive's hard moments, each a tick with its word, lined up with
+    // the slider's thumb travel; a click plays from just before it.
+    Item {
+        id: marksRow
+        objectName: "hardMomentMarks"
+        readonly property var marks: scrubber.moments ? scrubber.moments.marks : []
+        readonly property real duration: scrubber.controller ? Math.max(1.0, scrubber.controller.duration) : 1.0
+        Layout.fillWidth: true
+        Layout.preferredHeight: 16
+        visible: marks.length > 0
+        clip: true
+        Repeater {
+            model: marksRow.marks
+            delegate: Item {
+                id: markItem
+                required property var modelData
+                objectName: "hardMomentMark"
+                x: 12 + modelData.time / marksRow.duration * (marksRow.width - 24) - 1
+                width: tick.width + word.implicitWidth + 3
+                height: marksRow.height
+                Rectangle { id: tick; width: 2; height: parent.height; color: "#e0302a" }
+                Label {
+                    id: word
+                    x: tick.width + 2
+                    anchors.verticalCenter: parent.verticalCenter
+                    text: markItem.modelData.word
+                    font.pixelSize: 10
+                    color: "#e0302a"
+                }
+                HoverHandler { id: markHover2 }
+                TapHandler {
+                    onTapped: if (scrubber.controller) scrubber.controller.seek(Math.max(0, markItem.modelData.time - 2))
+                }
+                ToolTip.visible: markHover2.hovered
+                ToolTip.text: markItem.modelData.tip
+                Accessible.role: Accessible.Button
+                Accessible.name: markItem.modelData.tip
+            }
+        }
+    }
     // Speed and braking over the whole event, lined up with the slider's
     // thumb travel; a click jumps there like the slider.
     SpeedStrip {
@@ -76,6 +117,30 @@ ColumnLayout {
         ToolTip.visible: stripArea.containsMouse
         ToolTip.delay: 800
         ToolTip.text: scrubber.drivingData ? scrubber.drivingData.texts.stripTip : ""
+    }
+    // Movement in front of each camera, a row each in the grid's order;
+    // only where something happened.
+    ActivityStrip {
+        id: activityStrip
+        objectName: "activityStrip"
+        Layout.fillWidth: true
+        Layout.topMargin: 3
+        Layout.preferredHeight: implicitHeight
+        visible: !!scrubber.moments && scrubber.moments.hasActivity
+        activity: scrubber.moments ? scrubber.moments.activity : undefined
+        duration: scrubber.controller ? Math.max(1.0, scrubber.controller.duration) : 1.0
+        inset: 12
+        activeColor: palette.highlight
+        trackColor: Qt.rgba(palette.text.r, palette.text.g, palette.text.b, 0.08)
+        MouseArea {
+            id: activityArea
+            anchors.fill: parent
+            hoverEnabled: true
+            onClicked: (mouse) => { if (scrubber.controller) scrubber.controller.seek(activityStrip.timeAt(mouse.x)) }
+        }
+        ToolTip.visible: activityArea.containsMouse
+        ToolTip.delay: 600
+        ToolTip.text: activityArea.containsMouse ? activityStrip.tipAt(activityArea.mouseX, activityArea.mouseY) : ""
     }
     RowLayout {
         Layout.fillWidth: true
