@@ -11,6 +11,8 @@ extern "C" {
 #include <QFileInfo>
 #include <QProcess>
 #include <algorithm>
+#include <sys/resource.h>
+#include <unistd.h>
 #include <cstdio>
 
 namespace BenchFootage {
@@ -114,6 +116,19 @@ QString hw4Minute(const Hw4Camera &camera)
 {
     return minute({QStringLiteral("keelhold-combined-bench"), QStringLiteral("minute-%1.mp4").arg(camera.camera.rawValue()),
                    camera.width, camera.height, camera.width > 2000 ? 10 : 4, QStringLiteral("hue=h=%1").arg(camera.hue)});
+}
+
+bool place(const QString &source, const QString &dest)
+{
+    return ::link(QFile::encodeName(source).constData(), QFile::encodeName(dest).constData()) == 0
+        || QFile::copy(source, dest);
+}
+
+double peakRssMb()
+{
+    struct rusage usage {};
+    getrusage(RUSAGE_SELF, &usage);
+    return usage.ru_maxrss / 1024.0;
 }
 
 } // namespace BenchFootage

@@ -40,6 +40,12 @@ const std::vector<Hw4Camera> &hw4Cameras();
 // One minute of a camera at about the car's bitrate, kept between runs.
 QString hw4Minute(const Hw4Camera &camera);
 
+// Puts a clip at dest as a hard link (the drive reader follows no symbolic
+// link), else as a copy; false when neither works.
+bool place(const QString &source, const QString &dest);
+// The most memory this process has held, in MB.
+double peakRssMb();
+
 // The movie's length in seconds, and its video's frame count; -1 when it
 // can't be read.
 double durationOf(const QString &path);

@@ -3,6 +3,7 @@
 // decoding the same video, and the memory it needs.
 // Usage: telemetry_bench [clip-folder]   (a folder keeps the clips for the next run)
 
+#include "BenchFootage.h"
 #include "playback/MediaSource.h"
 #include "timeline/TelemetryTimeline.h"
 #include "support/TelemetryClipWriter.h"
@@ -17,8 +18,6 @@
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
-#include <sys/resource.h>
-#include <unistd.h>
 
 namespace {
 
@@ -83,20 +82,10 @@ TeslaEvent makeEvent(const QString &dir, const QString &clip)
         c.url = dir + QString("/2026-05-10_12-%1-00-front.mp4").arg(m, 2, 10, QLatin1Char('0'));
         c.camera = Camera::front;
         c.startDate = origin.addingTimeInterval(60.0 * m);
-        // Hard links: the drive reader follows no symbolic link.
-        require(::link(QFile::encodeName(clip).constData(), QFile::encodeName(c.url).constData()) == 0
-                    || QFile::copy(clip, c.url),
-                "could not place the clips");
+        require(BenchFootage::place(clip, c.url), "could not place the clips");
         e.clips.push_back(c);
     }
     return e;
-}
-
-double peakRssMB()
-{
-    struct rusage usage;
-    getrusage(RUSAGE_SELF, &usage);
-    return usage.ru_maxrss / 1024.0;
 }
 
 } // namespace
@@ -113,7 +102,7 @@ int main(int argc, char **argv)
     QDir().mkpath(dir.path() + "/event");
     const TeslaEvent event = makeEvent(dir.path() + "/event", clip);
 
-    const double rssBefore = peakRssMB();
+    const double rssBefore = BenchFootage::peakRssMb();
     // Read once to bring the files into the page cache for both contenders.
     TelemetryTimeline::load(event, Camera::front);
     QElapsedTimer timer;
@@ -127,7 +116,7 @@ int main(int argc, char **argv)
     require(records == frames && frames > size_t(minutes * 60 * fps * 0.99), "the track lost records");
     std::printf("telemetry: %zu frames, %zu records in %.3f s (%.0f frames/s)\n", frames, records, readSeconds,
                 frames / readSeconds);
-    std::printf("peak RSS while reading the track %.0f MB (%.0f MB before it)\n", peakRssMB(), rssBefore);
+    std::printf("peak RSS while reading the track %.0f MB (%.0f MB before it)\n", BenchFootage::peakRssMb(), rssBefore);
 
     timer.restart();
     size_t decoded = 0;
@@ -140,7 +129,7 @@ int main(int argc, char **argv)
     const double decodeSeconds = timer.nsecsElapsed() / 1e9;
     std::printf("decode (one thread, as the player): %zu frames in %.1f s (%.0f frames/s)\n", decoded, decodeSeconds,
                 decoded / decodeSeconds);
-    std::printf("peak RSS %.0f MB\n", peakRssMB());
+    std::printf("peak RSS %.0f MB\n", BenchFootage::peakRssMb());
     std::printf("telemetry/decode=%.4f\n", readSeconds / decodeSeconds);
     return 0;
 }

@@ -60,6 +60,17 @@ QByteArray token(const QCommandLineParser &parser, const QCommandLineOption &opt
     return restored.access;
 }
 
+QString unlockOrSay(const QCommandLineParser &parser, const QCommandLineOption &option,
+                    const std::vector<ClipRef> &clips, const QString &vaultURL)
+{
+    QString error;
+    const QByteArray held = token(parser, option, &error);
+    if (!error.isEmpty())
+        return error;
+    const KeyCheck keys = ensureKeys(clips, held, vaultURL);
+    return keys.unlocked.empty() && !keys.failures.isEmpty() ? keys.failures.first() : QString();
+}
+
 KeyCheck ensureKeys(const std::vector<ClipRef> &clips, const QByteArray &token, const QString &vaultURL)
 {
     KeyCheck check;

@@ -32,6 +32,11 @@ struct KeyCheck {
 // are passed over. vaultURL: where a kept event's keys go beside it.
 KeyCheck ensureKeys(const std::vector<ClipRef> &clips, const QByteArray &token, const QString &vaultURL);
 
+// token() and ensureKeys() for the clips a command reads: the sentence to
+// fail with when none of them can be unlocked, empty when the command goes on.
+QString unlockOrSay(const QCommandLineParser &parser, const QCommandLineOption &option,
+                    const std::vector<ClipRef> &clips, const QString &vaultURL);
+
 // The sentence for encrypted clips with no key held and no token to fetch one.
 QString noTokenSentence();
 

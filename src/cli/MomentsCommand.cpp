@@ -132,23 +132,13 @@ int run(const QStringList &arguments)
     const QString root = CliScan::teslaCamRoot(positional.first());
     QString error;
     const CliEvents::Found found = CliEvents::find(root, parser.value(eventOption), &error);
-    if (!found.event) {
-        CliOutput::err(error);
-        return CliOutput::failureExit;
-    }
+    if (!found.event)
+        return CliOutput::fail(error);
     const TeslaEvent &event = *found.event;
-    if (event.encrypted) {
-        const QByteArray token = CliUnlock::token(parser, tokenFile, &error);
-        if (!error.isEmpty()) {
-            CliOutput::err(error);
-            return CliOutput::failureExit;
-        }
-        const CliUnlock::KeyCheck keys = CliUnlock::ensureKeys(event.clips, token, found.vaultURL);
-        if (keys.unlocked.empty() && !keys.failures.isEmpty()) {
-            CliOutput::err(keys.failures.first());
-            return CliOutput::failureExit;
-        }
-    }
+    if (event.encrypted)
+        if (const QString refusal = CliUnlock::unlockOrSay(parser, tokenFile, event.clips, found.vaultURL);
+            !refusal.isEmpty())
+            return CliOutput::fail(refusal);
     const CliInterrupt::StopsWork interrupt;
     try {
         const EventActivity activity = ActivityReader::load(event, ActivityReader::Options{}, interrupt.token());
@@ -156,10 +146,8 @@ int run(const QStringList &arguments)
         const double end = telemetry.pieces.empty() ? 0.0 : telemetry.pieces.back().timelineEnd();
         const std::vector<HardMoment> moments =
             HardMoments::find(telemetry, event, std::max({activity.duration, end, event.approximateDuration()}));
-        if (activity.cameras.empty() && !telemetry.hasRecords() && moments.empty()) {
-            CliOutput::err(CliOutput::tr("None of this event's clips could be read."));
-            return CliOutput::failureExit;
-        }
+        if (activity.cameras.empty() && !telemetry.hasRecords() && moments.empty())
+            return CliOutput::fail(CliOutput::tr("None of this event's clips could be read."));
         CliOutput::out(format == QLatin1String("csv") ? csv(activity, moments) : json(activity, moments));
         return 0;
     } catch (const CancellationError &) {

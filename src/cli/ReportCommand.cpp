@@ -94,14 +94,10 @@ int run(const QStringList &arguments)
 
     // Encrypted footage shows in the stills only with its keys: held ones,
     // or fetched when a token was given.
-    if (event.encrypted && parser.isSet(tokenFile)) {
-        const QByteArray token = CliUnlock::token(parser, tokenFile, &error);
-        if (!error.isEmpty())
-            return fail(error);
-        const CliUnlock::KeyCheck keys = CliUnlock::ensureKeys(event.clips, token, found.vaultURL);
-        if (keys.unlocked.empty() && !keys.failures.isEmpty())
-            return fail(keys.failures.first());
-    }
+    if (event.encrypted && parser.isSet(tokenFile))
+        if (const QString refusal = CliUnlock::unlockOrSay(parser, tokenFile, event.clips, found.vaultURL);
+            !refusal.isEmpty())
+            return fail(refusal);
 
     const bool package = parser.isSet(packageOption);
     QString output = QDir::cleanPath(QDir::current().absoluteFilePath(parser.value(outputOption)));

@@ -235,12 +235,9 @@ int run(const QStringList &arguments)
             std::vector<ClipRef> clips;
             std::copy_if(event->clips.begin(), event->clips.end(), std::back_inserter(clips),
                          [&](const ClipRef &c) { return c.camera == *camera; });
-            const QByteArray token = CliUnlock::token(parser, tokenFile, &error);
-            if (!error.isEmpty())
-                return fail(error);
-            const CliUnlock::KeyCheck keys = CliUnlock::ensureKeys(clips, token, found.vaultURL);
-            if (keys.unlocked.empty() && !keys.failures.isEmpty())
-                return fail(keys.failures.first());
+            if (const QString refusal = CliUnlock::unlockOrSay(parser, tokenFile, clips, found.vaultURL);
+                !refusal.isEmpty())
+                return fail(refusal);
         }
         const EventTelemetry telemetry = TelemetryTimeline::load(*event, *camera);
         if (!telemetry.hasRecords())

@@ -162,12 +162,13 @@ QFuture<EventTelemetry> LiveEngine::loadTelemetry(const TeslaEvent &event, Camer
     });
 }
 
-QFuture<EventActivity> LiveEngine::loadActivity(const TeslaEvent &event, bool background)
+QFuture<EventActivity> LiveEngine::loadActivity(const TeslaEvent &event)
 {
-    return AsyncRun::cancellable(EnginePools::driveRuns(), [event, background, cache = activityCache_](std::stop_token stop) {
+    return AsyncRun::cancellable(EnginePools::driveRuns(), [event, cache = activityCache_](std::stop_token stop) {
         ActivityReader::Options options;
         options.cache = cache.get();
-        options.background = background;
+        // Even for the event on screen: its first pictures come first.
+        options.background = true;
         return ActivityReader::load(event, options, stop);
     });
 }

@@ -52,7 +52,7 @@ public:
     void setTriageState(TriageState state, const QString &eventID) override;
     QFuture<TriageStates> loadAllTriageStates() override;
     QFuture<EventTelemetry> loadTelemetry(const TeslaEvent &event, Camera camera) override;
-    QFuture<EventActivity> loadActivity(const TeslaEvent &event, bool background) override;
+    QFuture<EventActivity> loadActivity(const TeslaEvent &event) override;
     QFuture<void> exportFootage(Camera camera, const TeslaEvent &event, std::optional<SecondsRange> range,
                                 const QString &to, FractionCallback progress) override;
     QFuture<void> makeReport(const TeslaEvent &event, const IncidentReport::Options &options, const QString &to,

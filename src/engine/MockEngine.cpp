@@ -427,7 +427,7 @@ QFuture<EventTelemetry> MockEngine::loadTelemetry(const TeslaEvent &event, Camer
     });
 }
 
-QFuture<EventActivity> MockEngine::loadActivity(const TeslaEvent &event, bool)
+QFuture<EventActivity> MockEngine::loadActivity(const TeslaEvent &event)
 {
     return AsyncRun::cancellable(generalPool(), [event](std::stop_token stop) {
         if (!AsyncRun::sleepFor(50ms, stop))

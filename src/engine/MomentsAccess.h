@@ -11,6 +11,6 @@ class MomentsAccess {
 public:
     virtual ~MomentsAccess() = default;
     // For drive and Vault events alike; a clip that can't be read is left
-    // out. In the background the player's reads go first.
-    virtual QFuture<EventActivity> loadActivity(const TeslaEvent &event, bool background) = 0;
+    // out. The reads the user waits on (an event opening) go first.
+    virtual QFuture<EventActivity> loadActivity(const TeslaEvent &event) = 0;
 };

@@ -19,7 +19,7 @@ inline constexpr std::chrono::milliseconds defaultClipTimeout{10000};
 struct Options {
     ActivityCache *cache = nullptr; // none: every clip read
     std::chrono::milliseconds clipTimeout = defaultClipTimeout;
-    // A pass the user isn't waiting on: it lets the player's reads go first.
+    // Lets the reads the user waits on (an event opening) go first.
     bool background = false;
 };
 

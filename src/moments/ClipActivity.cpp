@@ -17,8 +17,11 @@ extern "C" {
 
 namespace {
 
-// Block means of the picture's brightness. Every second pixel of every
-// second row is plenty for a 48 × 36 grid, and a quarter of the work.
+constexpr int samplesAcross = 8;
+
+// Block means of the picture's brightness. About eight by eight pixels of
+// each block are plenty to even out the noise: a large picture is sampled
+// sparsely, a small one whole.
 std::optional<ClipActivity::Grid> gridOf(const AVFrame *frame)
 {
     const AVPixFmtDescriptor *format = av_pix_fmt_desc_get(AVPixelFormat(frame->format));
@@ -32,12 +35,13 @@ std::optional<ClipActivity::Grid> gridOf(const AVFrame *frame)
     std::vector<int> columnOf(size_t(frame->width));
     for (int x = 0; x < frame->width; ++x)
         columnOf[size_t(x)] = x * columns / frame->width;
-    for (int y = 0; y < frame->height; y += 2) {
+    const int step = std::max(1, std::min(frame->width / (columns * samplesAcross), frame->height / (rows * samplesAcross)));
+    for (int y = 0; y < frame->height; y += step) {
         const int row = y * rows / frame->height;
         const uint8_t *line = frame->data[0] + ptrdiff_t(y) * frame->linesize[0];
         double *sum = sums.data() + row * columns;
         int *count = counts.data() + row * columns;
-        for (int x = 0; x < frame->width; x += 2) {
+        for (int x = 0; x < frame->width; x += step) {
             const int c = columnOf[size_t(x)];
             sum[c] += wide ? reinterpret_cast<const uint16_t *>(line)[x] >> (format->comp[0].depth - 8) : line[x];
             ++count[c];
@@ -97,58 +101,116 @@ std::optional<ClipActivity> ClipActivity::read(const QString &path, std::stop_to
     const int64_t first = avformat_index_get_entry(stream, 0)->timestamp;
     ClipActivity activity;
     std::vector<int64_t> keys;
+    std::vector<double> sizeSums;
+    std::vector<int> sizeCounts;
     for (int i = 0; i < entries; ++i) {
         const AVIndexEntry *entry = avformat_index_get_entry(stream, i);
-        if (entry && !(entry->flags & AVINDEX_DISCARD_FRAME)) {
-            activity.duration = std::max(activity.duration, double(entry->timestamp - first) * timeBase);
-            if (entry->flags & AVINDEX_KEYFRAME)
-                keys.push_back(entry->timestamp);
+        if (!entry || (entry->flags & AVINDEX_DISCARD_FRAME))
+            continue;
+        const double time = double(entry->timestamp - first) * timeBase;
+        activity.duration = std::max(activity.duration, time);
+        if (entry->flags & AVINDEX_KEYFRAME) {
+            keys.push_back(entry->timestamp);
+        } else if (time >= 0 && time < 24 * 3600) {
+            const size_t second = size_t(time);
+            if (second >= sizeSums.size()) {
+                sizeSums.resize(second + 1, 0.0);
+                sizeCounts.resize(second + 1, 0);
+            }
+            sizeSums[second] += entry->size;
+            ++sizeCounts[second];
         }
     }
     if (stream->duration > 0)
         activity.duration = std::max(activity.duration, double(stream->duration) * timeBase);
     activity.changePerSecond.assign(size_t(std::ceil(activity.duration)), -1.0f);
+    if (keys.size() < 2)
+        return activity;
+    const auto timeOf = [&](size_t k) { return double(keys[k] - first) * timeBase; };
 
     const Av::Packet packet(av_packet_alloc());
     if (!packet)
         return std::nullopt;
-    std::optional<Grid> previous;
-    double previousTime = 0;
-    for (const int64_t key : keys) {
+    std::vector<std::optional<Grid>> grids(keys.size());
+    std::vector<bool> tried(keys.size(), false);
+    const auto gridAt = [&](size_t k) -> const std::optional<Grid> & {
+        if (tried[k])
+            return grids[k];
+        tried[k] = true;
         if (stop.stop_requested())
             throw CancellationError();
         // Straight to the key frame's sample: the frames between are never read.
-        if (av_seek_frame(format, video, key, AVSEEK_FLAG_BACKWARD) < 0)
-            break;
+        if (av_seek_frame(format, video, keys[k], AVSEEK_FLAG_BACKWARD) < 0)
+            return grids[k];
         decoder.flush();
-        const AVFrame *picture = nullptr;
         while (av_read_frame(format, packet.get()) >= 0) {
             const bool ours = packet->stream_index == video;
             if (ours && (packet->flags & AV_PKT_FLAG_KEY)) {
                 decoder.send(packet.get());
                 decoder.send(nullptr);
-                picture = decoder.receive();
+                if (const AVFrame *picture = decoder.receive())
+                    grids[k] = gridOf(picture);
             }
             av_packet_unref(packet.get());
             if (ours)
                 break; // a damaged key frame costs its own seconds
         }
-        std::optional<Grid> grid = picture ? gridOf(picture) : std::nullopt;
-        const double time = double(key - first) * timeBase;
-        if (grid && previous) {
-            const float value = change(*previous, *grid);
-            // The change between two key frames belongs to the seconds between them.
-            for (size_t s = size_t(std::max(0.0, std::floor(previousTime))); s < activity.changePerSecond.size(); ++s) {
-                const double middle = double(s) + 0.5;
-                if (middle >= time)
-                    break;
-                if (middle >= previousTime)
-                    activity.changePerSecond[s] = std::max(activity.changePerSecond[s], value);
-            }
+        return grids[k];
+    };
+    // The change between two key frames belongs to the seconds between them.
+    const auto assign = [&](size_t from, size_t to) {
+        const auto &a = gridAt(from), &b = gridAt(to);
+        if (!a || !b)
+            return;
+        const float value = change(*a, *b);
+        for (size_t s = size_t(std::max(0.0, std::floor(timeOf(from)))); s < activity.changePerSecond.size(); ++s) {
+            const double middle = double(s) + 0.5;
+            if (middle >= timeOf(to))
+                break;
+            if (middle >= timeOf(from))
+                activity.changePerSecond[s] = value;
         }
-        if (grid) {
-            previous = std::move(grid);
-            previousTime = time;
+    };
+
+    // First every key frame about coarseSpacing apart; then every one
+    // between where that pair changed, or where the coded sizes rose.
+    std::vector<double> intervals;
+    for (size_t k = 1; k < keys.size(); ++k)
+        intervals.push_back(timeOf(k) - timeOf(k - 1));
+    std::nth_element(intervals.begin(), intervals.begin() + ptrdiff_t(intervals.size() / 2), intervals.end());
+    const double typical = std::max(1e-3, intervals[intervals.size() / 2]);
+    const size_t stride = std::max<size_t>(1, size_t(std::floor(coarseSpacing / typical + 1e-6)));
+    std::vector<std::pair<size_t, size_t>> pairs;
+    for (size_t k = 0; k + 1 < keys.size(); k += stride)
+        pairs.emplace_back(k, std::min(k + stride, keys.size() - 1));
+    std::vector<float> coarse;
+    for (const auto &[from, to] : pairs) {
+        const auto &a = gridAt(from), &b = gridAt(to);
+        coarse.push_back(a && b ? change(*a, *b) : -1.0f);
+    }
+    const auto lowShare = [](std::vector<float> values) {
+        values.erase(std::remove_if(values.begin(), values.end(), [](float v) { return v <= 0; }), values.end());
+        if (values.empty())
+            return 0.0f;
+        const auto at = values.begin() + ptrdiff_t(double(values.size() - 1) * 0.2);
+        std::nth_element(values.begin(), at, values.end());
+        return *at;
+    };
+    std::vector<float> sizes(sizeSums.size(), 0.0f);
+    for (size_t second = 0; second < sizes.size(); ++second)
+        sizes[second] = sizeCounts[second] ? float(sizeSums[second] / sizeCounts[second]) : 0.0f;
+    const float quietChange = std::max(float(refineFloor), lowShare(coarse));
+    const float quietSize = lowShare(sizes);
+    for (size_t i = 0; i < pairs.size(); ++i) {
+        const auto [from, to] = pairs[i];
+        bool look = coarse[i] >= quietChange * refineRatio;
+        for (size_t second = size_t(std::max(0.0, timeOf(from))); !look && second < sizes.size() && second < timeOf(to); ++second)
+            look = quietSize > 0 && sizes[second] >= quietSize * refineRatio;
+        if (look && to - from > 1) {
+            for (size_t k = from; k < to; ++k)
+                assign(k, k + 1);
+        } else {
+            assign(from, to);
         }
     }
     if (stop.stop_requested())

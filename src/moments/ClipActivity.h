@@ -1,10 +1,10 @@
 #pragma once
 
-// How much the picture of one camera changed, second by second: each key
-// frame decoded and shrunk to a grid of block brightnesses, and each compared
-// with the key frame before it. Only key frames are read and decoded (the
-// car writes one about every second), a small share of the cost of decoding
-// the clip.
+// How much the picture of one camera changed, second by second: key frames
+// decoded and shrunk to a grid of block brightnesses, and each compared with
+// the one before it. Only key frames are read and decoded (the car writes
+// one about every second), and in quiet stretches only every other one: a
+// small share of the cost of decoding the clip.
 //
 // Why not the coded size of the frames, which would be free from the index:
 // measured on the tests' footage (a textured still scene, a slow change of
@@ -30,6 +30,14 @@ struct ClipActivity {
     // grid's blocks that changed most, so a person filling a twentieth of
     // the view counts fully and noise spread over all of it doesn't.
     static constexpr double changedShare = 0.05;
+    // Quiet stretches are looked at a key frame every two seconds, which
+    // halves the work on a car parked in an empty street; a pair that
+    // changed by refineRatio times the clip's quiet level (or whose frames'
+    // coded size rose as much) has every key frame between decoded, so
+    // what happened is placed to the second.
+    static constexpr double coarseSpacing = 2.0;
+    static constexpr double refineRatio = 1.5;
+    static constexpr double refineFloor = 1.5; // brightness steps; a still picture's own wobble
 
     double duration = 0; // the clip's length, first frame at 0
     // For each second of the clip, how much the picture changed over it

@@ -54,7 +54,7 @@ QCoro::Task<void> ActivityPass::runTask(QPointer<ActivityPass> self, quint64 gen
     while (self && self->generation_ == generation && !self->queue_.empty()) {
         const TeslaEvent event = self->queue_.front();
         if (!self->isKnown(event.id())) {
-            QFuture<EventActivity> loading = self->engine_.loadActivity(event, true);
+            QFuture<EventActivity> loading = self->engine_.loadActivity(event);
             self->current_ = loading;
             auto ended = Awaiting::finished(loading);
             co_await ended;

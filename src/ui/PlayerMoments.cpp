@@ -38,7 +38,7 @@ void PlayerMoments::load(MomentsAccess *engine, const std::optional<TeslaEvent> 
         Q_EMIT loadFinished();
         return;
     }
-    pending_ = engine->loadActivity(*event, false);
+    pending_ = engine->loadActivity(*event);
     loadTask(QPointer<PlayerMoments>(this), pending_, generation, event->id());
 }
 

@@ -22,10 +22,8 @@ public:
     };
     std::vector<Load> loads;
 
-    QFuture<EventActivity> loadActivity(const TeslaEvent &event, bool background) override
+    QFuture<EventActivity> loadActivity(const TeslaEvent &event) override
     {
-        if (!background)
-            throw std::logic_error("the pass reads in the background");
         auto promise = std::make_shared<QPromise<EventActivity>>();
         promise->start();
         loads.push_back({event, promise});

@@ -252,6 +252,72 @@ private Q_SLOTS:
 
     void cleanupTestCase() { app_.reset(); }
 
+    // Someone walks past the side and rear cameras of the sample's Sentry
+    // event: the list says where, the strip shows it on each camera's row,
+    // and N and Shift+N play from just before each, that camera enlarged.
+    void whereSomethingHappened()
+    {
+        openEvent(sixCameraEvent);
+        SyncPlayerController *c = controller();
+        QTRY_VERIFY_WITH_TIMEOUT(!c->isLoadingTiles(), 20000);
+        QTRY_VERIFY_WITH_TIMEOUT(findItem(window_->contentItem(), QStringLiteral("activityStrip")), 30000);
+        auto *strip = qobject_cast<ActivityStrip *>(findItem(window_->contentItem(), QStringLiteral("activityStrip")));
+        QVERIFY(strip);
+        QCOMPARE(strip->rowCount(), 6);
+        const std::vector<ActivityBurst> named = state_->activity().highlights(sixCameraEvent);
+        QVERIFY(!named.empty());
+        QCOMPARE(named.front().camera, Camera(Camera::leftRepeater));
+        QQuickItem *row = findItem(window_->contentItem(), QStringLiteral("eventRow_") + sixCameraEvent);
+        QVERIFY(row);
+        QTRY_VERIFY(findItem(row, QStringLiteral("activityLine")));
+        QVERIFY(findItem(row, QStringLiteral("activityLine"))
+                    ->property("text")
+                    .toString()
+                    .startsWith(QStringLiteral("Activity: Left Side ") + SyncPlayerController::timeString(named.front().start)));
+
+        c->pause();
+        c->seek(0);
+        QTRY_VERIFY_WITH_TIMEOUT(!c->isPlaying() && c->currentTime() < 0.5, 10000);
+        QVERIFY(findItem(window_->contentItem(), QStringLiteral("nextPlaceButton")));
+        key(Qt::Key_N);
+        const double lead = SyncPlayerController::placeLead;
+        QTRY_COMPARE_WITH_TIMEOUT(c->focusedCamera(), std::optional<Camera>(Camera::leftRepeater), 10000);
+        QTRY_VERIFY_WITH_TIMEOUT(std::abs(c->currentTime() - (c->places().front().time - lead)) < 1.5, 10000);
+        c->pause();
+        // On to the next place, and back.
+        const double first = c->places().front().time;
+        const auto second = std::find_if(c->places().begin(), c->places().end(),
+                                         [&](const SyncPlayerController::Place &p) { return p.time - lead > first - lead + 0.5; });
+        QVERIFY(second != c->places().end());
+        key(Qt::Key_N);
+        QTRY_VERIFY_WITH_TIMEOUT(std::abs(c->currentTime() - (second->time - lead)) < 1.5, 10000);
+        c->pause();
+        QTest::keyClick(window_, Qt::Key_N, Qt::ShiftModifier);
+        QTRY_VERIFY_WITH_TIMEOUT(std::abs(c->currentTime() - (first - lead)) < 1.5, 10000);
+        QTRY_COMPARE_WITH_TIMEOUT(c->focusedCamera(), std::optional<Camera>(Camera::leftRepeater), 10000);
+        c->pause();
+        const QVariantList hints = KeyboardHints::items();
+        QVERIFY(std::any_of(hints.begin(), hints.end(),
+                            [](const QVariant &h) { return h.toMap().value(QStringLiteral("key")).toString().contains(QLatin1Char('N')); }));
+
+        // The strip and the buttons at the smallest window and at full HD.
+        c->clearFocus();
+        c->seek(first + 1);
+        for (const QSize size : {QSize(900, 600), QSize(1920, 1080)}) {
+            window_->resize(size);
+            QTRY_VERIFY(findItem(window_->contentItem(), QStringLiteral("activityStrip")));
+            saveShot(QStringLiteral("player-activity-%1x%2.png").arg(size.width()).arg(size.height()));
+        }
+        window_->resize(1280, 800);
+
+        // The honk drive's hard brake, marked with its word above the strip.
+        openEvent(QStringLiteral("saved|2024-06-10_17-05-31"));
+        QTRY_VERIFY_WITH_TIMEOUT(findItem(window_->contentItem(), QStringLiteral("hardMomentMarks")), 30000);
+        controller()->pause();
+        controller()->seek(88);
+        saveShot(QStringLiteral("player-hard-moments.png"));
+    }
+
     // The review of one event from opening to a kept copy played back from
     // the Vault with no drive, and one camera exported and checked.
     void wholeReviewEndToEnd()
@@ -521,65 +587,6 @@ private Q_SLOTS:
         QTRY_VERIFY(!findItem(window_->contentItem(), QStringLiteral("keyboardHintBar")));
         QVERIFY(!KeyboardHints().showHints()); // as the next start reads it
         QSettings().setValue(KeyboardHints::settingKey, true);
-    }
-
-    // Someone walks past the side and rear cameras of the sample's Sentry
-    // event: the list says where, the strip shows it on each camera's row,
-    // and N and Shift+N play from just before each, that camera enlarged.
-    void whereSomethingHappened()
-    {
-        openEvent(sixCameraEvent);
-        SyncPlayerController *c = controller();
-        QTRY_VERIFY_WITH_TIMEOUT(!c->isLoadingTiles(), 20000);
-        QTRY_VERIFY_WITH_TIMEOUT(findItem(window_->contentItem(), QStringLiteral("activityStrip")), 30000);
-        auto *strip = qobject_cast<ActivityStrip *>(findItem(window_->contentItem(), QStringLiteral("activityStrip")));
-        QVERIFY(strip);
-        QCOMPARE(strip->rowCount(), 6);
-        const std::vector<ActivityBurst> named = state_->activity().highlights(sixCameraEvent);
-        QVERIFY(!named.empty());
-        QCOMPARE(named.front().camera, Camera(Camera::leftRepeater));
-        QQuickItem *row = findItem(window_->contentItem(), QStringLiteral("eventRow_") + sixCameraEvent);
-        QVERIFY(row);
-        QTRY_VERIFY(findItem(row, QStringLiteral("activityLine")));
-        QVERIFY(findItem(row, QStringLiteral("activityLine"))
-                    ->property("text")
-                    .toString()
-                    .startsWith(QStringLiteral("Activity: Left Side ") + SyncPlayerController::timeString(named.front().start)));
-
-        c->pause();
-        c->seek(0);
-        QTRY_VERIFY_WITH_TIMEOUT(!c->isPlaying() && c->currentTime() < 0.5, 10000);
-        QVERIFY(findItem(window_->contentItem(), QStringLiteral("nextPlaceButton")));
-        key(Qt::Key_N);
-        const double lead = SyncPlayerController::placeLead;
-        QTRY_COMPARE_WITH_TIMEOUT(c->focusedCamera(), std::optional<Camera>(Camera::leftRepeater), 10000);
-        QTRY_VERIFY_WITH_TIMEOUT(std::abs(c->currentTime() - (c->places().front().time - lead)) < 1.5, 10000);
-        c->pause();
-        // On to the next place, and back.
-        const double first = c->places().front().time;
-        const auto second = std::find_if(c->places().begin(), c->places().end(),
-                                         [&](const SyncPlayerController::Place &p) { return p.time - lead > first - lead + 0.5; });
-        QVERIFY(second != c->places().end());
-        key(Qt::Key_N);
-        QTRY_VERIFY_WITH_TIMEOUT(std::abs(c->currentTime() - (second->time - lead)) < 1.5, 10000);
-        c->pause();
-        QTest::keyClick(window_, Qt::Key_N, Qt::ShiftModifier);
-        QTRY_VERIFY_WITH_TIMEOUT(std::abs(c->currentTime() - (first - lead)) < 1.5, 10000);
-        QTRY_COMPARE_WITH_TIMEOUT(c->focusedCamera(), std::optional<Camera>(Camera::leftRepeater), 10000);
-        c->pause();
-        const QVariantList hints = KeyboardHints::items();
-        QVERIFY(std::any_of(hints.begin(), hints.end(),
-                            [](const QVariant &h) { return h.toMap().value(QStringLiteral("key")).toString().contains(QLatin1Char('N')); }));
-
-        // The strip and the buttons at the smallest window and at full HD.
-        c->clearFocus();
-        c->seek(first + 1);
-        for (const QSize size : {QSize(900, 600), QSize(1920, 1080)}) {
-            window_->resize(size);
-            QTRY_VERIFY(findItem(window_->contentItem(), QStringLiteral("activityStrip")));
-            saveShot(QStringLiteral("player-activity-%1x%2.png").arg(size.width()).arg(size.height()));
-        }
-        window_->resize(1280, 800);
     }
 
     // A new movie made from the sheet on generated clips: three cameras in

@@ -60,23 +60,30 @@ ColumnLayout {
         Layout.preferredHeight: 16
         visible: marks.length > 0
         clip: true
+        function xOf(time) { return 12 + time / duration * (width - 24) }
         Repeater {
             model: marksRow.marks
             delegate: Item {
                 id: markItem
                 required property var modelData
+                required property int index
                 objectName: "hardMomentMark"
-                x: 12 + modelData.time / marksRow.duration * (marksRow.width - 24) - 1
-                width: tick.width + word.implicitWidth + 3
+                // Up to the next mark: a word that would run into it is cut short.
+                readonly property real room: (index + 1 < marksRow.marks.length
+                    ? marksRow.xOf(marksRow.marks[index + 1].time) : marksRow.width) - x - tick.width - 4
+                x: marksRow.xOf(modelData.time) - 1
+                width: tick.width + 2 + Math.max(0, Math.min(word.implicitWidth, room))
                 height: marksRow.height
                 Rectangle { id: tick; width: 2; height: parent.height; color: "#e0302a" }
                 Label {
                     id: word
                     x: tick.width + 2
+                    width: Math.max(0, Math.min(implicitWidth, markItem.room))
                     anchors.verticalCenter: parent.verticalCenter
                     text: markItem.modelData.word
                     font.pixelSize: 10
                     color: "#e0302a"
+                    elide: Text.ElideRight
                 }
                 HoverHandler { id: markHover2 }
                 TapHandler {
