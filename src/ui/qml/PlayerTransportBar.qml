@@ -17,7 +17,7 @@ RowLayout {
     // were left where they stood, on top of their neighbours.
     readonly property real paneWidth: parent ? parent.width : width
     property bool narrow: true
-    function judgeWidth() { narrow = paneWidth < 520 }
+    function judgeWidth() { narrow = paneWidth < 740 }
     onPaneWidthChanged: Qt.callLater(judgeWidth)
     Component.onCompleted: judgeWidth()
     spacing: 4
