@@ -9,10 +9,11 @@ _keelhold_cli_help()
 {
     local key="$1 $2"
     if [[ ! -v _keelhold_cli_help_cache[$key] ]]; then
+        # Read in English whatever the user's language: the words parsed here are the tool's own.
         if [[ $2 ]]; then
-            _keelhold_cli_help_cache[$key]=$("$1" help "$2" 2>/dev/null) || return
+            _keelhold_cli_help_cache[$key]=$(LANGUAGE=en LC_ALL=C.UTF-8 "$1" help "$2" 2>/dev/null) || return
         else
-            _keelhold_cli_help_cache[$key]=$("$1" --help 2>/dev/null) || return
+            _keelhold_cli_help_cache[$key]=$(LANGUAGE=en LC_ALL=C.UTF-8 "$1" --help 2>/dev/null) || return
         fi
     fi
     printf '%s\n' "${_keelhold_cli_help_cache[$key]}"

@@ -13,6 +13,7 @@
 #include "cli/TelemetryCommand.h"
 #include "cli/UnlockCommand.h"
 #include "cli/VaultCommand.h"
+#include "cli/WatchCommand.h"
 
 #include <algorithm>
 
@@ -34,11 +35,13 @@ const Command *find(const QString &name)
 int unknownCommand(const QString &name)
 {
     if (name.startsWith(QLatin1Char('-')))
-        CliOutput::err(QStringLiteral("keelhold-cli has no option \u201c%1\u201d before a command. "
-                                      "Run \u201ckeelhold-cli --help\u201d to see the commands and their options.")
+        //: %1 is the option as typed
+        CliOutput::err(CliOutput::tr("keelhold-cli has no option \u201c%1\u201d before a command. "
+                                     "Run \u201ckeelhold-cli --help\u201d to see the commands and their options.")
                            .arg(name));
     else
-        CliOutput::err(QStringLiteral("There is no command \u201c%1\u201d. Run \u201ckeelhold-cli --help\u201d to see them all.")
+        //: %1 is the command as typed
+        CliOutput::err(CliOutput::tr("There is no command \u201c%1\u201d. Run \u201ckeelhold-cli --help\u201d to see them all.")
                            .arg(name));
     return CliOutput::usageExit;
 }
@@ -74,39 +77,45 @@ const std::vector<Command> &commands()
          UnlockCommand::run},
         {QStringLiteral("decrypt"), CliOutput::tr("Write an event's encrypted clips as the plain MP4 movies they hold."),
          DecryptCommand::run},
+        {QStringLiteral("watch"), CliOutput::tr("Keep what is new from every TeslaCam drive as it is connected, until stopped."),
+         WatchCommand::run},
     };
     return table;
 }
 
 QString helpText()
 {
-    QString text = QStringLiteral(
-        "Usage: keelhold-cli COMMAND [ARGUMENTS]\n"
-        "  or:  keelhold-cli help COMMAND\n"
-        "  or:  keelhold-cli --help | --version\n"
-        "\n"
-        "Reads the TeslaCam folder of a Tesla's USB drive without ever writing to it, and keeps chosen events "
-        "in a Vault folder as verified copies.\n"
-        "\n"
-        "Commands:\n");
+    //: The ways to call the tool; %1, %2 and %3 are command lines, which stay as they are. Keep them lined up.
+    QString text = CliOutput::tr("Usage: %1\n"
+                                 "  or:  %2\n"
+                                 "  or:  %3\n")
+                       .arg(QStringLiteral("keelhold-cli COMMAND [ARGUMENTS]"),
+                            QStringLiteral("keelhold-cli help COMMAND"), QStringLiteral("keelhold-cli --help | --version"));
+    text += QLatin1Char('\n')
+        + CliOutput::tr("Reads the TeslaCam folder of a Tesla's USB drive without ever writing to it, and keeps chosen "
+                        "events in a Vault folder as verified copies.")
+        + QLatin1Char('\n');
+    //: Heading of the list of commands in the help
+    text += QLatin1Char('\n') + CliOutput::tr("Commands:") + QLatin1Char('\n');
     for (const Command &c : commands())
         text += QStringLiteral("  %1%2\n").arg(c.name, -11).arg(c.summary);
-    text += QStringLiteral("  %1%2\n").arg(QStringLiteral("help"), -11).arg(QStringLiteral("Show the options of a command."));
-    text += QStringLiteral(
-        "\n"
-        "Exit status:\n"
-        "  0    Done.\n"
-        "  1    Done in part: keep could not keep some files, vault verify found a file changed or missing, or\n"
-        "       decrypt could write only some clips.\n"
-        "  2    The work could not be done, for example because the folder is missing or can't be read.\n"
-        "  64   The command line was wrong.\n"
-        "  130  keep was stopped with Ctrl-C.\n"
-        "\n"
-        "Progress and messages go to standard error, results to standard output.\n"
-        "\n"
-        "Options:\n"
-        "  -h, --help     Show this help.\n"
-        "  -v, --version  Show the version.\n");
+    text += QStringLiteral("  %1%2\n").arg(QStringLiteral("help"), -11).arg(CliOutput::tr("Show the options of a command."));
+    // Laid out as a whole, so each language wraps its own lines.
+    //: The exit codes in the help. Keep the numbers and their column; keep, vault verify and decrypt are command names.
+    text += QLatin1Char('\n')
+        + CliOutput::tr("Exit status:\n"
+                        "  0    Done.\n"
+                        "  1    Done in part: keep could not keep some files, vault verify found a file changed or missing, or\n"
+                        "       decrypt could write only some clips.\n"
+                        "  2    The work could not be done, for example because the folder is missing or can't be read.\n"
+                        "  64   The command line was wrong.\n"
+                        "  130  keep was stopped with Ctrl-C.\n");
+    text += QLatin1Char('\n') + CliOutput::tr("Progress and messages go to standard error, results to standard output.")
+        + QLatin1Char('\n');
+    //: Heading of the list of options in the help
+    text += QLatin1Char('\n') + CliOutput::tr("Options:") + QLatin1Char('\n');
+    text += QStringLiteral("  %1%2\n").arg(QStringLiteral("-h, --help"), -15).arg(CliOutput::tr("Show this help."));
+    text += QStringLiteral("  %1%2\n").arg(QStringLiteral("-v, --version"), -15).arg(CliOutput::tr("Show the version."));
     return text;
 }
 
@@ -135,7 +144,7 @@ int run(QStringList arguments)
             return 0;
         }
         if (arguments.size() > 2) {
-            CliOutput::err(QStringLiteral("help takes one command, such as \u201ckeelhold-cli help scan\u201d."));
+            CliOutput::err(CliOutput::tr("help takes one command, such as \u201ckeelhold-cli help scan\u201d."));
             return CliOutput::usageExit;
         }
         const Command *command = find(arguments[1]);

@@ -36,6 +36,7 @@ Found find(const QString &root, const QString &id, QString *error)
         return found;
     } catch (const VaultBrowser::VaultBrowserError &) {
     }
+    //: %1 is an event's id
     *error = CliOutput::tr("There is no event \u201c%1\u201d in this folder.").arg(id);
     return found;
 }

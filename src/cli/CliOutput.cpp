@@ -5,6 +5,7 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <cstdio>
 #include <unistd.h>
 
@@ -34,9 +35,20 @@ int fail(const QString &sentence)
     return failureExit;
 }
 
-QString tr(const char *text)
+QString tr(const char *text, const char *disambiguation, int n)
 {
-    return QCoreApplication::translate("keelhold-cli", text);
+    return QCoreApplication::translate("CliOutput", text, disambiguation, n);
+}
+
+QString usage(const QStringList &forms)
+{
+    const QString first = forms.value(0);
+    //: How a command is typed; %1 is the command line itself, which stays as it is
+    QString text = QCoreApplication::translate("CliOutput", "Usage: %1").arg(first);
+    const QString indent(std::max<qsizetype>(0, text.size() - first.size()), QLatin1Char(' '));
+    for (qsizetype i = 1; i < forms.size(); ++i)
+        text += QLatin1Char('\n') + indent + forms[i];
+    return text;
 }
 
 bool stderrIsTerminal()
@@ -69,13 +81,20 @@ QString commandHelp(const QCommandLineParser &parser, const QString &name)
 {
     QStringList lines = parser.helpText().split(QLatin1Char('\n'));
     // Qt names the executable's path, and offers Qt's own options, which a
-    // command-line tool has none of.
-    const QString qtUsage = QStringLiteral("Usage: ") + QCoreApplication::arguments().value(0);
+    // command-line tool has none of. Qt's own words are looked up in Qt's
+    // context, through variables so that lupdate leaves them to Qt's
+    // translations.
+    const char *const qtContext = "QCommandLineParser";
+    const char *const qtUsageText = "Usage: %1";
+    const char *const qtHelpText = "Displays help on commandline options.";
+    const QString qtUsage = QCoreApplication::translate(qtContext, qtUsageText).arg(QCoreApplication::arguments().value(0));
     if (!lines.isEmpty() && lines[0].startsWith(qtUsage + QLatin1Char(' ')))
-        lines[0] = QStringLiteral("Usage: ") + name + lines[0].mid(qtUsage.size());
+        lines[0] = QCoreApplication::translate(qtContext, qtUsageText).arg(name) + lines[0].mid(qtUsage.size());
     lines.removeIf([](const QString &line) { return line.trimmed().startsWith(QLatin1String("--help-all ")); });
+    const QString qtHelp = QCoreApplication::translate(qtContext, qtHelpText);
+    const QString help = QCoreApplication::translate("CliOutput", "Show this help.");
     for (QString &line : lines)
-        line.replace(QLatin1String("Displays help on commandline options."), QLatin1String("Show this help."));
+        line.replace(qtHelp, help);
     return lines.join(QLatin1Char('\n'));
 }
 

@@ -27,7 +27,16 @@ void printJson(const QJsonObject &object, bool pretty);
 inline constexpr int failureExit = 2;
 // The sentence on stderr; answers failureExit.
 int fail(const QString &sentence);
-// A text the user reads, in the tool's translation context.
-QString tr(const char *text);
+// A text the user reads, in the tool's translation context ("CliOutput", as
+// lupdate files CliOutput::tr). n picks the plural form of a "%n" text.
+QString tr(const char *text, const char *disambiguation = nullptr, int n = -1);
+// Tells lupdate that CliOutput::tr is this context's translation function;
+// the compiler never sees it (the macro is for classes).
+#if 0
+Q_DECLARE_TR_FUNCTIONS(CliOutput)
+#endif
+// "Usage: FORM", further forms lined up under the first. The forms are
+// command lines as typed, never translated.
+QString usage(const QStringList &forms);
 inline constexpr int usageExit = 64;
 } // namespace CliOutput

@@ -30,7 +30,8 @@ std::optional<DriveScan> read(const QString &root, std::optional<std::chrono::mi
 {
     try {
         DriveScan scan = TeslaCamParser::scan(root, [](const ScanProgress &p) {
-            CliOutput::status(QStringLiteral("%1 %2 folders, %3 events, %4 clips")
+            //: Scan progress; %1 says what is being read ("Reading Sentry events…"), then counts so far
+            CliOutput::status(CliOutput::tr("%1 %2 folders, %3 events, %4 clips")
                                   .arg(p.phase)
                                   .arg(p.foldersScanned)
                                   .arg(p.eventsFound)
@@ -46,7 +47,8 @@ std::optional<DriveScan> read(const QString &root, std::optional<std::chrono::mi
                                                    if (!CliOutput::stderrIsTerminal() && completed % 100 != 0
                                                        && completed != total)
                                                        return;
-                                                   CliOutput::status(QStringLiteral("probing %1 of %2 clips")
+                                                   //: Progress while each clip is opened to check it
+                                                   CliOutput::status(CliOutput::tr("probing %1 of %2 clips")
                                                                          .arg(completed)
                                                                          .arg(total));
                                                });
@@ -56,10 +58,10 @@ std::optional<DriveScan> read(const QString &root, std::optional<std::chrono::mi
     } catch (const TeslaCamParser::ParserError &e) {
         CliOutput::endStatus();
         CliOutput::err(e.errorCase() == TeslaCamParser::ParserError::rootNotFound
-                           ? QStringLiteral("There is no folder at \u201c%1\u201d. Check that the drive is plugged in "
-                                            "and the path is right.")
+                           ? CliOutput::tr("There is no folder at \u201c%1\u201d. Check that the drive is plugged in "
+                                           "and the path is right.")
                                  .arg(root)
-                           : QStringLiteral("\u201c%1\u201d is a file, not a folder. Give the TeslaCam folder itself.")
+                           : CliOutput::tr("\u201c%1\u201d is a file, not a folder. Give the TeslaCam folder itself.")
                                  .arg(root));
     } catch (const TeslaCamParser::ScanError &e) {
         CliOutput::endStatus();

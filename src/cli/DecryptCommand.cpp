@@ -69,14 +69,15 @@ int run(const QStringList &arguments)
         return *done;
     const QStringList positional = parser.positionalArguments();
     if (positional.size() != 1 || !parser.isSet(eventOption) || !parser.isSet(outputOption)) {
-        CliOutput::err(CliOutput::tr("Usage: keelhold-cli decrypt <folder> --event ID [--camera CAMERA] -o FOLDER "
-                          "[--token-file FILE]"));
+        CliOutput::err(CliOutput::usage({QStringLiteral("keelhold-cli decrypt <folder> --event ID [--camera CAMERA] "
+                                                        "-o FOLDER [--token-file FILE]")}));
         return CliOutput::usageExit;
     }
     std::optional<Camera> camera;
     if (parser.isSet(cameraOption)) {
         camera = Camera::fromRawValue(parser.value(cameraOption));
         if (!camera)
+            //: %1 is the camera as typed, %2 the camera names the command takes
             return CliOutput::fail(CliOutput::tr("\u201c%1\u201d is not a camera; use one of %2.")
                             .arg(parser.value(cameraOption), CliEvents::cameraNames().join(QStringLiteral(", "))));
     }
@@ -94,6 +95,7 @@ int run(const QStringList &arguments)
         if (clip.health == ClipHealth::encrypted && (!camera || clip.camera == *camera))
             clips.push_back(clip);
     if (clips.empty())
+        //: %1 is a camera's name, such as "Front"
         return CliOutput::fail(camera ? CliOutput::tr("The %1 camera has no encrypted footage in this event.").arg(camera->displayName())
                            : CliOutput::tr("This event's footage isn't encrypted: its files are plain MP4 movies already."));
 
@@ -121,9 +123,11 @@ int run(const QStringList &arguments)
             CliOutput::err(sentence);
         if (writeFailed)
             CliOutput::err(writeSentence);
+        //: %3 is a folder
         CliOutput::err(CliOutput::tr("Wrote %1 of %2 clips to %3.").arg(written).arg(clips.size()).arg(where));
         return 1;
     }
+    //: %2 is a folder
     CliOutput::err(CliOutput::tr("Wrote %1 clips to %2.").arg(written).arg(where));
     return 0;
 }

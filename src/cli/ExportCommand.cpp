@@ -29,9 +29,9 @@ extern "C" {
 namespace ExportCommand {
 
 namespace {
-const char *usage = "Usage: keelhold-cli export <TeslaCam folder> --event ID -o FILE [--camera CAMERA] "
-                    "[--layout grid|front-sides|single] [--overlay PARTS|none] [--size 720|1080|full] "
-                    "[--from SECONDS] [--to SECONDS]";
+const char *synopsis = "keelhold-cli export <TeslaCam folder> --event ID -o FILE [--camera CAMERA] "
+                       "[--layout grid|front-sides|single] [--overlay PARTS|none] [--size 720|1080|full] "
+                       "[--from SECONDS] [--to SECONDS]";
 
 std::optional<double> seconds(const QCommandLineParser &parser, const QCommandLineOption &option, bool &bad)
 {
@@ -58,18 +58,46 @@ QString clock(double seconds)
     return QStringLiteral("%1:%2").arg(whole / 60).arg(whole % 60, 2, 10, QLatin1Char('0'));
 }
 
-// "Exporting… 42% (1,814 of 4,320 frames, 38.5 fps, 1:05 left)"
+int percentOf(const CombinedExportProgress &p)
+{
+    return int(p.fraction() * 100.0);
+}
+
+// "Exporting… 42% (1814 of 4320 frames, 38.5 fps, 1:05 left)"
 QString combinedStatus(const CombinedExportProgress &p)
 {
-    const int percent = int(p.fraction() * 100.0);
+    const int percent = percentOf(p);
     if (p.finishing)
-        return QStringLiteral("Exporting\u2026 %1% (finishing the file)").arg(percent);
-    QString line = QStringLiteral("Exporting\u2026 %1% (%2 of %3 frames").arg(percent).arg(p.framesDone).arg(p.framesTotal);
-    if (p.framesPerSecond > 0)
-        line += QStringLiteral(", %1 fps").arg(p.framesPerSecond, 0, 'f', 1);
-    if (p.secondsLeft && !p.complete)
-        line += QStringLiteral(", %1 left").arg(clock(*p.secondsLeft));
-    return line + QLatin1Char(')');
+        //: Export progress; %1 is a whole percentage, the % sign follows it
+        return CliOutput::tr("Exporting\u2026 %1% (finishing the file)").arg(percent);
+    const bool fps = p.framesPerSecond > 0;
+    const bool left = p.secondsLeft && !p.complete;
+    const QString speed = QString::number(p.framesPerSecond, 'f', 1);
+    const QString remaining = left ? clock(*p.secondsLeft) : QString();
+    // One sentence for each combination, so each language orders its own.
+    if (fps && left)
+        //: Export progress: %1 percent done, %2 of %3 frames, %4 frames per second, %5 the time left as m:ss
+        return CliOutput::tr("Exporting\u2026 %1% (%2 of %3 frames, %4 fps, %5 left)")
+            .arg(percent)
+            .arg(p.framesDone)
+            .arg(p.framesTotal)
+            .arg(speed, remaining);
+    if (fps)
+        //: Export progress: %1 percent done, %2 of %3 frames, %4 frames per second
+        return CliOutput::tr("Exporting\u2026 %1% (%2 of %3 frames, %4 fps)")
+            .arg(percent)
+            .arg(p.framesDone)
+            .arg(p.framesTotal)
+            .arg(speed);
+    if (left)
+        //: Export progress: %1 percent done, %2 of %3 frames, %4 the time left as m:ss
+        return CliOutput::tr("Exporting\u2026 %1% (%2 of %3 frames, %4 left)")
+            .arg(percent)
+            .arg(p.framesDone)
+            .arg(p.framesTotal)
+            .arg(remaining);
+    //: Export progress: %1 percent done, %2 of %3 frames
+    return CliOutput::tr("Exporting\u2026 %1% (%2 of %3 frames)").arg(percent).arg(p.framesDone).arg(p.framesTotal);
 }
 } // namespace
 
@@ -77,41 +105,45 @@ int run(const QStringList &arguments)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        QStringLiteral("Writes one camera of one event as a single MP4 movie, copied as it is, or every camera "
-                       "at once with the date and time drawn on it. The drive is only read."));
+        CliOutput::tr("Writes one camera of one event as a single MP4 movie, copied as it is, or every camera "
+                      "at once with the date and time drawn on it. The drive is only read."));
     parser.addHelpOption();
-    parser.addPositionalArgument(QStringLiteral("folder"), QStringLiteral("The TeslaCam folder to read."));
+    parser.addPositionalArgument(QStringLiteral("folder"), CliOutput::tr("The TeslaCam folder to read."));
     const QCommandLineOption eventOption(QStringLiteral("event"),
-                                        QStringLiteral("The event's id, as keelhold-cli scan prints it."),
+                                        CliOutput::tr("The event's id, as keelhold-cli scan prints it."),
                                         QStringLiteral("id"));
+    //: Help of an option; %1 lists the values it takes, which stay as they are
     const QCommandLineOption cameraOption(QStringLiteral("camera"),
-                                         QStringLiteral("One of: %1.").arg(CliEvents::cameraNames().join(QStringLiteral(", "))),
+                                         CliOutput::tr("One of: %1.").arg(CliEvents::cameraNames().join(QStringLiteral(", "))),
                                          QStringLiteral("camera"));
     const QCommandLineOption outputOption(
         QStringList{QStringLiteral("o"), QStringLiteral("output")},
-        QStringLiteral("The movie file to create; in an existing folder, the suggested name is used."),
+        CliOutput::tr("The movie file to create; in an existing folder, the suggested name is used."),
         QStringLiteral("file"));
     const QCommandLineOption fromOption(QStringLiteral("from"),
-                                       QStringLiteral("Start, in seconds of the joined footage."),
+                                       CliOutput::tr("Start, in seconds of the joined footage."),
                                        QStringLiteral("seconds"));
-    const QCommandLineOption toOption(QStringLiteral("to"), QStringLiteral("End, in seconds of the joined footage."),
+    const QCommandLineOption toOption(QStringLiteral("to"), CliOutput::tr("End, in seconds of the joined footage."),
                                      QStringLiteral("seconds"));
+    //: grid, front-sides and single are values typed on the command line; keep them as they are
     const QCommandLineOption layoutOption(
         QStringLiteral("layout"),
-        QStringLiteral("Makes one new movie with every camera at once and the time drawn on it. One of: grid, "
-                       "front-sides, single. Single re-encodes the --camera alone. --from and --to then count "
-                       "seconds of the event's timeline, as the player shows it."),
+        CliOutput::tr("Makes one new movie with every camera at once and the time drawn on it. One of: grid, "
+                      "front-sides, single. Single re-encodes the --camera alone. --from and --to then count "
+                      "seconds of the event's timeline, as the player shows it."),
         QStringLiteral("layout"));
+    //: time, names, reason, telemetry, none and time,names,reason are values typed on the command line; keep them as they are
     const QCommandLineOption overlayOption(
         QStringLiteral("overlay"),
-        QStringLiteral("What a new movie shows over the pictures, any of: time, names, reason, telemetry, none. "
-                       "Join parts with commas; the default is time,names,reason. Telemetry is the car's speed, "
-                       "pedals, steering and Autopilot where its clips carry them, in km/h or mph as your locale "
-                       "measures. With only --camera, any part makes a new movie of that camera instead of a copy."),
+        CliOutput::tr("What a new movie shows over the pictures, any of: time, names, reason, telemetry, none. "
+                      "Join parts with commas; the default is time,names,reason. Telemetry is the car's speed, "
+                      "pedals, steering and Autopilot where its clips carry them, in km/h or mph as your locale "
+                      "measures. With only --camera, any part makes a new movie of that camera instead of a copy."),
         QStringLiteral("parts"));
+    //: 720, 1080 and full are values typed on the command line; keep them as they are
     const QCommandLineOption sizeOption(
         QStringLiteral("size"),
-        QStringLiteral("The new movie's picture height. One of: 720, 1080, full. The default is 1080."),
+        CliOutput::tr("The new movie's picture height. One of: 720, 1080, full. The default is 1080."),
         QStringLiteral("size"));
     const QCommandLineOption tokenFile = CliUnlock::tokenFileOption();
     parser.addOptions({eventOption, cameraOption, outputOption, fromOption, toOption, layoutOption, overlayOption,
@@ -125,19 +157,21 @@ int run(const QStringList &arguments)
     if (parser.isSet(overlayOption)) {
         overlay = CombinedExportOptions::overlayFromWords(parser.value(overlayOption));
         if (!overlay)
-            return fail(QStringLiteral("--overlay takes time, names, reason and telemetry joined with commas, or none."));
+            //: time, names, reason, telemetry and none are values typed on the command line; keep them as they are
+            return fail(CliOutput::tr("--overlay takes time, names, reason and telemetry joined with commas, or none."));
     }
     const bool combined = parser.isSet(layoutOption) || parser.isSet(sizeOption) || (overlay && overlay->any());
     if (positional.size() != 1 || !parser.isSet(eventOption) || !parser.isSet(outputOption)
         || (!combined && !parser.isSet(cameraOption))) {
-        CliOutput::err(QString::fromLatin1(usage));
+        CliOutput::err(CliOutput::usage({QString::fromLatin1(synopsis)}));
         return CliOutput::usageExit;
     }
     std::optional<Camera> camera;
     if (parser.isSet(cameraOption)) {
         camera = Camera::fromRawValue(parser.value(cameraOption));
         if (!camera)
-            return fail(QStringLiteral("\u201c%1\u201d is not a camera; use one of %2.")
+            //: %1 is the camera as typed, %2 the camera names the command takes
+            return fail(CliOutput::tr("\u201c%1\u201d is not a camera; use one of %2.")
                             .arg(parser.value(cameraOption), CliEvents::cameraNames().join(QStringLiteral(", "))));
     }
     CombinedExportOptions options;
@@ -146,22 +180,24 @@ int run(const QStringList &arguments)
         if (parser.isSet(layoutOption)) {
             const auto layout = CombinedExportOptions::layoutFromWord(parser.value(layoutOption));
             if (!layout)
-                return fail(QStringLiteral("\u201c%1\u201d is not a layout; use grid, front-sides or single.")
+                //: %1 is the layout as typed; grid, front-sides and single stay as they are
+                return fail(CliOutput::tr("\u201c%1\u201d is not a layout; use grid, front-sides or single.")
                                 .arg(parser.value(layoutOption)));
             options.layout = *layout;
         } else if (!camera) {
-            return fail(QStringLiteral("Name the camera with --camera, or choose --layout grid or front-sides."));
+            return fail(CliOutput::tr("Name the camera with --camera, or choose --layout grid or front-sides."));
         }
         if (options.layout != CombinedExportOptions::Layout::single && camera)
-            return fail(QStringLiteral("--camera picks the one camera of --layout single; grid and front-sides show "
-                                       "every camera."));
+            return fail(CliOutput::tr("--camera picks the one camera of --layout single; grid and front-sides show "
+                                      "every camera."));
         options.camera = camera;
         if (overlay)
             options.overlay = *overlay;
         if (parser.isSet(sizeOption)) {
             const auto size = CombinedExportOptions::sizeFromWord(parser.value(sizeOption));
             if (!size)
-                return fail(QStringLiteral("\u201c%1\u201d is not a size; use 720, 1080 or full.")
+                //: %1 is the size as typed; 720, 1080 and full stay as they are
+                return fail(CliOutput::tr("\u201c%1\u201d is not a size; use 720, 1080 or full.")
                                 .arg(parser.value(sizeOption)));
             options.size = *size;
         }
@@ -170,7 +206,7 @@ int run(const QStringList &arguments)
     const std::optional<double> from = seconds(parser, fromOption, badNumber);
     const std::optional<double> to = seconds(parser, toOption, badNumber);
     if (badNumber)
-        return fail(QStringLiteral("--from and --to take a number of seconds, such as 12.5."));
+        return fail(CliOutput::tr("--from and --to take a number of seconds, such as 12.5."));
     std::optional<std::pair<double, double>> range;
     if (from || to)
         range = std::make_pair(from.value_or(0.0), to.value_or(std::numeric_limits<double>::infinity()));
@@ -178,7 +214,7 @@ int run(const QStringList &arguments)
     const QString root = CliScan::teslaCamRoot(positional.first());
     const QString eventId = parser.value(eventOption);
     if (DriveBoundary::writesInto(root, parser.value(outputOption)).value_or(false))
-        return fail(DriveBoundary::exportRefusal);
+        return fail(DriveBoundary::exportRefusalText());
     // FFmpeg's own messages about damaged clips would drown the progress.
     av_log_set_level(AV_LOG_QUIET);
 
@@ -187,7 +223,8 @@ int run(const QStringList &arguments)
         const auto event = std::find_if(scan.events.begin(), scan.events.end(),
                                         [&](const TeslaEvent &e) { return e.id() == eventId; });
         if (event == scan.events.end())
-            return fail(QStringLiteral("There is no event \u201c%1\u201d in this TeslaCam folder.").arg(eventId));
+            //: %1 is an event's id
+            return fail(CliOutput::tr("There is no event \u201c%1\u201d in this TeslaCam folder.").arg(eventId));
 
         // The car's encrypted footage: kept keys first, the missing ones fetched.
         if (event->encrypted) {
@@ -222,7 +259,7 @@ int run(const QStringList &arguments)
             CombinedExport::exportMovie(*event, options, output, [&](const CombinedExportProgress &p) {
                 const QString line = combinedStatus(p);
                 // Piped, a line for each percent; on a terminal, the line keeps up.
-                const QString key = CliOutput::stderrIsTerminal() ? line : line.section(QLatin1Char('%'), 0, 0);
+                const QString key = CliOutput::stderrIsTerminal() ? line : QString::number(percentOf(p));
                 if (key == shown)
                     return;
                 shown = key;
@@ -244,7 +281,8 @@ int run(const QStringList &arguments)
                 if (percent == shownPercent)
                     return;
                 shownPercent = percent;
-                CliOutput::status(QStringLiteral("Exporting\u2026 %1%").arg(percent));
+                //: Export progress; %1 is a whole percentage, the % sign follows it
+                CliOutput::status(CliOutput::tr("Exporting\u2026 %1%").arg(percent));
             }, interrupt.token());
         } catch (...) {
             if (!existedBefore)
@@ -260,13 +298,14 @@ int run(const QStringList &arguments)
         return fail(e.message());
     } catch (const Exporter::ExportError &e) {
         if (e.errorCase() == Exporter::ExportError::noClipsForCamera && camera)
-            return fail(QStringLiteral("The %1 camera has no playable footage in this event.")
+            //: %1 is a camera's name, such as "Front"
+            return fail(CliOutput::tr("The %1 camera has no playable footage in this event.")
                             .arg(camera->displayName()));
         if (e.errorCase() == Exporter::ExportError::noClipsForCamera)
-            return fail(QStringLiteral("None of this event's cameras has playable footage."));
+            return fail(CliOutput::tr("None of this event's cameras has playable footage."));
         return fail(e.message());
     } catch (const CancellationError &) {
-        return fail(QStringLiteral("The export was stopped."));
+        return fail(CliOutput::tr("The export was stopped."));
     }
 }
 

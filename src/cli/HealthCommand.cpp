@@ -17,16 +17,16 @@ int run(const QStringList &arguments)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        QStringLiteral("Reads a TeslaCam folder and prints its health report (fullness, damaged clips, format, "
-                       "events not yet kept, recommendations) as JSON."));
+        CliOutput::tr("Reads a TeslaCam folder and prints its health report (fullness, damaged clips, format, "
+                      "events not yet kept, recommendations) as JSON."));
     parser.addHelpOption();
-    parser.addPositionalArgument(QStringLiteral("folder"), QStringLiteral("The TeslaCam folder to read, or the drive that holds it."));
+    parser.addPositionalArgument(QStringLiteral("folder"), CliOutput::tr("The TeslaCam folder to read, or the drive that holds it."));
     const QCommandLineOption vault(QStringLiteral("vault"),
-                                   QStringLiteral("The Vault folder whose index tells which events are kept."),
+                                   CliOutput::tr("The Vault folder whose index tells which events are kept."),
                                    QStringLiteral("DIR"));
     const QCommandLineOption probe(QStringLiteral("probe"),
-                                   QStringLiteral("Open every clip to find damaged ones (slower)."));
-    const QCommandLineOption pretty(QStringLiteral("pretty"), QStringLiteral("Indent the JSON for reading."));
+                                   CliOutput::tr("Open every clip to find damaged ones (slower)."));
+    const QCommandLineOption pretty(QStringLiteral("pretty"), CliOutput::tr("Indent the JSON for reading."));
     parser.addOption(vault);
     parser.addOption(probe);
     parser.addOption(pretty);
@@ -34,7 +34,7 @@ int run(const QStringList &arguments)
         return *done;
     const QStringList positional = parser.positionalArguments();
     if (positional.size() != 1) {
-        CliOutput::err(QStringLiteral("Usage: keelhold-cli health <TeslaCam folder> [--vault DIR] [--probe] [--pretty]"));
+        CliOutput::err(CliOutput::usage({QStringLiteral("keelhold-cli health <TeslaCam folder> [--vault DIR] [--probe] [--pretty]")}));
         return CliOutput::usageExit;
     }
     const QString root = CliScan::teslaCamRoot(positional.first());
@@ -43,7 +43,8 @@ int run(const QStringList &arguments)
     if (parser.isSet(vault)) {
         const QString vaultPath = QDir::cleanPath(QDir::current().absoluteFilePath(parser.value(vault)));
         if (!QFileInfo(vaultPath).isDir()) {
-            CliOutput::err(QStringLiteral("There is no Vault folder at \u201c%1\u201d.").arg(vaultPath));
+            //: %1 is a folder
+            CliOutput::err(CliOutput::tr("There is no Vault folder at \u201c%1\u201d.").arg(vaultPath));
             return CliOutput::failureExit;
         }
         // As the app does: an unreadable index counts as an empty one.

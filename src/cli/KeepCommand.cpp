@@ -69,29 +69,31 @@ QString megabytes(qint64 bytes)
 int run(const QStringList &arguments)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral(
+    //: The numbers are exit codes; keep them
+    parser.setApplicationDescription(CliOutput::tr(
         "Copies events from a TeslaCam folder into a Vault folder, checking each file's size and recording "
         "its SHA-256, and prints the report as JSON.\n"
         "Exit status: 0 when everything was kept, 1 when some files could not be kept, 130 when stopped with "
         "Ctrl-C, 2 when the drive could not be read."));
     parser.addHelpOption();
-    parser.addPositionalArgument(QStringLiteral("folder"), QStringLiteral("The TeslaCam folder to read, or the drive that holds it."));
-    const QCommandLineOption vaultOption(QStringLiteral("vault"), QStringLiteral("The Vault folder."),
+    parser.addPositionalArgument(QStringLiteral("folder"), CliOutput::tr("The TeslaCam folder to read, or the drive that holds it."));
+    const QCommandLineOption vaultOption(QStringLiteral("vault"), CliOutput::tr("The Vault folder."),
                                          QStringLiteral("DIR"));
+    //: "sentry|<folder>" shows how an event's id looks; keep it as it is
     const QCommandLineOption eventOption(QStringLiteral("event"),
-                                         QStringLiteral("An event to keep, as printed by scan (\"sentry|<folder>\"). "
-                                                        "Repeat for more; without it, every event is kept."),
+                                         CliOutput::tr("An event to keep, as printed by scan (\"sentry|<folder>\"). "
+                                                       "Repeat for more; without it, every event is kept."),
                                          QStringLiteral("ID"));
     const QCommandLineOption timeoutOption(QStringLiteral("timeout"),
-                                           QStringLiteral("Seconds allowed for each file (default 10)."),
+                                           CliOutput::tr("Seconds allowed for each file (default 10)."),
                                            QStringLiteral("SECONDS"));
-    const QCommandLineOption pretty(QStringLiteral("pretty"), QStringLiteral("Indent the JSON for reading."));
+    const QCommandLineOption pretty(QStringLiteral("pretty"), CliOutput::tr("Indent the JSON for reading."));
     parser.addOptions({vaultOption, eventOption, timeoutOption, pretty});
     if (const auto done = CliOutput::parseArguments(parser, arguments))
         return *done;
     const QStringList positional = parser.positionalArguments();
     if (positional.size() != 1 || !parser.isSet(vaultOption)) {
-        CliOutput::err(QStringLiteral("Usage: keelhold-cli keep <TeslaCam folder> --vault DIR [--event ID]..."));
+        CliOutput::err(CliOutput::usage({QStringLiteral("keelhold-cli keep <TeslaCam folder> --vault DIR [--event ID]...")}));
         return CliOutput::usageExit;
     }
     auto timeout = ArchiveEngine::defaultTimeoutPerFile;
@@ -100,7 +102,7 @@ int run(const QStringList &arguments)
         const double seconds = parser.value(timeoutOption).toDouble(&ok);
         // NaN and infinity parse as numbers; a day is more than any file needs.
         if (!ok || !std::isfinite(seconds) || seconds <= 0 || seconds > 86400) {
-            CliOutput::err(QStringLiteral("The time limit must be a number of seconds, more than 0 and at most a day."));
+            CliOutput::err(CliOutput::tr("The time limit must be a number of seconds, more than 0 and at most a day."));
             return CliOutput::failureExit;
         }
         timeout = std::chrono::milliseconds(qint64(seconds * 1000));
@@ -111,7 +113,7 @@ int run(const QStringList &arguments)
     // Nothing on the car's drive is ever written, the Vault included.
     if (vault == root || vault.startsWith(root + QLatin1Char('/'))
         || DriveBoundary::writesInto(root, vault).value_or(false)) {
-        CliOutput::err(DriveBoundary::vaultRefusal);
+        CliOutput::err(DriveBoundary::vaultRefusalText());
         return CliOutput::failureExit;
     }
 
@@ -135,7 +137,8 @@ int run(const QStringList &arguments)
             const auto it = std::find_if(scan.events.begin(), scan.events.end(),
                                          [&](const TeslaEvent &e) { return e.id() == id; });
             if (it == scan.events.end()) {
-                CliOutput::err(QStringLiteral("There is no event \u201c%1\u201d on this drive.").arg(id));
+                //: %1 is an event's id
+                CliOutput::err(CliOutput::tr("There is no event \u201c%1\u201d on this drive.").arg(id));
                 return CliOutput::failureExit;
             }
             chosen.push_back(*it);
@@ -164,13 +167,20 @@ int run(const QStringList &arguments)
         if (!p)
             return;
         const double seconds = std::max(0.001, double(clock.elapsed()) / 1000.0);
-        QString line = QStringLiteral("%1/%2 events \u00b7 %3 MB \u00b7 %4 MB/s")
-                           .arg(p->eventsCompleted)
-                           .arg(p->totalEvents)
-                           .arg(megabytes(p->bytesCopied), megabytes(qint64(double(p->bytesCopied) / seconds)));
+        const QString copied = megabytes(p->bytesCopied);
+        const QString speed = megabytes(qint64(double(p->bytesCopied) / seconds));
         if (p->currentFileName)
-            line += QStringLiteral(" \u00b7 ") + *p->currentFileName;
-        CliOutput::status(line);
+            //: Keep progress: %1 of %2 events done, %3 megabytes copied, %4 megabytes a second, %5 the file being copied
+            CliOutput::status(CliOutput::tr("%1/%2 events \u00b7 %3 MB \u00b7 %4 MB/s \u00b7 %5")
+                                  .arg(p->eventsCompleted)
+                                  .arg(p->totalEvents)
+                                  .arg(copied, speed, *p->currentFileName));
+        else
+            //: Keep progress: %1 of %2 events done, %3 megabytes copied, %4 megabytes a second
+            CliOutput::status(CliOutput::tr("%1/%2 events \u00b7 %3 MB \u00b7 %4 MB/s")
+                                  .arg(p->eventsCompleted)
+                                  .arg(p->totalEvents)
+                                  .arg(copied, speed));
     };
 
     ArchiveReport report;
@@ -187,7 +197,7 @@ int run(const QStringList &arguments)
             if (interrupted.load() && !told) {
                 stop.request_stop();
                 told = true;
-                CliOutput::err(QStringLiteral("Stopping after the current file\u2026 (Ctrl-C again to quit at once)"));
+                CliOutput::err(CliOutput::tr("Stopping after the current file\u2026 (Ctrl-C again to quit at once)"));
             }
             showProgress();
             std::this_thread::sleep_for(std::chrono::milliseconds(50));

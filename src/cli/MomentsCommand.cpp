@@ -24,7 +24,7 @@ namespace MomentsCommand {
 
 namespace {
 
-const char *usage = "Usage: keelhold-cli moments <folder> --event ID [--format json|csv]";
+const char *synopsis = "keelhold-cli moments <folder> --event ID [--format json|csv]";
 
 // To a number of decimals, so JSON shows 0.95 rather than 0.9500000000000001.
 double rounded(double value, int decimals)
@@ -110,6 +110,7 @@ int run(const QStringList &arguments)
     parser.addPositionalArgument(QStringLiteral("folder"), CliOutput::tr("The TeslaCam folder, or a Vault folder, to read."));
     const QCommandLineOption eventOption(QStringLiteral("event"), CliOutput::tr("The event's id, as keelhold-cli scan prints it."),
                                          QStringLiteral("id"));
+    //: json and csv are values typed on the command line; keep them as they are
     const QCommandLineOption formatOption(QStringLiteral("format"), CliOutput::tr("json (the default) or csv."),
                                           QStringLiteral("format"), QStringLiteral("json"));
     const QCommandLineOption tokenFile = CliUnlock::tokenFileOption();
@@ -118,11 +119,12 @@ int run(const QStringList &arguments)
         return *done;
     const QStringList positional = parser.positionalArguments();
     if (positional.size() != 1 || !parser.isSet(eventOption)) {
-        CliOutput::err(QString::fromLatin1(usage));
+        CliOutput::err(CliOutput::usage({QString::fromLatin1(synopsis)}));
         return CliOutput::usageExit;
     }
     const QString format = parser.value(formatOption).toLower();
     if (format != QLatin1String("json") && format != QLatin1String("csv")) {
+        //: %1 is the format as typed; json and csv stay as they are
         CliOutput::err(CliOutput::tr("\u201c%1\u201d is not a format; use json or csv.").arg(parser.value(formatOption)));
         return CliOutput::usageExit;
     }

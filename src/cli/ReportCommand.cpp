@@ -24,8 +24,8 @@ extern "C" {
 namespace ReportCommand {
 
 namespace {
-const char *usage = "Usage: keelhold-cli report <TeslaCam or Vault folder> --event ID -o FILE_OR_FOLDER [--package] "
-                    "[--include-keys] [--vault FOLDER] [--speed-unit km/h|mph]";
+const char *synopsis = "keelhold-cli report <TeslaCam or Vault folder> --event ID -o FILE_OR_FOLDER [--package] "
+                       "[--include-keys] [--vault FOLDER] [--speed-unit km/h|mph]";
 
 int fail(const QString &sentence)
 {
@@ -37,29 +37,31 @@ int fail(const QString &sentence)
 int run(const QStringList &arguments)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral(
+    //: SHA256SUMS is a file name and `sha256sum -c` a command; keep both as they are
+    parser.setApplicationDescription(CliOutput::tr(
         "Writes the incident report of one event as a PDF: when and where, each camera at the moment, the driving "
         "data, and every original file with its SHA-256. With --package, one ZIP that also holds every original "
         "and a SHA256SUMS file that `sha256sum -c` checks. The drive is only read."));
     parser.addHelpOption();
-    parser.addPositionalArgument(QStringLiteral("folder"), QStringLiteral("The TeslaCam folder, or a Vault folder."));
+    parser.addPositionalArgument(QStringLiteral("folder"), CliOutput::tr("The TeslaCam folder, or a Vault folder."));
     const QCommandLineOption eventOption(QStringLiteral("event"),
-                                        QStringLiteral("The event's id, as keelhold-cli scan prints it."),
+                                        CliOutput::tr("The event's id, as keelhold-cli scan prints it."),
                                         QStringLiteral("id"));
     const QCommandLineOption outputOption(
         QStringList{QStringLiteral("o"), QStringLiteral("output")},
-        QStringLiteral("The file to create; in an existing folder, the suggested name is used."), QStringLiteral("file"));
+        CliOutput::tr("The file to create; in an existing folder, the suggested name is used."), QStringLiteral("file"));
     const QCommandLineOption packageOption(QStringLiteral("package"),
-                                          QStringLiteral("Makes the evidence package (ZIP) instead of the PDF alone."));
+                                          CliOutput::tr("Makes the evidence package (ZIP) instead of the PDF alone."));
     const QCommandLineOption keysOption(QStringLiteral("include-keys"),
-                                       QStringLiteral("Puts the unlock keys of an encrypted event into the package."));
+                                       CliOutput::tr("Puts the unlock keys of an encrypted event into the package."));
     const QCommandLineOption vaultOption(
         QStringLiteral("vault"),
-        QStringLiteral("A Vault to compare the files with, for an event on the drive that was kept there."),
+        CliOutput::tr("A Vault to compare the files with, for an event on the drive that was kept there."),
         QStringLiteral("folder"));
+    //: km/h and mph are values typed on the command line; keep them as they are
     const QCommandLineOption unitOption(QStringLiteral("speed-unit"),
-                                       QStringLiteral("One of: km/h, mph. The default is the app's choice, else the one your "
-                                                      "locale uses."),
+                                       CliOutput::tr("One of: km/h, mph. The default is the app's choice, else the one your "
+                                                     "locale uses."),
                                        QStringLiteral("unit"));
     const QCommandLineOption tokenFile = CliUnlock::tokenFileOption();
     parser.addOptions({eventOption, outputOption, packageOption, keysOption, vaultOption, unitOption, tokenFile});
@@ -67,7 +69,7 @@ int run(const QStringList &arguments)
         return *done;
     const QStringList positional = parser.positionalArguments();
     if (positional.size() != 1 || !parser.isSet(eventOption) || !parser.isSet(outputOption)) {
-        CliOutput::err(QString::fromLatin1(usage));
+        CliOutput::err(CliOutput::usage({QString::fromLatin1(synopsis)}));
         return CliOutput::usageExit;
     }
     const QString chosenUnit = QSettings(QStringLiteral("Keelhold"), QStringLiteral("Keelhold")).value(QStringLiteral("KHSpeedUnit")).toString();
@@ -75,7 +77,8 @@ int run(const QStringList &arguments)
     if (parser.isSet(unitOption)) {
         const QString unit = parser.value(unitOption);
         if (unit != QLatin1String("km/h") && unit != QLatin1String("mph"))
-            return fail(QStringLiteral("--speed-unit takes km/h or mph."));
+            //: km/h and mph are values typed on the command line; keep them as they are
+            return fail(CliOutput::tr("--speed-unit takes km/h or mph."));
         miles = unit == QLatin1String("mph");
     }
 
@@ -89,7 +92,7 @@ int run(const QStringList &arguments)
         return fail(error);
     const TeslaEvent &event = *found.event;
     if (DriveBoundary::writesIntoDriveOf({event}, parser.value(outputOption)))
-        return fail(DriveBoundary::exportRefusal);
+        return fail(DriveBoundary::exportRefusalText());
     av_log_set_level(AV_LOG_QUIET);
 
     // Encrypted footage shows in the stills only with its keys: held ones,
@@ -127,7 +130,8 @@ int run(const QStringList &arguments)
         if (percent == shown)
             return;
         shown = percent;
-        CliOutput::status(QStringLiteral("Making the report\u2026 %1%").arg(percent));
+        //: Report progress; %1 is a whole percentage, the % sign follows it
+        CliOutput::status(CliOutput::tr("Making the report\u2026 %1%").arg(percent));
     };
     try {
         IncidentReport::make(event, output, options);
@@ -136,7 +140,7 @@ int run(const QStringList &arguments)
         return fail(e.message());
     } catch (const CancellationError &) {
         CliOutput::endStatus();
-        return fail(QStringLiteral("The report was stopped."));
+        return fail(CliOutput::tr("The report was stopped."));
     }
     CliOutput::endStatus();
     CliOutput::out(QDir::toNativeSeparators(output).toUtf8() + '\n');

@@ -14,23 +14,23 @@ namespace ScanCommand {
 int run(const QStringList &arguments)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("Reads a TeslaCam folder and prints what it holds as JSON."));
+    parser.setApplicationDescription(CliOutput::tr("Reads a TeslaCam folder and prints what it holds as JSON."));
     parser.addHelpOption();
-    parser.addPositionalArgument(QStringLiteral("folder"), QStringLiteral("The TeslaCam folder to read, or the drive that holds it."));
-    const QCommandLineOption pretty(QStringLiteral("pretty"), QStringLiteral("Indent the JSON for reading."));
+    parser.addPositionalArgument(QStringLiteral("folder"), CliOutput::tr("The TeslaCam folder to read, or the drive that holds it."));
+    const QCommandLineOption pretty(QStringLiteral("pretty"), CliOutput::tr("Indent the JSON for reading."));
     parser.addOption(pretty);
     const QCommandLineOption probe(QStringLiteral("probe"),
-                                   QStringLiteral("Open every clip after the scan to find its health and length."));
+                                   CliOutput::tr("Open every clip after the scan to find its health and length."));
     parser.addOption(probe);
     const QCommandLineOption timeoutOption(QStringLiteral("timeout"),
-                                           QStringLiteral("Seconds each clip may take to answer (default 10)."),
+                                           CliOutput::tr("Seconds each clip may take to answer (default 10)."),
                                            QStringLiteral("seconds"));
     parser.addOption(timeoutOption);
     if (const auto done = CliOutput::parseArguments(parser, arguments))
         return *done;
     const QStringList positional = parser.positionalArguments();
     if (positional.size() != 1) {
-        CliOutput::err(QStringLiteral("Usage: keelhold-cli scan <TeslaCam folder> [--pretty] [--probe [--timeout SECONDS]]"));
+        CliOutput::err(CliOutput::usage({QStringLiteral("keelhold-cli scan <TeslaCam folder> [--pretty] [--probe [--timeout SECONDS]]")}));
         return CliOutput::usageExit;
     }
     std::chrono::milliseconds timeout = ClipProber::defaultTimeout;
@@ -38,11 +38,11 @@ int run(const QStringList &arguments)
         bool ok = false;
         const double seconds = parser.value(timeoutOption).toDouble(&ok);
         if (!ok || !std::isfinite(seconds) || seconds <= 0 || seconds > 24 * 3600) {
-            CliOutput::err(QStringLiteral("The timeout must be a number of seconds, such as 10."));
+            CliOutput::err(CliOutput::tr("The timeout must be a number of seconds, such as 10."));
             return CliOutput::usageExit;
         }
         if (!parser.isSet(probe)) {
-            CliOutput::err(QStringLiteral("The timeout applies only with --probe."));
+            CliOutput::err(CliOutput::tr("The timeout applies only with --probe."));
             return CliOutput::usageExit;
         }
         timeout = std::chrono::milliseconds(std::llround(seconds * 1000));

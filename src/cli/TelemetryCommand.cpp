@@ -27,8 +27,8 @@ namespace TelemetryCommand {
 
 namespace {
 
-const char *usage = "Usage: keelhold-cli telemetry <folder> --event ID [--camera CAMERA] [--format csv|json|gpx] "
-                    "[-o FILE]";
+const char *synopsis = "keelhold-cli telemetry <folder> --event ID [--camera CAMERA] [--format csv|json|gpx] "
+                       "[-o FILE]";
 
 const QStringList formats{QStringLiteral("csv"), QStringLiteral("json"), QStringLiteral("gpx")};
 
@@ -168,27 +168,29 @@ QByteArray gpx(const TeslaEvent &event, const EventTelemetry &telemetry)
 int run(const QStringList &arguments)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral(
+    parser.setApplicationDescription(CliOutput::tr(
         "Prints the driving data the car recorded with one camera's footage of an event, one row for each\n"
         "frame: its time on the event's timeline and in its clip, when it was taken, and the car's speed\n"
         "(metres per second), gear, accelerator, steering angle (degrees), blinkers, brake, Autopilot state,\n"
         "GPS position, heading (degrees) and acceleration (metres per second squared). Cars on software\n"
         "2025.44.25 or later record it. The drive is only read."));
     parser.addHelpOption();
-    parser.addPositionalArgument(QStringLiteral("folder"), QStringLiteral("The TeslaCam folder, or a Vault folder, to read."));
+    parser.addPositionalArgument(QStringLiteral("folder"), CliOutput::tr("The TeslaCam folder, or a Vault folder, to read."));
     const QCommandLineOption eventOption(QStringLiteral("event"),
-                                        QStringLiteral("The event's id, as keelhold-cli scan prints it."),
+                                        CliOutput::tr("The event's id, as keelhold-cli scan prints it."),
                                         QStringLiteral("id"));
+    //: Help of an option; %1 lists the values it takes, which stay as they are
     const QCommandLineOption cameraOption(
-        QStringLiteral("camera"), QStringLiteral("One of: %1.").arg(CliEvents::cameraNames().join(QStringLiteral(", "))),
+        QStringLiteral("camera"), CliOutput::tr("One of: %1.").arg(CliEvents::cameraNames().join(QStringLiteral(", "))),
         QStringLiteral("camera"), QStringLiteral("front"));
+    //: csv, json and gpx are values typed on the command line; keep them as they are
     const QCommandLineOption formatOption(
         QStringLiteral("format"),
-        QStringLiteral("csv, json, or gpx (the route, for a mapping tool). Default: from the output file's "
-                       "extension, else csv."),
+        CliOutput::tr("csv, json, or gpx (the route, for a mapping tool). Default: from the output file's "
+                      "extension, else csv."),
         QStringLiteral("format"));
     const QCommandLineOption outputOption(QStringList{QStringLiteral("o"), QStringLiteral("output")},
-                                         QStringLiteral("The file to write instead of standard output."),
+                                         CliOutput::tr("The file to write instead of standard output."),
                                          QStringLiteral("file"));
     const QCommandLineOption tokenFile = CliUnlock::tokenFileOption();
     parser.addOptions({eventOption, cameraOption, formatOption, outputOption, tokenFile});
@@ -196,12 +198,13 @@ int run(const QStringList &arguments)
         return *done;
     const QStringList positional = parser.positionalArguments();
     if (positional.size() != 1 || !parser.isSet(eventOption)) {
-        CliOutput::err(QString::fromLatin1(usage));
+        CliOutput::err(CliOutput::usage({QString::fromLatin1(synopsis)}));
         return CliOutput::usageExit;
     }
     const std::optional<Camera> camera = Camera::fromRawValue(parser.value(cameraOption));
     if (!camera)
-        return fail(QStringLiteral("\u201c%1\u201d is not a camera; use one of %2.")
+        //: %1 is the camera as typed, %2 the camera names the command takes
+        return fail(CliOutput::tr("\u201c%1\u201d is not a camera; use one of %2.")
                         .arg(parser.value(cameraOption), CliEvents::cameraNames().join(QStringLiteral(", "))));
     QString format = parser.value(formatOption).toLower();
     if (!parser.isSet(formatOption)) {
@@ -209,15 +212,16 @@ int run(const QStringList &arguments)
         format = formats.contains(suffix) ? suffix : QStringLiteral("csv");
     }
     if (!formats.contains(format))
-        return fail(QStringLiteral("\u201c%1\u201d is not a format; use csv, json or gpx.").arg(parser.value(formatOption)));
+        //: %1 is the format as typed; csv, json and gpx stay as they are
+        return fail(CliOutput::tr("\u201c%1\u201d is not a format; use csv, json or gpx.").arg(parser.value(formatOption)));
 
     const QString root = CliScan::teslaCamRoot(positional.first());
     QString output;
     if (parser.isSet(outputOption)) {
         output = QDir::cleanPath(QDir::current().absoluteFilePath(parser.value(outputOption)));
         if (DriveBoundary::writesInto(root, output).value_or(false))
-            return fail(QStringLiteral("Keelhold never writes to your Tesla drive, so save the driving data somewhere "
-                                       "else."));
+            return fail(CliOutput::tr("Keelhold never writes to your Tesla drive, so save the driving data somewhere "
+                                      "else."));
     }
     const QString eventId = parser.value(eventOption);
     // Damaged clips are expected; FFmpeg's own words about them are noise here.
@@ -230,7 +234,8 @@ int run(const QStringList &arguments)
         if (!event)
             return fail(error);
         if (std::none_of(event->clips.begin(), event->clips.end(), [&](const ClipRef &c) { return c.camera == *camera; }))
-            return fail(QStringLiteral("The %1 camera has no footage in this event.").arg(camera->displayName()));
+            //: %1 is a camera's name, such as "Front"
+            return fail(CliOutput::tr("The %1 camera has no footage in this event.").arg(camera->displayName()));
         if (event->encrypted) {
             std::vector<ClipRef> clips;
             std::copy_if(event->clips.begin(), event->clips.end(), std::back_inserter(clips),
@@ -241,8 +246,9 @@ int run(const QStringList &arguments)
         }
         const EventTelemetry telemetry = TelemetryTimeline::load(*event, *camera);
         if (!telemetry.hasRecords())
-            return fail(QStringLiteral("The %1 camera's clips of this event carry no driving data: cars record it "
-                                       "from software 2025.44.25 on, and not in every mode.")
+            //: %1 is a camera's name, such as "Front"; 2025.44.25 is a software version
+            return fail(CliOutput::tr("The %1 camera's clips of this event carry no driving data: cars record it "
+                                      "from software 2025.44.25 on, and not in every mode.")
                             .arg(camera->displayName()));
         const QByteArray bytes = format == QLatin1String("json") ? json(*event, telemetry)
             : format == QLatin1String("gpx")                     ? gpx(*event, telemetry)
@@ -253,7 +259,8 @@ int run(const QStringList &arguments)
         }
         QSaveFile file(output);
         if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-            return fail(QStringLiteral("Could not write %1: %2.").arg(QDir::toNativeSeparators(output), file.errorString()));
+            //: %1 is a file, %2 the system's reason
+            return fail(CliOutput::tr("Could not write %1: %2.").arg(QDir::toNativeSeparators(output), file.errorString()));
         return 0;
     }
 }

@@ -35,7 +35,7 @@ int run(const QStringList &arguments)
         return CliOutput::usageExit;
     }
     if (parser.isSet(forget) == parser.isSet(tokenFile)) {
-        CliOutput::err(CliOutput::tr("Usage: keelhold-cli unlock --token-file FILE | --forget"));
+        CliOutput::err(CliOutput::usage({QStringLiteral("keelhold-cli unlock --token-file FILE | --forget")}));
         return CliOutput::usageExit;
     }
 

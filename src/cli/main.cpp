@@ -1,3 +1,4 @@
+#include "base/Translations.h"
 #include "cli/CliDispatch.h"
 
 #include <QCoreApplication>
@@ -18,5 +19,7 @@ int main(int argc, char **argv)
     }
     QCoreApplication::setApplicationName(QStringLiteral("keelhold-cli"));
     QCoreApplication::setOrganizationName(QStringLiteral("Keelhold"));
+    // Sentences in the user's language; what scripts read never changes.
+    Translations::install();
     return CliDispatch::run(QCoreApplication::arguments());
 }

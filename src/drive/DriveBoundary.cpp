@@ -3,6 +3,7 @@
 #include "base/IOWatchdog.h"
 #include "base/LogCategories.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QStringList>
@@ -112,6 +113,13 @@ bool writesIntoDriveOf(const std::vector<TeslaEvent> &events, const QString &des
             return true;
     }
     return false;
+}
+
+QString vaultRefusalText() { return QCoreApplication::translate("DriveBoundary", vaultRefusal.toUtf8().constData()); }
+
+QString exportRefusalText()
+{
+    return QCoreApplication::translate("DriveBoundary", exportRefusal.toUtf8().constData());
 }
 
 } // namespace DriveBoundary

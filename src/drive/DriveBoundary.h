@@ -11,10 +11,15 @@
 // the same drive but outside TeslaCam, is still the drive.
 namespace DriveBoundary {
 
-inline const QString vaultRefusal = QStringLiteral(
-    "Keelhold never writes to your Tesla drive, so your Vault has to be a folder somewhere else.");
-inline const QString exportRefusal =
-    QStringLiteral("Keelhold never writes to your Tesla drive, so save the movie somewhere else.");
+// The refusals in English, as sources of the translation (context
+// "DriveBoundary"): what a person reads is vaultRefusalText() and
+// exportRefusalText(), in the loaded language.
+inline const QString vaultRefusal = QString::fromUtf8(QT_TRANSLATE_NOOP(
+    "DriveBoundary", "Keelhold never writes to your Tesla drive, so your Vault has to be a folder somewhere else."));
+inline const QString exportRefusal = QString::fromUtf8(
+    QT_TRANSLATE_NOOP("DriveBoundary", "Keelhold never writes to your Tesla drive, so save the movie somewhere else."));
+QString vaultRefusalText();
+QString exportRefusalText();
 
 // Whether writing at `destination` (a file or folder, there yet or not)
 // would land on the drive whose TeslaCam folder is `driveRoot`. A TeslaCam

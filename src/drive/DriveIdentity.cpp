@@ -21,3 +21,10 @@ bool DriveIdentity::isSameDrive(const DriveIdentity &other) const
         return uuid == other.uuid;
     return name == other.name && capacityBytes == other.capacityBytes;
 }
+
+QString DriveIdentity::key() const
+{
+    if (uuid)
+        return QStringLiteral("uuid:") + *uuid;
+    return QStringLiteral("name:%1|%2").arg(name, capacityBytes ? QString::number(*capacityBytes) : QString());
+}

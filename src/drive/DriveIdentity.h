@@ -20,6 +20,9 @@ struct DriveIdentity {
     // Two file systems with UUIDs are the same drive when the UUIDs are; one
     // with and one without never are; two without, when name and size agree.
     bool isSameDrive(const DriveIdentity &other) const;
+    // The same rule as one string, for a list in the settings: "uuid:<uuid>",
+    // else "name:<name>|<bytes>". Two keys are equal exactly when isSameDrive.
+    QString key() const;
 
     bool operator==(const DriveIdentity &) const = default;
 };

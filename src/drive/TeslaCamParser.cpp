@@ -8,32 +8,46 @@
 #include "drive/ReasonMapper.h"
 #include "drive/VolumeInfo.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <cerrno>
 #include <set>
 
 namespace TeslaCamParser {
 
+// what() keeps the English source for the log; message() translates it.
 const char *ParserError::what() const noexcept
 {
     switch (case_) {
-    case rootNotFound: return "The TeslaCam folder could not be found.";
-    case rootNotAFolder: return "The selected item is not a folder.";
+    case rootNotFound: return QT_TRANSLATE_NOOP("TeslaCamParser", "The TeslaCam folder could not be found.");
+    case rootNotAFolder: return QT_TRANSLATE_NOOP("TeslaCamParser", "The selected item is not a folder.");
     }
-    return "The TeslaCam folder could not be read.";
+    return QT_TRANSLATE_NOOP("TeslaCamParser", "The TeslaCam folder could not be read.");
+}
+
+QString ParserError::message() const { return QCoreApplication::translate("TeslaCamParser", what()); }
+
+namespace {
+//: %1 is the folder's full path
+const char *const accessDeniedText = QT_TRANSLATE_NOOP("TeslaCamParser",
+                                                       "Keelhold isn't allowed to read the folder \u201c%1\u201d. "
+                                                       "Check the folder's permissions and try again.");
+} // namespace
+
+ScanError::ScanError(const QString &path)
+    : path_(path), text_(QString::fromUtf8(accessDeniedText).arg(path).toStdString())
+{
 }
 
 QString ScanError::message() const
 {
-    return QStringLiteral("Keelhold isn't allowed to read the folder \u201c%1\u201d. Check the folder's permissions "
-                          "and try again.")
-        .arg(path_);
+    return QCoreApplication::translate("TeslaCamParser", accessDeniedText).arg(path_);
 }
 
 namespace {
 
 constexpr qint64 maxEventJSONBytes = 1 << 20;
-constexpr double recentGapTolerance = 150.0;
 
 std::optional<ClipRef> clipFromName(const QString &fileURL, QStringView name, std::vector<ScanIssue> &issues,
                                     std::optional<qint64> knownSize)
@@ -65,10 +79,10 @@ std::optional<ClipRef> clipFromName(const QString &fileURL, QStringView name, st
     return clip;
 }
 
-void report(const ScanProgressCallback &progress, const char16_t *phase, int folders, int events, int clips)
+void report(const ScanProgressCallback &progress, const char *phase, int folders, int events, int clips)
 {
     if (progress)
-        progress(ScanProgress{QString::fromUtf16(phase), folders, events, clips});
+        progress(ScanProgress{QCoreApplication::translate("TeslaCamParser", phase), folders, events, clips});
 }
 
 QString childPath(const QString &folder, const QString &name)
@@ -117,7 +131,7 @@ void scanLayout(const QString &base, const ScanProgressCallback &progress, int &
     struct EventFolder {
         const char *name;
         EventKind kind;
-        const char16_t *phase;
+        const char *phase;
     };
     for (const EventFolder &f : {EventFolder{"SentryClips", EventKind::sentry, Phase::sentry},
                                  EventFolder{"SavedClips", EventKind::saved, Phase::saved}}) {

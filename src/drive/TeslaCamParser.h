@@ -23,7 +23,8 @@ public:
     explicit ParserError(Case c) : case_(c) {}
     Case errorCase() const { return case_; }
     const char *what() const noexcept override;
-    QString message() const { return QString::fromUtf8(what()); }
+    // The sentence for the user, in the loaded language.
+    QString message() const;
 
 private:
     Case case_;
@@ -33,8 +34,9 @@ class ScanError : public std::exception {
 public:
     // accessDenied(path:), the only case: the chosen folder itself refuses
     // listing. Any folder below it that does becomes a ScanIssue instead.
-    explicit ScanError(const QString &path) : path_(path), text_(message().toStdString()) {}
+    explicit ScanError(const QString &path);
     const QString &path() const { return path_; }
+    // The sentence for the user, in the loaded language; what() is English.
     QString message() const;
     const char *what() const noexcept override { return text_.c_str(); }
 
@@ -51,6 +53,8 @@ std::optional<std::vector<ClipRef>> parseFlatClipsDirectory(const QString &folde
 // knownSize skips the size read when a listing already fetched it.
 std::optional<ClipRef> parseClipFilename(const QString &fileURL, std::vector<ScanIssue> &issues,
                                          std::optional<qint64> knownSize = std::nullopt);
+// Recent clips further apart than this (seconds) are two drives.
+inline constexpr double recentGapTolerance = 150.0;
 std::vector<TeslaEvent> groupIntoRecentEvents(const std::vector<ClipRef> &clips, const QString &folderURL,
                                               double gapTolerance);
 VolumeFormat volumeFormat(const std::optional<QString> &description);
@@ -58,13 +62,17 @@ VolumeFormat volumeFormat(const std::optional<QString> &description);
 // encrypted until a probe or a key says more.
 void markEncrypted(TeslaEvent &event);
 
-// Progress texts, in order of appearance.
+// Progress texts, in order of appearance: the English sources, translated
+// when reported (context "TeslaCamParser").
 namespace Phase {
-inline constexpr const char16_t *reading = u"Reading your Tesla drive\u2026";
-inline constexpr const char16_t *sentry = u"Reading Sentry events\u2026";
-inline constexpr const char16_t *saved = u"Reading Saved clips\u2026";
-inline constexpr const char16_t *recent = u"Reading Recent driving\u2026";
-inline constexpr const char16_t *complete = u"Scan complete.";
+inline constexpr const char *reading = QT_TRANSLATE_NOOP("TeslaCamParser", "Reading your Tesla drive\u2026");
+//: Scan progress: reading the SentryClips folder
+inline constexpr const char *sentry = QT_TRANSLATE_NOOP("TeslaCamParser", "Reading Sentry events\u2026");
+//: Scan progress: reading the SavedClips folder
+inline constexpr const char *saved = QT_TRANSLATE_NOOP("TeslaCamParser", "Reading Saved clips\u2026");
+//: Scan progress: reading the RecentClips folder
+inline constexpr const char *recent = QT_TRANSLATE_NOOP("TeslaCamParser", "Reading Recent driving\u2026");
+inline constexpr const char *complete = QT_TRANSLATE_NOOP("TeslaCamParser", "Scan complete.");
 } // namespace Phase
 
 } // namespace TeslaCamParser

@@ -209,3 +209,13 @@ void LiveEngine::setFlag(const QString &key, bool value)
 {
     QSettings(QStringLiteral("Keelhold"), QStringLiteral("Keelhold")).setValue(key, value);
 }
+
+QStringList LiveEngine::list(const QString &key)
+{
+    return QSettings(QStringLiteral("Keelhold"), QStringLiteral("Keelhold")).value(key).toStringList();
+}
+
+void LiveEngine::setList(const QString &key, const QStringList &value)
+{
+    QSettings(QStringLiteral("Keelhold"), QStringLiteral("Keelhold")).setValue(key, value);
+}

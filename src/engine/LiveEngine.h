@@ -61,6 +61,8 @@ public:
                                  CombinedExportProgressCallback progress) override;
 
     bool flag(const QString &key, bool fallback) override;
+    QStringList list(const QString &key) override;
+    void setList(const QString &key, const QStringList &value) override;
     void setFlag(const QString &key, bool value) override;
 
 private:

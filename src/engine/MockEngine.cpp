@@ -5,6 +5,7 @@
 #include "timeline/TelemetryTimeline.h"
 #include "model/ArchivedEvent.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
 #include <QThreadPool>
@@ -181,9 +182,14 @@ const std::vector<TeslaEvent> &MockEngine::demoEvents()
 QFuture<DriveScan> MockEngine::scanDrive(const QString &root, ScanProgressCallback progress)
 {
     return AsyncRun::cancellable(generalPool(), [root, progress](std::stop_token stop) {
-        static const std::array<const char16_t *, 5> phases{u"Reading your drive\u2026", u"Reading Sentry events\u2026",
-                                                             u"Reading saved clips\u2026", u"Reading recent driving\u2026",
-                                                             u"Almost done\u2026"};
+        // The demo's own progress texts, translated as reported.
+        static const std::array<const char *, 5> phases{
+            QT_TRANSLATE_NOOP("MockEngine", "Reading your drive\u2026"),
+            QT_TRANSLATE_NOOP("MockEngine", "Reading Sentry events\u2026"),
+            QT_TRANSLATE_NOOP("MockEngine", "Reading saved clips\u2026"),
+            QT_TRANSLATE_NOOP("MockEngine", "Reading recent driving\u2026"),
+            QT_TRANSLATE_NOOP("MockEngine", "Almost done\u2026"),
+        };
         const std::vector<TeslaEvent> &demo = demoEvents();
         // Added to, not rebuilt, so the counts climb through 0, 2, 6, 12, 18.
         std::vector<TeslaEvent> running;
@@ -198,7 +204,8 @@ QFuture<DriveScan> MockEngine::scanDrive(const QString &root, ScanProgressCallba
             for (const TeslaEvent &e : running)
                 clips += int(e.clips.size());
             if (progress)
-                progress(ScanProgress{QString::fromUtf16(phases[size_t(i)]), 6 * i + 6, int(running.size()), clips});
+                progress(ScanProgress{QCoreApplication::translate("MockEngine", phases[size_t(i)]), 6 * i + 6,
+                                      int(running.size()), clips});
         }
         DriveScan scan;
         scan.teslaCamURL = root;

@@ -66,6 +66,8 @@ public:
 
     bool flag(const QString &key, bool fallback) override { return flags_.value(key, fallback); }
     void setFlag(const QString &key, bool value) override { flags_.insert(key, value); }
+    QStringList list(const QString &key) override { return lists_.value(key); }
+    void setList(const QString &key, const QStringList &value) override { lists_.insert(key, value); }
 
 private:
     struct State {
@@ -79,4 +81,5 @@ private:
     // Nothing is ever sent on it.
     std::shared_ptr<DriveEventStream> driveEventStream_;
     QHash<QString, bool> flags_; // main thread only
+    QHash<QString, QStringList> lists_;
 };

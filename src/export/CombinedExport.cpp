@@ -11,6 +11,7 @@
 #include "timeline/EventTimeline.h"
 #include "timeline/TelemetryTimeline.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -34,6 +35,12 @@ namespace {
 QString shown(const QString &path)
 {
     return QDir::toNativeSeparators(path);
+}
+
+QString alreadyThere()
+{
+    //: %1 is the movie's full path
+    return QCoreApplication::translate("CombinedExport", "There is already a file at \u201c%1\u201d.");
 }
 
 // Takes the finished movie's name, never over a file that came meanwhile.
@@ -71,12 +78,15 @@ std::vector<EventTimeline::CameraTrack> chooseCameras(std::vector<EventTimeline:
         std::stable_partition(tracks.begin(), tracks.end(),
                               [](const EventTimeline::CameraTrack &t) { return t.camera == Camera::front; });
     if (std::none_of(tracks.begin(), tracks.end(), [](const EventTimeline::CameraTrack &t) { return bool(t.composition); }))
-        throw ExportError::failed(QStringLiteral("None of this event's cameras has playable footage."));
+        throw ExportError::failed(
+            QCoreApplication::translate("CombinedExport", "None of this event's cameras has playable footage."));
     return tracks;
 }
 
 } // namespace
 
+// A file name: in English whatever the language shown, like the name it
+// is made from.
 QString suggestedFileName(const TeslaEvent &event, const CombinedExportOptions &options)
 {
     QString what;
@@ -88,7 +98,7 @@ QString suggestedFileName(const TeslaEvent &event, const CombinedExportOptions &
         what = QStringLiteral("Front and Sides");
         break;
     case Layout::single:
-        what = options.camera.value_or(Camera::front).displayName() + QStringLiteral(" with Overlay");
+        what = options.camera.value_or(Camera::front).englishName() + QStringLiteral(" with Overlay");
         break;
     }
     // The single-camera name with another word where the camera's stands.
@@ -102,12 +112,14 @@ void exportMovie(const TeslaEvent &event, const CombinedExportOptions &options, 
 {
     const QFileInfo target(destination);
     if (target.exists() || target.isSymLink())
-        throw ExportError::failed(QStringLiteral("There is already a file at \u201c%1\u201d.").arg(shown(destination)));
+        throw ExportError::failed(alreadyThere().arg(shown(destination)));
     if (!target.absoluteDir().exists())
+        //: %1 is a folder's full path
         throw ExportError::failed(
-            QStringLiteral("The folder \u201c%1\u201d doesn't exist.").arg(shown(target.absolutePath())));
+            QCoreApplication::translate("CombinedExport", "The folder \u201c%1\u201d doesn't exist.")
+                .arg(shown(target.absolutePath())));
     if (DriveBoundary::writesIntoDriveOf({event}, destination))
-        throw ExportError::failed(DriveBoundary::exportRefusal);
+        throw ExportError::failed(DriveBoundary::exportRefusalText());
 
     const auto origin = event.earliestClipDate();
     if (!origin)
@@ -131,7 +143,8 @@ void exportMovie(const TeslaEvent &event, const CombinedExportOptions &options, 
         footage.to = std::min(options.range->second, length);
     }
     if (!(footage.to > footage.from))
-        throw ExportError::failed(QStringLiteral("The chosen stretch lies outside this event's footage."));
+        throw ExportError::failed(
+            QCoreApplication::translate("CombinedExport", "The chosen stretch lies outside this event's footage."));
     footage.reasonLine = OverlayText::reasonLine(event);
     if (options.overlay.telemetry) {
         // The front camera's, as the player shows; each clip is read whole,
@@ -175,9 +188,11 @@ void exportMovie(const TeslaEvent &event, const CombinedExportOptions &options, 
         throw ExportError(ExportError::cancelled);
     if (!moveIntoPlace(temporary, destination)) {
         if (QFileInfo::exists(destination))
-            throw ExportError::failed(
-                QStringLiteral("There is already a file at \u201c%1\u201d.").arg(shown(destination)));
-        throw ExportError::failed(QStringLiteral("The movie couldn't be given its name \u201c%1\u201d.").arg(shown(destination)));
+            throw ExportError::failed(alreadyThere().arg(shown(destination)));
+        //: %1 is the movie's full path
+        throw ExportError::failed(
+            QCoreApplication::translate("CombinedExport", "The movie couldn't be given its name \u201c%1\u201d.")
+                .arg(shown(destination)));
     }
 }
 

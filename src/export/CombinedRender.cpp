@@ -18,6 +18,7 @@ extern "C" {
 #include <libavutil/hwcontext.h>
 }
 
+#include <QCoreApplication>
 #include <QFile>
 #include <cmath>
 #include <limits>
@@ -175,7 +176,7 @@ void CombinedRender::attempt(const QString &path, bool hardware, const CombinedE
         try {
             writer.write(packet);
         } catch (const Mp4Writer::PacketRefused &) {
-            throw ExportError::failed(QStringLiteral("The movie couldn't be written."));
+            throw ExportError::failed(QCoreApplication::translate("CombinedRender", "The movie couldn't be written."));
         }
         wrote = true;
     };

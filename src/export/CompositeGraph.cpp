@@ -15,6 +15,7 @@ extern "C" {
 #include <libavutil/pixdesc.h>
 }
 
+#include <QCoreApplication>
 #include <QStringList>
 #include <initializer_list>
 #include <utility>
@@ -30,20 +31,28 @@ const char *font = "DejaVu Sans";
 
 using Options = std::initializer_list<std::pair<const char *, QString>>;
 
+// what: the step that failed, translated (or a filter's own name).
 [[noreturn]] void unavailable(const QString &what, int averror = 0)
 {
+    if (averror >= 0)
+        //: %1 is the step that failed, e.g. "stacking"
+        throw ExportError::failed(
+            QCoreApplication::translate("CompositeGraph", "The movie's pictures couldn't be put together (%1).")
+                .arg(what));
     char text[AV_ERROR_MAX_STRING_SIZE] = {};
-    if (averror < 0)
-        av_strerror(averror, text, sizeof text);
-    throw ExportError::failed(QStringLiteral("The movie's pictures couldn't be put together (%1%2).")
-                                  .arg(what, averror < 0 ? QStringLiteral(": ") + QString::fromLocal8Bit(text) : QString()));
+    av_strerror(averror, text, sizeof text);
+    //: %1 is the step that failed, e.g. "stacking"; %2 the video library's reason
+    throw ExportError::failed(
+        QCoreApplication::translate("CompositeGraph", "The movie's pictures couldn't be put together (%1: %2).")
+            .arg(what, QString::fromLocal8Bit(text)));
 }
 
 AVFilterContext *addFilter(AVFilterGraph *graph, const char *filter, const QString &name, Options options)
 {
     const AVFilter *type = avfilter_get_by_name(filter);
     if (!type)
-        unavailable(QStringLiteral("no %1 filter").arg(QString::fromLatin1(filter)));
+        //: Step of putting a movie's pictures together: %1 is a video filter's name
+        unavailable(QCoreApplication::translate("CompositeGraph", "no %1 filter").arg(QString::fromLatin1(filter)));
     AVFilterContext *context = avfilter_graph_alloc_filter(graph, type, name.toUtf8().constData());
     if (!context)
         unavailable(QString::fromLatin1(filter), AVERROR(ENOMEM));
@@ -60,7 +69,9 @@ void link(AVFilterContext *from, AVFilterContext *to, unsigned pad = 0)
 {
     const int result = avfilter_link(from, 0, to, pad);
     if (result < 0)
-        unavailable(QStringLiteral("linking %1").arg(QString::fromUtf8(to->name)), result);
+        //: Step of putting a movie's pictures together: %1 is a video filter's name
+        unavailable(QCoreApplication::translate("CompositeGraph", "linking %1").arg(QString::fromUtf8(to->name)),
+                    result);
 }
 
 AVFilterContext *chain(AVFilterGraph *graph, AVFilterContext *from, const char *filter, const QString &name,
@@ -111,7 +122,8 @@ void configure(AVFilterGraph *graph)
 {
     const int result = avfilter_graph_config(graph, nullptr);
     if (result < 0)
-        unavailable(QStringLiteral("configuring"), result);
+        //: Step of putting a movie's pictures together: setting up the video filters
+        unavailable(QCoreApplication::translate("CompositeGraph", "configuring"), result);
 }
 
 // A copy of the picture with words in its middle, in grey.
@@ -120,7 +132,8 @@ Av::Frame withWords(const AVFrame *picture, const QString &words, int size, cons
 {
     const Av::FilterGraph graph(avfilter_graph_alloc());
     if (!graph)
-        unavailable(QStringLiteral("memory"), AVERROR(ENOMEM));
+        //: Step of putting a movie's pictures together: getting memory
+        unavailable(QCoreApplication::translate("CompositeGraph", "memory"), AVERROR(ENOMEM));
     AVFilterContext *source = addFilter(
         graph.get(), "buffer", QStringLiteral("picture"),
         {{"video_size", QStringLiteral("%1x%2").arg(picture->width).arg(picture->height)},
@@ -136,7 +149,7 @@ Av::Frame withWords(const AVFrame *picture, const QString &words, int size, cons
     Av::Frame in(av_frame_clone(picture));
     Av::Frame out(av_frame_alloc());
     if (!in || !out)
-        unavailable(QStringLiteral("memory"), AVERROR(ENOMEM));
+        unavailable(QCoreApplication::translate("CompositeGraph", "memory"), AVERROR(ENOMEM));
     in->pts = 0;
     int result = av_buffersrc_add_frame_flags(source, in.get(), 0);
     if (result >= 0)
@@ -144,7 +157,8 @@ Av::Frame withWords(const AVFrame *picture, const QString &words, int size, cons
     if (result >= 0)
         result = av_buffersink_get_frame(sink, out.get());
     if (result < 0)
-        unavailable(QStringLiteral("drawing a name"), result);
+        //: Step of putting a movie's pictures together: drawing words on a picture
+        unavailable(QCoreApplication::translate("CompositeGraph", "drawing a name"), result);
     return out;
 }
 } // namespace
@@ -155,10 +169,11 @@ CompositeGraph::CompositeGraph(const CombinedLayout &layout, const std::vector<I
 {
     const auto &cells = layout.cells();
     if (cells.empty() || cells.size() != inputs.size())
-        unavailable(QStringLiteral("no cameras"));
+        //: Step of putting a movie's pictures together: there were no cameras to show
+        unavailable(QCoreApplication::translate("CompositeGraph", "no cameras"));
     compose_.reset(avfilter_graph_alloc());
     if (!compose_)
-        unavailable(QStringLiteral("memory"), AVERROR(ENOMEM));
+        unavailable(QCoreApplication::translate("CompositeGraph", "memory"), AVERROR(ENOMEM));
     const QString timeBase = QStringLiteral("1/%1").arg(framesPerSecond);
     const QString rate = QStringLiteral("%1/1").arg(framesPerSecond);
     const int labelSize = layout.labelTextSize();
@@ -173,7 +188,8 @@ CompositeGraph::CompositeGraph(const CombinedLayout &layout, const std::vector<I
         const AVPixelFormat format = AVPixelFormat(input.pixelFormat);
         const char *formatName = av_get_pix_fmt_name(format);
         if (!formatName)
-            unavailable(QStringLiteral("unknown picture format"));
+            //: Step of putting a movie's pictures together: a camera's picture format was not known
+            unavailable(QCoreApplication::translate("CompositeGraph", "unknown picture format"));
         const QString suffix = QString::number(i);
         AVFilterContext *source = addFilter(compose_.get(), "buffer", QStringLiteral("in") + suffix,
                                             {{"video_size", QStringLiteral("%1x%2").arg(input.width).arg(input.height)},
@@ -186,7 +202,7 @@ CompositeGraph::CompositeGraph(const CombinedLayout &layout, const std::vector<I
         // The black a missing minute shows, in the camera's own format.
         Av::Frame black(av_frame_alloc());
         if (!black)
-            unavailable(QStringLiteral("memory"), AVERROR(ENOMEM));
+            unavailable(QCoreApplication::translate("CompositeGraph", "memory"), AVERROR(ENOMEM));
         black->format = format;
         black->width = input.width;
         black->height = input.height;
@@ -194,7 +210,7 @@ CompositeGraph::CompositeGraph(const CombinedLayout &layout, const std::vector<I
             || format == AV_PIX_FMT_YUVJ444P;
         black->color_range = fullRange ? AVCOL_RANGE_JPEG : AVCOL_RANGE_MPEG;
         if (av_frame_get_buffer(black.get(), 0) < 0)
-            unavailable(QStringLiteral("memory"), AVERROR(ENOMEM));
+            unavailable(QCoreApplication::translate("CompositeGraph", "memory"), AVERROR(ENOMEM));
         ptrdiff_t linesizes[4] = {black->linesize[0], black->linesize[1], black->linesize[2], black->linesize[3]};
         av_image_fill_black(black->data, linesizes, format, black->color_range, input.width, input.height);
         // The camera's name goes on once, at the size it will have in its
@@ -244,7 +260,7 @@ CompositeGraph::CompositeGraph(const CombinedLayout &layout, const std::vector<I
         return;
     overlay_.reset(avfilter_graph_alloc());
     if (!overlay_)
-        unavailable(QStringLiteral("memory"), AVERROR(ENOMEM));
+        unavailable(QCoreApplication::translate("CompositeGraph", "memory"), AVERROR(ENOMEM));
     overlayIn_ = addFilter(overlay_.get(), "buffer", QStringLiteral("canvas"),
                            {{"video_size", QStringLiteral("%1x%2").arg(layout.width()).arg(layout.height())},
                             {"pix_fmt", QStringLiteral("yuv420p")},
@@ -283,12 +299,13 @@ void CompositeGraph::add(int64_t tick, const std::vector<const AVFrame *> &pictu
         const AVFrame *picture = i < pictures.size() ? pictures[i] : nullptr;
         Av::Frame frame(av_frame_clone(picture ? picture : black_[i].get()));
         if (!frame)
-            unavailable(QStringLiteral("memory"), AVERROR(ENOMEM));
+            unavailable(QCoreApplication::translate("CompositeGraph", "memory"), AVERROR(ENOMEM));
         frame->pts = tick;
         frame->pict_type = AV_PICTURE_TYPE_NONE;
         const int result = av_buffersrc_add_frame_flags(sources_[i], frame.get(), 0);
         if (result < 0)
-            unavailable(QStringLiteral("adding a picture"), result);
+            //: Step of putting a movie's pictures together: adding a camera's picture
+            unavailable(QCoreApplication::translate("CompositeGraph", "adding a picture"), result);
     }
     drain(sink);
 }
@@ -297,11 +314,12 @@ void CompositeGraph::finish(const Sink &sink)
 {
     for (AVFilterContext *source : sources_)
         if (const int result = av_buffersrc_add_frame_flags(source, nullptr, 0); result < 0)
-            unavailable(QStringLiteral("ending"), result);
+            //: Step of putting a movie's pictures together: ending the movie
+            unavailable(QCoreApplication::translate("CompositeGraph", "ending"), result);
     drain(sink);
     if (overlay_) {
         if (const int result = av_buffersrc_add_frame_flags(overlayIn_, nullptr, 0); result < 0)
-            unavailable(QStringLiteral("ending"), result);
+            unavailable(QCoreApplication::translate("CompositeGraph", "ending"), result);
         decorate(nullptr, sink);
     }
 }
@@ -312,12 +330,13 @@ void CompositeGraph::drain(const Sink &sink)
     for (;;) {
         Av::Frame canvas(av_frame_alloc());
         if (!canvas)
-            unavailable(QStringLiteral("memory"), AVERROR(ENOMEM));
+            unavailable(QCoreApplication::translate("CompositeGraph", "memory"), AVERROR(ENOMEM));
         const int result = av_buffersink_get_frame(composed_, canvas.get());
         if (result == AVERROR(EAGAIN) || result == AVERROR_EOF)
             return;
         if (result < 0)
-            unavailable(QStringLiteral("stacking"), result);
+            //: Step of putting a movie's pictures together: putting the cameras side by side
+            unavailable(QCoreApplication::translate("CompositeGraph", "stacking"), result);
         canvas->pts = av_rescale_q(canvas->pts, base, AVRational{1, framesPerSecond_});
         decorate(canvas.release(), sink);
     }
@@ -354,18 +373,19 @@ void CompositeGraph::decorate(AVFrame *canvas, const Sink &sink)
         }
         const int result = av_buffersrc_add_frame_flags(overlayIn_, owned.get(), 0);
         if (result < 0)
-            unavailable(QStringLiteral("drawing the time"), result);
+            //: Step of putting a movie's pictures together: drawing the date and time
+            unavailable(QCoreApplication::translate("CompositeGraph", "drawing the time"), result);
     }
     const AVRational base = av_buffersink_get_time_base(overlayOut_);
     for (;;) {
         Av::Frame finished(av_frame_alloc());
         if (!finished)
-            unavailable(QStringLiteral("memory"), AVERROR(ENOMEM));
+            unavailable(QCoreApplication::translate("CompositeGraph", "memory"), AVERROR(ENOMEM));
         const int result = av_buffersink_get_frame(overlayOut_, finished.get());
         if (result == AVERROR(EAGAIN) || result == AVERROR_EOF)
             return;
         if (result < 0)
-            unavailable(QStringLiteral("drawing the time"), result);
+            unavailable(QCoreApplication::translate("CompositeGraph", "drawing the time"), result);
         finished->pts = av_rescale_q(finished->pts, base, AVRational{1, framesPerSecond_});
         marked(finished.release());
     }

@@ -7,6 +7,8 @@ extern "C" {
 #include <libavutil/frame.h>
 }
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <cmath>
 
@@ -148,7 +150,9 @@ DrivingDataPanel::Reading DrivingDataPanel::read(const TelemetryRecord &record, 
     r.blinkerLeft = record.blinkerLeft;
     r.blinkerRight = record.blinkerRight;
     const QString angle = DrivingDataText::steering(record.steeringAngle);
-    r.steering = angle.isEmpty() ? QString() : QStringLiteral("Steering ") + angle;
+    //: Driving data drawn over an exported movie: %1 is the wheel's angle, e.g. "12° left"
+    r.steering =
+        angle.isEmpty() ? QString() : QCoreApplication::translate("DrivingDataPanel", "Steering %1").arg(angle);
     r.assistance = DrivingDataText::assistance(record.autopilot);
     // Lighter than the map's route colour: these are words on a dark box.
     r.assistanceColour = DrivingDataText::assistanceColour(record.autopilot).lighter(150);
@@ -177,7 +181,8 @@ void DrivingDataPanel::label(AVFrame *canvas, const std::optional<Reading> &read
                 text = r.unit;
                 colour = dim;
             } else if (w.key == QLatin1String("brake")) {
-                text = QStringLiteral("BRAKE");
+                //: Word on the brake lamp of the driving data drawn over an exported movie; keep it short
+                text = QCoreApplication::translate("DrivingDataPanel", "BRAKE");
                 colour = r.brake ? lit : dim;
             } else if (w.key == QLatin1String("pedal")) {
                 text = r.pedalText;

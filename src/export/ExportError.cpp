@@ -1,5 +1,7 @@
 #include "export/ExportError.h"
 
+#include <QCoreApplication>
+
 namespace Exporter {
 
 ExportError::ExportError(Case c, const QString &text)
@@ -11,15 +13,17 @@ QString ExportError::message() const
 {
     switch (case_) {
     case exportFailed:
-        return text_.isEmpty() ? QStringLiteral("Unknown export failure.") : text_;
+        return text_.isEmpty() ? QCoreApplication::translate("ExportError", "Unknown export failure.") : text_;
     case noClipsForCamera:
-        return QStringLiteral("There is no playable footage from this camera in this event.");
+        return QCoreApplication::translate("ExportError",
+                                           "There is no playable footage from this camera in this event.");
     case compositionFailed:
-        return QStringLiteral("The footage couldn't be put together into one movie.");
+        return QCoreApplication::translate("ExportError", "The footage couldn't be put together into one movie.");
     case exportSessionUnavailable:
-        return QStringLiteral("This footage can't be written as an MP4 movie with the video tools on this computer.");
+        return QCoreApplication::translate("ExportError", "This footage can't be written as an MP4 movie with the "
+                                                          "video tools on this computer.");
     case cancelled:
-        return QStringLiteral("The export was stopped.");
+        return QCoreApplication::translate("ExportError", "The export was stopped.");
     }
     return QString();
 }

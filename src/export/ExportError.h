@@ -6,8 +6,9 @@
 
 namespace Exporter {
 
-// Why an export failed. Each case gives a plain sentence; only exportFailed
-// carries its own text, made where the failure happened.
+// Why an export failed. Each case gives a plain sentence, translated; only
+// exportFailed carries its own text, made (and translated) where the failure
+// happened.
 class ExportError : public std::exception {
 public:
     enum Case { exportFailed, noClipsForCamera, compositionFailed, exportSessionUnavailable, cancelled };

@@ -10,6 +10,8 @@ extern "C" {
 #include <libavformat/avformat.h>
 }
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <cmath>
 #include <optional>
@@ -108,7 +110,7 @@ void ExportSession::run()
                 videoWritten_ = true;
             });
         } catch (const Mp4Writer::PacketRefused &) {
-            throw ExportError::failed(QStringLiteral("The movie couldn't be written."));
+            throw ExportError::failed(QCoreApplication::translate("ExportSession", "The movie couldn't be written."));
         }
     }
     // Clips that open but give up no picture in the stretch make no movie.
@@ -177,7 +179,8 @@ void ExportSession::copyClip(const ExportSegment &segment)
 
     const Av::Packet packet(av_packet_alloc());
     if (!packet)
-        throw ExportError::failed(QStringLiteral("There wasn't enough memory to export the footage."));
+        throw ExportError::failed(
+            QCoreApplication::translate("ExportSession", "There wasn't enough memory to export the footage."));
     // How far into the clip its pictures and sound really went.
     double reached = std::max(0.0, localLower);
     // One picture's time; a damaged table's rate says nothing useful.

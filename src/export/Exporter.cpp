@@ -5,6 +5,7 @@
 #include "export/ExportComposition.h"
 #include "export/ExportSession.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include "media/ClipReader.h"
 #include "media/MediaClip.h"
@@ -24,12 +25,13 @@ QString suggestedStem(const TeslaEvent &event)
 {
     // A point instead of a colon, so the name is a valid file name everywhere.
     const QString date = event.timestamp.formatLocal(QStringLiteral("yyyy-MM-dd h.mm AP"));
-    return QStringLiteral("Tesla %1 %2").arg(event.kind.displayName(), date);
+    // A file name: in English whatever the language shown.
+    return QStringLiteral("Tesla %1 %2").arg(event.kind.englishName(), date);
 }
 
 QString suggestedFileName(const TeslaEvent &event, Camera camera)
 {
-    return QStringLiteral("%1 \u2014 %2.mp4").arg(suggestedStem(event), camera.displayName());
+    return QStringLiteral("%1 \u2014 %2.mp4").arg(suggestedStem(event), camera.englishName());
 }
 
 void exportFootage(Camera camera, const TeslaEvent &event, std::optional<std::pair<double, double>> range,
@@ -38,7 +40,7 @@ void exportFootage(Camera camera, const TeslaEvent &event, std::optional<std::pa
 {
     // Refused here too, whatever the caller checked: the car's drive is never written.
     if (DriveBoundary::writesIntoDriveOf({event}, destination))
-        throw ExportError::failed(DriveBoundary::exportRefusal);
+        throw ExportError::failed(DriveBoundary::exportRefusalText());
     std::vector<ClipRef> clips;
     for (const ClipRef &clip : event.clips)
         if (clip.camera == camera)
@@ -59,7 +61,8 @@ void exportFootage(Camera camera, const TeslaEvent &event, std::optional<std::pa
         upper = std::min(range->second, composition->duration);
     }
     if (!(upper > lower))
-        throw ExportError::failed(QStringLiteral("The chosen stretch lies outside this camera's footage."));
+        throw ExportError::failed(
+            QCoreApplication::translate("Exporter", "The chosen stretch lies outside this camera's footage."));
 
     // A read stuck in the kernel must not hold a stopped export: the session
     // runs on a thread of its own, left behind if it can't end when asked.
@@ -89,8 +92,8 @@ void exportFootage(Camera camera, const TeslaEvent &event, std::optional<std::pa
     const auto written = MediaClip::open(destination, stop, options);
     if (!written->isOpened() || written->facts().verdict != HeaderCheck::ClipFacts::Verdict::sound) {
         QFile::remove(destination);
-        throw ExportError::failed(
-            QStringLiteral("This camera's clips are too damaged to make a movie that keeps its own timing."));
+        throw ExportError::failed(QCoreApplication::translate(
+            "Exporter", "This camera's clips are too damaged to make a movie that keeps its own timing."));
     }
 }
 

@@ -9,6 +9,7 @@ extern "C" {
 #include <libavutil/hwcontext.h>
 }
 
+#include <QCoreApplication>
 #include <QFile>
 
 using Exporter::ExportError;
@@ -47,7 +48,8 @@ std::unique_ptr<H264Encoder> H264Encoder::software(int width, int height, int fr
     self->context_.reset(avcodec_alloc_context3(codec));
     self->packet_.reset(av_packet_alloc());
     if (!self->context_ || !self->packet_)
-        throw ExportError::failed(QStringLiteral("There wasn't enough memory to export the footage."));
+        throw ExportError::failed(
+            QCoreApplication::translate("H264Encoder", "There wasn't enough memory to export the footage."));
     setCommon(self->context_.get(), width, height, framesPerSecond);
     self->context_->pix_fmt = AV_PIX_FMT_YUV420P;
     self->context_->thread_count = 0;
@@ -57,7 +59,9 @@ std::unique_ptr<H264Encoder> H264Encoder::software(int width, int height, int fr
     const int opened = avcodec_open2(self->context_.get(), codec, options.out());
     if (opened < 0)
         throw ExportError::failed(
-            QStringLiteral("The movie's video encoder couldn't be started: %1.").arg(errorText(opened)));
+            //: %1 is the video library's reason
+            QCoreApplication::translate("H264Encoder", "The movie's video encoder couldn't be started: %1.")
+                .arg(errorText(opened)));
     return self;
 }
 
@@ -116,7 +120,9 @@ void H264Encoder::encode(const AVFrame *frame, const PacketSink &sink)
     if (sent < 0 && sent != AVERROR_EOF) {
         if (hardware_)
             throw HardwareFailed();
-        throw ExportError::failed(QStringLiteral("The footage couldn't be encoded: %1.").arg(errorText(sent)));
+        //: %1 is the video library's reason
+        throw ExportError::failed(
+            QCoreApplication::translate("H264Encoder", "The footage couldn't be encoded: %1.").arg(errorText(sent)));
     }
     for (;;) {
         const int received = avcodec_receive_packet(context_.get(), packet_.get());
@@ -126,7 +132,8 @@ void H264Encoder::encode(const AVFrame *frame, const PacketSink &sink)
             if (hardware_)
                 throw HardwareFailed();
             throw ExportError::failed(
-                QStringLiteral("The footage couldn't be encoded: %1.").arg(errorText(received)));
+                QCoreApplication::translate("H264Encoder", "The footage couldn't be encoded: %1.")
+                    .arg(errorText(received)));
         }
         if (packet_->duration <= 0)
             packet_->duration = 1; // one frame in the time base

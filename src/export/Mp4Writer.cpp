@@ -10,6 +10,7 @@ extern "C" {
 #include <libavutil/mem.h>
 }
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <cerrno>
@@ -38,10 +39,16 @@ Mp4Writer::Mp4Writer(const QString &path, std::stop_token stop) : path_(path), s
         fd_ = ::open(QFile::encodeName(path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0644);
     } while (fd_ < 0 && errno == EINTR);
     if (fd_ < 0) {
-        if (errno == EEXIST)
-            throw ExportError::failed(QStringLiteral("There is already a file at \u201c%1\u201d.").arg(shown));
-        throw ExportError::failed(QStringLiteral("The movie file \u201c%1\u201d couldn't be created: %2.")
-                                      .arg(shown, QString::fromLocal8Bit(std::strerror(errno))));
+        // Taken before any other call can change it.
+        const int error = errno;
+        if (error == EEXIST)
+            //: %1 is the movie's full path
+            throw ExportError::failed(
+                QCoreApplication::translate("Mp4Writer", "There is already a file at \u201c%1\u201d.").arg(shown));
+        //: %1 is the movie's full path, %2 the system's reason
+        throw ExportError::failed(
+            QCoreApplication::translate("Mp4Writer", "The movie file \u201c%1\u201d couldn't be created: %2.")
+                .arg(shown, QString::fromLocal8Bit(std::strerror(error))));
     }
     // The muxer reopens the file by name to move the index to the front.
     const QByteArray url = "file:" + QFile::encodeName(path);
@@ -93,7 +100,8 @@ void Mp4Writer::begin()
     options.set("movflags", "+faststart");
     const int result = avformat_write_header(format_.get(), options.out());
     if (result < 0)
-        fail(QStringLiteral("The movie couldn't be started"), result);
+        //: %1 is the video library's reason
+        fail(QCoreApplication::translate("Mp4Writer", "The movie couldn't be started: %1."), result);
 }
 
 AVRational Mp4Writer::timeBase(int stream) const
@@ -144,24 +152,27 @@ void Mp4Writer::write(AVPacket *packet)
     if (result < 0 && !fileFailed_ && !stop_.stop_requested())
         throw PacketRefused();
     if (result < 0)
-        fail(QStringLiteral("The movie couldn't be written"), result);
+        //: %1 is the video library's reason
+        fail(QCoreApplication::translate("Mp4Writer", "The movie couldn't be written: %1."), result);
 }
 
 void Mp4Writer::finish()
 {
     const int result = av_write_trailer(format_.get());
+    //: %1 is the video library's reason
+    const char *const unfinished = QT_TRANSLATE_NOOP("Mp4Writer", "The movie couldn't be finished: %1.");
     if (result < 0)
-        fail(QStringLiteral("The movie couldn't be finished"), result);
+        fail(QCoreApplication::translate("Mp4Writer", unfinished), result);
     avio_flush(io_.get());
     if (io_->error < 0)
-        fail(QStringLiteral("The movie couldn't be finished"), io_->error);
+        fail(QCoreApplication::translate("Mp4Writer", unfinished), io_->error);
 }
 
-void Mp4Writer::fail(const QString &what, int averror) const
+void Mp4Writer::fail(const QString &sentence, int averror) const
 {
     if (stop_.stop_requested())
         throw ExportError(ExportError::cancelled);
-    throw ExportError::failed(QStringLiteral("%1: %2.").arg(what, errorText(averror)));
+    throw ExportError::failed(sentence.arg(errorText(averror)));
 }
 
 int Mp4Writer::writeBytes(void *opaque, uint8_t *buffer, int size)

@@ -57,7 +57,8 @@ public:
 private:
     static int writeBytes(void *opaque, uint8_t *buffer, int size);
     static int64_t seek(void *opaque, int64_t offset, int whence);
-    [[noreturn]] void fail(const QString &what, int averror) const;
+    // sentence holds %1 for the system's reason.
+    [[noreturn]] void fail(const QString &sentence, int averror) const;
 
     QString path_;
     std::stop_token stop_;

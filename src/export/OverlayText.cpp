@@ -1,5 +1,6 @@
 #include "export/OverlayText.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 
 namespace OverlayText {
@@ -14,8 +15,12 @@ QString reasonLine(const TeslaEvent &event)
 {
     QStringList parts;
     // Recent driving is its own reason; the kind would only repeat it.
-    parts << (event.kind == EventKind::recent ? event.reason.label()
-                                                 : event.kind.displayName() + QStringLiteral(": ") + event.reason.label());
+    if (event.kind == EventKind::recent)
+        parts << event.reason.label();
+    else
+        //: Drawn over an exported movie: %1 is the kind of event (Sentry, Saved), %2 why the car kept it
+        parts << QCoreApplication::translate("OverlayText", "%1: %2")
+                     .arg(event.kind.displayName(), event.reason.label());
     if (const std::optional<QString> place = event.placeName())
         parts << *place;
     if (event.latitude && event.longitude)
@@ -25,7 +30,8 @@ QString reasonLine(const TeslaEvent &event)
 
 QString noFootage(Camera camera)
 {
-    return camera.displayName() + QStringLiteral(" \u2014 no footage");
+    //: Drawn in a camera's cell of an exported movie: %1 is the camera's name
+    return QCoreApplication::translate("OverlayText", "%1 \u2014 no footage").arg(camera.displayName());
 }
 
 } // namespace OverlayText

@@ -12,6 +12,8 @@ extern "C" {
 #include <libswscale/swscale.h>
 }
 
+#include <QCoreApplication>
+
 using Exporter::ExportError;
 
 namespace {
@@ -146,19 +148,22 @@ void VideoReencoder::receiveFrames(const Placement &place, const PacketSink &sin
                                            AVPixelFormat(decoded->format), encoder_->width, encoder_->height,
                                            encoder_->pix_fmt, SWS_BICUBIC, nullptr, nullptr, nullptr));
         if (!scaler_)
-            throw ExportError::failed(QStringLiteral("The footage couldn't be converted for the movie."));
+            throw ExportError::failed(
+                QCoreApplication::translate("VideoReencoder", "The footage couldn't be converted for the movie."));
         const int *coefficients = sws_getCoefficients(SWS_CS_DEFAULT);
         sws_setColorspaceDetails(scaler_.get(), coefficients, isFullRange(decoded) ? 1 : 0, coefficients, 0, 0,
                                  1 << 16, 1 << 16);
         Av::Frame out(av_frame_alloc());
         if (!out)
-            throw ExportError::failed(QStringLiteral("There wasn't enough memory to convert the footage."));
+            throw ExportError::failed(
+                QCoreApplication::translate("VideoReencoder", "There wasn't enough memory to convert the footage."));
         out->format = encoder_->pix_fmt;
         out->width = encoder_->width;
         out->height = encoder_->height;
         out->color_range = AVCOL_RANGE_MPEG;
         if (av_frame_get_buffer(out.get(), 0) < 0)
-            throw ExportError::failed(QStringLiteral("There wasn't enough memory to convert the footage."));
+            throw ExportError::failed(
+                QCoreApplication::translate("VideoReencoder", "There wasn't enough memory to convert the footage."));
         sws_scale(scaler_.get(), decoded->data, decoded->linesize, 0, decoded->height, out->data, out->linesize);
         out->pts = *pts > lastPts_ ? *pts : lastPts_ + 1;
         lastPts_ = out->pts;
@@ -173,7 +178,9 @@ void VideoReencoder::encode(AVFrame *frame, const PacketSink &sink)
         char text[AV_ERROR_MAX_STRING_SIZE] = {};
         av_strerror(result, text, sizeof text);
         throw ExportError::failed(
-            QStringLiteral("The footage couldn't be encoded: %1.").arg(QString::fromLocal8Bit(text)));
+            //: %1 is the video library's reason
+            QCoreApplication::translate("VideoReencoder", "The footage couldn't be encoded: %1.")
+                .arg(QString::fromLocal8Bit(text)));
     }
     while (avcodec_receive_packet(encoder_.get(), encoded_.get()) >= 0) {
         // Encoders leave the duration out; the last picture needs one.

@@ -2,10 +2,18 @@
 
 #include "model/JsonCoding.h"
 
+#include <QCoreApplication>
 #include <QHashFunctions>
 #include <QStringList>
 #include <algorithm>
 #include <limits>
+
+QString ArchivedEvent::sourceVolumeText() const
+{
+    if (sourceVolume != unknownDrive)
+        return sourceVolume;
+    return QCoreApplication::translate("ArchivedEvent", unknownDrive.toUtf8().constData());
+}
 
 qint64 ArchivedEvent::totalBytes() const
 {

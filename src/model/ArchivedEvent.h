@@ -39,7 +39,12 @@ struct ArchivedEvent {
     QJsonObject toJson() const;
     static ArchivedEvent fromJson(const QJsonValue &value);
 
-    static inline const QString unknownDrive = QStringLiteral("Unknown Drive");
+    // The drive's name a person reads: the stored stand-in for an unreadable
+    // name (kept in English in manifest.json) in the loaded language.
+    QString sourceVolumeText() const;
+
+    //: Stands for the name of a drive that could not be read
+    static inline const QString unknownDrive = QString::fromUtf8(QT_TRANSLATE_NOOP("ArchivedEvent", "Unknown Drive"));
 };
 
 size_t qHash(const ArchivedEvent &e, size_t seed = 0) noexcept;

@@ -19,7 +19,10 @@ public:
     static const std::array<Camera, 7> &allCases();
 
     QString rawValue() const;
+    // The name a person reads, in the loaded language.
     QString displayName() const;
+    // The same name in English, for the file names of exports.
+    QString englishName() const;
     // Fixed display and sort order: front, pillars, repeaters, back, backup.
     int gridOrder() const;
 
@@ -36,7 +39,9 @@ private:
 
 inline size_t qHash(Camera c, size_t seed = 0) noexcept { return size_t(c.value()) ^ seed; }
 
+namespace std {
 template <>
-struct std::hash<Camera> {
+struct hash<Camera> {
     size_t operator()(Camera c) const noexcept { return size_t(c.value()); }
 };
+} // namespace std

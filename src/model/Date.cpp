@@ -1,5 +1,7 @@
 #include "model/Date.h"
 
+#include "base/Translations.h"
+
 #include <QHashFunctions>
 #include <QLocale>
 #include <chrono>
@@ -25,6 +27,24 @@ QDateTime Date::toQDateTime() const
 QString Date::formatLocal(const QString &pattern) const
 {
     return QLocale::c().toString(toLocalDateTime(), pattern);
+}
+
+QString Date::formatForPeople(const QString &englishPattern, Shown other) const
+{
+    if (Translations::current() == QLatin1String("en"))
+        return formatLocal(englishPattern);
+    const QLocale locale;
+    const QString date = locale.dateFormat(QLocale::ShortFormat);
+    const QString time = locale.timeFormat(QLocale::ShortFormat);
+    QString pattern;
+    switch (other) {
+    case Shown::date: pattern = date; break;
+    case Shown::time: pattern = time; break;
+    case Shown::timeWithSeconds: pattern = withoutZone(locale.timeFormat(QLocale::LongFormat)); break;
+    case Shown::dateAndTime: pattern = date + QLatin1Char(' ') + time; break;
+    case Shown::weekdayAndTime: pattern = QStringLiteral("ddd ") + time; break;
+    }
+    return locale.toString(toLocalDateTime(), pattern.trimmed());
 }
 
 QString Date::formatCarClock(const QLocale &locale, const QString &pattern) const

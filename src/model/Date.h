@@ -29,6 +29,11 @@ public:
     QDateTime toLocalDateTime() const { return toQDateTime().toLocalTime(); }
     // Formats in the machine's current local zone with a QDateTime pattern.
     QString formatLocal(const QString &pattern) const;
+    // For a person to read: the English pattern while the program speaks
+    // English; in another language the locale's own short date and 24-hour
+    // clock, since an English pattern carries its word order ("'at'", AM/PM).
+    enum class Shown : quint8 { date, time, timeWithSeconds, dateAndTime, weekdayAndTime };
+    QString formatForPeople(const QString &englishPattern, Shown other) const;
     // The car's clock keeps no zone, and the computer's zone need not be
     // the car's: a time the car recorded is shown as its wall-clock time,
     // never with a zone's name. Formats in the locale with the pattern's

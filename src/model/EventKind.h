@@ -16,7 +16,10 @@ public:
 
     static const std::array<EventKind, 3> &allCases();
     QString rawValue() const;
+    // The name a person reads, in the loaded language.
     QString displayName() const;
+    // The same name in English, for the file names of exports.
+    QString englishName() const;
     static std::optional<EventKind> fromRawValue(QStringView raw);
 
     QJsonValue toJson() const { return rawValue(); }

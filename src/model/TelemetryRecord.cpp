@@ -1,5 +1,7 @@
 #include "model/TelemetryRecord.h"
 
+#include <QCoreApplication>
+
 #include <charconv>
 #include <cmath>
 
@@ -57,9 +59,13 @@ QString TelemetryRecord::autopilotDisplayName(AutopilotState state)
 {
     switch (state) {
     case AutopilotState::none: return QString();
-    case AutopilotState::selfDriving: return QStringLiteral("Self-Driving");
-    case AutopilotState::autosteer: return QStringLiteral("Autosteer");
-    case AutopilotState::trafficAwareCruise: return QStringLiteral("Traffic-Aware Cruise Control");
+    //: Tesla's name of a driver assistance (Full Self-Driving)
+    case AutopilotState::selfDriving: return QCoreApplication::translate("TelemetryRecord", "Self-Driving");
+    //: Tesla's name of a driver assistance
+    case AutopilotState::autosteer: return QCoreApplication::translate("TelemetryRecord", "Autosteer");
+    //: Tesla's name of a driver assistance
+    case AutopilotState::trafficAwareCruise:
+        return QCoreApplication::translate("TelemetryRecord", "Traffic-Aware Cruise Control");
     }
     return QString();
 }

@@ -2,9 +2,21 @@
 
 #include "model/JsonCoding.h"
 
+#include <QCoreApplication>
+
 namespace {
 constexpr std::array<const char *, 4> raws{"new", "reviewed", "kept", "dismissed"};
-constexpr std::array<const char *, 4> displays{"New", "Reviewed", "In Vault", "Dismissed"};
+// Looked up in the translation when read.
+constexpr std::array<const char *, 4> displays{
+    //: State of an event the user has not looked at yet
+    QT_TRANSLATE_NOOP("TriageState", "New"),
+    //: State of an event the user has watched
+    QT_TRANSLATE_NOOP("TriageState", "Reviewed"),
+    //: State of an event that is kept in the Vault
+    QT_TRANSLATE_NOOP("TriageState", "In Vault"),
+    //: State of an event the user chose not to keep
+    QT_TRANSLATE_NOOP("TriageState", "Dismissed"),
+};
 } // namespace
 
 const std::array<TriageState, 4> &TriageState::allCases()
@@ -14,7 +26,10 @@ const std::array<TriageState, 4> &TriageState::allCases()
 }
 
 QString TriageState::rawValue() const { return QLatin1String(raws[size_t(value_)]); }
-QString TriageState::displayName() const { return QLatin1String(displays[size_t(value_)]); }
+QString TriageState::displayName() const
+{
+    return QCoreApplication::translate("TriageState", displays[size_t(value_)]);
+}
 
 std::optional<TriageState> TriageState::fromRawValue(QStringView raw)
 {

@@ -2,6 +2,7 @@
 
 #include "model/JsonCoding.h"
 
+#include <QCoreApplication>
 #include <QHashFunctions>
 
 namespace {
@@ -22,12 +23,14 @@ QString VolumeFormat::displayName() const
 {
     switch (kind_) {
     case exFAT: return QStringLiteral("exFAT");
-    case fat32: return QStringLiteral("FAT32 (MS-DOS)");
+    //: Name of a drive format
+    case fat32: return QCoreApplication::translate("VolumeFormat", "FAT32 (MS-DOS)");
     case apfs: return QStringLiteral("APFS");
     case other: return name_;
-    case unknown: return QStringLiteral("Unknown");
+    case unknown: break;
     }
-    return QStringLiteral("Unknown");
+    //: Name of a drive format that could not be read
+    return QCoreApplication::translate("VolumeFormat", "Unknown");
 }
 
 QJsonObject VolumeFormat::toJson() const

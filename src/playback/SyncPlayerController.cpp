@@ -108,7 +108,7 @@ QCoro::Task<void> SyncPlayerController::runBuild(QPointer<SyncPlayerController> 
 
 QString SyncPlayerController::waitingReason()
 {
-    return tr("Reading this camera from the drive…");
+    return QCoreApplication::translate("SyncPlayerController", "Reading this camera from the drive…");
 }
 
 void SyncPlayerController::publishWaitingTiles()

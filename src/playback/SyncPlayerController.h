@@ -82,9 +82,12 @@ public:
     // Below this share of the chosen speed, the transport says the computer can't keep up.
     static constexpr double keepUpShare = 0.85;
 
+    // English sources; the tiles and the transport read them translated.
     static inline const QString damagedReason = EventTimeline::damagedReason;
     static inline const QString noFootageReason = EventTimeline::noFootageReason;
-    static inline const QString approximateFramesNote = QStringLiteral("Finding the exact frame…");
+    //: Shown on the timeline while a seek shows a nearby frame first
+    static inline const QString approximateFramesNote = QString::fromUtf8(
+        QT_TRANSLATE_NOOP("SyncPlayerController", "Finding the exact frame…"));
 
     explicit SyncPlayerController(const TeslaEvent &event, QObject *parent = nullptr);
     ~SyncPlayerController() override;
@@ -104,7 +107,7 @@ public:
     void setFocusedCamera(std::optional<Camera> camera);
     std::optional<double> triggerOffset() const { return triggerOffset_; }
     bool isShowingApproximateFrames() const { return approximate_; }
-    QString approximateFramesText() const { return approximateFramesNote; }
+    QString approximateFramesText() const { return tr(approximateFramesNote.toUtf8().constData()); }
     std::optional<double> playingRate() const { return playingRate_; }
     double playingRateForQml() const { return playingRate_.value_or(0.0); }
     bool isFallingBehind() const { return playingRate_ && *playingRate_ < rate_ * keepUpShare; }

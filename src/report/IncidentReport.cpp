@@ -1,4 +1,4 @@
-#include "report/IncidentReport.h"
+#include "IncidentReport.h"
 
 #include "base/CancellationError.h"
 #include "base/ReadOnlyFs.h"
@@ -45,7 +45,7 @@ void IncidentReport::make(const TeslaEvent &event, const QString &destination, c
 {
     // Refused here too, whatever the caller checked: the car's drive is never written.
     if (DriveBoundary::writesIntoDriveOf({event}, destination))
-        throw ReportError(DriveBoundary::exportRefusal);
+        throw ReportError(DriveBoundary::exportRefusalText());
     if (!QFileInfo(QFileInfo(destination).absolutePath()).isDir())
         throw ReportError(tr("There is no folder at %1.").arg(QFileInfo(destination).absolutePath()));
     const auto report = [&](double fraction) {

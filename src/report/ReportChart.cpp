@@ -1,4 +1,4 @@
-#include "report/ReportChart.h"
+#include "ReportChart.h"
 
 #include "model/DrivingDataText.h"
 
@@ -147,9 +147,13 @@ void ReportChart::paint(QPainter &p, const QRectF &area, const std::vector<Repor
     });
 
     const QString unitName = DrivingDataText::speedUnit(miles);
+    //: Title of the chart's speed panel; %1 is the unit, km/h or mph
     drawFrame(p, speed, tr("Speed (%1)").arg(unitName), QStringLiteral("0"), QString::number(ceiling), unit);
+    //: Title of the chart's accelerator pedal panel, in percent pressed
     drawFrame(p, pedal, tr("Accelerator (%)"), QStringLiteral("0"), QStringLiteral("100"), unit);
+    //: Title of the chart's steering wheel panel, in degrees
     drawFrame(p, steering, tr("Steering (°)"), QString::number(-steer), QString::number(steer), unit);
+    //: Title of the chart's acceleration panel
     drawFrame(p, acceleration, tr("Acceleration (m/s²)"), QString::number(-accel), QString::number(accel), unit);
     for (const Panel *panel : {&steering, &acceleration}) {
         p.setPen(QPen(frameColour, unit * 0.3, Qt::DotLine));
@@ -174,7 +178,11 @@ void ReportChart::paint(QPainter &p, const QRectF &area, const std::vector<Repor
     }
     p.setPen(textColour);
     for (int t = int(from); t <= int(from + ReportContent::chartSeconds); t += 5) {
-        const QString text = t == 0 ? (atMoment ? tr("moment") : tr("start"))
+        //: On the chart's time axis, under the moment the car triggered the recording
+        const QString text = t == 0 ? (atMoment ? tr("moment")
+                                                //: On the chart's time axis, under the start of a recording with no trigger
+                                                : tr("start"))
+                                    //: On the chart's time axis: %1 is seconds from the moment, signed (+5, -5)
                                     : tr("%1 s").arg(t > 0 ? QStringLiteral("+%1").arg(t) : QString::number(t));
         p.drawText(QRectF(xAt(plots, t - from) - unit * 20, acceleration.plot.bottom() + unit * 2, unit * 40, unit * 9),
                    Qt::AlignHCenter | Qt::AlignTop, text);
@@ -193,6 +201,7 @@ void ReportChart::paint(QPainter &p, const QRectF &area, const std::vector<Repor
         p.drawText(QRectF(x, legendTop, w, unit * 8), Qt::AlignLeft | Qt::AlignVCenter, text);
         x += w;
     };
+    //: In the chart's legend, beside the colour of the brake band
     key(brakeColour, tr("Brake pressed"));
     for (const auto state : {TelemetryRecord::AutopilotState::autosteer, TelemetryRecord::AutopilotState::trafficAwareCruise,
                              TelemetryRecord::AutopilotState::selfDriving}) {
@@ -200,7 +209,9 @@ void ReportChart::paint(QPainter &p, const QRectF &area, const std::vector<Repor
         c.setAlphaF(0.35);
         key(c, DrivingDataText::assistance(state));
     }
+    //: In the chart's legend: acceleration along the car's x axis
     key(QColor(0x00, 0x83, 0x8F), tr("Acceleration x"));
+    //: In the chart's legend: acceleration along the car's y axis
     key(QColor(0xAD, 0x14, 0x57), tr("Acceleration y"));
     p.restore();
 }

@@ -1,4 +1,4 @@
-#include "report/ReportContent.h"
+#include "ReportContent.h"
 
 #include "base/CancellationError.h"
 #include "base/IOWatchdog.h"
@@ -68,11 +68,12 @@ ReportContent::Still stillOf(const EventTimeline::CameraTrack &track, double mom
 {
     ReportContent::Still still{track.camera, std::nullopt, {}};
     if (track.locked) {
+        //: Stands in for a camera's picture when its footage is encrypted and no key is held
         still.missingReason = ReportContent::tr("Locked — unlock to include this camera");
         return still;
     }
     if (!track.composition || track.composition->tracks().empty()) {
-        still.missingReason = track.placeholderReason.value_or(EventTimeline::noFootageReason);
+        still.missingReason = track.placeholderReason.value_or(EventTimeline::noFootageReasonText());
         return still;
     }
     for (const Composition::Segment &segment : track.composition->track(0).segments) {
@@ -88,7 +89,7 @@ ReportContent::Still stillOf(const EventTimeline::CameraTrack &track, double mom
             still.missingReason = ReportContent::tr("This camera's picture at the moment couldn't be read.");
         return still;
     }
-    still.missingReason = EventTimeline::noFootageReason;
+    still.missingReason = EventTimeline::noFootageReasonText();
     return still;
 }
 
@@ -124,6 +125,7 @@ bool ReportContent::clocksDisagree() const
 QString ReportContent::conditionText(ClipHealth health)
 {
     switch (health.value()) {
+    //: A clip's condition in the report's list of files: nothing wrong with it
     case ClipHealth::ok: return tr("Plays");
     case ClipHealth::zeroByte: return tr("Empty — the car wrote nothing into it");
     case ClipHealth::truncated: return tr("Cut off — the car didn't finish writing it");
@@ -132,6 +134,7 @@ QString ReportContent::conditionText(ClipHealth health)
     case ClipHealth::encrypted: return tr("Encrypted by your car");
     case ClipHealth::unknown: break;
     }
+    //: A clip's condition in the report's list of files: it was not looked at
     return tr("Not checked");
 }
 

@@ -1,4 +1,4 @@
-#include "report/ReportDocument.h"
+#include "ReportDocument.h"
 
 #include "model/DrivingDataText.h"
 #include "report/ReportChart.h"
@@ -24,6 +24,15 @@ QString esc(const QString &text) { return text.toHtmlEscaped(); }
 QString row(const QString &label, const QString &value)
 {
     return QStringLiteral("<tr><td width=\"130\" style=\"color:#555\">%1</td><td>%2</td></tr>").arg(esc(label), value);
+}
+
+// "48 km/h": a speed as DrivingDataText gives it, in the unit shown.
+QString speedWithUnit(int speed, bool miles)
+{
+    //: A speed: %1 the number, %2 its unit (km/h or mph)
+    return QCoreApplication::translate("ReportDocument", "%1 %2", "speed and its unit")
+        .arg(speed)
+        .arg(DrivingDataText::speedUnit(miles));
 }
 
 QString coordinates(double latitude, double longitude)
@@ -63,7 +72,9 @@ QString ReportDocument::title(const TeslaEvent &event)
     const QString reason = event.encrypted && !event.reasonRaw ? tr("Encrypted by your car") : event.reason.label();
     // "Sentry — Sentry event" says it twice.
     if (reason.startsWith(event.kind.displayName(), Qt::CaseInsensitive))
+        //: The report's title; %1 is why the car recorded, such as "Sentry event"
         return tr("Incident report: %1").arg(reason);
+    //: The report's title; %1 is the kind of recording, such as "Saved", %2 why the car recorded
     return tr("Incident report: %1 — %2").arg(event.kind.displayName(), reason);
 }
 
@@ -108,18 +119,25 @@ void ReportDocument::write(const ReportContent &content, const QString &path, co
 
     // What and when.
     QString html = QStringLiteral("<h1>%1</h1><table cellspacing=\"0\" cellpadding=\"2\">").arg(esc(title(event)));
-    html += row(content.hasTrigger ? tr("The moment") : tr("Recording starts"),
+    //: Label beside the date and time the car triggered the recording
+    html += row(content.hasTrigger ? tr("The moment")
+                                   //: Label beside the date and time a recording with no trigger starts
+                                   : tr("Recording starts"),
+                //: After the date and time of the moment: which clock says so
                 QStringLiteral("<b>%1</b> %2").arg(esc(dateTime(locale, content.carClock)), esc(tr("(the car's clock)"))));
     if (content.gpsClock)
+        //: Label beside the same moment by the GPS clock, in UTC
         html += row(tr("By the GPS clock"),
                     esc(QLocale::c().toString(content.gpsClock->toQDateTime(), QStringLiteral("yyyy-MM-dd HH:mm:ss 'UTC'"))));
     if (!event.encrypted)
         html += row(tr("What happened"), esc(event.reason.blurb()));
     const auto place = event.placeName();
+    //: Label beside the street and city where it happened
     html += row(tr("Place"), place ? esc(*place) : esc(tr("The car didn't name the place.")));
     if (content.latitude && content.longitude)
         html += row(tr("Coordinates"), esc(coordinates(*content.latitude, *content.longitude)));
-    html += row(tr("Recorded by"), esc(content.stills.size() == 1 ? tr("1 camera") : tr("%1 cameras").arg(content.stills.size())));
+    //: Label beside how many cameras recorded the event
+    html += row(tr("Recorded by"), esc(tr("%n cameras", nullptr, int(content.stills.size()))));
     html += QStringLiteral("</table>");
     if (content.clocksDisagree())
         html += QStringLiteral("<p class=\"note\">%1</p>")
@@ -132,7 +150,10 @@ void ReportDocument::write(const ReportContent &content, const QString &path, co
         const double lat = *content.latitude, lon = *content.longitude;
         const auto route = content.route;
         const auto tiles = content.mapTiles;
-        html += QStringLiteral("<h2>%1</h2>").arg(esc(route.size() > 1 ? tr("Where, and the route driven") : tr("Where")));
+        //: Heading over the map of the spot and the route
+        html += QStringLiteral("<h2>%1</h2>").arg(esc(route.size() > 1 ? tr("Where, and the route driven")
+                                                                        //: Heading over the map of the spot
+                                                                        : tr("Where")));
         html += drawing([=](QPainter &p, const QRectF &r) { ReportMap::paint(p, r, route, lat, lon, tiles); },
                         ReportMap::heightPerWidth);
     } else {
@@ -169,6 +190,7 @@ void ReportDocument::write(const ReportContent &content, const QString &path, co
 
     // The driving data around the moment.
     // Without driving data a line says so, under the stills.
+    //: Heading over the chart of speed, pedals and steering
     html += QStringLiteral("<h2%1>%2</h2>").arg(content.hasDrivingData() ? newPage : QString(), esc(tr("Driving data")));
     if (content.hasDrivingData()) {
         html += QStringLiteral("<p>%1</p>")
@@ -188,25 +210,43 @@ void ReportDocument::write(const ReportContent &content, const QString &path, co
     }
     if (content.atMoment) {
         const TelemetryRecord &r = *content.atMoment;
-        html += QStringLiteral("<h2>%1</h2><table cellspacing=\"0\" cellpadding=\"2\">").arg(esc(content.hasTrigger ? tr("At the moment") : tr("At the start")));
-        html += row(tr("Speed"), esc(QStringLiteral("%1 %2").arg(DrivingDataText::speed(r.speed, options.miles))
-                                         .arg(DrivingDataText::speedUnit(options.miles))));
+        //: Heading over the car's readings at the moment
+        const QString readingsHeading = content.hasTrigger ? tr("At the moment")
+                                                           //: Heading over the car's readings where a recording with no trigger starts
+                                                           : tr("At the start");
+        html += QStringLiteral("<h2>%1</h2><table cellspacing=\"0\" cellpadding=\"2\">").arg(esc(readingsHeading));
+        //: Label beside the car's speed
+        html += row(tr("Speed"), esc(speedWithUnit(DrivingDataText::speed(r.speed, options.miles), options.miles)));
+        //: Label beside the gear (P, R, N, D)
         html += row(tr("Gear"), esc(TelemetryRecord::gearDisplayName(r.gear)));
+        //: Label beside whether the brake pedal was pressed
         html += row(tr("Brake"), esc(r.brakeApplied ? tr("Pressed") : tr("Not pressed")));
+        //: Label beside how far the accelerator pedal was pressed
         html += row(tr("Accelerator"),
+                    //: How far the accelerator pedal was pressed; %1 is a whole percentage, the % sign follows it
                     esc(tr("%1%").arg(std::lround(DrivingDataText::pedalFraction(r.acceleratorPedal) * 100))));
+        //: Label beside the steering wheel's angle
         html += row(tr("Steering"), esc(DrivingDataText::steering(r.steeringAngle)));
         const QString assistance = DrivingDataText::assistance(r.autopilot);
-        html += row(tr("Driver assistance"), esc(assistance.isEmpty() ? tr("Off") : assistance));
+        //: Label beside Autopilot's state (Autosteer, Traffic-Aware Cruise Control…)
+        html += row(tr("Driver assistance"), esc(assistance.isEmpty() ? tr("Off", "driver assistance") : assistance));
+        //: Label beside the turn signal's state
         html += row(tr("Turn signal"), esc(r.blinkerLeft && r.blinkerRight ? tr("Hazard lights")
-                                           : r.blinkerLeft                 ? tr("Left")
-                                           : r.blinkerRight                ? tr("Right")
-                                                                           : tr("Off")));
+                                           //: The left turn signal was on
+                                           : r.blinkerLeft                 ? tr("Left", "turn signal")
+                                           //: The right turn signal was on
+                                           : r.blinkerRight                ? tr("Right", "turn signal")
+                                                                           : tr("Off", "turn signal")));
         if (r.hasPosition()) {
+            //: Label beside the direction the car was heading (a compass bearing)
             html += row(tr("Heading"), esc(DrivingDataText::heading(r.heading)));
+            //: Label beside the car's GPS coordinates
             html += row(tr("Position"), esc(coordinates(r.latitude, r.longitude)));
         }
-        html += row(tr("Acceleration"), esc(tr("x %1, y %2, z %3 m/s²")
+        //: Label beside the car's acceleration
+        html += row(tr("Acceleration"),
+                    //: Acceleration along the car's three axes, in metres per second squared
+                    esc(tr("x %1, y %2, z %3 m/s²")
                                                 .arg(r.accelerationX, 0, 'f', 2)
                                                 .arg(r.accelerationY, 0, 'f', 2)
                                                 .arg(r.accelerationZ, 0, 'f', 2)));
@@ -215,6 +255,7 @@ void ReportDocument::write(const ReportContent &content, const QString &path, co
 
     // The hard moments the driving data shows, or that it shows none.
     if (content.hasDrivingData() || !content.hardMoments.empty()) {
+        //: Heading over the list of hard braking, swerves and the like
         html += QStringLiteral("<h2>%1</h2>").arg(esc(tr("Hard moments of the drive")));
         if (content.hardMoments.empty()) {
             html += QStringLiteral("<p>%1</p>")
@@ -224,17 +265,22 @@ void ReportDocument::write(const ReportContent &content, const QString &path, co
             html += QStringLiteral("<table cellspacing=\"0\" cellpadding=\"2\">");
             for (const ReportContent::Moment &m : content.hardMoments) {
                 const HardMoment &h = m.what;
-                QString detail = QStringLiteral("%1 %2")
-                                     .arg(DrivingDataText::speed(float(h.speed), options.miles))
-                                     .arg(DrivingDataText::speedUnit(options.miles));
+                const QString speed = speedWithUnit(DrivingDataText::speed(float(h.speed), options.miles), options.miles);
+                QString detail;
                 if (h.kind == HardMoment::Kind::hardBraking || h.kind == HardMoment::Kind::suddenStop)
-                    detail += tr(", slowing at %1 g").arg(h.deceleration / HardMoments::standardGravity, 0, 'f', 2);
+                    //: After a hard moment's name: %1 the speed with its unit, %2 the deceleration in g (9.81 m/s²)
+                    detail = tr("— %1, slowing at %2 g")
+                                 .arg(speed, QString::number(h.deceleration / HardMoments::standardGravity, 'f', 2));
                 else if (h.kind == HardMoment::Kind::swerve && h.steeringRate > 0)
-                    detail += tr(", steering turned at %1°/s").arg(std::lround(h.steeringRate));
+                    //: After a hard moment's name: %1 the speed with its unit, %2 how fast the wheel turned, in degrees a second
+                    detail = tr("— %1, steering turned at %2°/s").arg(speed, QString::number(std::lround(h.steeringRate)));
+                else
+                    detail = QStringLiteral("— %1").arg(speed);
                 html += QStringLiteral("<tr><td width=\"130\" style=\"color:#555\">%1</td><td><b>%2</b> %3</td></tr>")
+                            //: When a hard moment happened: %1 the car's clock, %2 how far into the event (m:ss)
                             .arg(esc(tr("%1 (%2 in)").arg(m.carClock.formatCarClock(locale, locale.timeFormat(QLocale::LongFormat)),
                                                           duration(h.time))),
-                                 esc(h.displayName()), esc(QStringLiteral("— ") + detail));
+                                 esc(h.displayName()), esc(detail));
             }
             html += QStringLiteral("</table><p>%1</p>")
                         .arg(esc(tr("Found from the car's own records: hard braking is the speed falling at 0.4 g or "
@@ -245,6 +291,7 @@ void ReportDocument::write(const ReportContent &content, const QString &path, co
 
     // Every original file: where they are, then each with its digest.
     html += QStringLiteral("<h2%1>%2</h2><p>%3</p>")
+                //: Heading over the list of every file the car recorded for the event
                 .arg(newPage, esc(tr("The original files")),
                      esc(tr("Every file the car recorded for this event. Each SHA-256 was computed from the file itself "
                             "as this report was made.")));
@@ -253,10 +300,13 @@ void ReportDocument::write(const ReportContent &content, const QString &path, co
         : event.folderURL;
     QString where;
     if (!content.fromVault)
+        //: %1 is a folder
         where = tr("On the car's drive, in %1").arg(folder);
     else if (content.lastVerified)
+        //: %1 is a folder, %2 a date and time
         where = tr("In the Vault, in %1. Last verified %2.").arg(folder, dateTime(locale, *content.lastVerified));
     else
+        //: %1 is a folder
         where = tr("In the Vault, in %1. Not verified again since it was kept.").arg(folder);
     html += QStringLiteral("<p>%1</p>").arg(esc(where));
     const bool kept = std::any_of(content.files.begin(), content.files.end(), [](const auto &f) { return f.keptSha256.has_value(); });
@@ -264,7 +314,20 @@ void ReportDocument::write(const ReportContent &content, const QString &path, co
     if (kept && allMatch)
         html += QStringLiteral("<p>%1</p>").arg(esc(tr("Every file matches the Vault's record of it, made when it was kept.")));
     html += QStringLiteral("<table width=\"100%\" cellspacing=\"0\" class=\"small\"><tr>");
-    for (const QString &heading : {tr("File"), tr("Camera"), tr("Starts"), tr("Length"), tr("Size"), tr("Condition")})
+    // Column headings of the list of files.
+    //: Column heading: the file's name
+    const QString fileHeading = tr("File");
+    //: Column heading: which camera recorded the file
+    const QString cameraHeading = tr("Camera");
+    //: Column heading: the time the file's footage starts
+    const QString startsHeading = tr("Starts");
+    //: Column heading: how long the file's footage runs (m:ss)
+    const QString lengthHeading = tr("Length");
+    //: Column heading: the file's size
+    const QString sizeHeading = tr("Size");
+    //: Column heading: whether the file plays, or how it is damaged
+    const QString conditionHeading = tr("Condition");
+    for (const QString &heading : {fileHeading, cameraHeading, startsHeading, lengthHeading, sizeHeading, conditionHeading})
         html += QStringLiteral("<td><b>%1</b></td>").arg(esc(heading));
     html += QStringLiteral("</tr>");
     for (const auto &f : content.files) {
@@ -286,12 +349,16 @@ void ReportDocument::write(const ReportContent &content, const QString &path, co
 
     html += QStringLiteral("<h2>%1</h2><p>%2</p><p class=\"mono\">sha256sum -c SHA256SUMS</p><p>%3</p>")
                 .arg(esc(tr("How to check the files")),
+                     //: Followed by the command to run; OK is what the command prints, so it stays as it is
                      esc(tr("Anyone can check that a file is exactly the one listed here by computing its SHA-256 again "
                             "and comparing it with the one above. With the evidence package unpacked, run this in its "
                             "folder; every line must end in OK:")),
-                     esc(tr("On a Mac: shasum -a 256 -c SHA256SUMS. On Windows: certutil -hashfile FILE SHA256, one "
-                            "file at a time.")));
+                     //: %1 and %2 are commands, which stay as they are
+                     esc(tr("On a Mac: %1. On Windows: %2, one file at a time.")
+                             .arg(QStringLiteral("shasum -a 256 -c SHA256SUMS"),
+                                  QStringLiteral("certutil -hashfile FILE SHA256"))));
     html += QStringLiteral("<p class=\"small\">%1</p>")
+                //: At the report's end: %1 is Keelhold's version, %2 the date and time the report was made
                 .arg(esc(tr("Made by Keelhold %1 on %2 (this computer's clock). Keelhold only reads the car's drive: "
                             "nothing on it was changed.")
                              .arg(options.version, locale.toString(content.madeAt.toLocalDateTime(), QLocale::LongFormat))));
@@ -327,6 +394,7 @@ void ReportDocument::write(const ReportContent &content, const QString &path, co
         painter.setPen(QColor(0x61, 0x61, 0x61));
         const QRectF foot(0, pageSize.height(), pageSize.width(), footer);
         painter.drawText(foot, Qt::AlignLeft | Qt::AlignBottom, title(event));
+        //: At the foot of every page of the report
         painter.drawText(foot, Qt::AlignRight | Qt::AlignBottom, tr("Page %1 of %2").arg(i + 1).arg(pages));
     }
     if (!painter.end())

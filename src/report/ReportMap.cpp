@@ -1,4 +1,4 @@
-#include "report/ReportMap.h"
+#include "ReportMap.h"
 
 #include "model/DrivingDataText.h"
 
@@ -162,13 +162,18 @@ void ReportMap::paint(QPainter &p, const QRectF &area, const std::vector<EventTe
     QFont font = p.font();
     font.setPixelSize(std::max(1, int(unit * 8)));
     p.setFont(font);
-    const QString distance = barMetres >= 1000 ? tr("%1 km").arg(barMetres / 1000) : tr("%1 m").arg(barMetres);
+    //: The map's scale bar: %1 kilometres
+    const QString distance = barMetres >= 1000 ? tr("%1 km").arg(barMetres / 1000)
+                                               //: The map's scale bar: %1 metres
+                                               : tr("%1 m").arg(barMetres);
     p.drawText(QRectF(barStart.x(), barStart.y() - unit * 14, unit * 80, unit * 10), Qt::AlignLeft | Qt::AlignBottom,
                distance);
     p.drawText(QRectF(area.right() - unit * 20, area.top() + unit * 4, unit * 14, unit * 10), Qt::AlignCenter,
+               //: The map's north arrow: N for north
                tr("N ↑"));
     if (tiled)
         p.drawText(QRectF(area.left(), area.bottom() - unit * 9, area.width() - unit * 4, unit * 8),
+                   //: The map tiles' required credit; OpenStreetMap is a name
                    Qt::AlignRight | Qt::AlignVCenter, tr("Map data © OpenStreetMap contributors"));
     p.setPen(QPen(QColor(0x9E, 0x9E, 0x9E), unit * 0.6));
     p.setBrush(Qt::NoBrush);

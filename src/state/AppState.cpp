@@ -10,7 +10,7 @@
 
 AppState::AppState(EngineFacade &engine, QObject *parent)
     : QObject(parent), engine_(engine), shell_(engine), triage_(engine), drive_(engine, engine), vault_(engine, engine, engine),
-      activity_(engine)
+      activity_(engine), autoKeep_(engine)
 {
     relayPartSignals();
     if (auto *app = QCoreApplication::instance()) {
@@ -70,6 +70,16 @@ void AppState::relayPartSignals()
     connect(&drive_, &DriveSession::isSampleModeChanged, this, &AppState::isSampleModeChanged);
     connect(&drive_, &DriveSession::accessBegan, this, &AppState::raiseResourceAccessEpoch);
     connect(&drive_, &DriveSession::volumeMounted, this, &AppState::noteMountForKeep);
+    connect(&drive_, &DriveSession::volumeMounted, this,
+            [this](const QString &mountPoint) { arrivalTask(QPointer<AppState>(this), mountPoint); });
+    connect(&drive_, &DriveSession::driveRootURLChanged, this, [this] {
+        if (shownDrive_) {
+            shownDrive_.reset();
+            Q_EMIT shownDriveChanged();
+        }
+        if (driveRootURL() && !isSampleMode())
+            identifyShownDrive(QPointer<AppState>(this), *driveRootURL());
+    });
 
     connect(&vault_, &VaultSession::vaultURLChanged, this, &AppState::vaultURLChanged);
     connect(&vault_, &VaultSession::vaultIndexChanged, this, [this] {

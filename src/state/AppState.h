@@ -8,12 +8,14 @@
 #include "model/TeslaEvent.h"
 #include "model/TriageState.h"
 #include "state/ActivityPass.h"
+#include "state/AutoKeep.h"
 #include "state/DriveSession.h"
 #include "state/ShellState.h"
 #include "state/TriageFilters.h"
 #include "state/VaultSession.h"
 #include "drive/DriveIdentity.h"
 
+#include <QElapsedTimer>
 #include <QHash>
 #include <QObject>
 #include <QPointer>
@@ -21,6 +23,7 @@
 #include <QStringList>
 #include <qcoro/qcorotask.h>
 #include <memory>
+#include <deque>
 #include <optional>
 #include <stop_token>
 
@@ -82,7 +85,10 @@ public:
     void setTriage(TriageState state, const QString &eventID) { triage_.setTriage(state, eventID); }
     TriageState triageState(const TeslaEvent &event) const { return triage_.triageState(event.id()); }
     TriageState triageState(const QString &eventID) const { return triage_.triageState(eventID); }
-    void keep(const std::vector<TeslaEvent> &events);
+    // automatic: nobody asked for this keep (a drive that keeps itself): it
+    // ends with a notification rather than the report sheet, and a drive
+    // that goes away ends it rather than pausing it.
+    void keep(const std::vector<TeslaEvent> &events, bool automatic = false);
     void dismiss(const std::vector<TeslaEvent> &events);
     // The screens' way to keep: ignored while a keep runs, so that there is
     // one at a time and Cancel always reaches it. An event that is in the
@@ -170,6 +176,24 @@ public:
     const QSet<QString> &selectedEventIDsForBulk() const { return triage_.selectedEventIDsForBulk(); }
     void setSelectedEventIDsForBulk(QSet<QString> ids) { triage_.setSelectedEventIDsForBulk(std::move(ids)); }
 
+    // Drives that keep themselves when connected: chosen per drive, offered
+    // once after the first keep from a drive (autoKeepOffer), and in the
+    // Vault screen for the drive on screen (shownDrive).
+    AutoKeep &autoKeep() { return autoKeep_; }
+    const std::optional<DriveIdentity> &autoKeepOffer() const { return autoKeepOffer_; }
+    // The answer, or the offer passed over (on false): it isn't made again.
+    void answerAutoKeepOffer(bool on, bool recent);
+    const std::optional<DriveIdentity> &shownDrive() const { return shownDrive_; }
+    bool isKeepAutomatic() const { return keepAutomatic_; }
+    // An export ended in the window: the desktop may be told (a long one,
+    // while the window is in the background).
+    void noteExportEnded(double seconds, const QString &title, const QString &sentence)
+    {
+        Q_EMIT exportEnded(seconds, title, sentence);
+    }
+    // Drives that keep themselves, read and waiting for the keep before them.
+    int drivesWaitingToKeep() const { return int(arrivals_.size()); }
+
     // The end of the process: held access is given up.
     void endHeldAccess();
 
@@ -232,6 +256,15 @@ Q_SIGNALS:
     void selectedEventIDsForBulkChanged();
     void visibleInboxEventsChanged();
     void keyCoverageChanged();
+    void autoKeepOfferChanged();
+    void shownDriveChanged();
+    // A keep ended (a paused one hasn't): how long it ran, whether nobody
+    // asked for it, and the name of the drive it read.
+    void keepEnded(const ArchiveReport &report, bool automatic, double seconds, const QString &driveName);
+    // A drive that doesn't keep itself came in with Sentry events the Vault
+    // doesn't hold.
+    void unkeptSentryArrived(const QString &driveName, int count, const QString &mountPoint);
+    void exportEnded(double seconds, const QString &title, const QString &sentence);
 
 private:
     void relayPartSignals();
@@ -248,6 +281,11 @@ private:
     // Where the drive of a keep is: asked as the keep starts, while it is there.
     static QCoro::Task<void> resumeTask(QPointer<AppState> self, QString mountPoint);
     void noteMountForKeep(const QString &mountPoint);
+    // A drive came in: kept if it keeps itself, else told about if it holds
+    // Sentry events the Vault lacks. Drives wait their turn behind any keep.
+    static QCoro::Task<void> arrivalTask(QPointer<AppState> self, QString mountPoint);
+    void startWaitingAutoKeep();
+    static QCoro::Task<void> identifyShownDrive(QPointer<AppState> self, QString root);
     static QCoro::Task<void> keyCoverageTask(QPointer<AppState> self, std::vector<TeslaEvent> events, quint64 run);
 
     void setIsArchiving(bool v);
@@ -288,4 +326,16 @@ private:
     QHash<QString, KeyCoverage> keyCoverage_;
     quint64 keyCoverageRun_ = 0;
     ActivityPass activity_;
+    AutoKeep autoKeep_;
+    bool keepAutomatic_ = false;
+    QElapsedTimer keepClock_;
+    std::optional<DriveIdentity> autoKeepOffer_;
+    std::optional<DriveIdentity> shownDrive_;
+    // Drives that keep themselves, waiting for the keep before them.
+    struct Arrival {
+        DriveIdentity drive;
+        QString mountPoint;
+        std::vector<TeslaEvent> events; // new to the Vault when the drive came in
+    };
+    std::deque<Arrival> arrivals_;
 };

@@ -73,9 +73,11 @@ ArchiveReport merged(const ArchiveReport &earlier, const ArchiveReport &later, c
 
 } // namespace
 
-void AppState::keep(const std::vector<TeslaEvent> &events)
+void AppState::keep(const std::vector<TeslaEvent> &events, bool automatic)
 {
-    shell_.pauseActivePlayer();
+    // Nobody is watching an automatic keep start: the player plays on.
+    if (!automatic)
+        shell_.pauseActivePlayer();
     const std::optional<QString> &vaultURL = vault_.vaultURL();
     if (!vaultURL) {
         // The first keep: the screens ask for a folder, and the keep goes on
@@ -85,6 +87,8 @@ void AppState::keep(const std::vector<TeslaEvent> &events)
         return;
     }
     ArchivePlan plan = engine_.planArchive(events, vault_.vaultIndex());
+    keepAutomatic_ = automatic;
+    keepClock_.start();
     setIsArchiving(true);
     setArchiveProgress(ArchiveProgress{0, plan.totalNewBytes(), 0, int(plan.newItems().size()), std::nullopt});
     auto task = std::make_shared<std::stop_source>();
@@ -126,7 +130,7 @@ QCoro::Task<void> AppState::keepTask(QPointer<AppState> self, ArchivePlan plan, 
             self->keepDrive_ = KeepDrive{mounted->drive, mounted->mountPoint};
     }
     if (intoDrive.value_or(false)) {
-        report.failedFiles.push_back({vaultURL, DriveBoundary::vaultRefusal});
+        report.failedFiles.push_back({vaultURL, DriveBoundary::vaultRefusalText()});
     } else {
         try {
             auto archiving = self->engine_.runArchive(plan, vaultURL, progress, task->get_token());
@@ -144,8 +148,9 @@ QCoro::Task<void> AppState::keepTask(QPointer<AppState> self, ArchivePlan plan, 
         report = merged(*earlier, report, events);
     // Cut off by its drive going away: paused, not over, and the same drive
     // coming back takes it up again.
+    // An automatic keep just ends: the drive coming back starts it afresh.
     const bool paused = report.stoppedBecause == ArchiveReport::StopReason::driveDisconnected && !report.cancelled
-        && self->keepDrive_;
+        && self->keepDrive_ && !self->keepAutomatic_;
     if (paused) {
         self->currentArchiveTask_.reset();
         self->interruptedKeep_ = InterruptedKeep{events, report, vaultURL, *self->keepDrive_};
@@ -168,13 +173,26 @@ QCoro::Task<void> AppState::keepTask(QPointer<AppState> self, ArchivePlan plan, 
 
 void AppState::finishKeep(const ArchiveReport &report)
 {
+    const bool automatic = std::exchange(keepAutomatic_, false);
+    const std::optional<DriveIdentity> from =
+        keepDrive_ ? std::optional<DriveIdentity>(keepDrive_->drive) : std::nullopt;
     setIsArchiving(false);
     setArchiveProgress(std::nullopt);
     currentArchiveTask_.reset();
     keepDrive_.reset();
     mountsDuringKeep_.clear();
     setLastArchiveReport(report);
-    shell_.setShowArchiveReport(true);
+    if (!automatic)
+        shell_.setShowArchiveReport(true);
+    // The first keep from a drive offers it to keep itself from then on.
+    if (!automatic && from && report.completeEvents() > 0 && !autoKeep_.wasOffered(*from)
+        && !autoKeep_.isOn(*from) && autoKeepOffer_ != from) {
+        autoKeepOffer_ = from;
+        Q_EMIT autoKeepOfferChanged();
+    }
+    Q_EMIT keepEnded(report, automatic, double(keepClock_.elapsed()) / 1000.0, from ? from->name : QString());
+    // After the Vault has recorded this keep: the next drive is judged by it.
+    QMetaObject::invokeMethod(this, &AppState::startWaitingAutoKeep, Qt::QueuedConnection);
 }
 
 void AppState::cancelCurrentArchiveTask()

@@ -52,7 +52,7 @@ void DriveSession::beginScan(const QString &root)
     // Scoped access is bookkeeping here: ending it is dropping the slot.
     accessedURL_ = root;
     Q_EMIT accessBegan();
-    startRun(root, gettingStartedPhase);
+    startRun(root, tr(gettingStartedPhase.toUtf8().constData()));
     scanTask(QPointer<DriveSession>(this), root, ++run_);
 }
 
@@ -267,7 +267,7 @@ void DriveSession::handleDriveEvent(const DriveEvent &event)
 void DriveSession::loadSample(const QString &root)
 {
     setIsSampleMode(true);
-    startRun(root, loadingSamplePhase);
+    startRun(root, tr(loadingSamplePhase.toUtf8().constData()));
     sampleTask(QPointer<DriveSession>(this), root, ++run_);
 }
 

@@ -21,8 +21,12 @@
 class DriveSession : public QObject {
     Q_OBJECT
 public:
-    static inline const QString gettingStartedPhase = QStringLiteral("Getting started…");
-    static inline const QString loadingSamplePhase = QStringLiteral("Loading sample footage…");
+    // The first progress texts in English, as sources of the translation: a
+    // run reports them translated.
+    static inline const QString gettingStartedPhase =
+        QString::fromUtf8(QT_TRANSLATE_NOOP("DriveSession", "Getting started…"));
+    static inline const QString loadingSamplePhase =
+        QString::fromUtf8(QT_TRANSLATE_NOOP("DriveSession", "Loading sample footage…"));
 
     // The engine's parts must outlive the session.
     DriveSession(DriveAccess &drive, BookmarkAccess &bookmarks, QObject *parent = nullptr);

@@ -6,7 +6,8 @@
 #include <array>
 #include <optional>
 
-// The sidebar's sections; the raw value is the sidebar's label.
+// The sidebar's sections. The raw value is the section's id: the label a
+// person reads is translated where the sidebar is drawn.
 class SidebarSection {
     Q_GADGET
 public:

@@ -45,8 +45,16 @@ Placeable placeable(const QString &path, std::chrono::milliseconds limit, std::s
     return {format->duration > 0 ? double(format->duration) / AV_TIME_BASE : 0.0, false};
 }
 } // namespace
+QString damagedReasonText() { return QCoreApplication::translate("EventTimeline", damagedReason.toUtf8().constData()); }
+
+QString noFootageReasonText()
+{
+    return QCoreApplication::translate("EventTimeline", noFootageReason.toUtf8().constData());
+}
+
 QString lockedReason()
 {
+    //: On a camera's tile: encrypted footage that needs its keys first
     return QCoreApplication::translate("EventTimeline", "Unlock to watch");
 }
 
@@ -86,14 +94,15 @@ std::vector<CameraTrack> build(const TeslaEvent &event, std::chrono::millisecond
             if (locked)
                 tracks.push_back(CameraTrack{camera, std::nullopt, lockedReason(), 0, {}, true});
             else
-                tracks.push_back(CameraTrack{camera, std::nullopt, allDamaged ? damagedReason : noFootageReason, 0, {}});
+                tracks.push_back(CameraTrack{camera, std::nullopt,
+                                             allDamaged ? damagedReasonText() : noFootageReasonText(), 0, {}});
             continue;
         }
 
         Composition composition;
         const auto trackIndex = composition.addMutableTrack();
         if (!trackIndex) {
-            tracks.push_back(CameraTrack{camera, std::nullopt, damagedReason, 0, {}});
+            tracks.push_back(CameraTrack{camera, std::nullopt, damagedReasonText(), 0, {}});
             continue;
         }
         bool hasContent = false;
@@ -127,7 +136,7 @@ std::vector<CameraTrack> build(const TeslaEvent &event, std::chrono::millisecond
             tracks.push_back(
                 CameraTrack{camera, std::move(composition), std::nullopt, contentEnd, std::move(damagedStarts)});
         else
-            tracks.push_back(CameraTrack{camera, std::nullopt, damagedReason, 0, {}});
+            tracks.push_back(CameraTrack{camera, std::nullopt, damagedReasonText(), 0, {}});
     }
     return tracks;
 }
@@ -142,15 +151,15 @@ std::vector<Gap> gaps(const TeslaEvent &event, const CameraTrack &track, double 
     const auto reasonFor = [&](double start, double end) {
         for (const double at : track.damagedStarts)
             if (at >= start - minGap && at < end)
-                return damagedReason;
+                return damagedReasonText();
         for (const ClipRef &clip : event.clips) {
             if (clip.camera != track.camera || !clip.health.isDamaged())
                 continue;
             const double at = std::max(0.0, clip.startDate.timeIntervalSince(*origin));
             if (at >= start - minGap && at < end)
-                return damagedReason;
+                return damagedReasonText();
         }
-        return noFootageReason;
+        return noFootageReasonText();
     };
     double covered = 0;
     const auto addUpTo = [&](double next) {

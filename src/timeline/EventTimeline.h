@@ -16,8 +16,17 @@
 // lay footage out this way, so a moment means the same in both.
 namespace EventTimeline {
 
-inline const QString damagedReason = QStringLiteral("This angle didn't record properly — a known Tesla drive issue.");
-inline const QString noFootageReason = QStringLiteral("No footage this minute.");
+// A tile's words in English, as sources of the translation (context
+// "EventTimeline"); what a person reads is damagedReasonText() and
+// noFootageReasonText(), in the loaded language.
+inline const QString damagedReason = QString::fromUtf8(
+    //: On a camera's tile: its footage is damaged
+    QT_TRANSLATE_NOOP("EventTimeline", "This angle didn't record properly \u2014 a known Tesla drive issue."));
+inline const QString noFootageReason =
+    //: On a camera's tile: the car wrote nothing for this camera at this time
+    QString::fromUtf8(QT_TRANSLATE_NOOP("EventTimeline", "No footage this minute."));
+QString damagedReasonText();
+QString noFootageReasonText();
 // The car's encrypted footage with no key held yet.
 QString lockedReason();
 

@@ -94,6 +94,7 @@ QString ActivityStrip::tipAt(double x, double y) const
     const double t = timeAt(x);
     const size_t second = size_t(std::max(0.0, t));
     const bool active = second < camera.levels.size() && camera.levels[second] >= faintestLevel;
+    //: %1 is a camera's name, %2 a time into the event
     return active ? tr("%1: movement at %2").arg(camera.camera.displayName(), SyncPlayerController::timeString(t))
                   : tr("%1: quiet at %2").arg(camera.camera.displayName(), SyncPlayerController::timeString(t));
 }

@@ -17,6 +17,8 @@ std::optional<int> answerWithoutDisplay(int argc, char **argv);
 
 struct Choice {
     bool sample = false;
+    // --vault: the Vault section first (a notification's click).
+    bool showVault = false;
     // Set when the app should stop at once with this code.
     std::optional<int> exitCode;
 };

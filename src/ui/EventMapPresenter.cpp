@@ -2,6 +2,7 @@
 
 #include "InboxPresenter.h"
 
+#include <QCoreApplication>
 #include <QSet>
 
 #include <algorithm>
@@ -33,8 +34,10 @@ bool isLocated(const TeslaEvent &event) { return event.latitude.has_value() && e
 
 std::vector<Section> sections(const std::vector<TeslaEvent> &events)
 {
-    Section located{QStringLiteral("All located events"), {}};
-    Section unlocated{QStringLiteral("No location recorded"), {}};
+    //: Heading in the map's list over the events with a place
+    Section located{QCoreApplication::translate("EventMapPresenter", "All located events"), {}};
+    //: Heading in the map's list over the events without a place
+    Section unlocated{QCoreApplication::translate("EventMapPresenter", "No location recorded"), {}};
     for (const TeslaEvent &e : events)
         (isLocated(e) ? located : unlocated).events.push_back(e);
     std::vector<Section> out;

@@ -3,6 +3,7 @@
 #include "model/TeslaEvent.h"
 
 #include <QPointF>
+#include <QtGlobal>
 #include <QString>
 #include <vector>
 
@@ -24,9 +25,12 @@ std::vector<Section> sections(const std::vector<TeslaEvent> &events);
 QString pinTint(const TeslaEvent &event); // "red" or "accent"
 QString rowTimestamp(const TeslaEvent &event);
 
-inline const char *emptyTitle = "No events have a location yet";
-inline const char *emptyText = "Your car only records a location for some events. Once you have events with a place "
-                               "attached, they'll appear here as pins.";
+// Translated where shown, in the "EventMapPresenter" context.
+inline const char *emptyTitle = QT_TRANSLATE_NOOP("EventMapPresenter", "No events have a location yet");
+inline const char *emptyText = QT_TRANSLATE_NOOP("EventMapPresenter",
+                                                 "Your car only records a location for some events. Once you have "
+                                                 "events with a place attached, they'll appear here as pins.");
+// The map data's licence asks for this credit as it stands.
 inline const char *attribution = "© OpenStreetMap contributors";
 
 // Web Mercator: world pixel coordinates at a zoom level, 256-pixel tiles.

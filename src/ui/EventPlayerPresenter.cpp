@@ -3,11 +3,15 @@
 #include "VaultMarks.h"
 
 #include "ExportFlow.h"
+
+#include <QFileInfo>
+#include <QPointer>
 #include "InboxPresenter.h"
 #include "PlayerDrivingData.h"
 #include "PlayerLayout.h"
 #include "SymbolIcons.h"
 #include "model/PlatformWords.h"
+#include "timeline/EventTimeline.h"
 
 EventPlayerPresenter::EventPlayerPresenter(QObject *parent)
     : QObject(parent), drivingData_(new PlayerDrivingData(this)), moments_(new PlayerMoments(this))
@@ -137,10 +141,7 @@ QVariantMap EventPlayerPresenter::metadata() const
     m.insert(QStringLiteral("reasonTooltip"), reason.blurb);
     m.insert(QStringLiteral("damagedCount"), damaged);
     m.insert(QStringLiteral("damagedIcon"), SymbolIcons::iconUrl(QStringLiteral("exclamationmark.triangle.fill")));
-    m.insert(QStringLiteral("damagedTooltip"),
-             QString::number(damaged) + (damaged == 1 ? QStringLiteral(" angle") : QStringLiteral(" angles")) +
-                 QStringLiteral(" from this moment didn't record properly. This is a known Tesla drive issue, not "
-                                "something you did."));
+    m.insert(QStringLiteral("damagedTooltip"), InboxPresenter::corruptionToolTip(damaged));
     m.insert(QStringLiteral("dateText"), dateText(e));
     m.insert(QStringLiteral("dateIcon"), SymbolIcons::iconUrl(QStringLiteral("calendar")));
     m.insert(QStringLiteral("city"), e.placeName().value_or(QString()));
@@ -162,9 +163,10 @@ QVariantMap EventPlayerPresenter::metadata() const
     if (appState_) {
         if (const ArchivedEvent *newest = appState_->vaultIndex().newestRecord(e.id())) {
             verified = VaultMarks::vouchesFor(*newest, appState_->verificationLog().find(e.id()));
+            //: %1 is when the event was kept, %2 the name of the drive it came from
             archivedLine = tr("Archived %1 from %2")
-                               .arg(newest->archivedAt.formatLocal(QStringLiteral("MMM d, yyyy h:mm AP")),
-                                    newest->sourceVolume);
+                               .arg(newest->archivedAt.formatForPeople(QStringLiteral("MMM d, yyyy h:mm AP"), Date::Shown::dateAndTime),
+                                    newest->sourceVolumeText());
         }
     }
     m.insert(QStringLiteral("verified"), verified);
@@ -177,66 +179,68 @@ QVariantMap EventPlayerPresenter::texts()
 {
     auto icon = [](const char *name) { return SymbolIcons::iconUrl(QString::fromLatin1(name)); };
     return {
-        {QStringLiteral("loading"), QStringLiteral("Loading cameras…")},
+        {QStringLiteral("loading"), tr("Loading cameras…")},
         {QStringLiteral("waiting"), SyncPlayerController::waitingReason()},
         {QStringLiteral("emptyIcon"), icon("video.slash")},
-        {QStringLiteral("emptyTitle"), QStringLiteral("No playable footage for this event")},
+        {QStringLiteral("emptyTitle"), tr("No playable footage for this event")},
         {QStringLiteral("emptyText"),
-         QStringLiteral("None of this event's camera angles could be read. The files are still safely on your drive "
-                        "— this can happen with a failing drive or a corrupted minute.")},
+         tr("None of this event's camera angles could be read. The files are still safely on your drive — this can "
+            "happen with a failing drive or a corrupted minute.")},
         {QStringLiteral("placeholderIcon"), icon("video.slash")},
-        {QStringLiteral("noFootage"), SyncPlayerController::noFootageReason},
+        {QStringLiteral("noFootage"), EventTimeline::noFootageReasonText()},
         {QStringLiteral("stepBackIcon"), icon("gobackward.5")},
-        {QStringLiteral("stepBackTip"), QStringLiteral("Step back 5 seconds. (Left Arrow)")},
+        {QStringLiteral("stepBackTip"), tr("Step back 5 seconds. (Left Arrow)")},
         {QStringLiteral("stepForwardIcon"), icon("goforward.5")},
-        {QStringLiteral("stepForwardTip"), QStringLiteral("Step forward 5 seconds. (Right Arrow)")},
+        {QStringLiteral("stepForwardTip"), tr("Step forward 5 seconds. (Right Arrow)")},
         {QStringLiteral("frameBackIcon"), icon("backward.frame")},
-        {QStringLiteral("frameBackTip"), QStringLiteral("Step back one frame. (,)")},
+        {QStringLiteral("frameBackTip"), tr("Step back one frame. (,)")},
         {QStringLiteral("frameForwardIcon"), icon("forward.frame")},
-        {QStringLiteral("frameForwardTip"), QStringLiteral("Step forward one frame. (.)")},
+        {QStringLiteral("frameForwardTip"), tr("Step forward one frame. (.)")},
         {QStringLiteral("playIcon"), icon("play.fill")},
         {QStringLiteral("pauseIcon"), icon("pause.fill")},
-        {QStringLiteral("playTip"), QStringLiteral("Play or pause all cameras together, perfectly in sync. (Space)")},
-        {QStringLiteral("moment"), QStringLiteral("Moment")},
+        {QStringLiteral("playTip"), tr("Play or pause all cameras together, perfectly in sync. (Space)")},
+        //: Button: jump to the moment the event happened
+        {QStringLiteral("moment"), tr("Moment")},
         {QStringLiteral("momentIcon"), icon("flag.fill")},
         {QStringLiteral("previousPlaceIcon"), icon("chevron.left")},
         {QStringLiteral("nextPlaceIcon"), icon("chevron.right")},
-        {QStringLiteral("momentTip"),
-         QStringLiteral("Jump to just before the moment it happened — the honk, bump, or detection. (M)")},
-        {QStringLiteral("speed"), QStringLiteral("Speed")},
-        {QStringLiteral("speedTip"), QStringLiteral("Playback speed, from half speed to 4×.")},
-        {QStringLiteral("showAll"), QStringLiteral("Show All Cameras")},
-        {QStringLiteral("showAllTip"), QStringLiteral("Return to the full camera grid.")},
+        {QStringLiteral("momentTip"), tr("Jump to just before the moment it happened — the honk, bump, or detection. (M)")},
+        //: Label of the playback speed picker
+        {QStringLiteral("speed"), tr("Speed")},
+        {QStringLiteral("speedTip"), tr("Playback speed, from half speed to 4×.")},
+        {QStringLiteral("showAll"), tr("Show All Cameras")},
+        {QStringLiteral("showAllTip"), tr("Return to the full camera grid.")},
         {QStringLiteral("showAllIcon"), icon("square.grid.2x2")},
-        {QStringLiteral("sliderTip"), QStringLiteral("Drag to jump to any moment. Every camera stays in sync.")},
-        {QStringLiteral("sliderName"), QStringLiteral("Playback position")},
-        {QStringLiteral("keep"), QStringLiteral("Keep a safe copy on this ") + PlatformWords::computer()},
-        {QStringLiteral("keepShort"), QStringLiteral("Keep")},
+        {QStringLiteral("sliderTip"), tr("Drag to jump to any moment. Every camera stays in sync.")},
+        {QStringLiteral("sliderName"), tr("Playback position")},
+        //: %1 is the user's machine, e.g. "computer"
+        {QStringLiteral("keep"), tr("Keep a safe copy on this %1").arg(PlatformWords::computer())},
+        //: Button that keeps the event in the Vault
+        {QStringLiteral("keepShort"), tr("Keep")},
         {QStringLiteral("keepIcon"), icon("checkmark.shield.fill")},
         {QStringLiteral("keepTip"),
-         QStringLiteral("Copies this footage to your Vault and verifies it matches byte-for-byte. Nothing on your "
-                        "drive is ever changed or deleted. (K)")},
-        {QStringLiteral("dismiss"), QStringLiteral("Dismiss")},
+         tr("Copies this footage to your Vault and verifies it matches byte-for-byte. Nothing on your drive is ever "
+            "changed or deleted. (K)")},
+        //: Button that hides the event from the list
+        {QStringLiteral("dismiss"), tr("Dismiss")},
         {QStringLiteral("dismissIcon"), icon("xmark.circle")},
         {QStringLiteral("dismissTip"),
-         QStringLiteral("Hide this from your inbox. This never deletes anything from your drive or Vault. (D)")},
-        {QStringLiteral("export"), QStringLiteral("Export & Share")},
+         tr("Hide this from your inbox. This never deletes anything from your drive or Vault. (D)")},
+        {QStringLiteral("export"), tr("Export & Share")},
         {QStringLiteral("exportIcon"), icon("square.and.arrow.up")},
         {QStringLiteral("exportTip"),
-         QStringLiteral("Save one camera's footage as its own file and hand it off by email, or save it to a "
-                        "folder.")},
+         tr("Save one camera's footage as its own file and hand it off by email, or save it to a folder.")},
         {QStringLiteral("focusIcon"), icon("arrow.up.left.and.arrow.down.right")},
         {QStringLiteral("unfocusIcon"), icon("arrow.down.right.and.arrow.up.left")},
-        {QStringLiteral("focusTip"), QStringLiteral("Fill the window with just the cameras. (F, Esc to go back)")},
-        {QStringLiteral("verifiedLabel"), QStringLiteral("Verified copy")},
+        {QStringLiteral("focusTip"), tr("Fill the window with just the cameras. (F, Esc to go back)")},
+        {QStringLiteral("verifiedLabel"), tr("Verified copy")},
         {QStringLiteral("verifiedTip"),
-         QStringLiteral("This copy was checked byte-for-byte against your drive when it was archived. Tap for the "
-                        "technical detail.")},
-        {QStringLiteral("verifiedTitle"), QStringLiteral("Faithful Copy")},
+         tr("This copy was checked byte-for-byte against your drive when it was archived. Tap for the technical "
+            "detail.")},
+        {QStringLiteral("verifiedTitle"), tr("Faithful Copy")},
         {QStringLiteral("verifiedText"),
-         QStringLiteral("Every file below was copied and its checksum (SHA-256) was compared to the original on your "
-                        "drive at the time — a faithful, unaltered copy. This is a technical integrity check, not a "
-                        "legal certification.")},
+         tr("Every file below was copied and its checksum (SHA-256) was compared to the original on your drive at the "
+            "time — a faithful, unaltered copy. This is a technical integrity check, not a legal certification.")},
     };
 }
 
@@ -281,6 +285,17 @@ ExportFlow *EventPlayerPresenter::newExportFlow()
         exportFlow_->deleteLater();
     }
     exportFlow_ = new ExportFlow(appState_->engine(), *event_, this);
+    // The desktop hears of a long export that ended behind other windows.
+    connect(exportFlow_, &ExportFlow::exportFinished, this, [this, flow = QPointer<ExportFlow>(exportFlow_)] {
+        if (!flow || !appState_)
+            return;
+        if (flow->exportedPath())
+            appState_->noteExportEnded(flow->lastRunSeconds(), tr("Export finished"),
+                                       //: %1 is the file's name
+                                       tr("%1 is ready.").arg(QFileInfo(*flow->exportedPath()).fileName()));
+        else if (flow->errorMessage())
+            appState_->noteExportEnded(flow->lastRunSeconds(), tr("Export didn't finish"), *flow->errorMessage());
+    });
     exportFlow_->setDriveRoot(appState_->driveRootURL());
     exportFlow_->setVaultURL(appState_->vaultURL());
     // The player's timeline, once its tiles have told how long it is.

@@ -122,7 +122,7 @@ void ExportFlow::setIncludeKeys(bool on)
 QString ExportFlow::explanationText() const
 {
     if (!isReport())
-        return explanation;
+        return tr(explanation);
     return tr("Put together what an insurer, the police or a lawyer asks for: when and where it happened, what "
               "each camera saw, how the car was driven, and every original file with a way to check it.");
 }
@@ -282,14 +282,16 @@ CombinedExportOptions ExportFlow::combinedOptions() const
 QString ExportFlow::timeLeftText(double seconds)
 {
     if (seconds < 10)
-        return QStringLiteral("a few seconds left");
+        return tr("a few seconds left");
+    // Rounded to ten seconds and to whole minutes, neither count is ever one.
     if (seconds < 55)
-        return QStringLiteral("about %1 seconds left").arg(int(std::lround(seconds / 10.0)) * 10);
+        return tr("about %n seconds left", nullptr, int(std::lround(seconds / 10.0)) * 10);
     if (seconds < 90)
-        return QStringLiteral("about a minute left");
+        return tr("about a minute left");
     if (seconds < 90 * 60)
-        return QStringLiteral("about %1 minutes left").arg(std::lround(seconds / 60.0));
-    return QStringLiteral("about %1 hours left").arg(QLocale().toString(seconds / 3600.0, 'f', 1));
+        return tr("about %n minutes left", nullptr, int(std::lround(seconds / 60.0)));
+    //: %1 is a number of hours with one decimal, e.g. 1.5
+    return tr("about %1 hours left").arg(QLocale().toString(seconds / 3600.0, 'f', 1));
 }
 
 QString ExportFlow::progressText() const
@@ -302,13 +304,14 @@ QString ExportFlow::progressText() const
     if (p.finishing || p.complete)
         return texts().value(QStringLiteral("finishing")).toString();
     const QLocale locale;
-    QStringList parts{QStringLiteral("%1 of %2 frames").arg(locale.toString(p.framesDone), locale.toString(p.framesTotal))};
+    QStringList parts{tr("%1 of %2 frames").arg(locale.toString(p.framesDone), locale.toString(p.framesTotal))};
     // The movie's own seconds per second of work: its frames per second of
     // footage follow from the part's length.
     const double span = exportingRange_ ? exportingRange_->second - exportingRange_->first : timelineLength_.value_or(0.0);
     if (p.framesPerSecond > 0 && span > 0 && p.framesTotal > 0) {
         const double speed = p.framesPerSecond * span / double(p.framesTotal);
-        parts << QStringLiteral("%1× real time").arg(locale.toString(speed, 'f', speed < 10 ? 1 : 0));
+        //: How fast the movie is made: 1.8× real time
+        parts << tr("%1× real time").arg(locale.toString(speed, 'f', speed < 10 ? 1 : 0));
     }
     if (p.secondsLeft)
         parts << timeLeftText(*p.secondsLeft);
@@ -340,12 +343,14 @@ QVariantList ExportFlow::camerasForQml() const
 
 QString ExportFlow::readyText() const
 {
-    return exportedPath_ ? QStringLiteral("Ready: ") + QFileInfo(*exportedPath_).fileName() : QString();
+    //: %1 is the exported file's name
+    return exportedPath_ ? tr("Ready: %1").arg(QFileInfo(*exportedPath_).fileName()) : QString();
 }
 
 QString ExportFlow::savedText() const
 {
-    return savedFileName_ ? QStringLiteral("Saved as ") + *savedFileName_ : QString();
+    //: %1 is the saved file's name
+    return savedFileName_ ? tr("Saved as %1").arg(*savedFileName_) : QString();
 }
 
 QString ExportFlow::suggestedSaveFolder()
@@ -385,61 +390,79 @@ void ExportFlow::presentSavePanel()
 
 QVariantMap ExportFlow::texts()
 {
-    return {{QStringLiteral("title"), title},
-            {QStringLiteral("explanation"), explanation},
-            {QStringLiteral("cameraLabel"), QStringLiteral("Camera")},
+    return {{QStringLiteral("title"), tr(title)},
+            {QStringLiteral("explanation"), tr(explanation)},
+            //: Label of the camera picker
+            {QStringLiteral("cameraLabel"), tr("Camera")},
             {QStringLiteral("layoutLabel"), tr("Export as")},
-            {QStringLiteral("layout_original"), QStringLiteral("One camera (original quality)")},
-            {QStringLiteral("layout_grid"), QStringLiteral("Grid of every camera")},
-            {QStringLiteral("layout_front-sides"), QStringLiteral("Front and sides")},
-            {QStringLiteral("layout_single"), QStringLiteral("One camera with overlay")},
-            {QStringLiteral("overlayLabel"), QStringLiteral("Show")},
-            {QStringLiteral("overlayTime"), QStringLiteral("Date and time")},
-            {QStringLiteral("overlayNames"), QStringLiteral("Camera names")},
-            {QStringLiteral("overlayReason"), QStringLiteral("Reason and place")},
-            {QStringLiteral("overlayDrivingData"), QStringLiteral("Driving data")},
-            {QStringLiteral("noDrivingData"), QStringLiteral("No driving data in these clips")},
-            {QStringLiteral("sizeLabel"), QStringLiteral("Size")},
-            {QStringLiteral("size720"), QStringLiteral("720p")},
-            {QStringLiteral("size1080"), QStringLiteral("1080p")},
-            {QStringLiteral("sizeFull"), QStringLiteral("Full resolution")},
-            {QStringLiteral("rangeLabel"), QStringLiteral("Length")},
-            {QStringLiteral("rangeWhole"), QStringLiteral("Whole event")},
-            {QStringLiteral("rangeMoment"), QStringLiteral("From the moment")},
-            {QStringLiteral("rangeMomentTip"), QStringLiteral("From 10 seconds before the moment it happened to 20 seconds after.")},
-            {QStringLiteral("rangeCustom"), QStringLiteral("Custom")},
-            {QStringLiteral("rangeFrom"), QStringLiteral("From")},
-            {QStringLiteral("rangeTo"), QStringLiteral("to")},
-            {QStringLiteral("rangeUnit"), QStringLiteral("into the event")},
-            {QStringLiteral("rangeBackwards"), QStringLiteral("The end has to come after the start.")},
-            {QStringLiteral("finishing"), QStringLiteral("Finishing the file…")},
-            {QStringLiteral("exporting"), QStringLiteral("Exporting…")},
-            {QStringLiteral("saving"), QStringLiteral("Saving a copy…")},
-            {QStringLiteral("cancel"), QStringLiteral("Cancel")},
-            {QStringLiteral("export"), QStringLiteral("Export")},
-            {QStringLiteral("stop"), QStringLiteral("Stop")},
-            {QStringLiteral("stopTip"), stopTooltip},
-            {QStringLiteral("done"), QStringLiteral("Done")},
-            {QStringLiteral("showInFolder"), QStringLiteral("Show in Folder")},
-            {QStringLiteral("showInFolderTip"), QStringLiteral("Opens the folder that holds the file, with the file selected.")},
-            {QStringLiteral("email"), QStringLiteral("Email…")},
-            {QStringLiteral("emailTip"), QStringLiteral("Starts a new email with the file attached.")},
-            {QStringLiteral("saveTo"), QStringLiteral("Save to…")},
-            {QStringLiteral("saveToTip"), QStringLiteral("Choose exactly where on your ") + PlatformWords::computer() + QStringLiteral(" to save this file.")},
-            {QStringLiteral("movieFilter"), QStringLiteral("MPEG-4 movie (*.mp4)")},
+            {QStringLiteral("layout_original"), tr("One camera (original quality)")},
+            {QStringLiteral("layout_grid"), tr("Grid of every camera")},
+            {QStringLiteral("layout_front-sides"), tr("Front and sides")},
+            {QStringLiteral("layout_single"), tr("One camera with overlay")},
+            //: Label over the overlay choices: which details the movie shows over the video
+            {QStringLiteral("overlayLabel"), tr("Show")},
+            {QStringLiteral("overlayTime"), tr("Date and time")},
+            {QStringLiteral("overlayNames"), tr("Camera names")},
+            {QStringLiteral("overlayReason"), tr("Reason and place")},
+            {QStringLiteral("overlayDrivingData"), tr("Driving data")},
+            {QStringLiteral("noDrivingData"), tr("No driving data in these clips")},
+            //: Label over the movie's picture size choices
+            {QStringLiteral("sizeLabel"), tr("Size")},
+            //: Picture size: 720 lines high
+            {QStringLiteral("size720"), tr("720p")},
+            //: Picture size: 1080 lines high
+            {QStringLiteral("size1080"), tr("1080p")},
+            {QStringLiteral("sizeFull"), tr("Full resolution")},
+            //: Label over the choices of which part of the event to export
+            {QStringLiteral("rangeLabel"), tr("Length")},
+            {QStringLiteral("rangeWhole"), tr("Whole event")},
+            {QStringLiteral("rangeMoment"), tr("From the moment")},
+            {QStringLiteral("rangeMomentTip"), tr("From 10 seconds before the moment it happened to 20 seconds after.")},
+            //: A part of the event the user sets by start and end
+            {QStringLiteral("rangeCustom"), tr("Custom")},
+            //: Reads "From [0:10] to [0:40] into the event"
+            {QStringLiteral("rangeFrom"), tr("From")},
+            //: Reads "From [0:10] to [0:40] into the event"
+            {QStringLiteral("rangeTo"), tr("to")},
+            //: Reads "From [0:10] to [0:40] into the event"
+            {QStringLiteral("rangeUnit"), tr("into the event")},
+            {QStringLiteral("rangeBackwards"), tr("The end has to come after the start.")},
+            {QStringLiteral("finishing"), tr("Finishing the file…")},
+            {QStringLiteral("exporting"), tr("Exporting…")},
+            {QStringLiteral("saving"), tr("Saving a copy…")},
+            {QStringLiteral("cancel"), tr("Cancel")},
+            //: Button that starts the export
+            {QStringLiteral("export"), tr("Export")},
+            //: Button that stops a running export
+            {QStringLiteral("stop"), tr("Stop")},
+            {QStringLiteral("stopTip"), tr(stopTooltip)},
+            //: Button that closes the finished export dialog
+            {QStringLiteral("done"), tr("Done")},
+            {QStringLiteral("showInFolder"), tr("Show in Folder")},
+            {QStringLiteral("showInFolderTip"), tr("Opens the folder that holds the file, with the file selected.")},
+            {QStringLiteral("email"), tr("Email…")},
+            {QStringLiteral("emailTip"), tr("Starts a new email with the file attached.")},
+            {QStringLiteral("saveTo"), tr("Save to…")},
+            //: %1 is the user's machine, e.g. "computer"
+            {QStringLiteral("saveToTip"), tr("Choose exactly where on your %1 to save this file.").arg(PlatformWords::computer())},
+            //: File type filter of the save dialog; keep "(*.mp4)" as it is
+            {QStringLiteral("movieFilter"), tr("MPEG-4 movie (*.mp4)")},
             {QStringLiteral("layout_report"), tr("Incident Report (PDF)")},
             {QStringLiteral("layout_package"), tr("Evidence Package (ZIP)")},
             {QStringLiteral("reportAbout"),
              tr("When and where, each camera at the moment, the driving data, and every original file with its "
                 "SHA-256, ready for an insurer or the police.")},
             {QStringLiteral("packageAbout"),
+             //: SHA256SUMS is a file name; keep it as it is
              tr("The report, every original file exactly as the car wrote it, and a SHA256SUMS file anyone can "
                 "check them with, in one ZIP.")},
             {QStringLiteral("includeKeys"), tr("Include unlock keys")},
             {QStringLiteral("includeKeysTip"),
              tr("Lets whoever receives the package play the encrypted footage. Anyone with the keys can watch it.")},
             {QStringLiteral("making"), tr("Making the report…")},
+            //: File type filter of the save dialog; keep "(*.pdf)" as it is
             {QStringLiteral("reportFilter"), tr("PDF document (*.pdf)")},
+            //: File type filter of the save dialog; keep "(*.zip)" as it is
             {QStringLiteral("packageFilter"), tr("ZIP archive (*.zip)")}};
 }
 
@@ -450,6 +473,7 @@ void ExportFlow::startExport()
     const QString folder = QDir(QDir::tempPath()).filePath(QUuid::createUuid().toString(QUuid::WithoutBraces));
     scratchFolder_ = folder;
     isExporting_ = true;
+    runClock_.start();
     sessionBegan_ = false;
     stopRequested_ = false;
     combinedProgress_.reset();
@@ -458,7 +482,7 @@ void ExportFlow::startExport()
 
     if (!QDir().mkpath(folder)) {
         isExporting_ = false;
-        errorMessage_ = failureMessage;
+        errorMessage_ = tr(failureMessage);
         Q_EMIT changed();
         return;
     }
@@ -531,7 +555,7 @@ void ExportFlow::finish(const QFuture<void> &future, const QString &output)
         if (!future.isCanceled())
             exportedPath_ = output;
         else if (sessionBegan_ && !(isCombined() && stopRequested_))
-            errorMessage_ = failureMessage; // stopped while the session was writing
+            errorMessage_ = tr(failureMessage); // stopped while the session was writing
     } catch (const CancellationError &) {
         // Stopped before the session began: back to choosing, quietly.
     } catch (const ReportError &e) {
@@ -541,7 +565,7 @@ void ExportFlow::finish(const QFuture<void> &future, const QString &output)
         // A new movie the user stopped is simply not made; the copy keeps
         // its old word for a stop while writing.
         if (!(isCombined() && stopRequested_))
-            errorMessage_ = failureMessage;
+            errorMessage_ = tr(failureMessage);
     }
     // The scratch folder is ours alone; whatever a stopped or failed export
     // left in it goes with it.
@@ -570,13 +594,14 @@ bool ExportFlow::saveTo(const QString &destination)
     Q_EMIT changed();
     const QString source = *exportedPath_;
     // The failure's sentence; empty when the copy is in place.
-    const QFuture<QString> copy = AsyncRun::onPool(EnginePools::quick(), [source, path, drive = driveRoot_] {
+    const QString failed = tr(saveFailureMessage);
+    const QFuture<QString> copy = AsyncRun::onPool(EnginePools::quick(), [source, path, failed, drive = driveRoot_] {
         if (drive && DriveBoundary::writesInto(*drive, path).value_or(false))
-            return DriveBoundary::exportRefusal;
-        return copyReplacing(source, path) ? QString() : saveFailureMessage;
+            return DriveBoundary::exportRefusalText();
+        return copyReplacing(source, path) ? QString() : failed;
     });
-    Awaiting::whenFinished(this, copy, [this, path](QFuture<QString> done) {
-        const QString failure = Awaiting::take(done).value_or(saveFailureMessage);
+    Awaiting::whenFinished(this, copy, [this, path, failed](QFuture<QString> done) {
+        const QString failure = Awaiting::take(done).value_or(failed);
         const bool ok = failure.isEmpty();
         isSaving_ = false;
         if (ok)

@@ -7,6 +7,7 @@
 #include "model/TeslaEvent.h"
 
 #include <QFuture>
+#include <QElapsedTimer>
 #include <QObject>
 #include <QString>
 #include <QVariantList>
@@ -75,16 +76,18 @@ public:
     // Whether the event's clips carry the car's driving data.
     enum class DrivingData { unknown, present, absent };
 
-    static inline const QString title = QStringLiteral("Export & Share");
-    static inline const QString explanation =
-        QStringLiteral("Save this event as its own video file, ready to send to an insurer, police, or anyone "
-                       "else who needs it: one camera exactly as recorded, or every camera in one movie.");
-    static inline const QString failureMessage =
-        QStringLiteral("This couldn't be exported right now. Your original footage on the drive is untouched — "
-                       "you can try again.");
-    static inline const QString saveFailureMessage = QStringLiteral("Couldn't save there — try a different folder.");
-    static inline const QString stopTooltip =
-        QStringLiteral("Stops the export. Your original footage is untouched either way.");
+    // Marked here, translated where shown: a static string is made before
+    // any translator is installed.
+    static inline const char *const title = QT_TR_NOOP("Export & Share");
+    static inline const char *const explanation =
+        QT_TR_NOOP("Save this event as its own video file, ready to send to an insurer, police, or anyone else who "
+                   "needs it: one camera exactly as recorded, or every camera in one movie.");
+    static inline const char *const failureMessage =
+        QT_TR_NOOP("This couldn't be exported right now. Your original footage on the drive is untouched — you can "
+                   "try again.");
+    static inline const char *const saveFailureMessage = QT_TR_NOOP("Couldn't save there — try a different folder.");
+    static inline const char *const stopTooltip =
+        QT_TR_NOOP("Stops the export. Your original footage is untouched either way.");
 
     ExportFlow(ExportAccess &engine, const TeslaEvent &event, QObject *parent = nullptr);
     ~ExportFlow() override;
@@ -99,6 +102,8 @@ public:
     double progress() const { return progress_; }
     const std::optional<QString> &errorMessage() const { return errorMessage_; }
     const std::optional<QString> &exportedPath() const { return exportedPath_; }
+    // How long the last export ran, start to end.
+    double lastRunSeconds() const { return double(runClock_.elapsed()) / 1000.0; }
     const std::optional<QString> &savedFileName() const { return savedFileName_; }
     const std::optional<QString> &saveErrorMessage() const { return saveErrorMessage_; }
     bool isSaving() const { return isSaving_; }
@@ -216,6 +221,7 @@ private:
     bool sessionBegan_ = false;
     std::optional<QString> errorMessage_;
     std::optional<QString> exportedPath_;
+    QElapsedTimer runClock_;
     std::optional<QString> savedFileName_;
     std::optional<QString> saveErrorMessage_;
     bool isSaving_ = false;

@@ -15,7 +15,7 @@ QString FileHandOff::emailProgram()
 
 QString FileHandOff::shareTooltip()
 {
-    return QStringLiteral("Show the file in its folder, or attach it to a new email.");
+    return tr("Show the file in its folder, or attach it to a new email.");
 }
 
 QList<QStringList> FileHandOff::showInFolderCommands(const QString &path)

@@ -3,6 +3,7 @@
 #include "SymbolIcons.h"
 #include "model/TeslaViewer.h"
 
+#include <QCoreApplication>
 #include <QVariantList>
 #include <cmath>
 
@@ -16,13 +17,16 @@ bool nearlyFullWithUnkept(double fraction, int unarchived) { return fraction > 0
 QString fullnessConsequenceText(double fraction, int unarchivedEventCount)
 {
     // Full is normal for a car drive, so the first sentence stands at every level.
-    QString text = QString::number(static_cast<long long>(std::llround(fraction * 100)))
-                   + QStringLiteral("% full — normal for a Tesla drive. The car reuses space by overwriting its oldest "
-                                    "footage.");
+    //: %1 is a whole percentage; "%1% full" reads "90% full"
+    QString text = QCoreApplication::translate("HealthPresenter",
+                                               "%1% full — normal for a Tesla drive. The car reuses space by "
+                                               "overwriting its oldest footage.")
+                       .arg(static_cast<long long>(std::llround(fraction * 100)));
     if (nearlyFullWithUnkept(fraction, unarchivedEventCount))
-        text += QStringLiteral(" You have ") + QString::number(unarchivedEventCount) + QStringLiteral(" event")
-                + (unarchivedEventCount == 1 ? QString() : QStringLiteral("s"))
-                + QStringLiteral(" not backed up yet — see the recommendation below.");
+        text += QLatin1Char(' ')
+                + QCoreApplication::translate("HealthPresenter",
+                                              "You have %n events not backed up yet — see the recommendation below.",
+                                              nullptr, unarchivedEventCount);
     return text;
 }
 
@@ -45,7 +49,7 @@ QString severityColour(Recommendation::Severity severity)
 QVariantMap content(const HealthReport &report)
 {
     QVariantMap m;
-    m[QStringLiteral("freeSpaceHeading")] = QStringLiteral("Free Space");
+    m[QStringLiteral("freeSpaceHeading")] = QCoreApplication::translate("HealthPresenter", "Free Space");
     m[QStringLiteral("hasFullness")] = report.fullnessFraction.has_value();
     if (report.fullnessFraction) {
         const double f = *report.fullnessFraction;
@@ -54,26 +58,31 @@ QVariantMap content(const HealthReport &report)
         m[QStringLiteral("barIsOrange")] = fullnessBarIsOrange(f, report.unarchivedEventCount);
     } else {
         m[QStringLiteral("fullnessFraction")] = 0.0;
-        m[QStringLiteral("fullnessText")] = QStringLiteral("We couldn't read this drive's capacity.");
+        m[QStringLiteral("fullnessText")] = QCoreApplication::translate("HealthPresenter", "We couldn't read this drive's capacity.");
         m[QStringLiteral("barIsOrange")] = false;
     }
 
-    m[QStringLiteral("formatHeading")] = QStringLiteral("Format");
+    //: Heading: the drive's file system format (exFAT, FAT32, …)
+    m[QStringLiteral("formatHeading")] = QCoreApplication::translate("HealthPresenter", "Format");
     m[QStringLiteral("formatVerdict")] = report.formatVerdict;
 
-    m[QStringLiteral("conditionHeading")] = QStringLiteral("Footage Condition");
+    m[QStringLiteral("conditionHeading")] = QCoreApplication::translate("HealthPresenter", "Footage Condition");
     QString symbol, text, subtext;
     if (report.probedClipCount == 0) {
-        text = QStringLiteral("Still checking your footage for damage — check back shortly.");
+        text = QCoreApplication::translate("HealthPresenter", "Still checking your footage for damage — check back shortly.");
     } else if (report.corruptClipCount == 0) {
         symbol = QStringLiteral("checkmark.circle");
-        text = QStringLiteral("All ") + QString::number(report.probedClipCount)
-               + QStringLiteral(" checked clips are in good shape.");
+        text = QCoreApplication::translate("HealthPresenter", "All %n checked clips are in good shape.", nullptr,
+                                           report.probedClipCount);
     } else {
         symbol = QStringLiteral("exclamationmark.triangle");
-        text = QString::number(report.corruptClipCount) + QStringLiteral(" of ") + QString::number(report.probedClipCount)
-               + QStringLiteral(" checked clips didn't record properly.");
-        subtext = QStringLiteral("This is a known issue with some Tesla USB drives and isn't something you did.");
+        //: %1 damaged clips of %n checked
+        text = QCoreApplication::translate("HealthPresenter", "%1 of %n checked clips didn't record properly.", nullptr,
+                                           report.probedClipCount)
+                   .arg(report.corruptClipCount);
+        subtext = QCoreApplication::translate("HealthPresenter",
+                                              "This is a known issue with some Tesla USB drives and isn't something "
+                                              "you did.");
     }
     m[QStringLiteral("conditionSymbol")] = symbol;
     m[QStringLiteral("conditionIcon")] = symbol.isEmpty() ? QString() : SymbolIcons::iconUrl(symbol);
@@ -81,16 +90,21 @@ QVariantMap content(const HealthReport &report)
     m[QStringLiteral("conditionSubtext")] = subtext;
 
     m[QStringLiteral("showEncryption")] = report.encryptedClipsPresent;
-    m[QStringLiteral("encryptionHeading")] = QStringLiteral("Encryption");
+    m[QStringLiteral("encryptionHeading")] = QCoreApplication::translate("HealthPresenter", "Encryption");
     m[QStringLiteral("encryptionIcon")] = SymbolIcons::iconUrl(QStringLiteral("lock.doc"));
-    m[QStringLiteral("encryptionText")] = QStringLiteral("Some clips on this drive are encrypted by your car.");
-    m[QStringLiteral("encryptionDetail")] = QStringLiteral("Keelhold can still back these up as-is. Encrypted clips play at ")
-                                            + TeslaViewer::host() + QStringLiteral(".");
-    m[QStringLiteral("encryptionButton")] = QStringLiteral("Turn encryption off for future recordings…");
-    m[QStringLiteral("encryptionButtonTip")] =
-        QStringLiteral("A 30-second setting in your car. Everything already recorded is unaffected.");
+    m[QStringLiteral("encryptionText")] =
+        QCoreApplication::translate("HealthPresenter", "Some clips on this drive are encrypted by your car.");
+    //: %1 is the web viewer's host name, dashcam.tesla.com
+    m[QStringLiteral("encryptionDetail")] =
+        QCoreApplication::translate("HealthPresenter",
+                                    "Keelhold can still back these up as-is. Encrypted clips play at %1.")
+            .arg(TeslaViewer::host());
+    m[QStringLiteral("encryptionButton")] =
+        QCoreApplication::translate("HealthPresenter", "Turn encryption off for future recordings…");
+    m[QStringLiteral("encryptionButtonTip")] = QCoreApplication::translate(
+        "HealthPresenter", "A 30-second setting in your car. Everything already recorded is unaffected.");
 
-    m[QStringLiteral("recommendationsHeading")] = QStringLiteral("Recommendations");
+    m[QStringLiteral("recommendationsHeading")] = QCoreApplication::translate("HealthPresenter", "Recommendations");
     QVariantList recs;
     for (const Recommendation &r : report.recommendations)
         recs.append(QVariantMap{{QStringLiteral("id"), r.id},
@@ -106,9 +120,12 @@ QVariantMap content(const HealthReport &report)
 QVariantMap emptyState()
 {
     return {{QStringLiteral("symbolName"), QStringLiteral("waveform.path.ecg")},
-            {QStringLiteral("title"), QStringLiteral("No drive health yet")},
-            {QStringLiteral("message"), QStringLiteral("Scan a Tesla drive from the Drive tab to see its fullness, "
-                                                       "corruption rate, and format at a glance.")}};
+            {QStringLiteral("title"), QCoreApplication::translate("HealthPresenter", "No drive health yet")},
+            {QStringLiteral("message"),
+             //: "Drive" is the app's own tab; translate it as there
+             QCoreApplication::translate("HealthPresenter",
+                                         "Scan a Tesla drive from the Drive tab to see its fullness, corruption rate, "
+                                         "and format at a glance.")}};
 }
 
 } // namespace HealthPresenter

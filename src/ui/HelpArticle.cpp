@@ -39,7 +39,8 @@ QString HelpArticle::title() const
     switch (value_) {
     case sentryMode: return QCoreApplication::translate("HelpArticle", "What is Sentry Mode?");
     case oneMinuteClips: return QCoreApplication::translate("HelpArticle", "Why are clips exactly one minute long?");
-    case corruptionExplained: return QStringLiteral("What does \"didn't record properly\" mean?");
+    //: The quoted words are the app's own, from its message about damaged clips
+    case corruptionExplained: return QCoreApplication::translate("HelpArticle", "What does \"didn't record properly\" mean?");
     case encryptionExplained: return QCoreApplication::translate("HelpArticle", "Why does it say some clips are encrypted?");
     case howVaultWorks: return QCoreApplication::translate("HelpArticle", "How does the Vault keep my footage safe?");
     case readOnlyPromise: return QCoreApplication::translate("HelpArticle", "Will this app ever change or delete anything on my drive?");
@@ -101,31 +102,43 @@ QStringList HelpArticle::paragraphs() const
                                             "the keys so the footage plays here from then on, even offline. You can "
                                             "also watch them at %1, where your browser fetches the keys the same way.")
                     .arg(TeslaViewer::host()),
-                QStringLiteral("Want future footage to play right here instead? In your car: Controls → Safety → switch "
-                               "off \"Encrypt Dashcam Recordings\" (about 30 seconds — the app can walk you through it "
-                               "wherever you see the encryption notice). Everything already recorded is unaffected either "
-                               "way.")};
+                //: Controls, Safety and "Encrypt Dashcam Recordings" are named as on the car's touchscreen
+                QCoreApplication::translate("HelpArticle",
+                                            "Want future footage to play right here instead? In your car: Controls → "
+                                            "Safety → switch off \"Encrypt Dashcam Recordings\" (about 30 seconds — the "
+                                            "app can walk you through it wherever you see the encryption notice). "
+                                            "Everything already recorded is unaffected either way.")};
     case howVaultWorks:
-        return {QStringLiteral("When you choose \"Keep\" on an event, Keelhold copies every file for that event to a folder "
-                               "you chose (your \"Vault\") while checking the data as it copies. It then re-checks the "
-                               "copy's checksum (SHA-256) against the original to make sure the copy is a faithful, "
-                               "byte-for-byte match — you'll see it marked \"Verified copy\" afterward."),
-                QStringLiteral("Your Vault works completely independently of your car's drive: once something is kept, you "
-                               "can browse and watch it any time, even with the Tesla drive unplugged or gone entirely. "
-                               "Re-importing the same drive later automatically recognizes anything already kept, so you "
-                               "never end up with duplicates.")};
+        //: "Keep" and "Verified copy" are the app's own button and mark; translate them as there
+        return {QCoreApplication::translate("HelpArticle",
+                                            "When you choose \"Keep\" on an event, Keelhold copies every file for that "
+                                            "event to a folder you chose (your \"Vault\") while checking the data as it "
+                                            "copies. It then re-checks the copy's checksum (SHA-256) against the original "
+                                            "to make sure the copy is a faithful, byte-for-byte match — you'll see it "
+                                            "marked \"Verified copy\" afterward."),
+                QCoreApplication::translate("HelpArticle",
+                                            "Your Vault works completely independently of your car's drive: once "
+                                            "something is kept, you can browse and watch it any time, even with the "
+                                            "Tesla drive unplugged or gone entirely. Re-importing the same drive later "
+                                            "automatically recognizes anything already kept, so you never end up with "
+                                            "duplicates.")};
     case readOnlyPromise:
-        return {QStringLiteral("No. Keelhold only ever reads from your Tesla's drive — no code path in this app writes to "
-                               "it, renames anything on it, or deletes anything from it. The only place this app writes "
-                               "to is the Vault folder you choose on your ")
-                    + PlatformWords::computer() + QStringLiteral(" (or another drive you pick)."),
-                QStringLiteral("This matters most right after something happens to your car: the drive from your "
-                               "glovebox is exactly as safe to hand to police or an insurer after using this app as it "
-                               "was before.")};
+        //: %1 is the user's machine, e.g. "computer"
+        return {QCoreApplication::translate("HelpArticle",
+                                            "No. Keelhold only ever reads from your Tesla's drive — no code path in this "
+                                            "app writes to it, renames anything on it, or deletes anything from it. The "
+                                            "only place this app writes to is the Vault folder you choose on your %1 (or "
+                                            "another drive you pick).")
+                    .arg(PlatformWords::computer()),
+                QCoreApplication::translate("HelpArticle",
+                                            "This matters most right after something happens to your car: the drive "
+                                            "from your glovebox is exactly as safe to hand to police or an insurer after "
+                                            "using this app as it was before.")};
     case keyboardShortcuts:
-        return {QStringLiteral("You can review everything without touching the mouse:"),
-                QStringLiteral("A quick reminder of these appears under the playback controls until you hide it — and you "
-                               "can always come back here.")};
+        return {QCoreApplication::translate("HelpArticle", "You can review everything without touching the mouse:"),
+                QCoreApplication::translate("HelpArticle",
+                                            "A quick reminder of these appears under the playback controls until you "
+                                            "hide it — and you can always come back here.")};
     }
     return {};
 }
@@ -134,20 +147,24 @@ QStringList HelpArticle::listLines() const
 {
     if (value_ != keyboardShortcuts)
         return {};
-    return {QStringLiteral("Space — play or pause all cameras together"),
-            QStringLiteral("← and → — skip back or forward 5 seconds"),
-            QStringLiteral(", and . — step one frame back or forward (pauses first)"),
-            QStringLiteral("1 to 7 — jump straight to a camera (in the order shown in the grid)"),
-            QStringLiteral("0 — back to all cameras"),
-            QStringLiteral("M — replay the moment it happened (just before the honk, bump, or detection)"),
+    //: A line of the keyboard help: the key, a dash, what it does. Name keys as keyboards there mark them
+    return {QCoreApplication::translate("HelpArticle", "Space — play or pause all cameras together"),
+            QCoreApplication::translate("HelpArticle", "← and → — skip back or forward 5 seconds"),
+            QCoreApplication::translate("HelpArticle", ", and . — step one frame back or forward (pauses first)"),
+            QCoreApplication::translate("HelpArticle",
+                                        "1 to 7 — jump straight to a camera (in the order shown in the grid)"),
+            QCoreApplication::translate("HelpArticle", "0 — back to all cameras"),
+            QCoreApplication::translate("HelpArticle",
+                                        "M — replay the moment it happened (just before the honk, bump, or detection)"),
             QCoreApplication::translate("HelpArticle",
                                         "N and Shift+N — jump to the next or previous thing that happened: someone "
                                         "moving in front of a camera (that camera is enlarged), or a hard brake, "
                                         "swerve or Autosteer switching off"),
-            QStringLiteral("F — fill the window with just the cameras (Esc goes back)"),
-            QStringLiteral("T — show or hide the car's driving data over the video (speed, pedals, steering, "
-                           "Autopilot)"),
-            QStringLiteral("↑ and ↓ — move through the event list, auto-playing each one"),
-            QStringLiteral("K — keep a safe copy of the selected event in your Vault"),
-            QStringLiteral("D — dismiss the selected event (never deletes any footage)")};
+            QCoreApplication::translate("HelpArticle", "F — fill the window with just the cameras (Esc goes back)"),
+            QCoreApplication::translate("HelpArticle",
+                                        "T — show or hide the car's driving data over the video (speed, pedals, "
+                                        "steering, Autopilot)"),
+            QCoreApplication::translate("HelpArticle", "↑ and ↓ — move through the event list, auto-playing each one"),
+            QCoreApplication::translate("HelpArticle", "K — keep a safe copy of the selected event in your Vault"),
+            QCoreApplication::translate("HelpArticle", "D — dismiss the selected event (never deletes any footage)")};
 }

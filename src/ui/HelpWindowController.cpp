@@ -38,7 +38,7 @@ void HelpWindowController::show(std::optional<HelpArticle> article)
     if (!w)
         return;
     window_ = w;
-    w->setTitle(windowTitle);
+    w->setTitle(tr(windowTitle));
     w->resize(contentSize);
     if (QScreen *screen = w->screen() ? w->screen() : QGuiApplication::primaryScreen()) {
         const QRect area = screen->availableGeometry();

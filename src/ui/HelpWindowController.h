@@ -15,7 +15,8 @@ class HelpWindowController : public QObject {
     Q_OBJECT
     Q_PROPERTY(QObject *selection READ selectionObject CONSTANT)
 public:
-    static inline const QString windowTitle = QStringLiteral("Keelhold Help");
+    // Translated when the window is made: a static string predates the translators.
+    static inline const char *const windowTitle = QT_TR_NOOP("Keelhold Help");
     static constexpr QSize contentSize{700, 480};
 
     // Makes the window's content; the controller owns what it returns.

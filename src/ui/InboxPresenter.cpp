@@ -1,5 +1,7 @@
 #include "InboxPresenter.h"
 
+#include "base/Translations.h"
+
 #include "playback/SyncPlayerController.h"
 
 #include <QCoreApplication>
@@ -29,28 +31,34 @@ QString byteCount(qint64 bytes)
 
 QString rowTimestamp(const TeslaEvent &event)
 {
-    return event.timestamp.formatLocal(QStringLiteral("ddd h:mm AP"));
+    return event.timestamp.formatForPeople(QStringLiteral("ddd h:mm AP"), Date::Shown::weekdayAndTime);
 }
 
 QString longDate(const Date &timestamp)
 {
-    // The screens speak English, so the words are English; the order of day,
-    // month and year is the user's.
+    // In English the words are English and the order of day, month and
+    // year the user's; in another language all of it the locale's.
+    if (Translations::current() != QLatin1String("en"))
+        return QLocale().toString(timestamp.toLocalDateTime().date(), QLocale::LongFormat);
     return timestamp.formatLocal(QLocale().dateFormat(QLocale::LongFormat));
 }
 
 QString longTimestamp(const TeslaEvent &event)
 {
-    return longDate(event.timestamp) + QStringLiteral(" at ") + event.timestamp.formatLocal(QStringLiteral("h:mm:ss AP"));
+    //: %1 is the long date, %2 the time: "Monday, 2 June 2025 at 2:11:05 AM"
+    return QCoreApplication::translate("InboxPresenter", "%1 at %2")
+        .arg(longDate(event.timestamp), event.timestamp.formatForPeople(QStringLiteral("h:mm:ss AP"), Date::Shown::timeWithSeconds));
 }
 
 QString dayHeading(const Date &timestamp, const QDate &today)
 {
     const QDate day = timestamp.toLocalDateTime().date();
     if (day == today)
-        return QStringLiteral("Today");
+        //: Heading over the events of today
+        return QCoreApplication::translate("InboxPresenter", "Today");
     if (day == today.addDays(-1))
-        return QStringLiteral("Yesterday");
+        //: Heading over the events of yesterday
+        return QCoreApplication::translate("InboxPresenter", "Yesterday");
     return longDate(timestamp);
 }
 
@@ -64,13 +72,14 @@ QString secondLine(const TeslaEvent &event, bool showsFileSize)
     }
     const std::optional<QString> city = event.placeName();
     if (city && size)
-        return *city + QStringLiteral(" · ") + *size;
+        //: A row's second line: the place, then the event's size on disk
+        return QCoreApplication::translate("InboxPresenter", "%1 · %2").arg(*city, *size);
     if (city)
         return *city;
     if (size)
         return *size;
     if (event.missingEventJSON)
-        return QStringLiteral("Details limited — footage intact");
+        return QCoreApplication::translate("InboxPresenter", "Details limited — footage intact");
     if (event.encrypted)
         return QCoreApplication::translate("InboxPresenter", "Place and details stay with your car");
     return QStringLiteral(" ");
@@ -80,14 +89,16 @@ QString textBlockToolTip(const TeslaEvent &event)
 {
     if (!event.missingEventJSON)
         return {};
-    return QStringLiteral("Your car didn't write a details file for this event, so we don't know the exact reason or "
-                          "location — the video itself is intact.");
+    return QCoreApplication::translate("InboxPresenter",
+                                       "Your car didn't write a details file for this event, so we don't know the "
+                                       "exact reason or location — the video itself is intact.");
 }
 
 ReasonText reasonText(const TeslaEvent &event)
 {
     if (event.encrypted && !event.reasonRaw)
         return {QCoreApplication::translate("InboxPresenter", "Encrypted by your car"),
+                //: Short reason on a row's chip: the footage is encrypted
                 QCoreApplication::translate("InboxPresenter", "Encrypted"), QStringLiteral("lock.doc"),
                 QCoreApplication::translate("InboxPresenter",
                                             "Your car encrypted this recording, and its reason and place with it. "
@@ -111,10 +122,13 @@ LockMark lockMark(const QString &lockState)
 
 QString accessibilityLabel(const TeslaEvent &event)
 {
-    QString text = reasonText(event).label + QStringLiteral(", ") + longTimestamp(event);
+    // Read aloud by a screen reader: the reason, when, and where if known.
     if (const std::optional<QString> place = event.placeName())
-        text += QStringLiteral(", ") + *place;
-    return text;
+        //: Screen reader name of a row: reason, date and time, place
+        return QCoreApplication::translate("InboxPresenter", "%1, %2, %3")
+            .arg(reasonText(event).label, longTimestamp(event), *place);
+    //: Screen reader name of a row: reason, date and time
+    return QCoreApplication::translate("InboxPresenter", "%1, %2").arg(reasonText(event).label, longTimestamp(event));
 }
 
 QString fallbackSymbol(EventKind kind)
@@ -126,10 +140,11 @@ Overlay triageOverlay(TriageState state)
 {
     switch (state.value()) {
     case TriageState::new_:
-        return {QStringLiteral("dot"), {}, QStringLiteral("New — you haven't watched this yet.")};
+        return {QStringLiteral("dot"), {},
+                QCoreApplication::translate("InboxPresenter", "New — you haven't watched this yet.")};
     case TriageState::kept:
         return {QStringLiteral("kept"), QStringLiteral("checkmark.circle.fill"),
-                QStringLiteral("A verified copy is safe in your Vault.")};
+                QCoreApplication::translate("InboxPresenter", "A verified copy is safe in your Vault.")};
     case TriageState::reviewed:
     case TriageState::dismissed:
         break;
@@ -139,23 +154,35 @@ Overlay triageOverlay(TriageState state)
 
 QString corruptionAccessibilityText(int count)
 {
-    return QString::number(count) + (count == 1 ? QStringLiteral(" damaged clip") : QStringLiteral(" damaged clips"));
+    return QCoreApplication::translate("InboxPresenter", "%n damaged clips", nullptr, count);
 }
 
 QString corruptionToolTip(int count)
 {
-    return QString::number(count) + (count == 1 ? QStringLiteral(" angle") : QStringLiteral(" angles"))
-        + QStringLiteral(" from this moment didn't record properly. This is a known Tesla drive issue, not something "
-                         "you did.");
+    //: Camera angles, one per camera, whose clips are damaged
+    return QCoreApplication::translate("InboxPresenter",
+                                       "%n angles from this moment didn't record properly. This is a known Tesla drive "
+                                       "issue, not something you did.",
+                                       nullptr, count);
 }
 
 QString reasonChipAccessibilityLabel(const TeslaEvent &event)
 {
+    //: Screen reader name of a row's reason chip; %1 is the car's reason
     return QCoreApplication::translate("InboxPresenter", "Reason: %1").arg(reasonText(event).label);
 }
 
-QString bulkKeepTitle(qsizetype count) { return QStringLiteral("Keep ") + QString::number(count); }
-QString bulkDismissTitle(qsizetype count) { return QStringLiteral("Dismiss ") + QString::number(count); }
+QString bulkKeepTitle(qsizetype count)
+{
+    //: Button that keeps the ticked events in the Vault; %n is how many
+    return QCoreApplication::translate("InboxPresenter", "Keep %n", nullptr, int(count));
+}
+
+QString bulkDismissTitle(qsizetype count)
+{
+    //: Button that hides the ticked events from the list; %n is how many
+    return QCoreApplication::translate("InboxPresenter", "Dismiss %n", nullptr, int(count));
+}
 
 QString tickSymbol(bool selected)
 {
@@ -164,7 +191,8 @@ QString tickSymbol(bool selected)
 
 QString tickToolTip(bool selected)
 {
-    return selected ? QStringLiteral("Deselect this event") : QStringLiteral("Select this event");
+    return selected ? QCoreApplication::translate("InboxPresenter", "Deselect this event")
+                    : QCoreApplication::translate("InboxPresenter", "Select this event");
 }
 
 int activeFilterCount(const std::optional<TriageState> &state, const std::optional<ReasonCategory> &reason,
@@ -182,14 +210,18 @@ QString filterMenuSymbol(int activeCount)
 QString statusEntry(TriageState state)
 {
     switch (state.value()) {
+    //: Status filter: events not watched yet
     case TriageState::new_:
-        return QStringLiteral("New");
+        return QCoreApplication::translate("InboxPresenter", "New");
+    //: Status filter: events already watched
     case TriageState::reviewed:
-        return QStringLiteral("Reviewed");
+        return QCoreApplication::translate("InboxPresenter", "Reviewed");
+    //: Status filter: events kept in the Vault
     case TriageState::kept:
-        return QStringLiteral("In Vault");
+        return QCoreApplication::translate("InboxPresenter", "In Vault");
+    //: Status filter: events hidden from the list
     case TriageState::dismissed:
-        return QStringLiteral("Dismissed");
+        return QCoreApplication::translate("InboxPresenter", "Dismissed");
     }
     return {};
 }
@@ -197,12 +229,15 @@ QString statusEntry(TriageState state)
 QString kindEntry(EventKind kind)
 {
     switch (kind.value()) {
+    //: Kind filter: Sentry Mode events
     case EventKind::sentry:
-        return QStringLiteral("Sentry");
+        return QCoreApplication::translate("InboxPresenter", "Sentry");
+    //: Kind filter: clips the driver saved
     case EventKind::saved:
-        return QStringLiteral("Saved");
+        return QCoreApplication::translate("InboxPresenter", "Saved");
+    //: Kind filter: the car's rolling recording of recent driving
     case EventKind::recent:
-        return QStringLiteral("Recent Driving");
+        return QCoreApplication::translate("InboxPresenter", "Recent Driving");
     }
     return {};
 }
@@ -235,10 +270,12 @@ QString activityLine(const std::vector<ActivityBurst> &highlights)
         return {};
     QStringList parts;
     for (const ActivityBurst &burst : highlights)
+        //: One place in the Activity line: camera name, then time into the event ("Left Side 2:14")
         parts << QCoreApplication::translate("InboxPresenter", "%1 %2")
                      .arg(burst.camera.displayName(), SyncPlayerController::timeString(burst.start));
-    return QCoreApplication::translate("InboxPresenter", "Activity: %1")
-        .arg(parts.join(QCoreApplication::translate("InboxPresenter", ", ")));
+    //: Between the places in the Activity line
+    const QString separator = QCoreApplication::translate("InboxPresenter", ", ");
+    return QCoreApplication::translate("InboxPresenter", "Activity: %1").arg(parts.join(separator));
 }
 
 } // namespace InboxPresenter

@@ -55,41 +55,50 @@ QVariantMap InboxViewModel::texts() const
 {
     auto icon = [](const char *s) { return SymbolIcons::iconUrl(QString::fromLatin1(s)); };
     return {
-        {QStringLiteral("title"), QStringLiteral("Drive")},
-        {QStringLiteral("switchDrive"), QStringLiteral("Switch Drive")},
+        //: Title of the car drive's event list
+        {QStringLiteral("title"), tr("Drive")},
+        {QStringLiteral("switchDrive"), tr("Switch Drive")},
         {QStringLiteral("switchDriveIcon"), icon("arrow.triangle.2.circlepath")},
-        {QStringLiteral("switchDriveTip"), QStringLiteral("Pick a different Tesla drive or re-scan this one.")},
-        {QStringLiteral("checking"), QStringLiteral("Checking for new events…")},
-        {QStringLiteral("filter"), QStringLiteral("Filter")},
-        {QStringLiteral("filterTip"), QStringLiteral("Show only certain statuses, reasons, or kinds of events.")},
-        {QStringLiteral("status"), QStringLiteral("Status")},
-        {QStringLiteral("reason"), QStringLiteral("Reason")},
-        {QStringLiteral("kind"), QStringLiteral("Kind")},
-        {QStringLiteral("clearAll"), QStringLiteral("Clear All Filters")},
-        {QStringLiteral("select"), QStringLiteral("Select")},
+        {QStringLiteral("switchDriveTip"), tr("Pick a different Tesla drive or re-scan this one.")},
+        {QStringLiteral("checking"), tr("Checking for new events…")},
+        //: Button that opens the filter menu
+        {QStringLiteral("filter"), tr("Filter")},
+        {QStringLiteral("filterTip"), tr("Show only certain statuses, reasons, or kinds of events.")},
+        //: Heading in the filter menu: filter by status (new, reviewed, …)
+        {QStringLiteral("status"), tr("Status")},
+        //: Heading in the filter menu: filter by the car's reason for recording
+        {QStringLiteral("reason"), tr("Reason")},
+        //: Heading in the filter menu: filter by kind (Sentry, saved, recent driving)
+        {QStringLiteral("kind"), tr("Kind")},
+        {QStringLiteral("clearAll"), tr("Clear All Filters")},
+        //: Button that starts ticking several events
+        {QStringLiteral("select"), tr("Select")},
         {QStringLiteral("selectIcon"), icon("checklist")},
-        {QStringLiteral("selectTip"), QStringLiteral("Select multiple events to keep or dismiss them all at once.")},
-        {QStringLiteral("bulkHint"), QStringLiteral("Tick events to keep or dismiss them together.")},
+        {QStringLiteral("selectTip"), tr("Select multiple events to keep or dismiss them all at once.")},
+        {QStringLiteral("bulkHint"), tr("Tick events to keep or dismiss them together.")},
         {QStringLiteral("bulkKeepIcon"), icon("checkmark.shield")},
-        {QStringLiteral("bulkKeepTip"), QStringLiteral("Archive the selected events to your Vault.")},
+        {QStringLiteral("bulkKeepTip"), tr("Archive the selected events to your Vault.")},
         {QStringLiteral("bulkDismissIcon"), icon("xmark.circle")},
         {QStringLiteral("bulkDismissTip"),
-         QStringLiteral("Hide the selected events. This never deletes footage from your drive or Vault.")},
+         tr("Hide the selected events. This never deletes footage from your drive or Vault.")},
         {QStringLiteral("tokenIcon"), icon("xmark")},
-        {QStringLiteral("tokenTip"), QStringLiteral("Remove this filter.")},
-        {QStringLiteral("keep"), QStringLiteral("Keep")},
-        {QStringLiteral("dismiss"), QStringLiteral("Dismiss")},
-        {QStringLiteral("recentTitle"), QStringLiteral("Just had an incident while driving?")},
+        {QStringLiteral("tokenTip"), tr("Remove this filter.")},
+        //: Button that keeps the event in the Vault
+        {QStringLiteral("keep"), tr("Keep")},
+        //: Button that hides the event from the list
+        {QStringLiteral("dismiss"), tr("Dismiss")},
+        {QStringLiteral("recentTitle"), tr("Just had an incident while driving?")},
         {QStringLiteral("recentIcon"), icon("road.lanes")},
         {QStringLiteral("recentText"),
-         QStringLiteral("It's likely in Recent Driving below. This folder overwrites itself as you keep driving, so "
-                        "keep a copy now if you need it.")},
-        {QStringLiteral("recentKeep"), QStringLiteral("Keep Recent Driving Now")},
+         //: "Recent Driving" is the list's own heading for the car's rolling recording
+         tr("It's likely in Recent Driving below. This folder overwrites itself as you keep driving, so keep a copy "
+            "now if you need it.")},
+        {QStringLiteral("recentKeep"), tr("Keep Recent Driving Now")},
         {QStringLiteral("recentKeepIcon"), icon("checkmark.shield.fill")},
         {QStringLiteral("recentKeepTip"),
-         QStringLiteral("Copies all of Recent Driving to your Vault before it's overwritten. Your drive itself is "
-                        "never changed.")},
-        {QStringLiteral("recentPreview"), QStringLiteral("Preview")},
+         tr("Copies all of Recent Driving to your Vault before it's overwritten. Your drive itself is never changed.")},
+        //: Button that plays Recent Driving
+        {QStringLiteral("recentPreview"), tr("Preview")},
         {QStringLiteral("corruptIcon"), icon("exclamationmark.triangle.fill")},
         {QStringLiteral("scanTitle"), OnboardingTexts::texts().value(QStringLiteral("scanTitle"))},
         {QStringLiteral("scanHint"), OnboardingTexts::texts().value(QStringLiteral("scanHint"))},
@@ -98,7 +107,7 @@ QVariantMap InboxViewModel::texts() const
 
 QVariantList InboxViewModel::statusEntries() const
 {
-    QVariantList out{QVariantMap{{QStringLiteral("value"), QString()}, {QStringLiteral("label"), QStringLiteral("All statuses")}}};
+    QVariantList out{QVariantMap{{QStringLiteral("value"), QString()}, {QStringLiteral("label"), tr("All statuses")}}};
     for (TriageState s : TriageState::allCases())
         out.append(QVariantMap{{QStringLiteral("value"), s.rawValue()},
                                {QStringLiteral("label"), InboxPresenter::statusEntry(s)}});
@@ -107,7 +116,7 @@ QVariantList InboxViewModel::statusEntries() const
 
 QVariantList InboxViewModel::reasonEntries() const
 {
-    QVariantList out{QVariantMap{{QStringLiteral("value"), QString()}, {QStringLiteral("label"), QStringLiteral("Any reason")}}};
+    QVariantList out{QVariantMap{{QStringLiteral("value"), QString()}, {QStringLiteral("label"), tr("Any reason")}}};
     for (ReasonCategory c : ReasonCategory::allCases())
         out.append(QVariantMap{{QStringLiteral("value"), c.rawValue()},
                                {QStringLiteral("label"), PlainReason{c, {}, {}}.label()}});
@@ -116,7 +125,9 @@ QVariantList InboxViewModel::reasonEntries() const
 
 QVariantList InboxViewModel::kindEntries() const
 {
-    QVariantList out{QVariantMap{{QStringLiteral("value"), QString()}, {QStringLiteral("label"), QStringLiteral("Everything")}}};
+    QVariantList out{QVariantMap{{QStringLiteral("value"), QString()},
+                                 //: Kind filter: no filter, every kind of event
+                                 {QStringLiteral("label"), tr("Everything")}}};
     for (EventKind k : EventKind::allCases())
         out.append(QVariantMap{{QStringLiteral("value"), k.rawValue()}, {QStringLiteral("label"), InboxPresenter::kindEntry(k)}});
     return out;

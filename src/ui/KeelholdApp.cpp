@@ -1,5 +1,7 @@
 #include "KeelholdApp.h"
 
+#include <QGuiApplication>
+
 #include "crypt/DecryptingClipReader.h"
 
 #include "ColorScheme.h"
@@ -26,7 +28,8 @@ KeelholdApp::KeelholdApp(QObject *parent)
           }
           return w;
       }),
-      screens_(&state_), unlock_(&state_)
+      screens_(&state_), unlock_(&state_), notifier_(QGuiApplication::desktopFileName()),
+      notices_(state_, notifier_)
 {
     static bool styled = false;
     if (!styled) {
@@ -64,6 +67,7 @@ KeelholdApp::~KeelholdApp()
 bool KeelholdApp::load()
 {
     qml_.load(QUrl(rootViewUrl));
+    notices_.setWindow(mainWindow());
     return mainWindow() != nullptr;
 }
 

@@ -1,12 +1,14 @@
 #pragma once
 
 #include "AppStateFace.h"
+#include "state/DesktopNotices.h"
 #include "DrivePicker.h"
 #include "HelpWindowController.h"
 #include "LicenceGate.h"
 #include "ScreenModels.h"
 #include "UiBridge.h"
 #include "UnlockController.h"
+#include "base/DesktopNotifier.h"
 #include "engine/LiveEngine.h"
 #include "state/AppState.h"
 
@@ -38,6 +40,7 @@ public:
     HelpWindowController &help() { return help_; }
     ScreenModels &screens() { return screens_; }
     UnlockController &unlock() { return unlock_; }
+    DesktopNotices &notices() { return notices_; }
     QQmlApplicationEngine &qmlEngine() { return qml_; }
     // The main window once loaded.
     QQuickWindow *mainWindow() const;
@@ -52,6 +55,8 @@ private:
     HelpWindowController help_;
     ScreenModels screens_;
     UnlockController unlock_;
+    DesktopNotifier notifier_;
+    DesktopNotices notices_;
     // Last, so it goes first: the QML reads everything above.
     QQmlApplicationEngine qml_;
 };

@@ -20,18 +20,30 @@ void KeyboardHints::setShowHints(bool value)
 
 QVariantList KeyboardHints::items()
 {
-    static const std::pair<const char16_t *, const char16_t *> table[] = {
-        {u"Space", u"Play/Pause"}, {u"← →", u"Skip 5s"},     {u", .", u"Frame step"}, {u"1–7", u"Cameras"},
-        {u"0", u"All cameras"},    {u"M", u"The moment"},    {u"N ⇧N", u"What happened"}, {u"F", u"Fill window"},  {u"T", u"Driving data"}, {u"K", u"Keep"},
-        {u"D", u"Dismiss"}};
+    // Keys marked with a symbol or letter stay as they are; only a key named in words is translated.
+    const std::pair<QString, QString> table[] = {
+        //: The space bar, as a key's name
+        {tr("Space"), tr("Play/Pause")},
+        {QStringLiteral("← →"), tr("Skip 5s")},
+        {QStringLiteral(", ."), tr("Frame step")},
+        {QStringLiteral("1–7"), tr("Cameras")},
+        {QStringLiteral("0"), tr("All cameras")},
+        //: Jump to the moment the event happened
+        {QStringLiteral("M"), tr("The moment")},
+        {QStringLiteral("N ⇧N"), tr("What happened")},
+        {QStringLiteral("F"), tr("Fill window")},
+        {QStringLiteral("T"), tr("Driving data")},
+        //: Keep the event in the Vault
+        {QStringLiteral("K"), tr("Keep")},
+        //: Hide the event from the list
+        {QStringLiteral("D"), tr("Dismiss")}};
     QVariantList list;
     for (const auto &[key, label] : table)
-        list.append(QVariantMap{{QStringLiteral("key"), QString::fromUtf16(key)},
-                                {QStringLiteral("label"), QString::fromUtf16(label)}});
+        list.append(QVariantMap{{QStringLiteral("key"), key}, {QStringLiteral("label"), label}});
     return list;
 }
 
 QString KeyboardHints::closeTooltip()
 {
-    return QStringLiteral("Hide these hints. The full shortcut list stays in Help.");
+    return tr("Hide these hints. The full shortcut list stays in Help.");
 }

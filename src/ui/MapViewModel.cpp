@@ -8,6 +8,8 @@
 #include "state/AppState.h"
 #include "state/SidebarSection.h"
 
+#include <QCoreApplication>
+
 MapViewModel::MapViewModel(AppState *state, QObject *parent)
     : QObject(parent), state_(state), routes_(new EventRoutes(state->engine(), this))
 {
@@ -61,7 +63,8 @@ QVariantList MapViewModel::routeKey()
     QVariantList key;
     for (State state : {State::none, State::autosteer, State::trafficAwareCruise, State::selfDriving}) {
         const QString name = DrivingDataText::assistance(state);
-        key.append(QVariantMap{{QStringLiteral("label"), name.isEmpty() ? QStringLiteral("Driving yourself") : name},
+        //: The route key's colour for driving without Autopilot
+        key.append(QVariantMap{{QStringLiteral("label"), name.isEmpty() ? tr("Driving yourself") : name},
                                {QStringLiteral("colour"), DrivingDataText::assistanceColour(state)}});
     }
     return key;
@@ -142,10 +145,10 @@ QVariantMap MapViewModel::texts() const
 {
     return {{QStringLiteral("emptyIcon"), SymbolIcons::iconUrl(QStringLiteral("map"))},
             {QStringLiteral("emptySymbol"), QStringLiteral("map")},
-            {QStringLiteral("emptyTitle"), QString::fromUtf8(EventMapPresenter::emptyTitle)},
-            {QStringLiteral("emptyText"), QString::fromUtf8(EventMapPresenter::emptyText)},
+            {QStringLiteral("emptyTitle"), QCoreApplication::translate("EventMapPresenter", EventMapPresenter::emptyTitle)},
+            {QStringLiteral("emptyText"), QCoreApplication::translate("EventMapPresenter", EventMapPresenter::emptyText)},
             {QStringLiteral("attribution"), QString::fromUtf8(EventMapPresenter::attribution)},
-            {QStringLiteral("noTiles"), QStringLiteral("Map tiles aren't available — check your internet connection.")},
+            {QStringLiteral("noTiles"), tr("Map tiles aren't available — check your internet connection.")},
             {QStringLiteral("noTilesIcon"), SymbolIcons::iconUrl(QStringLiteral("wifi.slash"))},
             {QStringLiteral("kept"), tr("Kept in your Vault")},
             {QStringLiteral("keptIcon"), SymbolIcons::iconUrl(QStringLiteral("checkmark.circle"))}};

@@ -3,6 +3,7 @@
 #include "model/PlatformWords.h"
 #include "model/TeslaViewer.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QLocale>
@@ -11,63 +12,81 @@ namespace OnboardingTexts {
 
 QVariantMap texts()
 {
-    const QString sampleTip = QStringLiteral(
-        "Loads a few short made-up clips so you can look around before connecting your own Tesla.");
+    const QString sampleTip = QCoreApplication::translate(
+        "OnboardingTexts", "Loads a few short made-up clips so you can look around before connecting your own Tesla.");
     return {
-        {QStringLiteral("introTitle"), QStringLiteral("Welcome to Keelhold")},
+        {QStringLiteral("introTitle"), QCoreApplication::translate("OnboardingTexts", "Welcome to Keelhold")},
         {QStringLiteral("introText"),
-         QStringLiteral("Your Tesla is always recording — Sentry Mode, saved clips, and your recent drives. This app "
-                        "reads the USB drive from your car's glovebox, shows you what it found in plain English, and "
-                        "keeps a permanent, verified copy on your ")
-             + PlatformWords::computer() + QStringLiteral(" so you never lose footage that matters.")},
-        {QStringLiteral("getStarted"), QStringLiteral("Get Started")},
-        {QStringLiteral("sampleButton"), QStringLiteral("Just exploring? Try sample footage")},
+         //: %1 is the user's machine, e.g. "computer"
+         QCoreApplication::translate("OnboardingTexts",
+                                     "Your Tesla is always recording — Sentry Mode, saved clips, and your recent "
+                                     "drives. This app reads the USB drive from your car's glovebox, shows you what it "
+                                     "found in plain English, and keeps a permanent, verified copy on your %1 so you "
+                                     "never lose footage that matters.")
+             .arg(PlatformWords::computer())},
+        //: Button on the first screen of the setup
+        {QStringLiteral("getStarted"), QCoreApplication::translate("OnboardingTexts", "Get Started")},
+        {QStringLiteral("sampleButton"), QCoreApplication::translate("OnboardingTexts", "Just exploring? Try sample footage")},
         {QStringLiteral("sampleTip"), sampleTip},
-        {QStringLiteral("pickerTitle"), QStringLiteral("Show Me Your Tesla Drive")},
+        {QStringLiteral("pickerTitle"), QCoreApplication::translate("OnboardingTexts", "Show Me Your Tesla Drive")},
         {QStringLiteral("pickerText"),
-         QStringLiteral("Plug in the USB drive from your car's glovebox, then pick it below. We only look at the parts "
-                        "of the drive you choose to show us.")},
+         QCoreApplication::translate("OnboardingTexts",
+                                     "Plug in the USB drive from your car's glovebox, then pick it below. We only look "
+                                     "at the parts of the drive you choose to show us.")},
         {QStringLiteral("pickerNote"),
-         QStringLiteral("Connected drives appear here the moment ") + PlatformWords::operatingSystem()
-             + QStringLiteral(" mounts them. Pick yours and confirm with one click — we'll check for Tesla footage "
-                              "right after.")},
+         //: %1 is the operating system as a sentence's subject, e.g. "your system"
+         QCoreApplication::translate("OnboardingTexts",
+                                     "Connected drives appear here the moment %1 mounts them. Pick yours and confirm "
+                                     "with one click — we'll check for Tesla footage right after.")
+             .arg(PlatformWords::operatingSystem())},
         {QStringLiteral("noCandidates"),
-         QStringLiteral("No drive detected yet. Insert your Tesla's USB drive, or choose it manually below.")},
-        {QStringLiteral("chooseManually"), QStringLiteral("Choose a Drive or Folder Manually…")},
-        {QStringLiteral("chooseManuallyTip"), QStringLiteral("Opens a file picker starting at ")
-                                                   + PlatformWords::removableMediaFolder()
-                                                   + QStringLiteral(", where connected USB drives appear.")},
+         QCoreApplication::translate("OnboardingTexts",
+                                     "No drive detected yet. Insert your Tesla's USB drive, or choose it manually below.")},
+        {QStringLiteral("chooseManually"), QCoreApplication::translate("OnboardingTexts", "Choose a Drive or Folder Manually…")},
+        {QStringLiteral("chooseManuallyTip"),
+         //: %1 is a folder path, e.g. /media/alex
+         QCoreApplication::translate("OnboardingTexts",
+                                     "Opens a file picker starting at %1, where connected USB drives appear.")
+             .arg(PlatformWords::removableMediaFolder())},
         {QStringLiteral("removableMediaFolder"), PlatformWords::removableMediaFolder()},
-        {QStringLiteral("back"), QStringLiteral("Back")},
-        {QStringLiteral("cancel"), QStringLiteral("Cancel")},
-        {QStringLiteral("panelTitle"), QStringLiteral("Select Your Tesla's USB Drive")},
+        //: Button: back to the previous step of the setup
+        {QStringLiteral("back"), QCoreApplication::translate("OnboardingTexts", "Back")},
+        {QStringLiteral("cancel"), QCoreApplication::translate("OnboardingTexts", "Cancel")},
+        //: Title of the folder dialog that picks the car's drive
+        {QStringLiteral("panelTitle"), QCoreApplication::translate("OnboardingTexts", "Select Your Tesla's USB Drive")},
         {QStringLiteral("panelMessage"),
-         QStringLiteral("Choose the drive itself, or its TeslaCam folder. Look for a plain external drive icon — Tesla "
-                        "drives usually show up as \"UNTITLED\" or similar.")},
-        {QStringLiteral("panelPrompt"), QStringLiteral("Use This Drive")},
-        {QStringLiteral("scanTitle"), QStringLiteral("Reading your drive…")},
-        {QStringLiteral("scanHint"), QStringLiteral("This usually takes a few seconds.")},
-        {QStringLiteral("browseWhileFinishes"), QStringLiteral("Browse While It Finishes")},
-        {QStringLiteral("startBrowsing"), QStringLiteral("Start Browsing")},
-        {QStringLiteral("guideTitle"), QStringLiteral("Recording without encryption")},
+         QCoreApplication::translate("OnboardingTexts",
+                                     "Choose the drive itself, or its TeslaCam folder. Look for a plain external drive "
+                                     "icon — Tesla drives usually show up as \"UNTITLED\" or similar.")},
+        //: Accept button of the folder dialog that picks the car's drive
+        {QStringLiteral("panelPrompt"), QCoreApplication::translate("OnboardingTexts", "Use This Drive")},
+        {QStringLiteral("scanTitle"), QCoreApplication::translate("OnboardingTexts", "Reading your drive…")},
+        {QStringLiteral("scanHint"), QCoreApplication::translate("OnboardingTexts", "This usually takes a few seconds.")},
+        {QStringLiteral("browseWhileFinishes"), QCoreApplication::translate("OnboardingTexts", "Browse While It Finishes")},
+        {QStringLiteral("startBrowsing"), QCoreApplication::translate("OnboardingTexts", "Start Browsing")},
+        {QStringLiteral("guideTitle"), QCoreApplication::translate("OnboardingTexts", "Recording without encryption")},
         {QStringLiteral("guideIntro"),
-         QStringLiteral("Newer Tesla software can encrypt new recordings so only your Tesla account can view them. If "
-                        "you'd like footage to play here (and in any app), switch it off in your car — it takes about "
-                        "30 seconds, and everything already recorded stays exactly as it is.")},
-        {QStringLiteral("guideViewerButton"), QStringLiteral("Open ") + TeslaViewer::host()},
+         QCoreApplication::translate("OnboardingTexts",
+                                     "Newer Tesla software can encrypt new recordings so only your Tesla account can "
+                                     "view them. If you'd like footage to play here (and in any app), switch it off in "
+                                     "your car — it takes about 30 seconds, and everything already recorded stays "
+                                     "exactly as it is.")},
+        //: Button; %1 is the web viewer's host name, dashcam.tesla.com
+        {QStringLiteral("guideViewerButton"), QCoreApplication::translate("OnboardingTexts", "Open %1").arg(TeslaViewer::host())},
         {QStringLiteral("guideViewerTip"),
-         QStringLiteral("Tesla's own viewer for encrypted clips — decryption happens in your browser; footage never "
-                        "leaves your device.")},
+         QCoreApplication::translate("OnboardingTexts",
+                                     "Tesla's own viewer for encrypted clips — decryption happens in your browser; "
+                                     "footage never leaves your device.")},
         {QStringLiteral("guideViewerURL"), TeslaViewer::url()},
-        {QStringLiteral("guideClose"), QStringLiteral("Done")},
+        //: Button that closes the encryption guide
+        {QStringLiteral("guideClose"), QCoreApplication::translate("OnboardingTexts", "Done")},
     };
 }
 
 QString scanCountsText(int eventsFound, int clipsFound)
 {
-    return QStringLiteral("Found ") + QString::number(eventsFound) + QStringLiteral(" event")
-           + (eventsFound == 1 ? QString() : QStringLiteral("s")) + QStringLiteral(" so far, across ")
-           + QString::number(clipsFound) + QStringLiteral(" clips.");
+    return QCoreApplication::translate("OnboardingTexts", "Found %n events so far, across %1 clips.", nullptr, eventsFound)
+        .arg(clipsFound);
 }
 
 QString rootForChosenFolder(const QString &chosen)
@@ -82,7 +101,8 @@ QString rootForChosenFolder(const QString &chosen)
 
 QString candidateHeading(const VolumeCandidate &candidate)
 {
-    return QStringLiteral("Is this your Tesla drive? — ") + candidate.name;
+    //: %1 is the drive's name, e.g. UNTITLED
+    return QCoreApplication::translate("OnboardingTexts", "Is this your Tesla drive? — %1").arg(candidate.name);
 }
 
 QString candidateCapacity(const VolumeCandidate &candidate)
@@ -99,13 +119,18 @@ QVariantList encryptionSteps()
                            {QStringLiteral("title"), title},
                            {QStringLiteral("detail"), detail}};
     };
-    return {step("car", QStringLiteral("In your car, tap Controls"),
-                 QStringLiteral("The car icon at the bottom-left of the touchscreen.")),
-            step("shield", QStringLiteral("Tap Safety"), QStringLiteral("In the menu on the left.")),
-            step("switch.2", QStringLiteral("Switch off “Encrypt Dashcam Recordings”"),
-                 QStringLiteral("If you don't see it, your car's software doesn't encrypt yet — nothing to do.")),
-            step("checkmark.seal", QStringLiteral("Done"),
-                 QStringLiteral("New footage records unencrypted and plays right here."))};
+    return {step("car", QCoreApplication::translate("OnboardingTexts", "In your car, tap Controls"),
+                 QCoreApplication::translate("OnboardingTexts", "The car icon at the bottom-left of the touchscreen.")),
+            //: The car's menu entry, as named on its touchscreen
+            step("shield", QCoreApplication::translate("OnboardingTexts", "Tap Safety"),
+                 QCoreApplication::translate("OnboardingTexts", "In the menu on the left.")),
+            //: The quoted words are the car's setting, as named on its touchscreen
+            step("switch.2", QCoreApplication::translate("OnboardingTexts", "Switch off “Encrypt Dashcam Recordings”"),
+                 QCoreApplication::translate("OnboardingTexts",
+                                             "If you don't see it, your car's software doesn't encrypt yet — nothing to do.")),
+            //: The last step of the guide: finished
+            step("checkmark.seal", QCoreApplication::translate("OnboardingTexts", "Done", "last step"),
+                 QCoreApplication::translate("OnboardingTexts", "New footage records unencrypted and plays right here."))};
 }
 
 QVariantList encryptionNotes()
@@ -113,13 +138,17 @@ QVariantList encryptionNotes()
     auto note = [](const char *symbol, const QString &text) {
         return QVariantMap{{QStringLiteral("symbolName"), QString::fromLatin1(symbol)}, {QStringLiteral("text"), text}};
     };
-    return {note("globe", QStringLiteral("Clips recorded while encryption was on stay encrypted — sign in at ")
-                              + TeslaViewer::host()
-                              + QStringLiteral(" to watch them anytime. Keelhold still backs them up byte-for-byte, so "
-                                               "nothing is ever lost.")),
+    //: %1 is the web viewer's host name, dashcam.tesla.com
+    return {note("globe", QCoreApplication::translate("OnboardingTexts",
+                                                      "Clips recorded while encryption was on stay encrypted — sign in "
+                                                      "at %1 to watch them anytime. Keelhold still backs them up "
+                                                      "byte-for-byte, so nothing is ever lost.")
+                              .arg(TeslaViewer::host())),
             note("hand.thumbsup",
-                 QStringLiteral("Prefer to keep encryption on? That's a fair choice — it protects footage if the drive "
-                                "itself is stolen. This app will still keep verified copies of everything."))};
+                 QCoreApplication::translate("OnboardingTexts",
+                                             "Prefer to keep encryption on? That's a fair choice — it protects footage "
+                                             "if the drive itself is stolen. This app will still keep verified copies "
+                                             "of everything."))};
 }
 
 } // namespace OnboardingTexts

@@ -178,7 +178,8 @@ QVariantMap PlayerDrivingData::recordForQml() const
         {QStringLiteral("gear"), DrivingDataText::gear(r.gear)},
         {QStringLiteral("brake"), r.brakeApplied},
         {QStringLiteral("pedal"), pedal},
-        {QStringLiteral("pedalText"), QString::number(qRound(pedal * 100)) + QStringLiteral(" %")},
+        //: How far the accelerator is pressed, as a percentage: "42 %"
+        {QStringLiteral("pedalText"), tr("%1 %").arg(qRound(pedal * 100))},
         {QStringLiteral("blinkerLeft"), r.blinkerLeft},
         {QStringLiteral("blinkerRight"), r.blinkerRight},
         {QStringLiteral("steeringAngle"), std::isfinite(r.steeringAngle) ? double(r.steeringAngle) : 0.0},
@@ -203,18 +204,19 @@ void PlayerDrivingData::setUseMiles(bool value) { DrivingDataPreferences::shared
 QVariantMap PlayerDrivingData::texts()
 {
     return {
-        {QStringLiteral("toggle"), QStringLiteral("Driving data")},
+        //: Button that shows or hides the driving data over the video
+        {QStringLiteral("toggle"), tr("Driving data")},
         {QStringLiteral("toggleIcon"), SymbolIcons::iconUrl(QStringLiteral("gauge.with.needle"))},
         {QStringLiteral("toggleTip"),
-         QStringLiteral("Show or hide the car's speed, pedals, steering and Autopilot state over the video. (T)")},
-        {QStringLiteral("noData"), QStringLiteral("This event's footage carries no driving data from the car.")},
-        {QStringLiteral("unitTip"), QStringLiteral("Click to switch between km/h and mph.")},
-        {QStringLiteral("brake"), QStringLiteral("BRAKE")},
-        {QStringLiteral("brakeTip"), QStringLiteral("Lit while the brake pedal is pressed.")},
-        {QStringLiteral("pedalTip"), QStringLiteral("How far the accelerator pedal is pressed.")},
-        {QStringLiteral("steeringTip"), QStringLiteral("Steering wheel angle.")},
-        {QStringLiteral("headingTip"), QStringLiteral("Direction of travel.")},
-        {QStringLiteral("stripTip"),
-         QStringLiteral("The car's speed over the event; red marks hard braking. Click to jump there.")},
+         tr("Show or hide the car's speed, pedals, steering and Autopilot state over the video. (T)")},
+        {QStringLiteral("noData"), tr("This event's footage carries no driving data from the car.")},
+        {QStringLiteral("unitTip"), tr("Click to switch between km/h and mph.")},
+        //: Lamp over the video that is lit while the brake pedal is pressed; keep it short
+        {QStringLiteral("brake"), tr("BRAKE")},
+        {QStringLiteral("brakeTip"), tr("Lit while the brake pedal is pressed.")},
+        {QStringLiteral("pedalTip"), tr("How far the accelerator pedal is pressed.")},
+        {QStringLiteral("steeringTip"), tr("Steering wheel angle.")},
+        {QStringLiteral("headingTip"), tr("Direction of travel.")},
+        {QStringLiteral("stripTip"), tr("The car's speed over the event; red marks hard braking. Click to jump there.")},
     };
 }

@@ -14,8 +14,8 @@ double PlayerLayout::momentMarkX(const QVariant &triggerOffset, double duration,
 
 QString PlayerLayout::momentMarkTooltip(double triggerOffset)
 {
-    return QStringLiteral("The moment it happened — ") + SyncPlayerController::timeString(triggerOffset) +
-           QStringLiteral(" into the event.");
+    //: %1 is a time into the event, e.g. 0:42
+    return tr("The moment it happened — %1 into the event.").arg(SyncPlayerController::timeString(triggerOffset));
 }
 
 QString PlayerLayout::speedLabel(double rate)
@@ -27,28 +27,30 @@ QString PlayerLayout::speedLabel(double rate)
 
 QString PlayerLayout::speedShortfall(double chosen, double playing)
 {
+    //: %1 is the chosen playback speed, %2 the speed it really plays at (e.g. 1.6×)
     return tr("%1 — playing at %2, this computer can't keep up")
         .arg(speedLabel(chosen), QLocale().toString(playing, 'f', 1) + QStringLiteral("×"));
 }
 
 QString PlayerLayout::stripTooltip(const QString &cameraName, bool focused)
 {
+    //: %1 is a camera's name, e.g. Left Side
     if (focused)
-        return cameraName + QStringLiteral(" — currently enlarged.");
-    return QStringLiteral("Switch to the ") + cameraName +
-           QStringLiteral(" camera. (Keys 1–7 jump between cameras; 0 shows all.)");
+        return tr("%1 — currently enlarged.").arg(cameraName);
+    //: %1 is a camera's name, e.g. Left Side
+    return tr("Switch to the %1 camera. (Keys 1–7 jump between cameras; 0 shows all.)").arg(cameraName);
 }
 
 QString PlayerLayout::gridTileTooltip(const QString &cameraName)
 {
-    return QStringLiteral("Click to enlarge the ") + cameraName +
-           QStringLiteral(" camera. Click again to show all cameras.");
+    //: %1 is a camera's name, e.g. Left Side
+    return tr("Click to enlarge the %1 camera. Click again to show all cameras.").arg(cameraName);
 }
 
 QString PlayerLayout::coordinatesText(const QVariant &latitude, const QVariant &longitude)
 {
     if (!latitude.isValid() || latitude.isNull() || !longitude.isValid() || longitude.isNull())
-        return QStringLiteral("Location unknown");
+        return tr("Location unknown");
     return QString::asprintf("%.4f, %.4f", latitude.toDouble(), longitude.toDouble());
 }
 
@@ -68,17 +70,17 @@ QString PlayerLayout::gridMode(const QString &focusedCamera, const QVariantList 
 QVariantMap PlayerLayout::detailEmptyState(bool vault, bool hasDriveScan)
 {
     QVariantMap m{{QStringLiteral("symbol"), QStringLiteral("play.rectangle")},
-                  {QStringLiteral("title"), QStringLiteral("Select an event")}};
+                  {QStringLiteral("title"), tr("Select an event")}};
     if (vault) {
         m.insert(QStringLiteral("message"),
-                 QStringLiteral("Choose an archived event on the left to watch it — everything here works exactly "
-                                "like the Drive tab, even with no Tesla drive connected."));
+                 //: "Drive" is the app's own tab; translate it as there
+                 tr("Choose an archived event on the left to watch it — everything here works exactly like the Drive "
+                    "tab, even with no Tesla drive connected."));
         m.insert(QStringLiteral("action"), QString());
     } else {
-        m.insert(QStringLiteral("message"), QStringLiteral("Choose something from the list on the left to watch every "
-                                                           "available camera angle, synced on one timeline."));
-        m.insert(QStringLiteral("action"),
-                 hasDriveScan ? QString() : QStringLiteral("Just exploring? Try sample footage"));
+        m.insert(QStringLiteral("message"), tr("Choose something from the list on the left to watch every available "
+                                               "camera angle, synced on one timeline."));
+        m.insert(QStringLiteral("action"), hasDriveScan ? QString() : tr("Just exploring? Try sample footage"));
     }
     return m;
 }

@@ -103,6 +103,7 @@ QVariantList PlayerMoments::marks() const
         const QString when = SyncPlayerController::timeString(moment.time);
         list.append(QVariantMap{{QStringLiteral("time"), moment.time},
                                 {QStringLiteral("word"), moment.displayName()},
+                                //: %1 is a hard moment ("Hard braking"), %2 a time into the event
                                 {QStringLiteral("tip"), tr("%1 at %2").arg(moment.displayName(), when)}});
     }
     return list;
@@ -111,6 +112,7 @@ QVariantList PlayerMoments::marks() const
 QVariantMap PlayerMoments::texts()
 {
     return {
+        //: Button that jumps to the next thing that happened in the event
         {QStringLiteral("next"), tr("What happened")},
         {QStringLiteral("nextTip"),
          tr("Jump to the next thing that happened: someone moving in front of a camera, or a hard moment of the "

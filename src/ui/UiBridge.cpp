@@ -11,6 +11,7 @@
 #include "state/SidebarSection.h"
 
 #include <QClipboard>
+#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QMetaEnum>
 #include <QPalette>
@@ -21,6 +22,22 @@
 namespace {
 const char *const listWidthKey = "KHEventListWidth";
 const char *const hardwareDecodingKey = "KHHardwareDecoding";
+
+// The raw value is also the section's id; only the label is translated.
+QString sectionLabel(SidebarSection section)
+{
+    switch (section.value()) {
+    //: Sidebar section: the car's drive and its events
+    case SidebarSection::drive: return QCoreApplication::translate("UiBridge", "Drive");
+    //: Sidebar section: the kept copies
+    case SidebarSection::vault: return QCoreApplication::translate("UiBridge", "Vault");
+    //: Sidebar section: the events on a map
+    case SidebarSection::map: return QCoreApplication::translate("UiBridge", "Map");
+    //: Sidebar section: the health of the car's drive
+    case SidebarSection::health: return QCoreApplication::translate("UiBridge", "Drive Health");
+    }
+    return section.rawValue();
+}
 }
 
 UiBridge::UiBridge(AppState *state, QObject *parent) : QObject(parent), state_(state) {}
@@ -28,24 +45,25 @@ UiBridge::UiBridge(AppState *state, QObject *parent) : QObject(parent), state_(s
 QVariantMap UiBridge::texts() const
 {
     QVariantMap t = OnboardingTexts::texts();
-    t.insert(QStringLiteral("helpTip"),
-             QStringLiteral("Open Help — Sentry Mode, clip length, corruption, and encryption explained."));
-    t.insert(QStringLiteral("resizeTip"), QStringLiteral("Drag to resize the event list."));
-    t.insert(QStringLiteral("sampleBanner"),
-             QStringLiteral("You're exploring sample footage · Connect your Tesla drive anytime"));
-    t.insert(QStringLiteral("ejectSample"), QStringLiteral("Eject Sample"));
-    t.insert(QStringLiteral("licenceTitle"), QStringLiteral("A Keelhold licence is needed"));
+    t.insert(QStringLiteral("helpTip"), tr("Open Help — Sentry Mode, clip length, corruption, and encryption explained."));
+    t.insert(QStringLiteral("resizeTip"), tr("Drag to resize the event list."));
+    t.insert(QStringLiteral("sampleBanner"), tr("You're exploring sample footage · Connect your Tesla drive anytime"));
+    //: Button that leaves the sample footage
+    t.insert(QStringLiteral("ejectSample"), tr("Eject Sample"));
+    t.insert(QStringLiteral("licenceTitle"), tr("A Keelhold licence is needed"));
     t.insert(QStringLiteral("licenceText"),
-             QStringLiteral("Reading your own Tesla drive needs a Keelhold licence. Sample footage stays available "
-                            "without one."));
-    t.insert(QStringLiteral("helpMenu"), QStringLiteral("Keelhold Help"));
-    t.insert(QStringLiteral("sampleMenu"), QStringLiteral("Explore Sample Footage"));
-    t.insert(QStringLiteral("playbackMenu"), QStringLiteral("&Playback"));
-    t.insert(QStringLiteral("hardwareDecodingMenu"), QStringLiteral("Use Graphics Hardware for Video"));
-    t.insert(QStringLiteral("promiseTitle"), QStringLiteral("Nothing on your drive is ever changed or deleted."));
+             tr("Reading your own Tesla drive needs a Keelhold licence. Sample footage stays available without one."));
+    //: Menu item that opens the help window
+    t.insert(QStringLiteral("helpMenu"), tr("Keelhold Help"));
+    t.insert(QStringLiteral("sampleMenu"), tr("Explore Sample Footage"));
+    //: Menu title; & marks the letter for the Alt shortcut
+    t.insert(QStringLiteral("playbackMenu"), tr("&Playback"));
+    t.insert(QStringLiteral("hardwareDecodingMenu"), tr("Use Graphics Hardware for Video"));
+    t.insert(QStringLiteral("promiseTitle"), tr("Nothing on your drive is ever changed or deleted."));
     t.insert(QStringLiteral("promiseText"),
-             QStringLiteral("Keelhold only reads from your Tesla drive. Every \"Keep\" makes a verified copy elsewhere "
-                            "— your original footage is never touched."));
+             //: "Keep" is the app's own button; translate it as there
+             tr("Keelhold only reads from your Tesla drive. Every \"Keep\" makes a verified copy elsewhere — your "
+                "original footage is never touched."));
     return t;
 }
 
@@ -77,7 +95,8 @@ QVariantList UiBridge::sidebarSections() const
     QVariantList out;
     for (SidebarSection s : SidebarSection::allCases())
         out.append(QVariantMap{{QStringLiteral("value"), int(s.value())},
-                               {QStringLiteral("label"), s.rawValue()},
+                               {QStringLiteral("id"), s.rawValue()},
+                               {QStringLiteral("label"), sectionLabel(s)},
                                {QStringLiteral("icon"), SymbolIcons::iconUrl(QString::fromLatin1(symbols[s.value()]))}});
     return out;
 }

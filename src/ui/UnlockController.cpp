@@ -78,6 +78,7 @@ QVariantMap UnlockController::texts() const
         {QStringLiteral("rememberTip"),
          tr("Kept in your desktop's secret store (its keyring), never in a plain file. Without it, the sign-in is "
             "forgotten when Keelhold quits.")},
+        //: Button that asks Tesla for the keys with the pasted sign-in token
         {QStringLiteral("unlock"), tr("Unlock")},
         {QStringLiteral("openViewer"), tr("Open Tesla's Viewer")},
         {QStringLiteral("viewerURL"), TeslaViewer::url()},
@@ -99,9 +100,12 @@ QVariantList UnlockController::tokenSteps() const
 {
     const QStringList steps{
         tr("Open Tesla's dashcam viewer (%1) in your browser and sign in with your Tesla account.").arg(TeslaViewer::host()),
+        //: "Network" is the tab's name in the browser's developer tools
         tr("Open the browser's developer tools (F12) and choose the Network tab."),
-        tr("Play any clip in the viewer, then pick the request named \u201cbatch\u201d in the list."),
-        tr("Under Request Headers, copy the text after \u201cAuthorization: Bearer\u201d."),
+        //: "batch" is the request's name as the browser lists it; keep it as it is
+        tr("Play any clip in the viewer, then pick the request named “batch” in the list."),
+        //: "Request Headers" is a heading in the browser's developer tools; "Authorization: Bearer" stays as it is
+        tr("Under Request Headers, copy the text after “Authorization: Bearer”."),
         tr("Paste it below. It works for about eight hours; sign in again after that."),
     };
     QVariantList out;
@@ -118,8 +122,7 @@ bool UnlockController::showsNotice() const
 QString UnlockController::noticeText() const
 {
     const int n = state_ ? state_->lockedEventCount() : 0;
-    const QString lead = n == 1 ? tr("1 event here was recorded with your car's encryption on.")
-                                : tr("%1 events here were recorded with your car's encryption on.").arg(n);
+    const QString lead = tr("%n events here were recorded with your car's encryption on.", nullptr, n);
     return lead + QLatin1Char(' ')
         + tr("Keelhold lists and keeps them like any other; to watch them here, unlock them with your Tesla account.");
 }
@@ -294,8 +297,8 @@ QCoro::Task<bool> UnlockController::fetchKeys(QPointer<UnlockController> self)
     const int total = int(outcomes.size());
     QString summary;
     if (total > 0)
-        summary = unlocked == total ? (total == 1 ? tr("Unlocked 1 clip.") : tr("Unlocked %1 clips.").arg(total))
-                                    : tr("Unlocked %1 of %2 clips.").arg(unlocked).arg(total);
+        summary = unlocked == total ? tr("Unlocked %n clips.", nullptr, total)
+                                    : tr("Unlocked %1 of %n clips.", nullptr, total).arg(unlocked);
     bool signInAgain = false;
     for (const auto &o : outcomes)
         signInAgain = signInAgain || o.outcome == KeyService::Outcome::signInExpired;

@@ -16,7 +16,7 @@ QString faithfulText()
                           "not a legal certification.");
 }
 
-QString day(const Date &date) { return date.formatLocal(QStringLiteral("d MMM yyyy")); }
+QString day(const Date &date) { return date.formatForPeople(QStringLiteral("d MMM yyyy"), Date::Shown::date); }
 
 int incompleteEvents(const ArchiveReport &r)
 {
@@ -47,14 +47,16 @@ QVariantMap VaultMarks::mark(const ArchivedEvent &newest, const EventCheck *chec
 {
     const EventCheck *current = currentCheck(newest, check);
     QVariantMap m{{QStringLiteral("present"), true},
+                  //: %1 is when the event was kept, %2 the name of the drive it came from
                   {QStringLiteral("archivedLine"), tr("Archived %1 from %2")
-                       .arg(newest.archivedAt.formatLocal(QStringLiteral("MMM d, yyyy 'at' h:mm AP")),
-                            newest.sourceVolume)}};
+                       .arg(newest.archivedAt.formatForPeople(QStringLiteral("MMM d, yyyy 'at' h:mm AP"), Date::Shown::dateAndTime),
+                            newest.sourceVolumeText())}};
 
     QVariantList files;
     for (const ArchivedFile &f : newest.files) {
         QString problem;
         if (current && current->missing.contains(f.name))
+            //: A kept file that is no longer in the Vault
             problem = tr("Missing");
         else if (current && current->changed.contains(f.name))
             problem = tr("Changed since it was kept");
@@ -76,8 +78,9 @@ QVariantMap VaultMarks::mark(const ArchivedEvent &newest, const EventCheck *chec
         m.insert(QStringLiteral("text"), text);
     };
     const QString checkedOn = current ? day(current->checkedAt) : QString();
-    const QString checkedLine = current ? tr("Last re-read %1.").arg(current->checkedAt.formatLocal(
-                                              QStringLiteral("d MMM yyyy 'at' h:mm AP")))
+    //: %1 is the date and time of the last re-reading
+    const QString checkedLine = current ? tr("Last re-read %1.").arg(current->checkedAt.formatForPeople(
+                                              QStringLiteral("d MMM yyyy 'at' h:mm AP"), Date::Shown::dateAndTime))
                                         : tr("Not re-read since it was kept.");
     m.insert(QStringLiteral("checkedLine"), checkedLine);
 
@@ -86,16 +89,19 @@ QVariantMap VaultMarks::mark(const ArchivedEvent &newest, const EventCheck *chec
     if (!gone.isEmpty() || !altered.isEmpty()) {
         const bool missing = !gone.isEmpty();
         const QStringList named = gone + altered;
-        const QString list = named.join(QStringLiteral(", "));
+        //: Between file names
+        const QString list = named.join(tr(", "));
         set(missing ? tr("Missing") : tr("Changed since it was kept"), "exclamationmark.triangle", "bad",
             missing ? tr("Missing from your Vault since it was kept: %1").arg(list)
                     : tr("Changed since it was kept: %1").arg(list),
             missing ? tr("Files Missing") : tr("Changed Since It Was Kept"),
+            //: %1 is the day of the re-reading, %2 how many files ("one file", "3 files")
             tr("When Keelhold re-read this event on %1, %2 no longer matched the copy it made. The file named below "
                "was changed or removed after it was kept; if the event is still on your drive, keep it again.")
-                .arg(checkedOn, named.size() == 1 ? tr("one file") : tr("%1 files").arg(named.size())));
+                .arg(checkedOn, tr("%n files", nullptr, int(named.size()))));
     } else if (newest.isIncomplete()) {
-        const QString counts = tr("%1 of %2 files").arg(newest.files.size()).arg(*newest.expectedFileCount);
+        //: Files that reached the Vault, of all the event has
+        const QString counts = tr("%1 of %n files", nullptr, *newest.expectedFileCount).arg(newest.files.size());
         set(tr("Incomplete — %1").arg(counts), "exclamationmark.triangle", "warning",
             tr("Only part of this event reached your Vault. Keep it again from the drive to finish it."),
             tr("Incomplete Copy"),
@@ -103,6 +109,7 @@ QVariantMap VaultMarks::mark(const ArchivedEvent &newest, const EventCheck *chec
                "as it was copied, but the event is not complete. Keep it again from your drive to finish it.")
                 .arg(counts));
     } else if (current) {
+        //: The badge of a kept event; %1 is the day it was last re-read
         set(tr("Verified %1").arg(checkedOn), "checkmark.seal", "good",
             tr("Every file was read again on %1 and still matches the checksum taken when it was kept. Tap for the "
                "technical detail.")
@@ -136,19 +143,24 @@ QVariantMap VaultMarks::notice(const std::vector<TeslaEvent> &shown, const Vault
             files << tr("%1 has changed").arg(name);
         for (const QString &name : check->unreadable)
             files << tr("%1 can't be read").arg(name);
-        problems << tr("%1: %2").arg(InboxPresenter::longTimestamp(e), files.join(QStringLiteral(", ")));
+        //: Between file names
+        const QString fileSeparator = tr(", ");
+        //: An event's problems in the Vault's notice: its date and time, then the files
+        problems << tr("%1: %2").arg(InboxPresenter::longTimestamp(e), files.join(fileSeparator));
     }
     if (events == 0)
         return {{QStringLiteral("present"), false}};
-    QString message = problems.join(QStringLiteral("; ")) + QLatin1Char('.');
+    //: Between the events in the Vault's notice
+    const QString eventSeparator = tr("; ");
+    //: The Vault notice's list of events with problems, ended as a sentence
+    QString message = tr("%1.").arg(problems.join(eventSeparator));
     if (events > problems.size())
-        message += QLatin1Char(' ') + tr("%1 more kept events have problems too.").arg(events - problems.size());
+        message += QLatin1Char(' ') + tr("%n more kept events have problems too.", nullptr, int(events - problems.size()));
     message += QLatin1Char(' ')
         + tr("Something changed these copies after they were kept. If the events are still on your drive, keep them "
              "again.");
     return {{QStringLiteral("present"), true},
-            {QStringLiteral("title"), events == 1 ? tr("A kept event no longer matches what was kept")
-                                                  : tr("%1 kept events no longer match what was kept").arg(events)},
+            {QStringLiteral("title"), tr("%n kept events no longer match what was kept", nullptr, events)},
             {QStringLiteral("message"), message}};
 }
 
@@ -157,13 +169,11 @@ QString VaultMarks::reportHeading(const ArchiveReport &r)
     const int complete = r.completeEvents();
     const int planned = r.plannedEvents;
     if (stoppedByDrive(r))
-        return planned == 1 ? tr("Drive disconnected — %1 of 1 event kept completely").arg(complete)
-                            : tr("Drive disconnected — %1 of %2 events kept completely").arg(complete).arg(planned);
+        return tr("Drive disconnected — %1 of %n events kept completely", nullptr, planned).arg(complete);
     if (r.cancelled)
         return tr("Backup Stopped");
     if (complete < planned)
-        return planned == 1 ? tr("Backup Incomplete — %1 of 1 event kept completely").arg(complete)
-                            : tr("Backup Incomplete — %1 of %2 events kept completely").arg(complete).arg(planned);
+        return tr("Backup Incomplete — %1 of %n events kept completely", nullptr, planned).arg(complete);
     return tr("Backup Complete");
 }
 
@@ -188,11 +198,8 @@ QVariantList VaultMarks::reportLines(const ArchiveReport &r)
     const int complete = r.completeEvents();
     if (complete > 0)
         lines.append(line(r.cancelled && !stoppedByDrive(r) ? "pause.circle" : "checkmark.seal.fill",
-                          complete == 1 ? tr("1 event copied and verified, byte-for-byte. The original on your "
-                                             "drive is untouched.")
-                                        : tr("%1 events copied and verified, byte-for-byte. The original on your "
-                                             "drive is untouched.")
-                                              .arg(complete)));
+                          tr("%n events copied and verified, byte-for-byte. The original on your drive is untouched.",
+                             nullptr, complete)));
     const int partial = incompleteEvents(r);
     if (partial > 0) {
         int arrived = 0;
@@ -202,31 +209,25 @@ QVariantList VaultMarks::reportLines(const ArchiveReport &r)
                 arrived += int(e.files.size());
                 expected += *e.expectedFileCount;
             }
+        //: %1 of %2 are the files that arrived, of all the events have
         lines.append(line("exclamationmark.triangle",
-                          partial == 1
-                              ? tr("1 event reached your Vault only in part (%1 of %2 files), so it isn't a verified "
-                                   "copy. Keep it again to finish it.")
-                                    .arg(arrived)
-                                    .arg(expected)
-                              : tr("%1 events reached your Vault only in part (%2 of %3 files), so they aren't "
-                                   "verified copies. Keep them again to finish them.")
-                                    .arg(partial)
-                                    .arg(arrived)
-                                    .arg(expected)));
+                          tr("%n events reached your Vault only in part (%1 of %2 files), so they aren't verified "
+                             "copies. Keep them again to finish them.",
+                             nullptr, partial)
+                              .arg(arrived)
+                              .arg(expected)));
     }
     if (r.skippedDuplicates > 0)
-        lines.append(line("doc.on.doc", tr("%1 were already in your Vault, so we skipped them.")
-                                            .arg(r.skippedDuplicates)));
+        //: %n is a number of events
+        lines.append(line("doc.on.doc", tr("%n were already in your Vault, so we skipped them.", nullptr,
+                                           r.skippedDuplicates)));
     const int failed = int(r.failedFiles.size());
     if (failed > 0)
         lines.append(line("exclamationmark.triangle",
                           stoppedByDrive(r)
-                              ? (failed == 1 ? tr("1 file couldn't be read as the drive went away.")
-                                             : tr("%1 files couldn't be read as the drive went away.").arg(failed))
-                              : (failed == 1 ? tr("1 file couldn't be read — your drive may be failing. Nothing "
-                                                  "was deleted or changed; you can try again.")
-                                             : tr("%1 files couldn't be read — your drive may be failing. Nothing "
-                                                  "was deleted or changed; you can try again.")
-                                                   .arg(failed))));
+                              ? tr("%n files couldn't be read as the drive went away.", nullptr, failed)
+                              : tr("%n files couldn't be read — your drive may be failing. Nothing was deleted or "
+                                   "changed; you can try again.",
+                                   nullptr, failed)));
     return lines;
 }

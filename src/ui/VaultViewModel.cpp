@@ -17,11 +17,6 @@
 
 namespace {
 QString icon(const char *symbol) { return SymbolIcons::iconUrl(QString::fromLatin1(symbol)); }
-QString plural(int count, const char *word)
-{
-    return QString::number(count) + QLatin1Char(' ') + QString::fromLatin1(word)
-        + (count == 1 ? QString() : QStringLiteral("s"));
-}
 } // namespace
 
 VaultViewModel::VaultViewModel(AppState *state, QObject *parent)
@@ -48,6 +43,9 @@ VaultViewModel::VaultViewModel(AppState *state, QObject *parent)
         Q_EMIT progressChanged();
     });
     connect(state, &AppState::lastArchiveReportChanged, this, &VaultViewModel::reportChanged);
+    connect(state, &AppState::shownDriveChanged, this, &VaultViewModel::autoKeepChanged);
+    connect(state, &AppState::autoKeepOfferChanged, this, &VaultViewModel::autoKeepChanged);
+    connect(&state->autoKeep(), &AutoKeep::changed, this, &VaultViewModel::autoKeepChanged);
     const auto marks = [this] {
         ++marksRevision_;
         Q_EMIT marksChanged();
@@ -64,31 +62,35 @@ VaultViewModel::VaultViewModel(AppState *state, QObject *parent)
 QVariantMap VaultViewModel::texts() const
 {
     return {
-        {QStringLiteral("title"), QStringLiteral("Vault")},
-        {QStringLiteral("pickerTitle"), QStringLiteral("Choose Your Vault Folder")},
+        //: Title of the Vault's list
+        {QStringLiteral("title"), tr("Vault")},
+        //: Title of the folder dialog that picks the Vault's folder
+        {QStringLiteral("pickerTitle"), tr("Choose Your Vault Folder")},
         {QStringLiteral("pickerMessage"),
-         QStringLiteral("Pick (or create) a folder where Keelhold will keep permanent copies of the footage you decide "
-                        "to keep.")},
-        {QStringLiteral("pickerPrompt"), QStringLiteral("Use This Folder")},
-        {QStringLiteral("changeFolder"), QStringLiteral("Change Vault Folder")},
+         tr("Pick (or create) a folder where Keelhold will keep permanent copies of the footage you decide to keep.")},
+        //: Accept button of the folder dialog that picks the Vault's folder
+        {QStringLiteral("pickerPrompt"), tr("Use This Folder")},
+        {QStringLiteral("changeFolder"), tr("Change Vault Folder")},
         {QStringLiteral("changeFolderIcon"), icon("folder.badge.gearshape")},
-        {QStringLiteral("changeFolderTip"),
-         QStringLiteral("Point Keelhold at a different folder or drive for your permanent archive.")},
+        {QStringLiteral("changeFolderTip"), tr("Point Keelhold at a different folder or drive for your permanent archive.")},
         {QStringLiteral("summaryIcon"), icon("internaldrive")},
         {QStringLiteral("summaryTip"),
-         QStringLiteral("How much space your kept footage uses, and how much room the Vault's disk has left.")},
-        {QStringLiteral("moveToTrashItem"), QStringLiteral("Move to Trash…")},
-        {QStringLiteral("removalTitle"), QStringLiteral("Move this event to the Trash?")},
-        {QStringLiteral("moveToTrash"), QStringLiteral("Move to Trash")},
-        {QStringLiteral("cancel"), QStringLiteral("Cancel")},
-        {QStringLiteral("refusalTitle"), QStringLiteral("Choose a Different Folder")},
-        {QStringLiteral("chooseAnother"), QStringLiteral("Choose Another Folder…")},
+         tr("How much space your kept footage uses, and how much room the Vault's disk has left.")},
+        //: Menu item of a kept event
+        {QStringLiteral("moveToTrashItem"), tr("Move to Trash…")},
+        {QStringLiteral("removalTitle"), tr("Move this event to the Trash?")},
+        //: Button that confirms moving the kept event to the Trash
+        {QStringLiteral("moveToTrash"), tr("Move to Trash")},
+        {QStringLiteral("cancel"), tr("Cancel")},
+        {QStringLiteral("refusalTitle"), tr("Choose a Different Folder")},
+        {QStringLiteral("chooseAnother"), tr("Choose Another Folder…")},
         {QStringLiteral("overlayIcon"), icon("checkmark.shield")},
-        {QStringLiteral("overlayTitle"), QStringLiteral("Keeping footage safe…")},
+        {QStringLiteral("overlayTitle"), tr("Keeping footage safe…")},
         {QStringLiteral("overlayCancelTip"),
-         QStringLiteral("Stops after the current file. Anything already copied and verified stays in your Vault — "
-                        "nothing is undone.")},
-        {QStringLiteral("done"), QStringLiteral("Done")},
+         tr("Stops after the current file. Anything already copied and verified stays in your Vault — nothing is "
+            "undone.")},
+        //: Button that closes the keep's report
+        {QStringLiteral("done"), tr("Done")},
         {QStringLiteral("verifyVault"), tr("Verify Vault")},
         {QStringLiteral("verifyVaultIcon"), icon("arrow.triangle.2.circlepath")},
         {QStringLiteral("verifyVaultTip"),
@@ -104,20 +106,22 @@ QVariantMap VaultViewModel::emptyStateFor(bool hasVaultFolder)
 {
     if (!hasVaultFolder)
         return {{QStringLiteral("symbolName"), QStringLiteral("lock.shield")},
-                {QStringLiteral("title"), QStringLiteral("Choose a Vault Folder")},
+                {QStringLiteral("title"), tr("Choose a Vault Folder")},
                 {QStringLiteral("message"),
-                 QStringLiteral("Your Vault is a folder on this ") + PlatformWords::computer()
-                     + QStringLiteral(" (or an external drive you keep) where Keelhold keeps permanent, verified "
-                                      "copies of the footage you choose to keep — safe even if your car's drive "
-                                      "fails, fills up, or gets wiped.")},
-                {QStringLiteral("actionTitle"), QStringLiteral("Choose Folder…")}};
+                 //: %1 is the user's machine, e.g. "computer"
+                 tr("Your Vault is a folder on this %1 (or an external drive you keep) where Keelhold keeps permanent, "
+                    "verified copies of the footage you choose to keep — safe even if your car's drive fails, fills "
+                    "up, or gets wiped.")
+                     .arg(PlatformWords::computer())},
+                {QStringLiteral("actionTitle"), tr("Choose Folder…")}};
     return {{QStringLiteral("symbolName"), QStringLiteral("tray")},
-            {QStringLiteral("title"), QStringLiteral("Your Vault is empty so far")},
+            {QStringLiteral("title"), tr("Your Vault is empty so far")},
             {QStringLiteral("message"),
-             QStringLiteral("Nothing has been kept yet. From the Drive tab, select an event and choose \"Keep\" to "
-                            "copy it here permanently.")},
+             //: "Drive" and "Keep" are the app's own tab and button; translate them as there
+             tr("Nothing has been kept yet. From the Drive tab, select an event and choose \"Keep\" to copy it here "
+                "permanently.")},
             // Not a dead end: the folder can be changed from here too.
-            {QStringLiteral("actionTitle"), QStringLiteral("Change Vault Folder")}};
+            {QStringLiteral("actionTitle"), tr("Change Vault Folder")}};
 }
 
 QVariantMap VaultViewModel::emptyState() const { return emptyStateFor(state_ && state_->vaultURL()); }
@@ -127,10 +131,13 @@ QString VaultViewModel::summaryFor(const std::vector<TeslaEvent> &events, std::o
     qint64 bytes = 0;
     for (const TeslaEvent &e : events)
         bytes += e.totalBytes();
-    QString text = plural(int(events.size()), "event") + QStringLiteral(" · ") + InboxPresenter::byteCount(bytes);
+    const int count = int(events.size());
     if (freeBytes)
-        text += QStringLiteral(" · ") + InboxPresenter::byteCount(*freeBytes) + QStringLiteral(" free on this disk");
-    return text;
+        //: The Vault's summary: how many kept events, their size, and the room left on the Vault's disk
+        return tr("%n events · %1 · %2 free on this disk", nullptr, count)
+            .arg(InboxPresenter::byteCount(bytes), InboxPresenter::byteCount(*freeBytes));
+    //: The Vault's summary: how many kept events and their size
+    return tr("%n events · %1", nullptr, count).arg(InboxPresenter::byteCount(bytes));
 }
 
 QString VaultViewModel::summary() const { return state_ ? summaryFor(state_->vaultEvents(), freeBytes_) : QString(); }
@@ -162,7 +169,8 @@ double VaultViewModel::progressFraction() const
 
 QString VaultViewModel::progressLineFor(const ArchiveProgress &p, bool paused, bool otherDriveSeen)
 {
-    const QString counts = tr("%1 of %2 events").arg(p.eventsCompleted).arg(p.totalEvents);
+    //: A keep's progress: events done of all it keeps
+    const QString counts = tr("%1 of %n events", nullptr, p.totalEvents).arg(p.eventsCompleted);
     if (!paused)
         return counts;
     return otherDriveSeen ? tr("Paused at %1 — that is a different drive; plug in the one this keep was reading").arg(counts)
@@ -256,8 +264,9 @@ void VaultViewModel::cancelVerification()
 
 QString VaultViewModel::removalMessageFor(const TeslaEvent &event)
 {
-    return InboxPresenter::rowTimestamp(event) + QStringLiteral(" will move to your ") + PlatformWords::computer()
-        + QStringLiteral("'s Trash, where you can still recover it. Nothing on your Tesla drive is touched.");
+    //: %1 is the event's day and time ("Mon 2:11 AM"), %2 the user's machine, e.g. "computer"
+    return tr("%1 will move to your %2's Trash, where you can still recover it. Nothing on your Tesla drive is touched.")
+        .arg(InboxPresenter::rowTimestamp(event), PlatformWords::computer());
 }
 
 QString VaultViewModel::removalMessage(const QString &eventID) const
@@ -289,7 +298,7 @@ void VaultViewModel::chooseFolder(const QVariant &url)
     });
     Awaiting::whenFinished(this, check, [this, path](QFuture<std::optional<bool>> done) {
         if (Awaiting::take(done).value_or(std::nullopt).value_or(false)) {
-            choiceRefusal_ = DriveBoundary::vaultRefusal;
+            choiceRefusal_ = DriveBoundary::vaultRefusalText();
             Q_EMIT choiceRefusalChanged();
         } else if (state_) {
             state_->setVaultURL(path);
@@ -344,4 +353,36 @@ void VaultViewModel::cancelArchive()
 {
     if (state_)
         state_->cancelCurrentArchiveTask();
+}
+
+QVariantMap VaultViewModel::autoKeep() const
+{
+    const std::optional<DriveIdentity> &offer = state_->autoKeepOffer();
+    const std::optional<DriveIdentity> &shown = state_->shownDrive();
+    const std::optional<DriveIdentity> &drive = offer ? offer : shown;
+    AutoKeep &choice = state_->autoKeep();
+    const QString name = drive && !drive->name.isEmpty() ? drive->name : tr("This drive");
+    return {
+        {QStringLiteral("present"), bool(shown) && state_->vaultURL().has_value()},
+        {QStringLiteral("offer"), bool(offer)},
+        {QStringLiteral("on"), drive && choice.isOn(*drive)},
+        {QStringLiteral("recent"), drive && choice.withRecent(*drive)},
+        {QStringLiteral("label"), tr("Keep new events automatically when this drive is connected")},
+        //: Ticked with the choice above: recent driving is kept as well
+        {QStringLiteral("recentLabel"), tr("Recent driving too")},
+        //: %1 is the drive's name
+        {QStringLiteral("driveLine"), tr("%1 — Sentry and saved events, each file checked, as soon as it is "
+                                         "connected while Keelhold is open.").arg(name)},
+    };
+}
+
+void VaultViewModel::setAutoKeep(bool on, bool recent)
+{
+    if (const std::optional<DriveIdentity> &drive = state_->shownDrive())
+        state_->autoKeep().set(*drive, on, recent);
+}
+
+void VaultViewModel::answerAutoKeepOffer(bool on, bool recent)
+{
+    state_->answerAutoKeepOffer(on, recent);
 }

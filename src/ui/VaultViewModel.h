@@ -35,6 +35,10 @@ class VaultViewModel : public QObject {
     Q_PROPERTY(bool isVerifying READ isVerifying NOTIFY verificationChanged)
     Q_PROPERTY(double verifyFraction READ verifyFraction NOTIFY verificationChanged)
     Q_PROPERTY(QString verifyLine READ verifyLine NOTIFY verificationChanged)
+    // Keeping on arrival, for the drive on screen (the Vault's own row) and
+    // as the one-time offer after a first keep (the report sheet):
+    // {present, on, recent, offer, label, recentLabel, driveLine}.
+    Q_PROPERTY(QVariantMap autoKeep READ autoKeep NOTIFY autoKeepChanged)
 public:
     explicit VaultViewModel(AppState *state, QObject *parent = nullptr);
 
@@ -54,6 +58,7 @@ public:
     int marksRevision() const { return marksRevision_; }
     // {present, title, message}: what the last re-reading found wrong.
     QVariantMap notice() const;
+    QVariantMap autoKeep() const;
     bool isVerifying() const;
     double verifyFraction() const;
     QString verifyLine() const;
@@ -76,6 +81,10 @@ public:
     Q_INVOKABLE void verifyAll();
     Q_INVOKABLE void verifyEvent(const QString &eventID);
     Q_INVOKABLE void cancelVerification();
+    // The drive on screen keeps itself from now on, or stops doing so.
+    Q_INVOKABLE void setAutoKeep(bool on, bool recent);
+    // The offer's answer; closing the sheet without one passes it over.
+    Q_INVOKABLE void answerAutoKeepOffer(bool on, bool recent);
 
     // The pure rules behind the properties, for tests.
     static QVariantMap emptyStateFor(bool hasVaultFolder);
@@ -96,6 +105,7 @@ Q_SIGNALS:
     void choiceRefusalChanged();
     void marksChanged();
     void verificationChanged();
+    void autoKeepChanged();
 
 private:
     void refreshFreeSpace();

@@ -1,6 +1,7 @@
 #include "AppCommandLine.h"
 #include "KeelholdApp.h"
 #include "base/DiagnosticLog.h"
+#include "base/Translations.h"
 #include "state/SidebarSection.h"
 
 #include <QQuickWindow>
@@ -28,6 +29,8 @@ int main(int argc, char *argv[])
     QGuiApplication::setApplicationVersion(QStringLiteral(KEELHOLD_VERSION));
     // Warnings and errors also go to a file Help can copy for a bug report.
     DiagnosticLog::install();
+    // The desktop's language, English where Keelhold doesn't speak it.
+    Translations::install();
     // Wayland's app id and the task bar's match with the installed .desktop file.
     QGuiApplication::setDesktopFileName(QStringLiteral(KEELHOLD_APP_ID));
     QGuiApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral(KEELHOLD_APP_ID),
@@ -43,9 +46,14 @@ int main(int argc, char *argv[])
     // --sample: straight into the bundled footage, past the wizard.
     if (choice.sample) {
         if (!AppState::sampleFootageURL())
-            std::fputs("keelhold: the sample footage is not installed, so Keelhold starts without it.\n", stderr);
+            std::fputs(qPrintable(QCoreApplication::translate(
+                           "AppCommandLine", "keelhold: the sample footage is not installed, so Keelhold starts without it.")
+                       + QLatin1Char('\n')),
+                       stderr);
         appState.loadSampleFootage();
     }
+    if (choice.showVault)
+        appState.setSelectedSection(SidebarSection::vault);
 
     QQmlApplicationEngine &engine = keelhold.qmlEngine();
     QObject::connect(&engine, &QQmlApplicationEngine::objectCreationFailed, &app,

@@ -33,11 +33,6 @@ QByteArray randomURLSafe(int bytes)
     return raw.toBase64(QByteArray::Base64UrlEncoding | QByteArray::OmitTrailingEquals);
 }
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("SignInLink", text);
-}
-
 QCoro::Task<Tokens> post(QNetworkAccessManager &network, QJsonObject body)
 {
     Tokens tokens;
@@ -61,7 +56,8 @@ QCoro::Task<Tokens> post(QNetworkAccessManager &network, QJsonObject body)
     if (status == 0) {
         tokens.error = KeyService::sentence(KeyService::Outcome::unreachable);
     } else if (status == 400 || status == 401 || status == 403) {
-        tokens.error = tr("Tesla didn't accept this sign-in: it may have expired or been used already. Sign in again.");
+        tokens.error = QCoreApplication::translate("SignInLink", "Tesla didn't accept this sign-in: it may have "
+                                                                 "expired or been used already. Sign in again.");
     } else if (status != 200) {
         tokens.error = KeyService::sentence(KeyService::Outcome::refused);
     } else {
@@ -119,21 +115,25 @@ std::optional<QByteArray> codeFrom(const QString &landed, const Attempt &attempt
     const QUrlQuery query(url);
     const QUrl expected(redirectURI());
     if (!url.isValid() || url.host() != expected.host() || url.path() != expected.path()) {
-        *error = tr("That isn't the address the browser landed on after signing in: it starts with %1.")
+        //: %1 is the web address the browser should have landed on
+        *error = QCoreApplication::translate("SignInLink", "That isn't the address the browser landed on after "
+                                                           "signing in: it starts with %1.")
                      .arg(redirectURI());
         return std::nullopt;
     }
     if (query.hasQueryItem(QStringLiteral("error"))) {
-        *error = tr("Tesla didn't complete the sign-in. Try again.");
+        *error = QCoreApplication::translate("SignInLink", "Tesla didn't complete the sign-in. Try again.");
         return std::nullopt;
     }
     if (query.queryItemValue(QStringLiteral("state")).toLatin1() != attempt.state) {
-        *error = tr("That address belongs to another sign-in. Use the sign-in link Keelhold opened last.");
+        *error = QCoreApplication::translate("SignInLink", "That address belongs to another sign-in. Use the "
+                                                           "sign-in link Keelhold opened last.");
         return std::nullopt;
     }
     const QByteArray code = query.queryItemValue(QStringLiteral("code"), QUrl::FullyDecoded).toUtf8();
     if (code.isEmpty()) {
-        *error = tr("That address holds no sign-in code. Copy the whole address from the browser.");
+        *error = QCoreApplication::translate("SignInLink", "That address holds no sign-in code. Copy the whole "
+                                                           "address from the browser.");
         return std::nullopt;
     }
     return code;

@@ -9,6 +9,7 @@
 #include "drive/VolumeInfo.h"
 #include "vault/Sha256.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -29,6 +30,7 @@
 
 namespace ArchiveEngine {
 
+// what() is for the log; a person reads friendlyReason().
 ArchiveEngineError::ArchiveEngineError(Case c, const QString &path) : case_(c), path_(path)
 {
     QString text;
@@ -43,6 +45,12 @@ ArchiveEngineError::ArchiveEngineError(Case c, const QString &path) : case_(c), 
 }
 
 namespace {
+
+// One of the Reason sentences in the loaded language.
+QString sentence(const char16_t *reason)
+{
+    return QCoreApplication::translate("ArchiveEngine", QString::fromUtf16(reason).toUtf8().constData());
+}
 
 QString lastPathComponent(const QString &path)
 {
@@ -435,19 +443,19 @@ QString friendlyReason(const std::exception_ptr &error)
     try {
         std::rethrow_exception(error);
     } catch (const IOWatchdog::TimedOut &) {
-        return QString::fromUtf16(Reason::timedOut);
+        return sentence(Reason::timedOut);
     } catch (const ArchiveEngineError &e) {
         switch (e.errorCase()) {
-        case ArchiveEngineError::cannotCreateFile: return QString::fromUtf16(Reason::cannotCreateFile);
-        case ArchiveEngineError::sizeMismatch: return QString::fromUtf16(Reason::sizeMismatch);
-        case ArchiveEngineError::vaultFull: return QString::fromUtf16(Reason::vaultFull);
-        case ArchiveEngineError::vaultUnavailable: return QString::fromUtf16(Reason::vaultUnavailable);
-        case ArchiveEngineError::notRegularFile: return QString::fromUtf16(Reason::notRegularFile);
+        case ArchiveEngineError::cannotCreateFile: return sentence(Reason::cannotCreateFile);
+        case ArchiveEngineError::sizeMismatch: return sentence(Reason::sizeMismatch);
+        case ArchiveEngineError::vaultFull: return sentence(Reason::vaultFull);
+        case ArchiveEngineError::vaultUnavailable: return sentence(Reason::vaultUnavailable);
+        case ArchiveEngineError::notRegularFile: return sentence(Reason::notRegularFile);
         }
-        return QString::fromUtf16(Reason::unreadable);
+        return sentence(Reason::unreadable);
     } catch (...) {
         KEELHOLD_LOG_CAUGHT(lcVault);
-        return QString::fromUtf16(Reason::unreadable);
+        return sentence(Reason::unreadable);
     }
 }
 
@@ -466,7 +474,7 @@ ArchiveReport run(const ArchivePlan &plan, const QString &vaultURL, const Archiv
     for (const ArchivePlan::Item &item : items)
         events.push_back(item.event);
     if (DriveBoundary::writesIntoDriveOf(events, vaultURL)) {
-        report.failedFiles.push_back({vaultURL, DriveBoundary::vaultRefusal});
+        report.failedFiles.push_back({vaultURL, DriveBoundary::vaultRefusalText()});
         return report;
     }
     double lastEmit = 0.0;
@@ -515,7 +523,7 @@ ArchiveReport run(const ArchivePlan &plan, const QString &vaultURL, const Archiv
         // A Vault that has gone (an unplugged drive) is never made again on
         // the computer's own disk in its place.
         if (!QFileInfo(vaultURL).isDir()) {
-            report.failedFiles.push_back({folder, QString::fromUtf16(Reason::vaultUnavailable)});
+            report.failedFiles.push_back({folder, sentence(Reason::vaultUnavailable)});
             continue;
         }
         if (!QDir().mkpath(folder)) {
@@ -607,14 +615,14 @@ ArchiveReport run(const ArchivePlan &plan, const QString &vaultURL, const Archiv
     merged.events.insert(merged.events.end(), report.archivedEvents.begin(), report.archivedEvents.end());
     QString failure;
     if (!QFileInfo(vaultURL).isDir()) {
-        failure = QString::fromUtf16(Reason::vaultUnavailable);
+        failure = sentence(Reason::vaultUnavailable);
     } else {
         try {
             merged.save(vaultURL);
         } catch (...) {
             KEELHOLD_LOG_CAUGHT(lcVault);
             const qint64 free = QStorageInfo(vaultURL).bytesAvailable();
-            failure = QString::fromUtf16(free >= 0 && free < 64 * 1024 ? Reason::vaultFull : Reason::indexNotSaved);
+            failure = sentence(free >= 0 && free < 64 * 1024 ? Reason::vaultFull : Reason::indexNotSaved);
         }
     }
     if (!failure.isEmpty() && !report.archivedEvents.empty()) {

@@ -73,18 +73,25 @@ ArchivedFile copyFileWithHash(const QString &from, const QString &to, std::chron
 // The sentence the user reads for a file that failed.
 QString friendlyReason(const std::exception_ptr &error);
 
+// The English sources of the sentences friendlyReason() gives, translated
+// there (context "ArchiveEngine").
 namespace Reason {
-inline constexpr const char16_t *timedOut = u"This file took too long to read \u2014 the drive may be failing.";
-inline constexpr const char16_t *cannotCreateFile = u"Couldn't create a file in your Vault folder.";
-inline constexpr const char16_t *sizeMismatch =
-    u"This file changed size while copying \u2014 the drive may have been disconnected.";
-inline constexpr const char16_t *unreadable = u"This file couldn't be read.";
-inline constexpr const char16_t *vaultFull = u"There isn't enough space in your Vault folder.";
-inline constexpr const char16_t *vaultUnavailable = u"The Vault folder is no longer available.";
-inline constexpr const char16_t *notRegularFile =
-    u"This isn't an ordinary file (it is a link or a special file), so it was left alone.";
-inline constexpr const char16_t *indexNotSaved =
-    u"The Vault's list of kept events couldn't be saved, so nothing from this run is recorded as kept.";
+inline constexpr const char16_t *timedOut =
+    u"" QT_TRANSLATE_NOOP("ArchiveEngine", "This file took too long to read \u2014 the drive may be failing.");
+inline constexpr const char16_t *cannotCreateFile =
+    u"" QT_TRANSLATE_NOOP("ArchiveEngine", "Couldn't create a file in your Vault folder.");
+inline constexpr const char16_t *sizeMismatch = u"" QT_TRANSLATE_NOOP(
+    "ArchiveEngine", "This file changed size while copying \u2014 the drive may have been disconnected.");
+inline constexpr const char16_t *unreadable = u"" QT_TRANSLATE_NOOP("ArchiveEngine", "This file couldn't be read.");
+inline constexpr const char16_t *vaultFull =
+    u"" QT_TRANSLATE_NOOP("ArchiveEngine", "There isn't enough space in your Vault folder.");
+inline constexpr const char16_t *vaultUnavailable =
+    u"" QT_TRANSLATE_NOOP("ArchiveEngine", "The Vault folder is no longer available.");
+inline constexpr const char16_t *notRegularFile = u"" QT_TRANSLATE_NOOP(
+    "ArchiveEngine", "This isn't an ordinary file (it is a link or a special file), so it was left alone.");
+inline constexpr const char16_t *indexNotSaved = u"" QT_TRANSLATE_NOOP(
+    "ArchiveEngine",
+    "The Vault's list of kept events couldn't be saved, so nothing from this run is recorded as kept.");
 } // namespace Reason
 
 } // namespace ArchiveEngine

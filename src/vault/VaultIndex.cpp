@@ -5,6 +5,7 @@
 
 #include "model/JsonCoding.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -61,9 +62,13 @@ void moveToTrash(const QString &folder)
     const QString dataHome = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
     const QString homeTrash = QDir::cleanPath(dataHome + QStringLiteral("/Trash"));
     if (dataHome.isEmpty() || !makeHomeTrash(homeTrash))
-        throw VaultIndex::FileError(
-            QStringLiteral("There is no Trash folder at %1 and it can't be made, so nothing was removed.").arg(homeTrash));
-    const QString notMoved = QStringLiteral("Couldn't move %1 to the Trash, so nothing was removed.").arg(folder);
+        //: %1 is a folder's full path
+        throw VaultIndex::FileError(QCoreApplication::translate("VaultIndex", "There is no Trash folder at %1 and it "
+                                                                              "can't be made, so nothing was removed.")
+                                        .arg(homeTrash));
+    //: %1 is a folder's full path
+    const QString notMoved =
+        QCoreApplication::translate("VaultIndex", "Couldn't move %1 to the Trash, so nothing was removed.").arg(folder);
     QString landed;
     if (!QFile::moveToTrash(folder, &landed))
         throw VaultIndex::FileError(notMoved);
@@ -111,11 +116,13 @@ VaultIndex VaultIndex::load(const QString &vaultURL)
     if (!QFileInfo::exists(path))
         return {};
     QFile file(path);
+    //: %1 is a file's full path, %2 the system's reason
+    const char *const unreadable = QT_TRANSLATE_NOOP("VaultIndex", "Couldn't read %1: %2");
     if (!file.open(QIODevice::ReadOnly))
-        throw FileError(QStringLiteral("Couldn't read %1: %2").arg(path, file.errorString()));
+        throw FileError(QCoreApplication::translate("VaultIndex", unreadable).arg(path, file.errorString()));
     const QByteArray data = file.readAll();
     if (file.error() != QFileDevice::NoError)
-        throw FileError(QStringLiteral("Couldn't read %1: %2").arg(path, file.errorString()));
+        throw FileError(QCoreApplication::translate("VaultIndex", unreadable).arg(path, file.errorString()));
     return fromJson(JsonCoding::parseObject(data));
 }
 
@@ -132,11 +139,13 @@ VaultIndex VaultIndex::loadOrEmpty(const QString &vaultURL) noexcept
 void VaultIndex::save(const QString &vaultURL) const
 {
     if (!QDir().mkpath(vaultURL))
-        throw FileError(QStringLiteral("Couldn't create the folder %1.").arg(vaultURL));
+        //: %1 is a folder's full path
+        throw FileError(QCoreApplication::translate("VaultIndex", "Couldn't create the folder %1.").arg(vaultURL));
     const QString path = manifestPath(vaultURL);
     QString why;
     if (!AtomicFile::write(path, JsonCoding::toCompactJson(toJson()), &why))
-        throw FileError(QStringLiteral("Couldn't write %1: %2").arg(path, why));
+        //: %1 is a file's full path, %2 the system's reason
+        throw FileError(QCoreApplication::translate("VaultIndex", "Couldn't write %1: %2").arg(path, why));
 }
 
 bool VaultIndex::removeEvent(const QString &eventID, const QString &vaultURL)
@@ -153,7 +162,9 @@ bool VaultIndex::removeEvent(const QString &eventID, const QString &vaultURL)
     const QString folder = QDir::cleanPath(root + QLatin1Char('/') + first->relativePath);
     if (first->relativePath.isEmpty() || QDir::isAbsolutePath(first->relativePath)
         || !folder.startsWith(root + QLatin1Char('/')))
-        throw FileError(QStringLiteral("The Vault's index points outside the Vault folder (%1), so nothing was removed.")
+        //: %1 is the folder the index names, as written in it
+        throw FileError(QCoreApplication::translate("VaultIndex", "The Vault's index points outside the Vault folder "
+                                                                  "(%1), so nothing was removed.")
                             .arg(first->relativePath));
     const QFileInfo info(folder);
     // A folder that is already gone is no error: the record goes all the same.

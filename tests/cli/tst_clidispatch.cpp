@@ -48,7 +48,7 @@ private Q_SLOTS:
         QVERIFY(text.startsWith(QLatin1String("Usage: keelhold-cli ")));
         QStringList listed = firstWords(text, QStringLiteral("Commands:"));
         listed.sort();
-        QCOMPARE(listed, QStringList({"decrypt", "export", "health", "help", "keep", "moments", "report", "scan", "telemetry", "unlock", "vault"}));
+        QCOMPARE(listed, QStringList({"decrypt", "export", "health", "help", "keep", "moments", "report", "scan", "telemetry", "unlock", "vault", "watch"}));
         QCOMPARE(cli({"-h"}).out, help.out);
         QCOMPARE(cli({"help"}).out, help.out);
 

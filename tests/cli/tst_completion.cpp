@@ -69,7 +69,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("line");
         QTest::addColumn<QStringList>("offered");
-        QTest::newRow("commands") << "keelhold-cli " << QStringList{"decrypt", "export", "health", "help", "keep", "moments", "report", "scan", "telemetry", "unlock", "vault"};
+        QTest::newRow("commands") << "keelhold-cli " << QStringList{"decrypt", "export", "health", "help", "keep", "moments", "report", "scan", "telemetry", "unlock", "vault", "watch"};
         QTest::newRow("a command begun") << "keelhold-cli he" << QStringList{"health", "help"};
         QTest::newRow("top-level options") << "keelhold-cli --" << QStringList{"--help", "--version"};
         QTest::newRow("help of a command") << "keelhold-cli help ke" << QStringList{"keep"};

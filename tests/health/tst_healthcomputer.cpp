@@ -1,5 +1,6 @@
 // The health report: counts, fullness thresholds, texts and their order.
 
+#include "support/IsolatedHome.h"
 #include "health/HealthComputer.h"
 #include "model/ArchivedEvent.h"
 
@@ -221,5 +222,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestHealthComputer)
+KEELHOLD_ISOLATED_TEST_MAIN(TestHealthComputer)
 #include "tst_healthcomputer.moc"

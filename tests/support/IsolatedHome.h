@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Translations.h"
 #include <QString>
 #ifdef QT_WIDGETS_LIB
 #include <QApplication>
@@ -25,12 +26,14 @@ QString setUp();
     {                                                                                                                  \
         IsolatedHome::setUp();                                                                                         \
         QCoreApplication app(argc, argv);                                                                              \
+        Translations::install(QLocale(QLocale::English));                                                             \
         TestObject tc;                                                                                                 \
         QTEST_SET_MAIN_SOURCE_PATH                                                                                     \
         return QTest::qExec(&tc, argc, argv);                                                                          \
     }
 
-// The same for tests of the application's window: an application named as
+// The same for tests of the application's window (in English, or in the
+// language KEELHOLD_TEST_LANGUAGE names, as the layouts are checked in German): an application named as
 // the app is (its settings land where the app's would), with widgets where
 // linked, since the file dialogs are widgets. Without a display the
 // offscreen platform lets the process come up to say what it skips. No
@@ -47,6 +50,7 @@ QString setUp();
         KEELHOLD_APP_CLASS app(argc, argv);                                                                            \
         QGuiApplication::setOrganizationName(QStringLiteral("Keelhold"));                                              \
         QGuiApplication::setApplicationName(QStringLiteral("Keelhold"));                                               \
+        Translations::install(QLocale(qEnvironmentVariable("KEELHOLD_TEST_LANGUAGE", QStringLiteral("en"))));          \
         TestObject tc;                                                                                                 \
         QTEST_SET_MAIN_SOURCE_PATH                                                                                     \
         return QTest::qExec(&tc, argc, argv);                                                                          \

@@ -156,13 +156,16 @@ public:
             window()->grabWindow().save(dir + QLatin1Char('/') + name + QStringLiteral(".png"));
     }
 
-    // With KEELHOLD_SCREENSHOT_DIR set, the window as it stands goes to <dir>/<name>.png.
+    // With KEELHOLD_SCREENSHOT_DIR set, the window as it stands goes to
+    // <dir>/<name>.png, or <name>-<language>.png in another language.
     void shot(const QString &name) const
     {
         const QString dir = qEnvironmentVariable("KEELHOLD_SCREENSHOT_DIR");
         if (dir.isEmpty() || !window())
             return;
         waitForFrame();
-        window()->grabWindow().save(dir + QLatin1Char('/') + name + QStringLiteral(".png"));
+        const QString language = qEnvironmentVariable("KEELHOLD_TEST_LANGUAGE");
+        const QString suffix = language.isEmpty() || language == QLatin1String("en") ? QString() : QLatin1Char('-') + language;
+        window()->grabWindow().save(dir + QLatin1Char('/') + name + suffix + QStringLiteral(".png"));
     }
 };

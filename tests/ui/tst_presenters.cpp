@@ -1,3 +1,4 @@
+#include "support/IsolatedHome.h"
 #include "FailureScreens.h"
 #include "HealthPresenter.h"
 #include "HelpArticle.h"
@@ -146,5 +147,5 @@ private Q_SLOTS:
 
 };
 
-QTEST_GUILESS_MAIN(PresentersTest)
+KEELHOLD_ISOLATED_TEST_MAIN(PresentersTest)
 #include "tst_presenters.moc"

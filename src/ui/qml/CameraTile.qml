@@ -40,7 +40,8 @@ Rectangle {
     border.width: small && isFocused ? 2 : 0
     border.color: palette.highlight
     Accessible.role: Accessible.Button
-    Accessible.name: (tileData ? tileData.cameraName : "") + " camera"
+    //: Screen reader name of a camera's tile; %1 is the camera's name, e.g. Left Side
+    Accessible.name: qsTr("%1 camera").arg(tileData ? tileData.cameraName : "")
 
     VideoOutput {
         id: video

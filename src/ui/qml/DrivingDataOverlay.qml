@@ -64,7 +64,8 @@ Rectangle {
                 Label {
                     objectName: "speedUnit"
                     anchors.horizontalCenter: parent.horizontalCenter
-                    text: hud.drivingData ? (hud.drivingData.useMiles ? "mph" : "km/h") : ""
+                    //: Speed units under the speed; keep them short
+                    text: hud.drivingData ? (hud.drivingData.useMiles ? qsTr("mph") : qsTr("km/h")) : ""
                     color: hud.dim
                     font.pixelSize: 10
                 }

@@ -126,7 +126,9 @@ Item {
                         UrlIcon { anchors.centerIn: parent; source: eventMap.texts.keptIcon; size: 9; color: "white" }
                     }
                     Accessible.role: Accessible.Button
-                    Accessible.name: modelData.kept ? modelData.label + ", " + eventMap.texts.kept : modelData.label
+                    //: Screen reader name of a kept event's pin: its reason, then "Kept in your Vault"
+                    Accessible.name: modelData.kept ? qsTr("%1, %2").arg(modelData.label).arg(eventMap.texts.kept)
+                                                    : modelData.label
                     TapHandler { onTapped: eventMap.select(modelData.id) }
                 }
             }
@@ -218,7 +220,8 @@ Item {
                 objectName: "mapRow_" + modelData.id
                 width: ListView.view.width
                 onClicked: eventMap.select(modelData.id)
-                Accessible.name: modelData.reasonLabel + ", " + modelData.timestamp
+                //: Screen reader name of a row in the map's list: the event's reason, then its date and time
+                Accessible.name: qsTr("%1, %2").arg(modelData.reasonLabel).arg(modelData.timestamp)
                 contentItem: ColumnLayout {
                     spacing: 4
                     ReasonChip {

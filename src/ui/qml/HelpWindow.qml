@@ -38,7 +38,8 @@ ApplicationWindow {
             Layout.fillHeight: true
             model: ui.helpArticles
             currentIndex: win.selected
-            header: Label { text: "Help"; font.weight: Font.DemiBold; padding: 12; opacity: 0.6 }
+            //: Heading over the list of help articles
+            header: Label { text: qsTr("Help"); font.weight: Font.DemiBold; padding: 12; opacity: 0.6 }
             delegate: ItemDelegate {
                 width: ListView.view.width
                 highlighted: index === win.selected

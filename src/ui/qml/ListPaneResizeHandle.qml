@@ -26,5 +26,5 @@ Item {
     ToolTip.visible: hover.hovered && !dragging
     ToolTip.delay: 800
     ToolTip.text: ui.texts.resizeTip
-    Accessible.name: "Resize event list"
+    Accessible.name: qsTr("Resize event list")
 }

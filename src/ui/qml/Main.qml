@@ -105,7 +105,7 @@ ApplicationWindow {
                 Repeater {
                     model: ui.sidebarSections
                     delegate: ItemDelegate {
-                        objectName: "section_" + modelData.label
+                        objectName: "section_" + modelData.id
                         Layout.fillWidth: true
                         highlighted: appState.selectedSection === modelData.value
                         icon.source: modelData.icon

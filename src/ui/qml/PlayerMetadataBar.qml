@@ -32,7 +32,8 @@ ColumnLayout {
             color: Qt.rgba(palette.highlight.r, palette.highlight.g, palette.highlight.b, 0.15)
             implicitWidth: chip.implicitWidth + 16
             implicitHeight: chip.implicitHeight + 6
-            Accessible.name: "Reason: " + (bar.metadata.reasonLabel || "")
+            //: Screen reader name of the reason chip; %1 is the car's reason, e.g. Sentry Mode detection
+            Accessible.name: qsTr("Reason: %1").arg(bar.metadata.reasonLabel || "")
             IconLabel {
                 id: chip
                 anchors.centerIn: parent

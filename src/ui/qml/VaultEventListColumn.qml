@@ -43,6 +43,36 @@ ColumnLayout {
     }
     Rectangle { Layout.fillWidth: true; height: 1; color: palette.mid }
 
+    // The drive on screen keeps itself when connected, or not.
+    ColumnLayout {
+        objectName: "autoKeepDrive"
+        visible: vault.autoKeep.present === true
+        Layout.fillWidth: true
+        Layout.leftMargin: 8
+        Layout.rightMargin: 8
+        Layout.topMargin: 4
+        spacing: 0
+        CheckBox {
+            id: autoOn
+            objectName: "autoKeepOn"
+            text: vault.autoKeep.label || ""
+            checked: vault.autoKeep.on === true
+            Layout.fillWidth: true
+            contentItem: Label { text: autoOn.text; wrapMode: Text.WordWrap; leftPadding: autoOn.indicator.width + autoOn.spacing; verticalAlignment: Text.AlignVCenter }
+            ToolTip.visible: hovered; ToolTip.text: vault.autoKeep.driveLine || ""; ToolTip.delay: 500
+            onToggled: vault.setAutoKeep(checked, checked && autoRecent.checked)
+        }
+        CheckBox {
+            id: autoRecent
+            objectName: "autoKeepRecent"
+            text: vault.autoKeep.recentLabel || ""
+            checked: vault.autoKeep.recent === true
+            enabled: autoOn.checked
+            Layout.leftMargin: 24
+            onToggled: vault.setAutoKeep(true, checked)
+        }
+    }
+
     // What the last re-reading found wrong, until the Vault is whole again.
     Rectangle {
         objectName: "vaultNotice"

@@ -1,0 +1,97 @@
+#include "drive/TeslaCamParser.h"
+#include "engine/LiveEngine.h"
+#include "state/AppState.h"
+#include "state/DesktopNotices.h"
+#include "support/DriveBuilder.h"
+#include "support/FaultyFs.h"
+#include "support/IsolatedHome.h"
+#include "support/MountedVolume.h"
+#include "support/NotificationServiceStandIn.h"
+
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+// The real app state on the live engine, a real exFAT drive mounted under
+// /media (root only), and the desktop's notification service played on the
+// test's own session bus.
+class TestAutoKeep : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void aDriveThatKeepsItselfIsKeptWhenItComesIn()
+    {
+        NotificationServiceStandIn desktop;
+        QVERIFY(desktop.ok());
+        MountedVolume drive(QStringLiteral("exfat"), QStringLiteral("KHAUTO"));
+        if (!drive.ok())
+            QSKIP("could not mount an exFAT image under /media");
+        DriveBuilder car(drive.path() + QStringLiteral("/TeslaCam"));
+        car.addEvent(QStringLiteral("SentryClips"), QStringLiteral("2026-07-13_10-00-00"), 2, 40000);
+        car.addEvent(QStringLiteral("SavedClips"), QStringLiteral("2026-07-13_11-00-00"), 1, 40000);
+        const std::optional<DriveIdentity::Mounted> identity = DriveIdentity::of(drive.path());
+        QVERIFY(identity);
+        drive.pull();
+
+        LiveEngine engine;
+        AppState state(engine);
+        DesktopNotifier notifier(QStringLiteral("io.keelhold.Keelhold"));
+        DesktopNotices notices(state, notifier);
+        QTemporaryDir vault;
+        state.setVaultURL(vault.path());
+        QTRY_VERIFY(state.vaultURL());
+        state.rootViewAppeared();
+        QSignalSpy ended(&state, &AppState::keepEnded);
+
+        // Not chosen yet: the desktop hears that Sentry events wait, a click
+        // opens the drive, and nothing is copied.
+        QVERIFY(drive.plugIn());
+        QTRY_COMPARE_WITH_TIMEOUT(desktop.received().size(), size_t(1), 30000);
+        QCOMPARE(desktop.received()[0].title, QStringLiteral("1 Sentry event not kept yet"));
+        QCOMPARE(desktop.received()[0].body,
+                 QStringLiteral("KHAUTO is connected with Sentry events that aren't in your Vault."));
+        desktop.click(desktop.received()[0].id);
+        QTRY_COMPARE(state.driveRootURL().value_or(QString()), drive.path() + QStringLiteral("/TeslaCam"));
+        QCOMPARE(ended.size(), 0);
+        drive.pull();
+
+        // Chosen, and the user is busy keeping another drive when it comes
+        // in: it waits its turn, then keeps itself without a sheet.
+        state.autoKeep().set(identity->drive, true, false);
+        QTemporaryDir faultyAt;
+        FaultyFs other(faultyAt.path());
+        QVERIFY(other.isMounted());
+        const QString clip = QStringLiteral("TeslaCam/SentryClips/2026-07-12_09-00-00/2026-07-12_09-00-00-front.mp4");
+        other.addFile(clip, DriveBuilder::randomBytes(3 * 1024 * 1024, 7));
+        other.hangReadsFrom(clip, 1024 * 1024);
+        const DriveScan otherScan = TeslaCamParser::scan(faultyAt.path() + QStringLiteral("/TeslaCam"));
+        QCOMPARE(otherScan.events.size(), size_t(1));
+        state.keep(otherScan.events);
+        QTRY_VERIFY(other.isHanging());
+
+        QVERIFY(drive.plugIn());
+        QTRY_COMPARE_WITH_TIMEOUT(state.drivesWaitingToKeep(), 1, 30000);
+        QVERIFY(!state.isKeepAutomatic());
+        other.release();
+        QTRY_COMPARE_WITH_TIMEOUT(ended.size(), 2, 60000);
+        QCOMPARE(ended[0][1].toBool(), false);
+        QCOMPARE(ended[1][1].toBool(), true);
+        QCOMPARE(ended[1][3].toString(), QStringLiteral("KHAUTO"));
+        state.setShowArchiveReport(false);
+        QCOMPARE(state.lastArchiveReport()->completeEvents(), 2);
+        QVERIFY(!state.showArchiveReport());
+        QTRY_COMPARE_WITH_TIMEOUT(desktop.received().size(), size_t(2), 20000);
+        QVERIFY2(desktop.received()[1].body.startsWith(QStringLiteral("Kept 2 new events from KHAUTO \u2014 ")),
+                 qPrintable(desktop.received()[1].body));
+
+        // The car records one more: back again, only that one is copied.
+        car.addEvent(QStringLiteral("SentryClips"), QStringLiteral("2026-07-13_12-00-00"), 1, 40000);
+        drive.pull();
+        QVERIFY(drive.plugIn());
+        QTRY_COMPARE_WITH_TIMEOUT(ended.size(), 3, 60000);
+        QCOMPARE(ended[2][0].value<ArchiveReport>().completeEvents(), 1);
+        QCOMPARE(ended[2][0].value<ArchiveReport>().plannedEvents, 1);
+    }
+};
+
+KEELHOLD_ISOLATED_TEST_MAIN(TestAutoKeep)
+#include "tst_autokeep.moc"
