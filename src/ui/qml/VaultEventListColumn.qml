@@ -17,7 +17,12 @@ ColumnLayout {
         Layout.leftMargin: 12
         Layout.rightMargin: 6
         Layout.preferredHeight: 40
-        Label { text: vault.texts.title; font.pixelSize: 16; font.weight: Font.DemiBold; Layout.fillWidth: true }
+        Label {
+            id: vaultTitle
+            text: vault.texts.title; font.pixelSize: 16; font.weight: Font.DemiBold
+            Layout.fillWidth: true
+            Layout.minimumWidth: implicitWidth
+        }
         ToolButton {
             objectName: "verifyVault"
             text: vault.texts.verifyVault
@@ -33,7 +38,10 @@ ColumnLayout {
         ToolButton {
             objectName: "changeVaultFolder"
             text: vault.texts.changeFolder
-            display: AbstractButton.TextBesideIcon
+            // Its words while they fit beside the title and the other button's icon.
+            display: root.width < vaultTitle.implicitWidth + changeFolderWords.width + 110
+                     ? AbstractButton.IconOnly : AbstractButton.TextBesideIcon
+            TextMetrics { id: changeFolderWords; text: vault.texts.changeFolder }
             icon.source: vault.texts.changeFolderIcon
             icon.color: palette.buttonText
             ToolTip.visible: hovered; ToolTip.text: vault.texts.changeFolderTip; ToolTip.delay: 500
