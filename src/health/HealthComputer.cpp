@@ -5,6 +5,7 @@
 #include "model/ArchivedEvent.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 
 #include <algorithm>
 #include <cmath>
@@ -42,7 +43,7 @@ int unarchivedCount(const DriveScan &scan, const VaultIndex &vaultIndex)
 
 QString percentText(double fraction)
 {
-    return QString::number(qint64(std::round(fraction * 100.0)));
+    return QLocale().toString(qint64(std::round(fraction * 100.0)));
 }
 
 QString formatVerdict(const VolumeFormat &format, bool onSystemDisk)

@@ -101,6 +101,11 @@ void AppState::relayPartSignals()
             keep(std::exchange(keepAwaitingVault_, {}));
         else
             vault_.verifyIfDue();
+        // Drives that keep themselves and were plugged in before Keelhold opened.
+        if (rootViewAppeared_ && !std::exchange(arrivalsAtStartSeen_, true))
+            for (const VolumeCandidate &c : drive_.driveVolumeCandidates())
+                if (c.hasTeslaCamFolder)
+                    arrivalTask(QPointer<AppState>(this), c.volumeURL, true);
     });
 }
 

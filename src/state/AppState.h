@@ -283,7 +283,8 @@ private:
     void noteMountForKeep(const QString &mountPoint);
     // A drive came in: kept if it keeps itself, else told about if it holds
     // Sentry events the Vault lacks. Drives wait their turn behind any keep.
-    static QCoro::Task<void> arrivalTask(QPointer<AppState> self, QString mountPoint);
+    // atStart: mounted before Keelhold opened; only a drive that keeps itself is read then.
+    static QCoro::Task<void> arrivalTask(QPointer<AppState> self, QString mountPoint, bool atStart = false);
     void startWaitingAutoKeep();
     static QCoro::Task<void> identifyShownDrive(QPointer<AppState> self, QString root);
     static QCoro::Task<void> keyCoverageTask(QPointer<AppState> self, std::vector<TeslaEvent> events, quint64 run);
@@ -338,4 +339,6 @@ private:
         std::vector<TeslaEvent> events; // new to the Vault when the drive came in
     };
     std::deque<Arrival> arrivals_;
+    // Drives already mounted at start are looked at once the Vault is known.
+    bool arrivalsAtStartSeen_ = false;
 };

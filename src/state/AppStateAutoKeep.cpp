@@ -35,7 +35,7 @@ QCoro::Task<void> AppState::identifyShownDrive(QPointer<AppState> self, QString 
     Q_EMIT self->shownDriveChanged();
 }
 
-QCoro::Task<void> AppState::arrivalTask(QPointer<AppState> self, QString mountPoint)
+QCoro::Task<void> AppState::arrivalTask(QPointer<AppState> self, QString mountPoint, bool atStart)
 {
     if (!self->vault_.vaultURL() || self->isSampleMode())
         co_return;
@@ -49,7 +49,7 @@ QCoro::Task<void> AppState::arrivalTask(QPointer<AppState> self, QString mountPo
     // While a keep runs or waits for its drive (this one, perhaps, which
     // then takes it up by itself) the user is keeping already: nothing to
     // tell, and the drive is left alone. One that keeps itself waits its turn.
-    if (!on && (self->interruptedKeep_ || self->isArchiving_))
+    if (!on && (atStart || self->interruptedKeep_ || self->isArchiving_))
         co_return;
     // Read in the background, whichever drive is on screen.
     DriveScan scan;

@@ -22,7 +22,7 @@ QString PlayerLayout::speedLabel(double rate)
 {
     if (rate == 1.0)
         return QStringLiteral("1×");
-    return QString::asprintf("%.1f", rate) + QStringLiteral("×");
+    return QLocale().toString(rate, 'f', 1) + QStringLiteral("×");
 }
 
 QString PlayerLayout::speedShortfall(double chosen, double playing)

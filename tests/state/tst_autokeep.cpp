@@ -1,4 +1,5 @@
 #include "drive/TeslaCamParser.h"
+#include "engine/BookmarkStore.h"
 #include "engine/LiveEngine.h"
 #include "state/AppState.h"
 #include "state/DesktopNotices.h"
@@ -90,6 +91,65 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(ended.size(), 3, 60000);
         QCOMPARE(ended[2][0].value<ArchiveReport>().completeEvents(), 1);
         QCOMPARE(ended[2][0].value<ArchiveReport>().plannedEvents, 1);
+    }
+
+    // A keep the user asked for, or an export, is told only when it ran long
+    // (and the export only behind other windows); a short one the user saw end.
+    void longWorkIsToldOnlyWhenLong()
+    {
+        NotificationServiceStandIn desktop;
+        QVERIFY(desktop.ok());
+        LiveEngine engine;
+        AppState state(engine);
+        DesktopNotifier notifier(QStringLiteral("io.keelhold.Keelhold"));
+        DesktopNotices notices(state, notifier);
+        QSignalSpy answered(&notifier, &DesktopNotifier::answered);
+        ArchiveReport kept;
+        kept.plannedEvents = 1;
+        kept.bytesCopied = 5'000'000;
+        ArchivedEvent e;
+        e.eventID = QStringLiteral("sentry|x");
+        e.files = {{QStringLiteral("a.mp4"), 5'000'000, QStringLiteral("00")}};
+        kept.archivedEvents = {e};
+
+        Q_EMIT state.keepEnded(kept, false, 12, QStringLiteral("TESLADRIVE"));
+        state.noteExportEnded(12, QStringLiteral("Export finished"), QStringLiteral("short.mp4 is ready."));
+        Q_EMIT state.keepEnded(kept, false, 31, QStringLiteral("TESLADRIVE"));
+        state.noteExportEnded(95, QStringLiteral("Export finished"), QStringLiteral("long.mp4 is ready."));
+        QTRY_COMPARE(answered.size(), 2);
+        QCOMPARE(desktop.received().size(), size_t(2));
+        QCOMPARE(desktop.received()[0].body, QStringLiteral("Kept 1 new event from TESLADRIVE \u2014 5.0 MB, all verified"));
+        QCOMPARE(desktop.received()[1].body, QStringLiteral("long.mp4 is ready."));
+    }
+
+    // Plugged in before Keelhold opened: a drive that keeps itself is kept
+    // once the Vault is known; any other is left alone.
+    void aDriveAlreadyMountedAtStart()
+    {
+        MountedVolume drive(QStringLiteral("exfat"), QStringLiteral("KHSTART"));
+        MountedVolume other(QStringLiteral("exfat"), QStringLiteral("KHOTHER"));
+        if (!drive.ok() || !other.ok())
+            QSKIP("could not mount an exFAT image under /media");
+        DriveBuilder(drive.path() + QStringLiteral("/TeslaCam"))
+            .addEvent(QStringLiteral("SentryClips"), QStringLiteral("2026-07-14_10-00-00"), 1, 40000);
+        DriveBuilder(other.path() + QStringLiteral("/TeslaCam"))
+            .addEvent(QStringLiteral("SentryClips"), QStringLiteral("2026-07-14_11-00-00"), 1, 40000);
+        const std::optional<DriveIdentity::Mounted> identity = DriveIdentity::of(drive.path());
+        QVERIFY(identity);
+        QTemporaryDir vault;
+        BookmarkStore::save(vault.path(), BookmarkKey::vaultFolder);
+
+        LiveEngine engine;
+        engine.setFlag(AppState::onboardingKey, true);
+        AppState state(engine);
+        state.autoKeep().set(identity->drive, true, false);
+        QSignalSpy ended(&state, &AppState::keepEnded);
+        state.rootViewAppeared();
+        QTRY_COMPARE_WITH_TIMEOUT(ended.size(), 1, 60000);
+        QCOMPARE(ended[0][1].toBool(), true);
+        QCOMPARE(ended[0][3].toString(), QStringLiteral("KHSTART"));
+        QCOMPARE(state.lastArchiveReport()->archivedEvents.size(), size_t(1));
+        QCOMPARE(state.lastArchiveReport()->archivedEvents[0].eventID, QStringLiteral("sentry|2026-07-14_10-00-00"));
     }
 };
 
