@@ -504,7 +504,16 @@ private Q_SLOTS:
         QCOMPARE(fs.bytesServed(), servedBefore);
         QVERIFY(ReadPriority::isUrgent()); // the drive's background pass waits meanwhile
 
-        std::map<int, std::optional<FrameId>> first;
+        // On a slow machine the key frame before the start may stand in,
+        // marked as a preview, while the exact frame is decoded; and a camera
+        // still not ready when the others start playing joins them later on.
+        struct Shown {
+            double time = -1;
+            double at = 0;
+        };
+        const auto timeOf = [](const std::optional<FrameId> &id) { return id ? id->clip * clipSeconds + id->index / double(fps) : -1.0; };
+        std::map<int, Shown> first;
+        std::map<int, std::vector<double>> previews;
         std::vector<std::unique_ptr<QVideoSink>> watching;
         connect(&c, &SyncPlayerController::tilesChanged, &c, [&] {
             for (const Tile &t : c.tiles()) {
@@ -512,9 +521,14 @@ private Q_SLOTS:
                     continue;
                 watching.push_back(std::make_unique<QVideoSink>());
                 const int camera = int(t.camera.value());
-                connect(watching.back().get(), &QVideoSink::videoFrameChanged, &c, [&first, camera](const QVideoFrame &f) {
-                    if (f.isValid() && !first.count(camera))
-                        first[camera] = identify(f);
+                TrackPlayer *player = t.player.get();
+                connect(watching.back().get(), &QVideoSink::videoFrameChanged, &c, [&, camera, player](const QVideoFrame &f) {
+                    if (!f.isValid() || first.count(camera))
+                        return;
+                    if (player->isShowingPreview())
+                        previews[camera].push_back(timeOf(identify(f)));
+                    else
+                        first[camera] = {timeOf(identify(f)), std::max(6.5, c.currentTime())};
                 });
                 t.player->setVideoSink(watching.back().get());
             }
@@ -522,11 +536,14 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(c.isPlaying(), 60000);
         QVERIFY(!ReadPriority::isUrgent());
         QCOMPARE(c.tiles().size(), cameras.size());
-        const std::vector<double> starts{0, 3, 6, 9, 12, 15};
+        const double intended = timeOf(expectedAt(6.5, 0, {0, 3, 6, 9, 12, 15}, {0, 1, 2, 3, 4, 5}));
         for (Camera camera : cameras) {
             const int id = int(camera.value());
             QVERIFY2(first.count(id), qPrintable(camera.rawValue()));
-            QCOMPARE(first[id], expectedAt(6.5, id, starts, {0, 1, 2, 3, 4, 5}));
+            QVERIFY2(first[id].time >= intended - 1e-6 && first[id].time <= first[id].at + 1e-6,
+                     qPrintable(QString("%1 first showed %2 at %3").arg(camera.rawValue()).arg(first[id].time).arg(first[id].at)));
+            for (double preview : previews[id])
+                QCOMPARE(preview, 6.0);
         }
         c.pause();
     }
