@@ -1,8 +1,8 @@
 #include "crypt/EcryptfsReader.h"
 
 #include "base/ReadOnlyFs.h"
-#include "base/SecondLane.h"
 #include "crypt/PageDecrypter.h"
+#include "crypt/PagePrefetcher.h"
 #include "crypt/PageIV.h"
 
 extern "C" {
@@ -24,9 +24,9 @@ namespace {
 // The most pages read and decrypted in one go: a stop is noticed between
 // runs, and a run is read straight into the caller's buffer.
 constexpr qint64 pagesPerRun = 256;
-// A long run is shared with a second thread in parts this size: each is a
-// read of its own, and more parts would cost more calls than they balance.
-constexpr qint64 pagesPerPart = 16;
+// Reads this long, each going on from the last, are a demuxer streaming
+// through the file: worth decrypting ahead of it.
+constexpr qint64 streamingRun = 32;
 
 const EVP_MD *md5()
 {
@@ -75,81 +75,18 @@ std::unique_ptr<EcryptfsReader> EcryptfsReader::open(const QString &path, const 
 
 EcryptfsReader::~EcryptfsReader()
 {
-    lane_.reset(); // joined before the file it reads closes
+    prefetcher_.reset(); // joined before the file it reads closes
     if (fd_ >= 0)
         ::close(fd_);
 }
 
 bool EcryptfsReader::runPages(qint64 page, qint64 pages, uint8_t *into)
 {
-    const qint64 ready = fromReadAhead(page, pages, into);
-    page += ready;
-    pages -= ready;
-    into += ready * Ecryptfs::pageSize;
-    if (pages == 0)
+    const qint64 ready = prefetcher_ ? prefetcher_->take(page, pages, into) : 0;
+    if (ready == pages || decrypter_->run(page + ready, pages - ready, into + ready * Ecryptfs::pageSize))
         return true;
-    if (pages < 2 * pagesPerPart || !SecondLane::worthIt()) {
-        if (decrypter_->run(page, pages, into))
-            return true;
-        lastError_ = decrypter_->error();
-        return false;
-    }
-    if (!lane_) {
-        secondDecrypter_ = std::make_unique<PageDecrypter>(fd_, key_, rootIV_, shouldStop_);
-        lane_ = std::make_unique<SecondLane>();
-    }
-    PageDecrypter *const decrypters[2] = {decrypter_.get(), secondDecrypter_.get()};
-    const int parts = int((pages + pagesPerPart - 1) / pagesPerPart);
-    const bool ok = lane_->runShared(parts, [&](int side, int part) {
-        const qint64 first = part * pagesPerPart;
-        return decrypters[side]->run(page + first, std::min(pagesPerPart, pages - first),
-                                     into + first * Ecryptfs::pageSize);
-    });
-    if (!ok)
-        lastError_ = decrypters[0]->error() ? decrypters[0]->error() : decrypters[1]->error();
-    return ok;
-}
-
-// The pages from `page` on that were read ahead, copied into `into`; how
-// many. Whatever the lane was reading ahead is finished first, with the
-// caller's help, since its buffer is about to be read or reused.
-qint64 EcryptfsReader::fromReadAhead(qint64 page, qint64 pages, uint8_t *into)
-{
-    if (!lane_)
-        return 0;
-    if (lane_->isStarted())
-        readAheadOk_ = lane_->finish();
-    if (!readAheadOk_ || page < readAheadFirst_ || page >= readAheadFirst_ + readAheadPages_)
-        return 0;
-    const qint64 n = std::min(pages, readAheadFirst_ + readAheadPages_ - page);
-    std::memcpy(into, readAhead_.data() + (page - readAheadFirst_) * Ecryptfs::pageSize,
-                size_t(n * Ecryptfs::pageSize));
-    return n;
-}
-
-// Decrypts the next `pages` pages after the position on the second thread
-// while the caller gets on with what it has read.
-void EcryptfsReader::readAhead(qint64 pages)
-{
-    qint64 first = position_ / Ecryptfs::pageSize;
-    if (first == pageNumber_)
-        ++first;
-    pages = std::min(pages, Ecryptfs::pageCount(plainSize_) - first);
-    if (!lane_ || pages <= 0)
-        return;
-    if (lane_->isStarted())
-        lane_->finish(); // its buffer is about to be reused
-    readAhead_.resize(size_t(pages * Ecryptfs::pageSize));
-    readAheadFirst_ = first;
-    readAheadPages_ = pages;
-    readAheadOk_ = false;
-    readAheadWork_ = [this, decrypters = std::array<PageDecrypter *, 2>{decrypter_.get(), secondDecrypter_.get()}](
-                         int side, int part) {
-        const qint64 from = part * pagesPerPart;
-        return decrypters[size_t(side)]->run(readAheadFirst_ + from, std::min(pagesPerPart, readAheadPages_ - from),
-                                             readAhead_.data() + from * Ecryptfs::pageSize);
-    };
-    lane_->start(int((pages + pagesPerPart - 1) / pagesPerPart), readAheadWork_);
+    lastError_ = decrypter_->error();
+    return false;
 }
 
 bool EcryptfsReader::loadPage(qint64 page)
@@ -158,12 +95,23 @@ bool EcryptfsReader::loadPage(qint64 page)
         return true;
     page_.resize(size_t(Ecryptfs::pageSize));
     pageNumber_ = -1;
-    if (fromReadAhead(page, 1, page_.data()) == 0 && !decrypter_->run(page, 1, page_.data())) {
-        lastError_ = decrypter_->error();
+    if (!runPages(page, 1, page_.data()))
         return false;
-    }
     pageNumber_ = page;
     return true;
+}
+
+// A demuxer reading on from where it stopped, in long reads, will ask for
+// the next pages in a moment.
+void EcryptfsReader::readAhead()
+{
+    if (!prefetcher_ && !prefetchTried_) {
+        prefetchTried_ = true;
+        prefetcher_ = PagePrefetcher::make(
+            std::make_unique<PageDecrypter>(fd_, key_, rootIV_, shouldStop_), Ecryptfs::pageCount(plainSize_));
+    }
+    if (prefetcher_)
+        prefetcher_->keepAheadOf((position_ + Ecryptfs::pageSize - 1) / Ecryptfs::pageSize);
 }
 
 int EcryptfsReader::read(uint8_t *buffer, int size)
@@ -199,10 +147,8 @@ int EcryptfsReader::read(uint8_t *buffer, int size)
         position_ += n;
     }
     lastReadEnd_ = position_;
-    // A demuxer reading on from where it stopped, in long reads, will ask for
-    // the next pages in a moment.
-    if (streaming && longestRun >= 2 * pagesPerPart)
-        readAhead(longestRun + 1);
+    if (streaming && longestRun >= streamingRun)
+        readAhead();
     return copied;
 }
 

@@ -10,15 +10,14 @@
 #include <vector>
 
 class PageDecrypter;
-class SecondLane;
+class PagePrefetcher;
 
 // Reads the plain bytes of one of the car's encrypted files, given its
 // 16-byte key, decrypting page by page as they are asked for: a seek
 // decrypts only the pages it lands on, and nothing decrypted is written
 // anywhere. Its read and seek are shaped like an AVIOContext's callbacks,
-// so a demuxer can sit on it. One thread at a time; a long read is shared
-// with a second thread of its own, which also reads ahead while a demuxer
-// streaming through the file is busy with what it got.
+// so a demuxer can sit on it. One thread at a time; while a demuxer streams
+// through the file, a thread of its own decrypts the pages ahead.
 class EcryptfsReader {
 public:
     // Null when the file can't be opened, isn't one of the car's encrypted
@@ -52,8 +51,7 @@ private:
     EcryptfsReader() = default;
     bool runPages(qint64 page, qint64 pages, uint8_t *into);
     bool loadPage(qint64 page);
-    qint64 fromReadAhead(qint64 page, qint64 pages, uint8_t *into);
-    void readAhead(qint64 pages);
+    void readAhead();
 
     int fd_ = -1;
     std::function<bool()> shouldStop_;
@@ -62,14 +60,9 @@ private:
     QByteArray key_;
     QByteArray rootIV_;
     std::unique_ptr<PageDecrypter> decrypter_;
-    // Made with the first long read.
-    std::unique_ptr<PageDecrypter> secondDecrypter_;
-    std::unique_ptr<SecondLane> lane_;
-    std::vector<uint8_t> readAhead_;
-    qint64 readAheadFirst_ = 0;
-    qint64 readAheadPages_ = 0;
-    bool readAheadOk_ = false;
-    std::function<bool(int, int)> readAheadWork_;
+    // Made with the first streaming read.
+    std::unique_ptr<PagePrefetcher> prefetcher_;
+    bool prefetchTried_ = false;
     qint64 lastReadEnd_ = -1;
     // The page a read began or ended inside, decrypted: the next read
     // usually starts in it.
