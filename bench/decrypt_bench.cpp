@@ -2,6 +2,7 @@
 // decrypting reader, against the same clip in the clear, both read from the
 // page cache. Prints each run's times and, last, decrypt/clear=X.
 #include "crypt/EcryptfsReader.h"
+#include "media/ClipReader.h"
 #include "media/MediaClip.h"
 #include "support/EcryptfsWriter.h"
 
@@ -14,7 +15,6 @@
 
 extern "C" {
 #include <libavformat/avformat.h>
-#include <libavutil/mem.h>
 }
 
 #include <openssl/evp.h>
@@ -75,26 +75,31 @@ Count demuxClear(const QString &path)
     return readPackets(input->context());
 }
 
-// The same buffer size as the plain reader's, so only the bytes' source differs.
+// The app's own way in, with only the bytes' source changed: the sealed
+// file read through the decrypting reader.
+class SealedReader : public ClipReader {
+public:
+    explicit SealedReader(std::unique_ptr<EcryptfsReader> reader) : reader_(std::move(reader)) {}
+    int read(unsigned char *buffer, int size) override { return reader_->read(buffer, size); }
+    int64_t seek(int64_t position) override { return reader_->seek(position, SEEK_SET); }
+    int64_t size() override { return reader_->size(); }
+
+private:
+    std::unique_ptr<EcryptfsReader> reader_;
+};
+
 Count demuxDecrypted(const QString &path, const QByteArray &key)
 {
-    auto reader = EcryptfsReader::open(path, key);
-    if (!reader)
+    MediaClip::Options options;
+    options.mp4Only = true;
+    options.reader = [&key](const QString &file, std::stop_token) -> std::unique_ptr<ClipReader> {
+        auto reader = EcryptfsReader::open(file, key);
+        return reader ? std::make_unique<SealedReader>(std::move(reader)) : nullptr;
+    };
+    auto input = MediaClip::open(path, std::stop_token{}, options);
+    if (!input || !input->isOpened())
         std::exit(1);
-    constexpr int bufferSize = 256 * 1024;
-    AVIOContext *io = avio_alloc_context(static_cast<unsigned char *>(av_malloc(bufferSize)), bufferSize, 0,
-                                         reader.get(), &EcryptfsReader::readPacket, nullptr,
-                                         &EcryptfsReader::seekPacket);
-    AVFormatContext *format = avformat_alloc_context();
-    format->pb = io;
-    format->flags |= AVFMT_FLAG_CUSTOM_IO;
-    if (avformat_open_input(&format, "clip.mp4", av_find_input_format("mp4"), nullptr) < 0)
-        std::exit(1);
-    const Count c = readPackets(format);
-    avformat_close_input(&format);
-    av_freep(&io->buffer);
-    avio_context_free(&io);
-    return c;
+    return readPackets(input->context());
 }
 
 template <typename Run> double millis(Run run, Count &count)

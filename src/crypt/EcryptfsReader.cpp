@@ -5,15 +5,9 @@
 #include "crypt/PagePrefetcher.h"
 #include "crypt/PageIV.h"
 
-extern "C" {
-#include <libavformat/avio.h>
-#include <libavutil/error.h>
-}
-
 #include <openssl/evp.h>
 
 #include <algorithm>
-#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -176,24 +170,4 @@ bool EcryptfsReader::keyFits()
     const int n = read(head, sizeof head);
     seek(saved, SEEK_SET);
     return n == int(sizeof head) && std::memcmp(head + 4, "ftyp", 4) == 0;
-}
-
-int EcryptfsReader::readPacket(void *opaque, uint8_t *buffer, int size)
-{
-    auto *self = static_cast<EcryptfsReader *>(opaque);
-    const int n = self->read(buffer, size);
-    if (n == 0)
-        return AVERROR_EOF;
-    if (n == -ECANCELED)
-        return AVERROR_EXIT;
-    return n < 0 ? AVERROR(-n) : n;
-}
-
-int64_t EcryptfsReader::seekPacket(void *opaque, int64_t offset, int whence)
-{
-    auto *self = static_cast<EcryptfsReader *>(opaque);
-    if (whence & AVSEEK_SIZE)
-        return self->size();
-    const qint64 position = self->seek(offset, whence & ~AVSEEK_FORCE);
-    return position < 0 ? AVERROR(-position) : position;
 }

@@ -15,8 +15,8 @@ class PagePrefetcher;
 // Reads the plain bytes of one of the car's encrypted files, given its
 // 16-byte key, decrypting page by page as they are asked for: a seek
 // decrypts only the pages it lands on, and nothing decrypted is written
-// anywhere. Its read and seek are shaped like an AVIOContext's callbacks,
-// so a demuxer can sit on it. One thread at a time; while a demuxer streams
+// anywhere. Its read and seek are what a demuxer's clip reader needs. One
+// thread at a time; while a demuxer streams
 // through the file, a thread of its own decrypts the pages ahead.
 class EcryptfsReader {
 public:
@@ -38,9 +38,6 @@ public:
     // Whether the key opens this file: its first page must read as an MP4's start.
     bool keyFits();
 
-    // AVIOContext callbacks over an EcryptfsReader passed as opaque.
-    static int readPacket(void *opaque, uint8_t *buffer, int size);
-    static int64_t seekPacket(void *opaque, int64_t offset, int whence);
 
     // MD5 of the key, and of that with the page number in decimal, zero-padded
     // to 16 bytes: the IV of each page.

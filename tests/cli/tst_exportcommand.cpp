@@ -158,45 +158,6 @@ private Q_SLOTS:
                  QSize(1440, 1080));
     }
 
-    // Ctrl-C while the drive holds a read in the middle of the movie: the
-    // export stops at once and leaves nothing, not even a hidden part.
-    void interruptStopsACombinedExportAndLeavesNothing()
-    {
-        if (!FaultyFs::available())
-            QSKIP("needs FUSE");
-        DriveExport run;
-        FaultyFs &fs = run.fs;
-        QProcess &process = run.process;
-        QVERIFY(fs.isMounted());
-        const QByteArray bytes = HeldClip::indexFirst(8.0, 10);
-        fs.addFile(DriveExport::folder + QStringLiteral("event.json"),
-                   TeslaCamFixture::eventJson(QStringLiteral("2024-06-02T09:59:30"), QStringLiteral("user_interaction_honk")));
-        HeldClip::add(fs, DriveExport::folder + QStringLiteral("2024-06-02_09-59-00-front.mp4"), bytes,
-                      bytes.size() * 6 / 10);
-        fs.addFile(DriveExport::folder + QStringLiteral("2024-06-02_09-59-00-back.mp4"), bytes);
-        const QString outputs = dir_.path() + QStringLiteral("/interrupted");
-        QDir().mkpath(outputs);
-
-        QVERIFY(run.start(outputs, {QStringLiteral("--layout"), QStringLiteral("grid"), QStringLiteral("--size"),
-                                    QStringLiteral("720")}));
-        QVERIFY(fs.waitUntilHeld());
-        // Clips are read ahead of the movie, so the hold may come before the
-        // first frame is written: the interrupt waits for both.
-        QByteArray err;
-        QVERIFY2(readErrorsUntil(process, err, " frames", 20000), err.constData()); // it is writing
-        ::kill(pid_t(process.processId()), SIGINT);
-        // The tool says so while the read is still held: a process can't
-        // end while the kernel waits on the drive for it, so it ends once
-        // the drive lets go.
-        readErrorsUntil(process, err, "The export was stopped.", 10000);
-        QCOMPARE(QString::fromUtf8(err).trimmed().split(QLatin1Char('\n')).last(), QStringLiteral("The export was stopped."));
-        QCOMPARE(QDir(outputs).entryList(QDir::Files | QDir::Hidden | QDir::NoDotAndDotDot), QStringList());
-        fs.release();
-        QVERIFY(process.waitForFinished(10000));
-        QCOMPARE(process.exitCode(), 2);
-        QCOMPARE(QDir(outputs).entryList(QDir::Files | QDir::Hidden | QDir::NoDotAndDotDot), QStringList());
-    }
-
     // One camera, a stretch given open-ended, and a folder for the
     // suggested name; the drive stays as it was.
     void exportsOneCameraIntoAFolder()
@@ -273,38 +234,63 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(file));
     }
 
-    // Interrupted while writing: stops like the app's Stop and leaves no
-    // half-written movie. The drive stops answering halfway through the
-    // clip's pictures, and the signal comes once the movie is being written
-    // and the read is held, well within the read limit.
-    void interruptStopsAndCleansUp()
+    // Interrupted while writing, by Ctrl-C or as systemd stops it: stops
+    // like the app's Stop and leaves nothing, not even a hidden part. The
+    // drive stops answering halfway through the front clip's pictures, and
+    // the signal comes once the movie is being written and the read is held.
+    void interruptStopsAndLeavesNothing_data()
+    {
+        QTest::addColumn<int>("signal");
+        QTest::addColumn<double>("seconds");
+        QTest::addColumn<int>("fps");
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<QByteArray>("writing"); // what the tool says once it writes
+        QTest::newRow("combined, Ctrl-C") << int(SIGINT) << 8.0 << 10
+                                          << QStringList{"--layout", "grid", "--size", "720"} << QByteArray(" frames");
+        QTest::newRow("one camera, stopped") << int(SIGTERM) << 4.0 << 36 << QStringList{"--camera", "front"}
+                                             << QByteArray("Exporting");
+    }
+    void interruptStopsAndLeavesNothing()
     {
         if (!FaultyFs::available())
             QSKIP("needs root and /dev/fuse");
+        QFETCH(int, signal);
+        QFETCH(double, seconds);
+        QFETCH(int, fps);
+        QFETCH(QStringList, options);
+        QFETCH(QByteArray, writing);
         DriveExport run;
         QVERIFY(run.fs.isMounted());
-        const QByteArray clip = HeldClip::indexFirst(4.0, 36);
+        const QByteArray clip = HeldClip::indexFirst(seconds, fps);
         const qint64 pictures = TestClips::topLevelBoxOffset(clip, "mdat");
         QVERIFY(pictures > 0);
+        run.fs.addFile(DriveExport::folder + QStringLiteral("event.json"),
+                       TeslaCamFixture::eventJson(QStringLiteral("2024-06-02T09:59:30"), QStringLiteral("user_interaction_honk")));
         HeldClip::add(run.fs, DriveExport::folder + QStringLiteral("2024-06-02_09-59-00-front.mp4"), clip,
                       pictures + (clip.size() - pictures) / 2);
-        const QString file = out(QStringLiteral("interrupted.mp4"));
+        run.fs.addFile(DriveExport::folder + QStringLiteral("2024-06-02_09-59-00-back.mp4"), clip);
+        const QString outputs = dir_.path() + QStringLiteral("/interrupted-") + QString::number(signal);
+        QDir().mkpath(outputs);
+        const auto left = [&] { return QDir(outputs).entryList(QDir::Files | QDir::Hidden | QDir::NoDotAndDotDot); };
 
-        QVERIFY(run.start(file, {QStringLiteral("--camera"), QStringLiteral("front")}));
+        QVERIFY(run.start(outputs, options));
         QVERIFY2(run.fs.waitUntilHeld(1, std::chrono::seconds(60)), "the export never reached the held pictures");
         // Clips are read ahead of the movie: the hold may come before the
         // movie is begun. The signal waits for both.
         QByteArray err;
-        QVERIFY2(readErrorsUntil(run.process, err, "Exporting", 60000), err.constData());
-        QVERIFY(QFile::exists(file));
-        run.process.terminate();
+        QVERIFY2(readErrorsUntil(run.process, err, writing.constData(), 60000), err.constData());
+        QVERIFY(!left().isEmpty());
+        ::kill(pid_t(run.process.processId()), signal);
+        // Said while the read is still held: a process can't end while the
+        // kernel waits on the drive for it, so it ends once the drive lets go.
         QVERIFY2(readErrorsUntil(run.process, err, "The export was stopped.", 60000), err.constData());
         QCOMPARE(QString::fromUtf8(err).trimmed().split(QLatin1Char('\n')).last(), QStringLiteral("The export was stopped."));
-        QVERIFY(!QFile::exists(file));
+        QCOMPARE(left(), QStringList());
         run.fs.release();
         QVERIFY(run.process.waitForFinished(60000));
         QCOMPARE(run.process.exitStatus(), QProcess::NormalExit);
         QCOMPARE(run.process.exitCode(), 2);
+        QCOMPARE(left(), QStringList());
     }
 
     void missingOptionsShowTheUsage()

@@ -164,11 +164,8 @@ private Q_SLOTS:
     void ctrlCCancelsCleanlyWithAReport()
     {
         // An older event whose clip the drive holds keeps the run busy until we interrupt it.
-        if (!FaultyFs::available())
-            QSKIP("needs root and /dev/fuse");
-        QTemporaryDir mountPoint, dir;
-        FaultyFs fs(mountPoint.path());
-        QVERIFY(fs.isMounted());
+        KEELHOLD_FAULTY_FS(fs, mountPoint);
+        QTemporaryDir dir;
         const QString newer = "TeslaCam/SentryClips/2026-07-18_09-15-32/";
         for (const char *clip : {"2026-07-18_09-14-32-front.mp4", "2026-07-18_09-15-32-front.mp4"})
             fs.addFile(newer + clip, DriveBuilder::randomBytes(1000, 1));
@@ -203,11 +200,8 @@ private Q_SLOTS:
     // of the event in copy is the archive engine's test).
     void pulledDriveStopsTheKeepAndSaysSo()
     {
-        if (!FaultyFs::available())
-            QSKIP("needs root and /dev/fuse");
-        QTemporaryDir mountPoint, dir;
-        FaultyFs fs(mountPoint.path());
-        QVERIFY(fs.isMounted());
+        KEELHOLD_FAULTY_FS(fs, mountPoint);
+        QTemporaryDir dir;
         for (const QString &name : {QStringLiteral("2026-07-18_09-15-32"), QStringLiteral("2026-07-17_09-15-32")})
             for (const QString &clip : DriveBuilder::clipNames(name, 3))
                 fs.addFile("TeslaCam/SentryClips/" + name + "/" + clip, DriveBuilder::randomBytes(1 << 20, 3));

@@ -133,14 +133,6 @@ private Q_SLOTS:
         QCOMPARE(other->drive.capacityBytes, first->drive.capacityBytes);
         QVERIFY(other->drive.uuid != first->drive.uuid);
         QVERIFY(!other->drive.isSameDrive(first->drive));
-
-        // Without UUIDs on either side, name and size decide.
-        DriveIdentity plain{std::nullopt, QStringLiteral("USB"), 1000};
-        DriveIdentity same = plain;
-        QVERIFY(plain.isSameDrive(same));
-        same.capacityBytes = 2000;
-        QVERIFY(!plain.isSameDrive(same));
-        QVERIFY(!plain.isSameDrive(first->drive));
     }
 };
 

@@ -187,46 +187,10 @@ private Q_SLOTS:
         QCOMPARE(QByteArray(reinterpret_cast<const char *>(back.data()), qsizetype(back.size())), tricky);
     }
 
-    // A parked car sends no speed and no gear at all: they are absent from
-    // the wire, and still a record, of park at standstill.
-    void fieldsLeftOffTheWireReadAsDefaults()
+    // A clip without records is the telemetry timeline's test; files that
+    // are no movie give nothing, quickly.
+    void filesThatAreNoMovie()
     {
-        const QString path = writeClip(QStringLiteral("parked.mp4"), [](int frame, double) {
-            Message m;
-            if (frame % 2) {
-                m.set_version(1);
-                m.set_latitude_deg(30.5);
-                m.set_longitude_deg(-97.5);
-            }
-            return FrameRecord{m};
-        });
-        const auto track = TelemetryReader::readClip(clipAt(path));
-        QVERIFY(track);
-        QCOMPARE(track->records.size(), size_t(72));
-        const TelemetryRecord &empty = track->records[0];
-        const TelemetryRecord &located = track->records[1];
-        for (const TelemetryRecord &r : {empty, located}) {
-            QCOMPARE(r.gear, TelemetryRecord::Gear::park);
-            QCOMPARE(r.speed, 0.0f);
-            QCOMPARE(r.autopilot, TelemetryRecord::AutopilotState::none);
-            QVERIFY(!r.brakeApplied && !r.blinkerLeft && !r.blinkerRight);
-        }
-        QCOMPARE(empty.version, 0u);
-        QVERIFY(!empty.hasPosition()); // 0,0 is no fix
-        QVERIFY(located.hasPosition());
-        QCOMPARE(located.latitude, 30.5);
-    }
-
-    void clipsWithoutRecords()
-    {
-        // Older firmware: frames, no records, no error.
-        const auto plain = TelemetryReader::readClip(clipAt(TestClips::clip(smallClip())));
-        QVERIFY(plain);
-        QCOMPARE(plain->frameTimes.size(), size_t(72));
-        QVERIFY(!plain->hasRecords());
-        QVERIFY(!plain->recordAt(1.0));
-
-        // Not movies: nothing, quickly.
         const QString junk = tmp_.filePath(QStringLiteral("junk.mp4"));
         QFile f(junk);
         QVERIFY(f.open(QIODevice::WriteOnly));

@@ -19,23 +19,18 @@
 #include "support/TreeSnapshot.h"
 
 extern "C" {
-#include <libavutil/frame.h>
 #include <libavutil/log.h>
 }
 
 #include <QDateTime>
 #include <QDir>
-#include <QFile>
 #include <QProcess>
-#include <QTemporaryDir>
 #include <QScopeGuard>
 #include <QTest>
 #include <algorithm>
 #include <atomic>
-#include <cstring>
 #include <ctime>
 #include <set>
-#include <thread>
 #include <tuple>
 
 using Exporter::ExportError;
@@ -159,6 +154,18 @@ QString blackClip(double seconds)
     return TestClips::clip(black);
 }
 
+// The sentence of the export error f throws; empty when it throws none.
+template <typename F>
+QString messageOf(F &&f)
+{
+    try {
+        f();
+    } catch (const ExportError &e) {
+        return e.message();
+    }
+    return {};
+}
+
 const std::vector<Camera> sixCameras{Camera::front,      Camera::leftPillar,    Camera::rightPillar,
                                      Camera::leftRepeater, Camera::rightRepeater, Camera::back};
 
@@ -222,11 +229,9 @@ private Q_SLOTS:
             QCOMPARE(qint64(*marker), qint64(std::llround(t * 10) * 100));
         }
 
+        // The counts in words: the command line's exportsAllCamerasAsOneMovie.
         QVERIFY(reports.size() >= 2);
-        QCOMPARE(reports.back().framesDone, qint64(3 * fps));
-        QCOMPARE(reports.back().framesTotal, qint64(3 * fps));
         QVERIFY(reports.back().complete);
-        QCOMPARE(reports.back().fraction(), 1.0);
         for (size_t i = 1; i < reports.size(); ++i)
             QVERIFY(reports[i].fraction() >= reports[i - 1].fraction());
         QVERIFY(everythingIn(footage.outputs()) == QStringList{QStringLiteral("movie.mp4")});
@@ -492,12 +497,10 @@ private Q_SLOTS:
         for (const QString &zone : {QStringLiteral("CDT"), QStringLiteral("CST"), QStringLiteral("UTC"),
                                     QStringLiteral("GMT"), QStringLiteral("Central")})
             QVERIFY2(!us.contains(zone) && !german.contains(zone), qPrintable(us + QLatin1Char('|') + german));
-        QVERIFY2(OverlayText::frameTime(moment, QLocale(QLocale::English, QLocale::UnitedStates)).contains(QStringLiteral("3:05:07 PM")),
-                 "back in UTC");
     }
 
     // What each part of the overlay adds is drawn where asked and nowhere
-    // when switched off; the marker reads back a number drawn anywhere.
+    // when switched off.
     void overlayPartsSwitchOnAndOff()
     {
         EventFootage footage;
@@ -526,17 +529,6 @@ private Q_SLOTS:
         }
         // Away from the words the pictures are the same.
         QVERIFY(std::abs(drawn->meanLuma(320, 300, 40, 40) - bare->meanLuma(320, 300, 40, 40)) < 3);
-
-        AVFrame *frame = av_frame_alloc();
-        frame->format = AV_PIX_FMT_YUV420P;
-        frame->width = 640;
-        frame->height = 48;
-        QCOMPARE(av_frame_get_buffer(frame, 0), 0);
-        std::memset(frame->data[0], 90, size_t(frame->linesize[0]) * 48);
-        TimeMarker::draw(frame, 10, 20, 12, 0xA5C3F00Fu);
-        QCOMPARE(TimeMarker::read(frame->data[0], frame->linesize[0], 10, 20, 12), std::optional<quint32>(0xA5C3F00Fu));
-        QCOMPARE(TimeMarker::read(frame->data[0], frame->linesize[0], 22, 20, 12), std::nullopt);
-        av_frame_free(&frame);
     }
 
     // Whatever the sizes, every picture keeps its shape, sits inside its
@@ -597,46 +589,29 @@ private Q_SLOTS:
         }
     }
 
+    // Nothing but damaged clips fails; and never over a file already there,
+    // nor onto the car's drive. (A camera without footage, a stretch outside
+    // it: the command line's failuresSayWhyInOneSentence.)
     void failuresSayWhyAndLeaveNothing()
     {
         EventFootage footage;
         footage.add(Camera::front, colourClip(Camera::front, 1.0), 0);
-        CombinedExportOptions options = optionsFor(Layout::single);
-
-        options.camera = Camera::back;
-        QCOMPARE(exportErrorOf([&] { CombinedExport::exportMovie(footage.event, options, footage.output(), {}); }),
-                 std::optional(ExportError::noClipsForCamera));
-        options.camera.reset();
-        options.range = std::make_pair(5.0, 9.0);
-        QCOMPARE(exportErrorOf([&] { CombinedExport::exportMovie(footage.event, options, footage.output(), {}); }),
-                 std::optional(ExportError::exportFailed));
-        options.range.reset();
-
+        const CombinedExportOptions options = optionsFor(Layout::grid);
         TeslaEvent damaged = footage.event;
         damaged.clips.clear();
         footage.addBytes(Camera::back, QByteArray(4096, 'x'), 0);
         damaged.clips.push_back(footage.event.clips.back());
-        options.layout = Layout::grid;
         QCOMPARE(exportErrorOf([&] { CombinedExport::exportMovie(damaged, options, footage.output(), {}); }),
                  std::optional(ExportError::exportFailed));
 
-        // Never over a file already there, and never onto the car's drive.
         TeslaCamFixture::writeFile(footage.output(QStringLiteral("taken.mp4")), "mine");
-        QString message;
-        try {
+        QVERIFY(messageOf([&] {
             CombinedExport::exportMovie(footage.event, options, footage.output(QStringLiteral("taken.mp4")), {});
-        } catch (const ExportError &e) {
-            message = e.message();
-        }
-        QVERIFY(message.startsWith(QStringLiteral("There is already a file at")));
+        }).startsWith(QStringLiteral("There is already a file at")));
         const TreeSnapshot before = TreeSnapshot::take(footage.root());
-        message.clear();
-        try {
+        QCOMPARE(messageOf([&] {
             CombinedExport::exportMovie(footage.event, options, footage.folder() + QStringLiteral("/movie.mp4"), {});
-        } catch (const ExportError &e) {
-            message = e.message();
-        }
-        QCOMPARE(message, DriveBoundary::exportRefusal);
+        }), DriveBoundary::exportRefusal);
         QCOMPARE(before.differences(TreeSnapshot::take(footage.root())), QString());
         QCOMPARE(everythingIn(footage.outputs()), QStringList{QStringLiteral("taken.mp4")});
     }
@@ -655,13 +630,9 @@ private Q_SLOTS:
         TmpfsMount small(footage.outputs(), QStringLiteral("small-XXXXXX"), QStringLiteral("size=64k"));
         if (!small.ok())
             QSKIP("needs root to mount a tmpfs");
-        CombinedExportOptions options = optionsFor(Layout::grid);
-        QString message;
-        try {
-            CombinedExport::exportMovie(footage.event, options, small.path() + QStringLiteral("/movie.mp4"), {});
-        } catch (const ExportError &e) {
-            message = e.message();
-        }
+        const QString message = messageOf([&] {
+            CombinedExport::exportMovie(footage.event, optionsFor(Layout::grid), small.path() + QStringLiteral("/movie.mp4"), {});
+        });
         QVERIFY2(message.contains(QStringLiteral("space")) || message.contains(QStringLiteral("written")),
                  qPrintable(message));
         QCOMPARE(everythingIn(small.path()), QStringList());

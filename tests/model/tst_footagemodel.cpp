@@ -97,15 +97,11 @@ private Q_SLOTS:
 
     void eventOrderIsNewestFirstAndStable()
     {
-        std::vector<TeslaEvent> events(4);
-        events[0].folderName = "a";
-        events[0].timestamp = Date(10);
-        events[1].folderName = "b";
-        events[1].timestamp = Date(30);
-        events[2].folderName = "c";
-        events[2].timestamp = Date(10);
-        events[3].folderName = "d";
-        events[3].timestamp = Date(20);
+        std::vector<TeslaEvent> events;
+        for (const auto &[name, time] : {std::pair{"a", 10.0}, {"b", 30.0}, {"c", 10.0}, {"d", 20.0}}) {
+            events.emplace_back().folderName = QString::fromLatin1(name);
+            events.back().timestamp = Date(time);
+        }
         EventOrder::sortNewestFirst(events);
         QStringList names;
         for (const auto &e : events)

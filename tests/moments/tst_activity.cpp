@@ -17,7 +17,6 @@
 #include <QSet>
 #include <QTemporaryDir>
 #include <QTest>
-#include <set>
 
 namespace {
 
@@ -142,20 +141,19 @@ private Q_SLOTS:
 
     void cacheAnswersUntilTheClipChanges()
     {
+        // The drive's event, its left side's clip a copy this test may spoil.
         QTemporaryDir copy;
-        TeslaCamFixture fixture(copy.filePath(QStringLiteral("TeslaCam")));
-        const QString event = fixture.addEvent(QStringLiteral("SentryClips"), eventFolder, std::nullopt, false);
-        const QString walked = dir_.filePath(QStringLiteral("left_repeater") + firstMinute + QStringLiteral(".mp4"));
-        const QString clip = fixture.addClip(event, firstMinute, QStringLiteral("left_repeater"), 0, walked);
-        fixture.addClip(event, firstMinute, QStringLiteral("back"), 0,
-                        dir_.filePath(QStringLiteral("back") + firstMinute + QStringLiteral(".mp4")));
+        const QString clip = copy.filePath(firstMinute + QStringLiteral("-left_repeater.mp4"));
+        QVERIFY(QFile::copy(eventPath_ + QLatin1Char('/') + firstMinute + QStringLiteral("-left_repeater.mp4"), clip));
+        TeslaEvent teslaEvent = onlyEvent(root_);
+        std::erase_if(teslaEvent.clips, [](const ClipRef &c) { return c.camera != Camera::leftRepeater; });
+        teslaEvent.clips.front().url = clip;
         const QString cacheFile = copy.filePath(QStringLiteral("activity-cache.bin"));
-        const TeslaEvent teslaEvent = onlyEvent(fixture.root());
         {
             ActivityCache cache(cacheFile);
             const EventActivity first = ActivityReader::load(teslaEvent, {&cache});
             QVERIFY(!secondsOf(first.bursts, Camera::leftRepeater).isEmpty());
-            QCOMPARE(cache.size(), 2);
+            QCOMPARE(cache.size(), 1);
         }
         // The same size and time, other bytes: a later run answers from the file.
         const QDateTime modified = QFileInfo(clip).lastModified();

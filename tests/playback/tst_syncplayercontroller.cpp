@@ -12,10 +12,6 @@
 #include <QtConcurrent/QtConcurrentRun>
 #include <QtTest>
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 using namespace PlaybackClips;
 
 namespace {
@@ -52,23 +48,6 @@ struct EventBuilder {
         return *this;
     }
 };
-
-// A clip on a dead drive: every read of it waits until released.
-struct HeldClip {
-    explicit HeldClip(const QString &name)
-    {
-        path = fs.addHeldFile(name, QByteArray(64 * 1024, 'x'));
-    }
-    // Lets the held reads answer, and waits until none is held.
-    void release()
-    {
-        fs.release();
-        QTRY_VERIFY(!fs.isHanging());
-    }
-    QTemporaryDir mount;
-    FaultyFs fs{mount.path()};
-    QString path;
-};
 } // namespace
 
 class TestSyncPlayerController : public QObject {
@@ -80,7 +59,9 @@ class TestSyncPlayerController : public QObject {
     QTemporaryDir tmp;
     std::vector<std::unique_ptr<QVideoSink>> sinks;
 
-    void attachSinks(SyncPlayerController &c)
+    // A sink on every player, then paused once the event has started
+    // playing by itself; false if it never did.
+    bool attachSinksAndPause(SyncPlayerController &c)
     {
         sinks.clear();
         for (const Tile &t : c.tiles()) {
@@ -88,6 +69,9 @@ class TestSyncPlayerController : public QObject {
             if (t.player)
                 t.player->setVideoSink(sinks.back().get());
         }
+        const bool started = QTest::qWaitFor([&] { return c.isPlaying(); });
+        c.pause();
+        return started;
     }
 
     static bool waitSettled(SyncPlayerController &c, int ms = 20000)
@@ -127,10 +111,12 @@ class TestSyncPlayerController : public QObject {
         return worst;
     }
 
-    // Every camera shows the frame for t (or no picture in its gaps).
+    // Once no player is seeking, every camera shows the frame for t (or no
+    // picture in its gaps).
     void verifyAllAt(SyncPlayerController &c, double t,
                      const std::map<int, std::pair<std::vector<double>, std::vector<int>>> &layout)
     {
+        QVERIFY(waitSettled(c));
         for (size_t i = 0; i < c.tiles().size(); ++i) {
             const Tile &tile = c.tiles()[i];
             if (!tile.player)
@@ -243,16 +229,12 @@ private Q_SLOTS:
             QCOMPARE(c.tiles()[3].camera, Camera(Camera::back));
             QCOMPARE(c.duration(), 9.0);
             QCOMPARE(c.tiles()[0].player.get(), c.primaryPlayer_.data());
-            QCOMPARE(c.tilesForQml().size(), 4);
-            attachSinks(c);
-            QTRY_VERIFY(c.isPlaying());
+            QVERIFY(attachSinksAndPause(c));
             const auto layout = fullLayout(fourCameras);
 
             // Exact seeks, paused.
-            c.pause();
             for (double t : {0.0, 1.0, 2.99, 3.0, 4.51, 8.98, 6.0, 0.5}) {
                 c.seek(t);
-                QVERIFY(waitSettled(c));
                 verifyAllAt(c, MediaTime::fromSeconds(t).seconds(), layout);
             }
             c.seek(-3);
@@ -364,9 +346,7 @@ private Q_SLOTS:
         QCOMPARE(byCam["left_repeater"]->gaps, (Gaps{{0, 3, SyncPlayerController::damagedReason}}));
         QCOMPARE(c.triggerOffset(), std::optional<double>(7.5));
 
-        attachSinks(c);
-        QTRY_VERIFY(c.isPlaying());
-        c.pause();
+        QVERIFY(attachSinksAndPause(c));
         std::map<int, std::pair<std::vector<double>, std::vector<int>>> layout{
             {int(Camera::front), {{0, 3}, {0, 1}}},
             {int(Camera::back), {{0, 6}, {0, 2}}},
@@ -374,7 +354,6 @@ private Q_SLOTS:
         };
         for (double t : {1.0, 4.0, 7.0, 0.0, 3.5}) {
             c.seek(t);
-            QVERIFY(waitSettled(c));
             verifyAllAt(c, t, layout);
         }
         // The focus may rest on a placeholder; an index out of range is ignored.
@@ -390,13 +369,12 @@ private Q_SLOTS:
     void damagedLastMinuteShortensTheTimeline()
     {
         EventBuilder b(tmp.path() + "/short", 7.5);
-        for (Camera cam : {Camera::front, Camera::back}) {
-            b.add(cam, 0, ClipHealth::truncated); // front can't play: back is primary
-            if (cam == Camera::back) {
-                b.add(cam, 1);
-            }
-            b.add(cam, 2, ClipHealth::timedOut);
-        }
+        // The front can't play at all: the back is primary.
+        b.add(Camera::front, 0, ClipHealth::truncated);
+        b.add(Camera::front, 2, ClipHealth::timedOut);
+        b.add(Camera::back, 0, ClipHealth::truncated);
+        b.add(Camera::back, 1);
+        b.add(Camera::back, 2, ClipHealth::timedOut);
         SyncPlayerController c(b.event);
         QTRY_VERIFY(!c.isLoadingTiles());
         QCOMPARE(c.duration(), 6.0);
@@ -439,13 +417,11 @@ private Q_SLOTS:
     void switchingEventsMidLoadNeverShowsTheFirst()
     {
         const QString dir = tmp.path() + "/switch";
+        KEELHOLD_FAULTY_FS(fs, mount);
+        const QString held = fs.addHeldFile(QStringLiteral("1-back.mp4"), QByteArray(64 * 1024, 'x'));
         EventBuilder a(dir + "/a");
         a.add(Camera::front, 0);
-        if (!FaultyFs::available())
-            QSKIP("needs root and /dev/fuse");
-        HeldClip held(QStringLiteral("1-back.mp4"));
-        QVERIFY(held.fs.isMounted());
-        a.event.clips.push_back(clipRef(held.path, Camera::back, origin.addingTimeInterval(3), ClipHealth::ok));
+        a.event.clips.push_back(clipRef(held, Camera::back, origin.addingTimeInterval(3), ClipHealth::ok));
 
         EventBuilder b(dir + "/b", 2.0);
         b.add(Camera::leftPillar, 0);
@@ -453,13 +429,14 @@ private Q_SLOTS:
         SyncPlayerController c(a.event);
         std::vector<size_t> seen;
         connect(&c, &SyncPlayerController::tilesChanged, &c, [&] { seen.push_back(c.tiles().size()); });
-        QTRY_VERIFY(held.fs.isHanging()); // the first load now hangs on the drive
+        QTRY_VERIFY(fs.isHanging()); // the first load now hangs on the drive
         c.loadEvent(b.event);
         QCOMPARE(c.triggerOffset(), std::optional<double>(2.0));
         QTRY_VERIFY(!c.isLoadingTiles());
         QCOMPARE(c.tiles().size(), size_t(1));
         QCOMPARE(c.tiles()[0].camera, Camera(Camera::leftPillar));
-        held.release(); // the cancelled load ends; its result is dropped
+        fs.release(); // the cancelled load ends; its result is dropped
+        QTRY_VERIFY(!fs.isHanging());
         // Its tile build was the only other work on the pool; once that has
         // returned, the end is handled at the next turn.
         QVERIFY(EnginePools::media().waitForDone(30000));
@@ -551,14 +528,12 @@ private Q_SLOTS:
     void hangingClipCostsThatClipOnly()
     {
         const QString dir = tmp.path() + "/hang";
+        KEELHOLD_FAULTY_FS(fs, mount);
+        const QString held = fs.addHeldFile(QStringLiteral("1-back.mp4"), QByteArray(64 * 1024, 'x'));
         EventBuilder b(dir);
         b.add(Camera::back, 0);
         b.add(Camera::back, 2);
-        if (!FaultyFs::available())
-            QSKIP("needs root and /dev/fuse");
-        HeldClip held(QStringLiteral("1-back.mp4"));
-        QVERIFY(held.fs.isMounted());
-        b.event.clips.push_back(clipRef(held.path, Camera::back, origin.addingTimeInterval(3), ClipHealth::unknown));
+        b.event.clips.push_back(clipRef(held, Camera::back, origin.addingTimeInterval(3), ClipHealth::unknown));
         ClipOrder::sort(b.event.clips);
 
         QElapsedTimer timer;
@@ -569,8 +544,9 @@ private Q_SLOTS:
         // behind: the build ends while the drive still holds it.
         QTRY_VERIFY_WITH_TIMEOUT(future.isFinished(), SyncPlayerController::clipTimeout.count() + 30000);
         QVERIFY(timer.elapsed() >= SyncPlayerController::clipTimeout.count());
-        QVERIFY(held.fs.isHanging());
-        held.release();
+        QVERIFY(fs.isHanging());
+        fs.release();
+        QTRY_VERIFY(!fs.isHanging());
         const auto outcomes = future.result();
         QCOMPARE(outcomes.size(), size_t(1));
         QVERIFY(outcomes[0].composition);
@@ -584,13 +560,9 @@ private Q_SLOTS:
     void playerThatNeverGetsReadyDelaysTheFirstPlayByThreeSeconds()
     {
         const QString dir = tmp.path() + "/notready";
-        QDir().mkpath(dir);
-        if (!FaultyFs::available())
-            QSKIP("needs root and /dev/fuse");
-        HeldClip held(QStringLiteral("0-back.mp4"));
-        QVERIFY(held.fs.isMounted());
+        KEELHOLD_FAULTY_FS(fs, mount);
         const Composition good = oneClip(place(frameClip(0, 0), dir, "0-front.mp4"), 3);
-        const Composition stuck = oneClip(held.path, 3);
+        const Composition stuck = oneClip(fs.addHeldFile(QStringLiteral("0-back.mp4"), QByteArray(64 * 1024, 'x')), 3);
         {
             TeslaEvent empty;
             SyncPlayerController c(empty);
@@ -622,7 +594,8 @@ private Q_SLOTS:
             QVERIFY(std::find(times.begin(), times.end(), 1.5) != times.end());
             QVERIFY(std::find(times.begin(), times.end(), 0.5) == times.end());
         }
-        held.release();
+        fs.release();
+        QTRY_VERIFY(!fs.isHanging());
     }
 
     // One camera decodes slower than real time (at 4x, far slower): the
@@ -635,9 +608,7 @@ private Q_SLOTS:
         b.full(fourCameras);
         SyncPlayerController c(b.event);
         QTRY_VERIFY(!c.isLoadingTiles());
-        attachSinks(c);
-        QTRY_VERIFY(c.isPlaying());
-        c.pause();
+        QVERIFY(attachSinksAndPause(c));
         c.tiles()[3].player->setDecodeDelay(std::chrono::milliseconds(40));
         for (const float rate : {1.0f, 4.0f}) {
             c.seek(1.5);
@@ -666,9 +637,7 @@ private Q_SLOTS:
         b.full(fourCameras);
         SyncPlayerController c(b.event);
         QTRY_VERIFY(!c.isLoadingTiles());
-        attachSinks(c);
-        QTRY_VERIFY(c.isPlaying());
-        c.pause();
+        QVERIFY(attachSinksAndPause(c));
         QVERIFY(waitSettled(c, 20000));
         const auto layout = fullLayout(fourCameras);
 
@@ -698,8 +667,7 @@ private Q_SLOTS:
         };
         QTRY_VERIFY2_WITH_TIMEOUT(keyOrExact(), qPrintable(seen), 10000);
         QVERIFY2(between.isEmpty(), qPrintable(between));
-        QVERIFY(waitSettled(c, 20000));
-        QTRY_VERIFY(!c.isShowingApproximateFrames());
+        QTRY_VERIFY_WITH_TIMEOUT(!c.isShowingApproximateFrames(), 20000);
         verifyAllAt(c, MediaTime::fromSeconds(target).seconds(), layout);
 
         // The scrub, decoding still slow: every seek puts a new picture in
@@ -729,8 +697,7 @@ private Q_SLOTS:
         }
         for (const Tile &t : c.tiles())
             t.player->setDecodeDelay(std::chrono::milliseconds(0));
-        QVERIFY(waitSettled(c, 20000));
-        QTRY_VERIFY(!c.isShowingApproximateFrames());
+        QTRY_VERIFY_WITH_TIMEOUT(!c.isShowingApproximateFrames(), 20000);
         verifyAllAt(c, MediaTime::fromSeconds(last).seconds(), layout);
     }
 
@@ -760,14 +727,11 @@ private Q_SLOTS:
         QVERIFY(c.tiles()[0].player);
         QCOMPARE(c.duration(), 9.0);
         QCOMPARE(c.tiles()[0].gaps, (std::vector<EventTimeline::Gap>{{3, 6, SyncPlayerController::damagedReason}}));
-        attachSinks(c);
-        QTRY_VERIFY(c.isPlaying());
-        c.pause();
+        QVERIFY(attachSinksAndPause(c));
         const std::map<int, std::pair<std::vector<double>, std::vector<int>>> layout{
             {int(Camera::front), {{0, 6}, {0, 2}}}};
         for (double t : {1.0, 4.0, 7.0}) {
             c.seek(t);
-            QVERIFY(waitSettled(c));
             verifyAllAt(c, t, layout);
         }
     }

@@ -1,4 +1,3 @@
-#include "playback/ThumbTaskKey.h"
 #include "playback/ThumbnailLoader.h"
 
 #include <QFile>
@@ -91,14 +90,6 @@ private Q_SLOTS:
             QVERIFY(ThumbnailLoader::loadNow(link));
         }
         QCOMPARE(ThumbnailLoader::cachedCount(), ThumbnailLoader::cacheLimit);
-    }
-
-    void taskKeyComparesFieldByField()
-    {
-        const ThumbTaskKey a{QString("/x/thumb.png"), 1};
-        QVERIFY(a == (ThumbTaskKey{QString("/x/thumb.png"), 1}));
-        QVERIFY(!(a == (ThumbTaskKey{QString("/x/thumb.png"), 2})));
-        QVERIFY(!(a == (ThumbTaskKey{std::nullopt, 1})));
     }
 };
 

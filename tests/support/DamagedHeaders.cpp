@@ -3,7 +3,6 @@
 #include "support/Mp4Boxes.h"
 #include "support/TestClips.h"
 
-#include <QFile>
 #include <QTest>
 #include <QtEndian>
 #include <stdexcept>
@@ -147,10 +146,7 @@ void addRows()
 
 QByteArray damaged(int damage, const QString &clipPath)
 {
-    QFile clip(clipPath);
-    if (!clip.open(QIODevice::ReadOnly))
-        throw std::runtime_error("can't read " + clipPath.toStdString());
-    return family().at(size_t(damage)).apply(clip.readAll());
+    return family().at(size_t(damage)).apply(Mp4Boxes::read(clipPath).bytes());
 }
 
 QByteArray cutShort(const QByteArray &indexFirstClip, double fraction)

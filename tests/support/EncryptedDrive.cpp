@@ -32,11 +32,11 @@ EncryptedDrive::EncryptedDrive(const QString &teslaCamRoot, const QString &sourc
     TeslaCamFixture::writeFile(sentry + QStringLiteral("/thumb.png"), sealedThumb);
     addClip(sentry, QStringLiteral("2026-07-21_02-10-05"), QStringLiteral("front"), 101);
     addClip(sentry, QStringLiteral("2026-07-21_02-10-05"), QStringLiteral("back"), 102);
-    zeroKeyClip_ = sentry + QStringLiteral("/2026-07-21_02-10-05-left_repeater.mp4");
-    TeslaCamFixture::writeFile(zeroKeyClip_, EcryptfsWriter::encrypt(plain_, EcryptfsWriter::fileKey(103), std::nullopt));
-    damagedClip_ = sentry + QStringLiteral("/2026-07-21_02-10-05-right_repeater.mp4");
-    TeslaCamFixture::writeFile(damagedClip_, EcryptfsWriter::damageHeader(EcryptfsWriter::encrypt(
-                                                 plain_, EcryptfsWriter::fileKey(104), EcryptfsWriter::keyBlock(104))));
+    TeslaCamFixture::writeFile(sentry + QStringLiteral("/2026-07-21_02-10-05-left_repeater.mp4"),
+                               EcryptfsWriter::encrypt(plain_, EcryptfsWriter::fileKey(103), std::nullopt));
+    TeslaCamFixture::writeFile(sentry + QStringLiteral("/2026-07-21_02-10-05-right_repeater.mp4"),
+                               EcryptfsWriter::damageHeader(EcryptfsWriter::encrypt(plain_, EcryptfsWriter::fileKey(104),
+                                                                                    EcryptfsWriter::keyBlock(104))));
 
     const QString saved = fixture_.addEventFolder(QStringLiteral("EncryptedClips/SavedClips"),
                                                   QStringLiteral("2026-07-22_08-00-00"));

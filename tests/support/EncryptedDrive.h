@@ -30,8 +30,6 @@ public:
 
     // The clips that can be unlocked, in the order written.
     const QStringList &unlockable() const { return unlockable_; }
-    QString zeroKeyClip() const { return zeroKeyClip_; }
-    QString damagedClip() const { return damagedClip_; }
     QString sentryFront() const { return unlockable_.first(); }
     // The plain bytes every clip holds.
     const QByteArray &plain() const { return plain_; }
@@ -43,6 +41,4 @@ private:
     KeyServiceStandIn *service_;
     QByteArray plain_;
     QStringList unlockable_;
-    QString zeroKeyClip_;
-    QString damagedClip_;
 };

@@ -17,9 +17,7 @@ public:
     MountedVolume &operator=(const MountedVolume &) = delete;
 
     bool ok() const { return mounted_; }
-    bool isMounted() const { return mounted_; }
     const QString &path() const { return mountPoint_; }
-    const QString &label() const { return label_; }
 
     // Pulled out: unmounted lazily, open files or not. The image stays, so
     // plugIn() brings the same drive back.

@@ -1,6 +1,7 @@
 #include "support/MovieFacts.h"
 
 #include "media/AvHandles.h"
+#include "support/TestClips.h"
 
 extern "C" {
 #include <libavcodec/avcodec.h>
@@ -8,36 +9,7 @@ extern "C" {
 }
 
 #include <QFile>
-#include <QtEndian>
 #include <memory>
-
-namespace {
-QStringList readBoxes(const QString &path)
-{
-    QStringList boxes;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return boxes;
-    qint64 at = 0;
-    const qint64 size = file.size();
-    while (at + 8 <= size && boxes.size() < 64) {
-        file.seek(at);
-        const QByteArray header = file.read(16);
-        if (header.size() < 8)
-            break;
-        quint64 boxSize = qFromBigEndian<quint32>(header.constData());
-        boxes << QString::fromLatin1(header.mid(4, 4));
-        if (boxSize == 1 && header.size() == 16)
-            boxSize = qFromBigEndian<quint64>(header.constData() + 8);
-        else if (boxSize == 0)
-            break;
-        if (boxSize < 8)
-            break;
-        at += qint64(boxSize);
-    }
-    return boxes;
-}
-} // namespace
 
 const MovieFacts::Stream *MovieFacts::firstOf(const QString &type) const
 {
@@ -49,15 +21,16 @@ const MovieFacts::Stream *MovieFacts::firstOf(const QString &type) const
 
 bool MovieFacts::indexBeforeData() const
 {
-    const qsizetype moov = topLevelBoxes.indexOf(QStringLiteral("moov"));
-    const qsizetype mdat = topLevelBoxes.indexOf(QStringLiteral("mdat"));
-    return moov >= 0 && mdat >= 0 && moov < mdat;
+    return moovBeforeMdat;
 }
 
 MovieFacts MovieFacts::read(const QString &path, bool decode)
 {
     MovieFacts facts;
-    facts.topLevelBoxes = readBoxes(path);
+    QFile file(path);
+    const QByteArray bytes = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    const qint64 moov = TestClips::topLevelBoxOffset(bytes, "moov");
+    facts.moovBeforeMdat = moov >= 0 && moov < TestClips::topLevelBoxOffset(bytes, "mdat");
     AVFormatContext *format = nullptr;
     if (avformat_open_input(&format, QFile::encodeName(path).constData(), nullptr, nullptr) < 0)
         return facts;

@@ -26,7 +26,7 @@ struct MovieFacts {
     bool opened = false;
     double duration = 0.0; // seconds, from the container
     std::vector<Stream> streams;
-    QStringList topLevelBoxes; // "ftyp", "moov", "mdat", ... in file order
+    bool moovBeforeMdat = false;
 
     const Stream *firstOf(const QString &type) const;
     bool indexBeforeData() const;

@@ -17,7 +17,6 @@ public:
     bool ok() const { return ok_; }
     // What went wrong, for a skip's message.
     const QString &why() const { return why_; }
-    const QString &busAddress() const { return address_; }
     // The system's environment with this bus as the session bus.
     QProcessEnvironment environment() const;
     // Points this process at the bus too (before anything here talks to one).

@@ -127,11 +127,11 @@ public:
 
     // Until the item stands still from one frame to the next: layouts place
     // items at the next frame, and transitions move them frame by frame.
-    bool settle(QQuickItem *item) const
+    static bool settle(QQuickWindow *window, QQuickItem *item)
     {
         QPoint last = centreOf(item);
         for (int frame = 0; frame < 100; ++frame) {
-            if (!waitForFrame())
+            if (!waitForFrame(window))
                 return false;
             const QPoint now = centreOf(item);
             if (now == last)
@@ -140,6 +140,7 @@ public:
         }
         return false;
     }
+    bool settle(QQuickItem *item) const { return settle(window(), item); }
 
     // Clicks the item's centre once it stands still.
     void click(QQuickItem *item, Qt::MouseButton button = Qt::LeftButton) const

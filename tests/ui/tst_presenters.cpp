@@ -125,19 +125,10 @@ private Q_SLOTS:
                 QVERIFY2(!mac.match(p).hasMatch(), qPrintable(p));
     }
 
-    void scanCountsAndPickedRoot()
+    void scanCountsAndCandidates()
     {
         QCOMPARE(OnboardingTexts::scanCountsText(1, 4), "Found 1 event so far, across 4 clips.");
         QCOMPARE(OnboardingTexts::scanCountsText(12, 300), "Found 12 events so far, across 300 clips.");
-
-        // The volume and its TeslaCam folder are chosen in the wizard window
-        // test; a trailing slash changes neither.
-        QCOMPARE(OnboardingTexts::rootForChosenFolder("/media/u/CAR/TeslaCam/"), "/media/u/CAR/TeslaCam");
-        QCOMPARE(OnboardingTexts::rootForChosenFolder("/media/u/CAR/"), "/media/u/CAR/TeslaCam");
-        // Only the exact name counts.
-        QCOMPARE(OnboardingTexts::rootForChosenFolder("/x/teslacam"), "/x/teslacam/TeslaCam");
-        QCOMPARE(OnboardingTexts::rootForChosenFolder("/"), "/TeslaCam");
-
         VolumeCandidate c{"/media/u/CAR", "CAR", true, 64000000000LL, 1000};
         QCOMPARE(OnboardingTexts::candidateHeading(c), "Is this your Tesla drive? — CAR");
         QVERIFY(OnboardingTexts::candidateCapacity(c).startsWith("64"));

@@ -135,14 +135,9 @@ private Q_SLOTS:
         state.toggleBulkSelection(id);
         QVERIFY(rows->data(first, EventListModel::IsBulkSelectedRole).toBool());
         QVERIFY(rows->data(first, EventListModel::TickToolTipRole) != rows->data(rows->index(1), EventListModel::TickToolTipRole));
-        QVERIFY(!inbox.showsBulkActions(false));
-        QVERIFY(inbox.showsBulkActions(true));
 
-        QCOMPARE(rows->selectedIndex(), -1);
-        QSignalSpy selected(rows, &EventListModel::selectedIndexChanged);
+        // (The index the list scrolls to is followed in the window tests.)
         state.setSelectedEventID(rows->idAt(3));
-        QCOMPARE(selected.size(), 1);
-        QCOMPARE(rows->selectedIndex(), 3);
         QVERIFY(rows->data(rows->index(3), EventListModel::IsSelectedRole).toBool());
         QVERIFY(!rows->data(first, EventListModel::IsSelectedRole).toBool());
 
@@ -180,25 +175,12 @@ private Q_SLOTS:
             inbox.moveSelection(1); // stops at the end
         QCOMPARE(*state.selectedEventID(), rows->idAt(rows->count() - 1));
 
-        const QString last = rows->idAt(rows->count() - 1);
-        inbox.dismissSelected();
-        QCOMPARE(state.triageState(last).rawValue(), QStringLiteral("dismissed"));
-        QCOMPARE(rows->indexOf(last), -1);
-
         // A selection the filters hide is not acted on.
         state.setSelectedEventID(rows->idAt(0));
         state.setFilterState(TriageState::kept);
         inbox.dismissSelected();
         state.setFilterState(std::nullopt);
         QCOMPARE(state.triageState(rows->idAt(0)).rawValue(), QStringLiteral("new"));
-
-        // Keeping without a Vault asks for a first one; the list stays.
-        QSignalSpy wanted(&state, &AppState::vaultFolderWanted);
-        inbox.keepSelected();
-        QCOMPARE(wanted.count(), 1);
-        QVERIFY(!state.currentFailure());
-        QCOMPARE(inbox.content(), QStringLiteral("inbox"));
-        QVERIFY(state.hasKeepAwaitingVault());
     }
 
     void vaultTextsCountAndPluralise()
@@ -211,8 +193,6 @@ private Q_SLOTS:
         QCOMPARE(VaultViewModel::summaryFor({one}, std::nullopt),
                  QStringLiteral("1 event · ") + QLocale().formattedDataSize(1500000, 1, QLocale::DataSizeTraditionalFormat));
         QCOMPARE(VaultViewModel::summaryFor({}, std::nullopt), QStringLiteral("0 events · 0 bytes"));
-
-        QCOMPARE(VaultViewModel::progressLineFor(ArchiveProgress{10, 100, 3, 7, std::nullopt}), QStringLiteral("3 of 7 events"));
 
         // Cancelled at once with nothing new: the heading alone.
         ArchiveReport nothing;
@@ -264,38 +244,27 @@ private Q_SLOTS:
     }
 
     // The mark of a kept event: its newest record, then its last check if
-    // that came after the record.
+    // that came after the record (the marks a check gives are read in the
+    // Vault's window test).
     void vaultMarksNeverClaimMoreThanWasChecked()
     {
-        ArchivedEvent kept;
-        kept.eventID = QStringLiteral("recent|2026-07-18_09-10-00");
-        kept.files = {ArchivedFile{QStringLiteral("a-front.mp4"), 10, QString(64, QLatin1Char('a'))},
-                      ArchivedFile{QStringLiteral("a-back.mp4"), 10, QString(64, QLatin1Char('b'))}};
-        kept.archivedAt = Date(1000);
-        kept.expectedFileCount = 2;
+        ArchivedEvent again;
+        again.eventID = QStringLiteral("recent|2026-07-18_09-10-00");
+        again.files = {ArchivedFile{QStringLiteral("a-front.mp4"), 10, QString(64, QLatin1Char('a'))},
+                       ArchivedFile{QStringLiteral("a-back.mp4"), 10, QString(64, QLatin1Char('b'))}};
+        again.archivedAt = Date(3000);
+        again.expectedFileCount = 2;
         const auto badge = [](const ArchivedEvent &e, const EventCheck *c) {
             return VaultViewModel::verificationFor(e, c).value(QStringLiteral("badge")).toString();
         };
-        QCOMPARE(badge(kept, nullptr), QStringLiteral("Verified copy"));
-        EventCheck check{kept.eventID, Date(2000), 2, {}, {}, {}, 2, 2};
-        QVERIFY(badge(kept, &check).startsWith(QStringLiteral("Verified ")));
-        QVERIFY(badge(kept, &check) != QStringLiteral("Verified copy"));
-        check.changed = QStringList{QStringLiteral("a-back.mp4")};
-        QCOMPARE(badge(kept, &check), QStringLiteral("Changed since it was kept"));
-        const QVariantList files = VaultViewModel::verificationFor(kept, &check).value(QStringLiteral("files")).toList();
-        QVERIFY(files[0].toMap().value(QStringLiteral("problem")).toString().isEmpty());
-        QCOMPARE(files[1].toMap().value(QStringLiteral("problem")).toString(), QStringLiteral("Changed since it was kept"));
-        check.missing = QStringList{QStringLiteral("a-front.mp4")};
-        QCOMPARE(badge(kept, &check), QStringLiteral("Missing"));
         // A check from before the event was kept again says nothing of it.
-        ArchivedEvent again = kept;
-        again.archivedAt = Date(3000);
+        EventCheck check{again.eventID, Date(2000), 2, {}, {}, {}, 2, 2};
+        check.missing = QStringList{QStringLiteral("a-front.mp4")};
         QCOMPARE(badge(again, &check), QStringLiteral("Verified copy"));
         // Part of an event is never a verified copy, checked or not.
         again.files.pop_back();
         QCOMPARE(badge(again, nullptr), QStringLiteral("Incomplete — 1 of 2 files"));
         check.checkedAt = Date(4000);
-        check.changed.clear();
         check.missing.clear();
         QCOMPARE(badge(again, &check), QStringLiteral("Incomplete — 1 of 2 files"));
     }
@@ -309,8 +278,6 @@ private Q_SLOTS:
         const QVariantMap v = VaultViewModel::verificationFor(a);
         QVERIFY(v.value(QStringLiteral("archivedLine")).toString().endsWith(QStringLiteral(" from TESLADRIVE")));
 
-        QTemporaryDir dir;
-        QVERIFY(VaultViewModel::freeBytesAt(dir.path()).value_or(-1) > 0);
         QVERIFY(!VaultViewModel::freeBytesAt(QString()));
         // (Choosing the folder and the empty Vault's screens are clicked
         // through in the shell's window test.)
@@ -357,15 +324,6 @@ private Q_SLOTS:
         QCOMPARE(view.size(), 2);
         map.setZoom(40);
         QCOMPARE(map.zoom(), TileMap::maxZoom);
-
-        const QVariantList points{QVariantMap{{QStringLiteral("latitude"), 30.1}, {QStringLiteral("longitude"), -97.9}},
-                                  QVariantMap{{QStringLiteral("latitude"), 30.6}, {QStringLiteral("longitude"), -97.4}}};
-        map.fitTo(points);
-        for (const QVariant &p : points) {
-            const QPointF at = map.toView(p.toMap().value(QStringLiteral("latitude")).toDouble(),
-                                          p.toMap().value(QStringLiteral("longitude")).toDouble());
-            QVERIFY(at.x() >= 0 && at.x() <= 800 && at.y() >= 0 && at.y() <= 600);
-        }
         // Not in a window: nothing was asked of any server.
         QCOMPARE(TileSource::shared()->requestsStarted(), requests);
     }
