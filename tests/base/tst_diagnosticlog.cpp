@@ -72,15 +72,13 @@ private Q_SLOTS:
     // A catch-all handler says what it caught; a cancellation is no error.
     void caughtErrorsAreLoggedButNotCancellations()
     {
-        try {
-            throw std::runtime_error("the index could not be parsed");
-        } catch (...) {
-            KEELHOLD_LOG_CAUGHT(lcVault);
-        }
-        try {
-            throw CancellationError();
-        } catch (...) {
-            KEELHOLD_LOG_CAUGHT(lcVault);
+        for (const std::exception_ptr &error : {std::make_exception_ptr(std::runtime_error("the index could not be parsed")),
+                                                std::make_exception_ptr(CancellationError())}) {
+            try {
+                std::rethrow_exception(error);
+            } catch (...) {
+                KEELHOLD_LOG_CAUGHT(lcVault);
+            }
         }
         const QStringList last = DiagnosticLog::lastLines(1);
         QCOMPARE(last.size(), 1);

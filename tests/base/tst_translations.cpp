@@ -1,4 +1,5 @@
 #include "base/Translations.h"
+#include "support/CliRun.h"
 #include "support/IsolatedHome.h"
 
 #include <QDir>
@@ -159,16 +160,12 @@ private Q_SLOTS:
 
         // The tool as a person runs it: LANGUAGE first, then the locale.
         const auto helpIn = [](const QString &language, const QString &lang) {
-            QProcess cli;
             QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
             env.insert(QStringLiteral("LANGUAGE"), language);
             env.insert(QStringLiteral("LANG"), lang);
             env.remove(QStringLiteral("LC_ALL"));
             env.remove(QStringLiteral("LC_MESSAGES"));
-            cli.setProcessEnvironment(env);
-            cli.start(QStringLiteral(KEELHOLD_CLI_PATH), {QStringLiteral("--help")});
-            cli.waitForFinished(30000);
-            return QString::fromUtf8(cli.readAllStandardOutput());
+            return QString::fromUtf8(CliRun::run({QStringLiteral("--help")}, env).out);
         };
         const QString english = helpIn(QString(), QStringLiteral("C.UTF-8"));
         QVERIFY(english.contains(QStringLiteral("Show the options of a command.")));

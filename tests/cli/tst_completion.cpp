@@ -65,7 +65,7 @@ private Q_SLOTS:
         QVERIFY2(kept.exitCode == 0, qPrintable(kept.err));
     }
 
-    void commandsAndOptions_data()
+    void offersWhatFitsTheLine_data()
     {
         QTest::addColumn<QString>("line");
         QTest::addColumn<QStringList>("offered");
@@ -84,50 +84,34 @@ private Q_SLOTS:
         QTest::newRow("overlay parts after a comma")
             << "keelhold-cli export /x --overlay time,n" << QStringList{"time,names", "time,none"};
         QTest::newRow("vault actions") << "keelhold-cli vault " << QStringList{"list", "remove", "verify"};
+        // Event ids of the drive on the line, or of the Vault; a "|" must be escaped or quoted.
+        const QString drive = drive_.root(), saved = QStringLiteral("saved\\|2026-07-19_10-00-00");
+        QTest::newRow("events") << QStringLiteral("keelhold-cli export %1 --event ").arg(drive)
+                                << QStringList{saved, "sentry\\|2026-07-18_09-15-32"};
+        QTest::newRow("events begun") << QStringLiteral("keelhold-cli keep %1 --vault %2 --event se").arg(drive, vault_)
+                                      << QStringList{"sentry\\|2026-07-18_09-15-32"};
+        QTest::newRow("events quoted") << QStringLiteral("keelhold-cli keep --vault %2 %1 --event 'sa").arg(drive, vault_)
+                                       << QStringList{"saved|2026-07-19_10-00-00"};
+        QTest::newRow("events after =")
+            << QStringLiteral("keelhold-cli keep --event=sen --vault=%2 %1 --event=sa").arg(drive, vault_) << QStringList{saved};
+        QTest::newRow("events of the Vault") << QStringLiteral("keelhold-cli vault remove %1 ").arg(vault_) << QStringList{saved};
+        QTest::newRow("telemetry reads a Vault too") << QStringLiteral("keelhold-cli telemetry %1 --event ").arg(vault_)
+                                                     << QStringList{saved};
+        // Nothing, and no noise, where there is no drive.
+        const QString nowhere = tmp_.filePath(QStringLiteral("nowhere"));
+        QTest::newRow("no drive") << QStringLiteral("keelhold-cli export %1 --event ").arg(nowhere) << QStringList();
+        QTest::newRow("no Vault") << QStringLiteral("keelhold-cli vault remove %1 ").arg(nowhere) << QStringList();
+        QTest::newRow("no folder") << "keelhold-cli export --event " << QStringList();
+        QTest::newRow("no command") << "keelhold-cli nosuch --" << QStringList();
     }
 
-    void commandsAndOptions()
+    void offersWhatFitsTheLine()
     {
         QFETCH(QString, line);
         QFETCH(QStringList, offered);
         const Completion c = complete(line);
         QVERIFY2(c.err.isEmpty(), qPrintable(c.err));
         QCOMPARE(c.words, offered);
-    }
-
-    void eventIdsOfTheDriveOnTheLine()
-    {
-        // A "|" on a command line must be escaped or quoted.
-        Completion c = complete(QStringLiteral("keelhold-cli export %1 --event ").arg(drive_.root()));
-        QCOMPARE(c.words, QStringList({"saved\\|2026-07-19_10-00-00", "sentry\\|2026-07-18_09-15-32"}));
-        c = complete(QStringLiteral("keelhold-cli keep %1 --vault %2 --event se").arg(drive_.root(), vault_));
-        QCOMPARE(c.words, QStringList({"sentry\\|2026-07-18_09-15-32"}));
-        c = complete(QStringLiteral("keelhold-cli keep --vault %2 %1 --event 'sa").arg(drive_.root(), vault_));
-        QCOMPARE(c.words, QStringList({"saved|2026-07-19_10-00-00"}));
-        c = complete(QStringLiteral("keelhold-cli keep --event=sen --vault=%2 %1 --event=sa").arg(drive_.root(), vault_));
-        QCOMPARE(c.words, QStringList({"saved\\|2026-07-19_10-00-00"}));
-    }
-
-    void eventIdsOfTheVault()
-    {
-        Completion c = complete(QStringLiteral("keelhold-cli vault remove %1 ").arg(vault_));
-        QCOMPARE(c.words, QStringList({"saved\\|2026-07-19_10-00-00"}));
-        // telemetry reads a drive's events or a Vault's.
-        c = complete(QStringLiteral("keelhold-cli telemetry %1 --event ").arg(vault_));
-        QCOMPARE(c.words, QStringList({"saved\\|2026-07-19_10-00-00"}));
-    }
-
-    void nothingAndNoNoiseWhereThereIsNoDrive()
-    {
-        const QString nowhere = tmp_.filePath(QStringLiteral("nowhere"));
-        for (const QString &line : {QStringLiteral("keelhold-cli export ") + nowhere + QStringLiteral(" --event "),
-                                    QStringLiteral("keelhold-cli vault remove ") + nowhere + QLatin1Char(' '),
-                                    QStringLiteral("keelhold-cli export --event "),
-                                    QStringLiteral("keelhold-cli nosuch --")}) {
-            const Completion c = complete(line);
-            QVERIFY2(c.err.isEmpty(), qPrintable(c.err));
-            QCOMPARE(c.words, QStringList());
-        }
     }
 };
 

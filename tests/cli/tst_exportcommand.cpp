@@ -80,9 +80,7 @@ private Q_SLOTS:
     {
         if (!TestClips::ffmpegAvailable())
             QSKIP("the ffmpeg tool is needed to make test clips");
-        TestClips::ClipOptions clipOptions;
-        clipOptions.seconds = 2.0;
-        const QString clip = TestClips::clip(clipOptions);
+        const QString clip = TestClips::clip(); // two seconds
         TeslaCamFixture fixture(dir_.path() + QStringLiteral("/TeslaCam"));
         root_ = fixture.root();
         const QString event = fixture.addEvent(QStringLiteral("SentryClips"), QStringLiteral("2024-06-01_15-05-00"),
@@ -110,9 +108,9 @@ private Q_SLOTS:
                                 QStringLiteral("--overlay"), QStringLiteral("time,names"), QStringLiteral("-o"), file});
         QVERIFY2(run.exitCode == 0, qPrintable(run.err));
         QCOMPARE(QString::fromUtf8(run.out).trimmed(), file);
-        QVERIFY2(run.err.contains(QStringLiteral("of 72 frames")), qPrintable(run.err));
         QVERIFY(run.err.contains(QStringLiteral(" fps")));
-        QVERIFY(run.err.trimmed().split(QLatin1Char('\n')).last().startsWith(QStringLiteral("Exporting\u2026 100% (72 of 72 frames")));
+        QVERIFY2(run.err.trimmed().split(QLatin1Char('\n')).last().startsWith(QStringLiteral("Exporting\u2026 100% (72 of 72 frames")),
+                 qPrintable(run.err));
         const MovieFacts facts = MovieFacts::read(file);
         const MovieFacts::Stream *video = facts.firstOf(QStringLiteral("video"));
         QVERIFY(video);
@@ -136,24 +134,17 @@ private Q_SLOTS:
     // drawn makes a new movie of it.
     void oneCameraIsACopyUnlessSomethingIsDrawn()
     {
-        const QString copy = out(QStringLiteral("copy.mp4"));
-        QCOMPARE(runCli({root_, QStringLiteral("--event"), twoCameraEventId, QStringLiteral("--camera"),
-                         QStringLiteral("back"), QStringLiteral("--overlay"), QStringLiteral("none"),
-                         QStringLiteral("-o"), copy})
-                     .exitCode,
-                 0);
-        const MovieFacts copied = MovieFacts::read(copy, false);
+        for (const QString &overlay : {QStringLiteral("none"), QStringLiteral("time")})
+            QCOMPARE(runCli({root_, QStringLiteral("--event"), twoCameraEventId, QStringLiteral("--camera"),
+                             QStringLiteral("back"), QStringLiteral("--overlay"), overlay, QStringLiteral("-o"),
+                             out(overlay + QStringLiteral(".mp4"))})
+                         .exitCode,
+                     0);
+        const MovieFacts copied = MovieFacts::read(out(QStringLiteral("none.mp4")), false);
         QCOMPARE(copied.firstOf(QStringLiteral("video"))->width, 320);
         QCOMPARE(copied.firstOf(QStringLiteral("video"))->extradata,
-                 MovieFacts::read(TestClips::clip(TestClips::ClipOptions()), false).firstOf(QStringLiteral("video"))->extradata);
-
-        const QString drawn = out(QStringLiteral("drawn.mp4"));
-        QCOMPARE(runCli({root_, QStringLiteral("--event"), twoCameraEventId, QStringLiteral("--camera"),
-                         QStringLiteral("back"), QStringLiteral("--overlay"), QStringLiteral("time"),
-                         QStringLiteral("-o"), drawn})
-                     .exitCode,
-                 0);
-        const MovieFacts made = MovieFacts::read(drawn, false);
+                 MovieFacts::read(TestClips::clip(), false).firstOf(QStringLiteral("video"))->extradata);
+        const MovieFacts made = MovieFacts::read(out(QStringLiteral("time.mp4")), false);
         QCOMPARE(QSize(made.firstOf(QStringLiteral("video"))->width, made.firstOf(QStringLiteral("video"))->height),
                  QSize(1440, 1080));
     }

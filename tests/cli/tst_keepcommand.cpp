@@ -350,9 +350,8 @@ private Q_SLOTS:
     void verifyTellsAPartKeepAndChecksAnEventOnce()
     {
         QTemporaryDir vault;
-        QCOMPARE(CliRun::run({"keep", drive_.root(), "--vault", vault.path(), "--event", "saved|2026-07-19_10-00-00"})
-                     .exitCode,
-                 0);
+        const QStringList keepSaved{"keep", drive_.root(), "--vault", vault.path(), "--event", "saved|2026-07-19_10-00-00"};
+        QCOMPARE(CliRun::run(keepSaved).exitCode, 0);
         // As a pulled drive leaves it: the record lists what arrived of more.
         VaultIndex index = VaultIndex::load(vault.path());
         const ArchivedFile lost = index.events[0].files.back();
@@ -367,9 +366,7 @@ private Q_SLOTS:
         QVERIFY2(r.out.contains("incomplete (3 of 4 files kept)"), r.out.constData());
         QVERIFY(VerificationLog::load(vault.path()).find("saved|2026-07-19_10-00-00"));
 
-        QCOMPARE(CliRun::run({"keep", drive_.root(), "--vault", vault.path(), "--event", "saved|2026-07-19_10-00-00"})
-                     .exitCode,
-                 0);
+        QCOMPARE(CliRun::run(keepSaved).exitCode, 0);
         QCOMPARE(VaultIndex::load(vault.path()).events.size(), size_t(2));
         r = CliRun::run({"vault", "verify", vault.path()});
         QCOMPARE(r.exitCode, 0);

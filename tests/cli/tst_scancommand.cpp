@@ -117,10 +117,8 @@ private Q_SLOTS:
         Result r = runCli({"scan", root}, asNobody());
         QCOMPARE(r.exitCode, 0);
         const DriveScan scan = DriveScan::fromJson(JsonCoding::parseObject(r.out));
-        bool flagged = false;
-        for (const auto &i : scan.issues)
-            flagged |= i.kind == ScanIssue::Kind::unreadableFolder && i.path == event;
-        QVERIFY(flagged);
+        QVERIFY(std::any_of(scan.issues.begin(), scan.issues.end(),
+                            [&](const auto &i) { return i.kind == ScanIssue::Kind::unreadableFolder && i.path == event; }));
 
         // A refused SentryClips stops the scan, naming that folder.
         QFile::setPermissions(root + "/SentryClips", QFileDevice::ReadOwner | QFileDevice::ExeOwner);

@@ -1,4 +1,5 @@
 #include "support/CliRun.h"
+#include "support/DriveBuilder.h"
 #include "support/TelemetryClipWriter.h"
 #include "support/TeslaCamFixture.h"
 #include "support/TestClips.h"
@@ -55,11 +56,6 @@ CliRun::Result cli(const QStringList &arguments)
     return CliRun::run(QStringList{QStringLiteral("telemetry")} + arguments, env);
 }
 
-QStringList lines(const QByteArray &out)
-{
-    return QString::fromUtf8(out).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-}
-
 } // namespace
 
 class TestTelemetryCommand : public QObject {
@@ -110,7 +106,7 @@ private Q_SLOTS:
         const CliRun::Result run = cli({root_, QStringLiteral("--event"), savedId});
         QCOMPARE(run.exitCode, 0);
         QCOMPARE(run.err, QString());
-        const QStringList rows = lines(run.out);
+        const QStringList rows = QString::fromUtf8(run.out).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
         QCOMPARE(rows.size(), 1 + 2 * 108);
         QVERIFY(rows[0].startsWith(QStringLiteral("time,clip,clipTime,frame,wallClock,version,gear,")));
         const int columns = int(rows[0].count(QLatin1Char(','))) + 1;
@@ -165,12 +161,9 @@ private Q_SLOTS:
         const CliRun::Result run = cli({root_, QStringLiteral("--event"), savedId, QStringLiteral("-o"), file});
         QCOMPARE(run.exitCode, 0);
         QVERIFY(run.out.isEmpty());
-        QFile f(file);
-        QVERIFY(f.open(QIODevice::ReadOnly));
-        QXmlStreamReader xml(&f);
+        QXmlStreamReader xml(DriveBuilder::readQuietly(file));
         int segments = 0;
-        QStringList points;
-        QStringList times;
+        QStringList points, times;
         while (!xml.atEnd()) {
             if (xml.readNext() != QXmlStreamReader::StartElement)
                 continue;

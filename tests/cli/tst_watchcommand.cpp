@@ -49,12 +49,6 @@ private:
     QString err_;
 };
 
-QString configuredUnit()
-{
-    QFile unit(QStringLiteral(KEELHOLD_BUILD_DIR "/data/keelhold-watch.service"));
-    return unit.open(QIODevice::ReadOnly) ? QString::fromUtf8(unit.readAll()) : QString();
-}
-
 } // namespace
 
 // The watch against real drives (exFAT images mounted under /media, which
@@ -138,7 +132,8 @@ private Q_SLOTS:
     // its command, run as it runs it, keeps into the Vault chosen in the app.
     void theUserUnitRunsTheWatch()
     {
-        QString unit = configuredUnit();
+        QString unit =
+            QString::fromUtf8(DriveBuilder::readQuietly(QStringLiteral(KEELHOLD_BUILD_DIR "/data/keelhold-watch.service")));
         QVERIFY(!unit.isEmpty());
         const QRegularExpression execStart(QStringLiteral("^ExecStart=(\\S+)/keelhold-cli (.*)$"),
                                            QRegularExpression::MultilineOption);
@@ -147,10 +142,8 @@ private Q_SLOTS:
         QCOMPARE(command.captured(2), QStringLiteral("watch"));
         QTemporaryDir dir;
         unit.replace(command.captured(1) + QStringLiteral("/keelhold-cli"), QStringLiteral(KEELHOLD_CLI_PATH));
-        QFile copy(dir.filePath(QStringLiteral("keelhold-watch.service")));
-        QVERIFY(copy.open(QIODevice::WriteOnly));
-        copy.write(unit.toUtf8());
-        copy.close();
+        const QString copy = dir.filePath(QStringLiteral("keelhold-watch.service"));
+        TeslaCamFixture::writeFile(copy, unit.toUtf8());
         QDir(dir.path()).mkdir(QStringLiteral("run"));
         QFile::setPermissions(dir.filePath(QStringLiteral("run")), QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
         QProcess verify;
@@ -158,7 +151,7 @@ private Q_SLOTS:
         env.insert(QStringLiteral("XDG_RUNTIME_DIR"), dir.filePath(QStringLiteral("run")));
         verify.setProcessEnvironment(env);
         verify.start(QStringLiteral("systemd-analyze"), {QStringLiteral("verify"), QStringLiteral("--user"),
-                                                         QStringLiteral("--man=no"), copy.fileName()});
+                                                         QStringLiteral("--man=no"), copy});
         QVERIFY(verify.waitForFinished(60000));
         const QString complaints = QString::fromUtf8(verify.readAllStandardError());
         QVERIFY2(verify.exitCode() == 0 && complaints.isEmpty(), qPrintable(complaints));

@@ -162,12 +162,10 @@ private Q_SLOTS:
         const Ecryptfs::Header good = Ecryptfs::read(writeLower(QStringLiteral("good.mp4"), lower));
         QCOMPARE(good.state, Ecryptfs::Header::State::ok);
         QCOMPARE(good.plainSize, qint64(plain.size()));
-        QCOMPARE(good.keyBlock.keyId, written.keyId);
-        QCOMPARE(good.keyBlock.vin, QStringLiteral("7SAYGDEE1PA000042"));
-        QCOMPARE(good.keyBlock.timestamp, written.timestamp);
-        QCOMPARE(good.keyBlock.publicKey, written.publicKey);
-        QCOMPARE(good.keyBlock.wrappedKey, written.wrappedKey);
-        QCOMPARE(good.keyBlock.raw, written.bytes());
+        const Ecryptfs::KeyBlock &read = good.keyBlock;
+        QCOMPARE(std::tuple(read.keyId, read.vin, read.timestamp, read.publicKey, read.wrappedKey, read.raw),
+                 std::tuple(written.keyId, QStringLiteral("7SAYGDEE1PA000042"), written.timestamp, written.publicKey,
+                            written.wrappedKey, written.bytes()));
 
         const QByteArray zeroed = EcryptfsWriter::encrypt(plain, EcryptfsWriter::fileKey(7), std::nullopt);
         QCOMPARE(Ecryptfs::read(writeLower(QStringLiteral("zero.mp4"), zeroed)).state,

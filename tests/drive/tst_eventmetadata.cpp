@@ -68,10 +68,8 @@ private Q_SLOTS:
 
     void decodingFailsOnlyForNonObjects()
     {
-        QVERIFY(!EventJSONPayload::decode("[1,2]"));
-        QVERIFY(!EventJSONPayload::decode("{not json"));
-        QVERIFY(!EventJSONPayload::decode(""));
-        QVERIFY(!EventJSONPayload::decode("\"text\""));
+        for (const char *notAnObject : {"[1,2]", "{not json", "", "\"text\""})
+            QVERIFY2(!EventJSONPayload::decode(notAnObject), notAnObject);
     }
 
     void timestampRules()
@@ -89,9 +87,8 @@ private Q_SLOTS:
         const Date local(utc + 5 * 3600);
         QCOMPARE(parsed("2026-07-21T02-11-05"), std::optional<Date>(local));
         QCOMPARE(parsed("2026-07-21_02-11-05"), std::optional<Date>(local));
-        QVERIFY(!parsed("yesterday"));
-        QVERIFY(!parsed("2026/07/21 02:11:05"));
-        QVERIFY(!parsed(""));
+        for (const char *bad : {"yesterday", "2026/07/21 02:11:05", ""})
+            QVERIFY2(!parsed(bad), bad);
         EventJSONPayload none;
         QVERIFY(!none.parsedTimestamp());
     }
@@ -100,32 +97,28 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("raw");
         QTest::addColumn<int>("category");
-        QTest::addColumn<bool>("hasAccel");
-        QTest::addColumn<double>("accel");
-        QTest::newRow("dashcam icon") << "user_interaction_dashcam_icon_tapped" << int(ReasonCategory::manualSave) << false << 0.0;
-        QTest::newRow("dashcam anything") << "user_interaction_dashcamXYZ" << int(ReasonCategory::manualSave) << false << 0.0;
-        QTest::newRow("accel value") << "sentry_aware_accel_0.61" << int(ReasonCategory::impact) << true << 0.61;
-        QTest::newRow("accel bare") << "sentry_aware_accel" << int(ReasonCategory::impact) << false << 0.0;
-        QTest::newRow("accel letters") << "sentry_aware_accel_abc" << int(ReasonCategory::impact) << false << 0.0;
-        QTest::newRow("panic") << "sentry_panic_mode" << int(ReasonCategory::panic) << false << 0.0;
-        QTest::newRow("case matters") << "USER_INTERACTION_HONK" << int(ReasonCategory::unknown) << false << 0.0;
-        QTest::newRow("handle") << "sentry_locked_handle_pulled" << int(ReasonCategory::unknown) << false << 0.0;
-        QTest::newRow("aeb") << "vehicle_auto_emergency_braking" << int(ReasonCategory::unknown) << false << 0.0;
-        QTest::newRow("honk prefix only") << "user_interaction_honk2" << int(ReasonCategory::unknown) << false << 0.0;
+        QTest::addColumn<double>("accel"); // 0: none
+        QTest::newRow("dashcam icon") << "user_interaction_dashcam_icon_tapped" << int(ReasonCategory::manualSave) << 0.0;
+        QTest::newRow("dashcam anything") << "user_interaction_dashcamXYZ" << int(ReasonCategory::manualSave) << 0.0;
+        QTest::newRow("accel value") << "sentry_aware_accel_0.61" << int(ReasonCategory::impact) << 0.61;
+        QTest::newRow("accel bare") << "sentry_aware_accel" << int(ReasonCategory::impact) << 0.0;
+        QTest::newRow("accel letters") << "sentry_aware_accel_abc" << int(ReasonCategory::impact) << 0.0;
+        QTest::newRow("panic") << "sentry_panic_mode" << int(ReasonCategory::panic) << 0.0;
+        QTest::newRow("case matters") << "USER_INTERACTION_HONK" << int(ReasonCategory::unknown) << 0.0;
+        QTest::newRow("handle") << "sentry_locked_handle_pulled" << int(ReasonCategory::unknown) << 0.0;
+        QTest::newRow("aeb") << "vehicle_auto_emergency_braking" << int(ReasonCategory::unknown) << 0.0;
+        QTest::newRow("honk prefix only") << "user_interaction_honk2" << int(ReasonCategory::unknown) << 0.0;
     }
 
     void reasonMapping()
     {
         QFETCH(QString, raw);
         QFETCH(int, category);
-        QFETCH(bool, hasAccel);
         QFETCH(double, accel);
         const PlainReason r = ReasonMapper::map(raw);
         QCOMPARE(int(r.category.value()), category);
         QCOMPARE(r.raw, std::optional<QString>(raw));
-        QCOMPARE(r.accelValue.has_value(), hasAccel);
-        if (hasAccel)
-            QCOMPARE(*r.accelValue, accel);
+        QCOMPARE(r.accelValue, accel ? std::optional(accel) : std::nullopt);
     }
 
     void emptyAndAbsentReasons()

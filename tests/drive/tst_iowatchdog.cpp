@@ -170,18 +170,16 @@ private Q_SLOTS:
             started->wait();
             caller.request_stop();
         });
-        QVERIFY_THROWS_EXCEPTION(CancellationError, IOWatchdog::run(
-                                                        10min,
-                                                        [started, workSawStop](std::stop_token stop) {
-                                                            started->count_down();
-                                                            try {
-                                                                return sleepUnlessStopped(stop, 10min, 1);
-                                                            } catch (const CancellationError &) {
-                                                                *workSawStop = true;
-                                                                throw;
-                                                            }
-                                                        },
-                                                        caller.get_token()));
+        const auto work = [started, workSawStop](std::stop_token stop) {
+            started->count_down();
+            try {
+                return sleepUnlessStopped(stop, 10min, 1);
+            } catch (const CancellationError &) {
+                *workSawStop = true;
+                throw;
+            }
+        };
+        QVERIFY_THROWS_EXCEPTION(CancellationError, IOWatchdog::run(10min, work, caller.get_token()));
         QVERIFY2(*workSawStop, "the caller's stop did not reach the work");
 
         // Already cancelled before the call: still CancellationError, never TimedOut.

@@ -2,6 +2,7 @@
 #include "drive/SeiTelemetry.h"
 #include "drive/TelemetryReader.h"
 #include "base/CancellationError.h"
+#include "support/DriveBuilder.h"
 #include "support/FaultyFs.h"
 #include "support/TelemetryClipWriter.h"
 #include "support/TestClips.h"
@@ -109,9 +110,8 @@ private Q_SLOTS:
         }, options);
         const auto track = TelemetryReader::readClip(clipAt(path));
         QVERIFY(track);
-        QCOMPARE(track->frameTimes.size(), size_t(72));
-        QCOMPARE(track->records.size(), size_t(72));
-        QCOMPARE(track->duration, 2.0);
+        QCOMPARE(std::tuple(track->frameTimes.size(), track->records.size(), track->duration),
+                 std::tuple(size_t(72), size_t(72), 2.0));
         for (int frame : {0, 1, 2, 3, 37, 71}) {
             const TelemetryRecord &r = track->records[size_t(frame)];
             QCOMPARE(r.frameIndex, frame);
@@ -119,9 +119,8 @@ private Q_SLOTS:
             QVERIFY2(sameFields(r, driving(frame)), qPrintable(QString::number(frame)));
         }
         // Between two frames, the earlier is on screen.
-        QCOMPARE(track->recordAt(10.5 / 36.0)->frameIndex, 10);
-        QCOMPARE(track->recordAt(0.0)->frameIndex, 0);
-        QCOMPARE(track->recordAt(1.999)->frameIndex, 71);
+        for (const auto &[time, frame] : std::vector<std::pair<double, int>>{{10.5 / 36.0, 10}, {0.0, 0}, {1.999, 71}})
+            QCOMPARE(track->recordAt(time)->frameIndex, frame);
         QVERIFY(!track->recordAt(-0.01));
         QVERIFY(!track->recordAt(2.0));
         QCOMPARE(track->wallClock(0.5), Date(0.5));
@@ -146,8 +145,7 @@ private Q_SLOTS:
         });
         const auto track = TelemetryReader::readClip(clipAt(path));
         QVERIFY(track);
-        QCOMPARE(track->frameTimes.size(), size_t(72));
-        QCOMPARE(track->records.size(), size_t(72 - 4));
+        QCOMPARE(std::tuple(track->frameTimes.size(), track->records.size()), std::tuple(size_t(72), size_t(72 - 4)));
         for (int frame = 5; frame <= 8; ++frame) {
             QVERIFY(!track->recordOfFrame(frame));
             QVERIFY(!track->recordAt(frame / 36.0 + 0.001));
@@ -192,10 +190,7 @@ private Q_SLOTS:
     void filesThatAreNoMovie()
     {
         const QString junk = tmp_.filePath(QStringLiteral("junk.mp4"));
-        QFile f(junk);
-        QVERIFY(f.open(QIODevice::WriteOnly));
-        f.write(QByteArray(200000, 'j'));
-        f.close();
+        TeslaCamFixture::writeFile(junk, QByteArray(200000, 'j'));
         QVERIFY(!TelemetryReader::readClip(clipAt(junk)));
         QVERIFY(!TelemetryReader::readClip(clipAt(tmp_.filePath(QStringLiteral("gone.mp4")))));
         const QString fifo = tmp_.filePath(QStringLiteral("fifo-front.mp4"));
@@ -215,8 +210,7 @@ private Q_SLOTS:
         }, options);
         const auto track = TelemetryReader::readClip(clipAt(path));
         QVERIFY(track);
-        QCOMPARE(track->frameTimes.size(), size_t(36));
-        QCOMPARE(track->records.size(), size_t(35));
+        QCOMPARE(std::tuple(track->frameTimes.size(), track->records.size()), std::tuple(size_t(36), size_t(35)));
         QVERIFY(!track->recordOfFrame(3));
         QVERIFY(sameFields(*track->recordOfFrame(20), driving(20)));
     }
@@ -225,8 +219,7 @@ private Q_SLOTS:
     // before the failure keep their records.
     void aReadFailingPartWayKeepsWhatCameBefore()
     {
-        if (!FaultyFs::available())
-            QSKIP("needs root and /dev/fuse");
+        KEELHOLD_FAULTY_FS(fs, mount);
         // Large enough that the failure lies beyond the first reads, and the
         // index first, so that the failure hits the samples.
         TestClips::ClipOptions options;
@@ -234,12 +227,7 @@ private Q_SLOTS:
         const QString source = tmp_.filePath(QStringLiteral("failing-source.mp4"));
         TelemetryClipWriter::remux(
             TestClips::clip(options), source, [](int frame, double) { return FrameRecord{driving(frame)}; }, true);
-        QFile f(source);
-        QVERIFY(f.open(QIODevice::ReadOnly));
-        const QByteArray bytes = f.readAll();
-        QTemporaryDir mount;
-        FaultyFs fs(mount.path());
-        QVERIFY(fs.isMounted());
+        const QByteArray bytes = DriveBuilder::readQuietly(source);
         fs.addFile(QStringLiteral("clip.mp4"), bytes);
         fs.failReadsFrom(QStringLiteral("clip.mp4"), bytes.size() * 2 / 3);
         const auto track = TelemetryReader::readClip(clipAt(mount.filePath(QStringLiteral("clip.mp4"))));

@@ -4,6 +4,7 @@
 #include "engine/DriveWatcher.h"
 #include "engine/MountTable.h"
 #include "support/ProgramRun.h"
+#include "support/TeslaCamFixture.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
@@ -61,6 +62,19 @@ QStringList names(const std::vector<VolumeCandidate> &candidates)
     QStringList out;
     for (const auto &c : candidates)
         out << c.name;
+    return out;
+}
+
+// Events in words, to compare whole: the kind, then the mount point and name
+// (an unmount carries only its mount point).
+QStringList said(const std::vector<DriveEvent> &events)
+{
+    const QStringList kinds{QStringLiteral("mounted"), QStringLiteral("unmounted"), QStringLiteral("renamed")};
+    QStringList out;
+    for (const DriveEvent &e : events)
+        out << kinds.at(e.kind()) + QLatin1Char(' ')
+                + (e.kind() == DriveEvent::unmounted ? e.volumePath()
+                                                    : e.candidate().volumeURL + QLatin1Char(' ') + e.candidate().name);
     return out;
 }
 
@@ -123,14 +137,11 @@ private Q_SLOTS:
         const std::vector<MountTable::Entry> table = MountTable::parse(recordedTable);
         QCOMPARE(table.size(), size_t(12));
         const MountTable::Entry &drive = table[4];
-        QCOMPARE(drive.mountID, 88);
-        QCOMPARE(drive.device, QStringLiteral("8:17"));
-        QCOMPARE(drive.mountPoint, QStringLiteral("/media/anna/TESLA DRIVE"));
-        QCOMPARE(drive.fileSystemType, QStringLiteral("fuseblk"));
-        QCOMPARE(drive.source, QStringLiteral("/dev/sdb1"));
+        QCOMPARE(QStringList({QString::number(drive.mountID), drive.device, drive.mountPoint, drive.fileSystemType,
+                              drive.source}),
+                 QStringList({"88", "8:17", "/media/anna/TESLA DRIVE", "fuseblk", "/dev/sdb1"}));
         // Optional fields (shared:, master:) don't shift the fields after "-".
-        QCOMPARE(table[5].fileSystemType, QStringLiteral("ext4"));
-        QCOMPARE(table[5].source, QStringLiteral("/dev/sdc1"));
+        QCOMPARE(QStringList({table[5].fileSystemType, table[5].source}), QStringList({"ext4", "/dev/sdc1"}));
         QCOMPARE(table[1].mountPoint, QStringLiteral("/"));
 
         QVERIFY(MountTable::parse(QByteArray()).empty());
@@ -174,21 +185,13 @@ private Q_SLOTS:
         // A folder that isn't a mount point of its own: its figures can't be
         // read, so they stay unknown, and it is still a candidate.
         const QString folder = scratch_.filePath(QStringLiteral("PLAIN"));
-        QDir().mkpath(folder);
-        QFile file(folder + QStringLiteral("/TeslaCam"));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.close();
-        auto c = DriveWatcher::volumeCandidate(folder);
-        QVERIFY(c.has_value());
-        QCOMPARE(c->volumeURL, folder);
-        QCOMPARE(c->id(), folder);
-        QCOMPARE(c->name, QStringLiteral("PLAIN"));
-        QVERIFY(!c->capacityBytes.has_value());
-        QVERIFY(!c->freeBytes.has_value());
+        TeslaCamFixture::writeFile(folder + QStringLiteral("/TeslaCam"), {});
+        const auto c = DriveWatcher::volumeCandidate(folder);
         // A file named TeslaCam is not the folder.
-        QVERIFY(!c->hasTeslaCamFolder);
+        QCOMPARE(c, std::optional(VolumeCandidate{folder, QStringLiteral("PLAIN")}));
+        QCOMPARE(c->id(), folder);
 
-        QVERIFY(file.remove());
+        QVERIFY(QFile::remove(folder + QStringLiteral("/TeslaCam")));
         QVERIFY(QDir().mkpath(folder + QStringLiteral("/TeslaCam")));
         QVERIFY(DriveWatcher::volumeCandidate(folder)->hasTeslaCamFolder);
         QVERIFY(!DriveWatcher::volumeCandidate(QStringLiteral("relative/path")).has_value());
@@ -209,12 +212,9 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(first.isFinished(), 5000);
         const std::optional<DriveEvent> mounted = first.result();
         QVERIFY(mounted.has_value());
-        QCOMPARE(mounted->kind(), DriveEvent::mounted);
-        QCOMPARE(mounted->candidate().volumeURL, path);
-        QCOMPARE(mounted->candidate().name, QStringLiteral("USBSTICK"));
+        QCOMPARE(said({*mounted}), QStringList{"mounted " + path + " USBSTICK"});
         QCOMPARE(mounted->candidate().capacityBytes, std::optional<qint64>(8 * 1024 * 1024));
-        QVERIFY(mounted->candidate().freeBytes.has_value());
-        QVERIFY(*mounted->candidate().freeBytes > 7 * 1024 * 1024);
+        QVERIFY(mounted->candidate().freeBytes.value_or(0) > 7 * 1024 * 1024);
         QVERIFY(!mounted->candidate().hasTeslaCamFolder);
 
         // It is listed among the mounted volumes.
@@ -225,7 +225,6 @@ private Q_SLOTS:
         // are let through, and the drive returns once the reader thread has seen
         // it leave (back at once, it may get the same ids and look unchanged).
         QVERIFY(unmount(path));
-        mounted_.removeAll(path);
         std::vector<DriveEvent> away;
         const QDeadlineTimer seen(20000);
         while (away.empty() && !seen.hasExpired()) {
@@ -235,21 +234,15 @@ private Q_SLOTS:
                 if (e->kind() == DriveEvent::unmounted && e->volumePath().startsWith(base_))
                     away.push_back(*e);
         }
-        QCOMPARE(away.size(), size_t(1));
-        QCOMPARE(away[0], DriveEvent::makeUnmounted(path));
+        QCOMPARE(said(away), QStringList{"unmounted " + path});
         QVERIFY(!mountTmpfs(QStringLiteral("USBSTICK"), QStringLiteral("4m")).isEmpty());
-        std::vector<DriveEvent> events = collect(*stream, base_, 1);
-        QCOMPARE(events.size(), size_t(1));
-        QCOMPARE(events[0].kind(), DriveEvent::mounted);
-        QCOMPARE(events[0].candidate().capacityBytes, std::optional<qint64>(4 * 1024 * 1024));
+        const std::vector<DriveEvent> back = collect(*stream, base_, 1);
+        QCOMPARE(said(back), QStringList{"mounted " + path + " USBSTICK"});
+        QCOMPARE(back[0].candidate().capacityBytes, std::optional<qint64>(4 * 1024 * 1024));
 
         // Away with the loop running.
         QVERIFY(unmount(path));
-        mounted_.removeAll(path);
-        events = collect(*stream, base_, 1);
-        QCOMPARE(events.size(), size_t(1));
-        QCOMPARE(events[0].kind(), DriveEvent::unmounted);
-        QCOMPARE(events[0].volumePath(), path);
+        QCOMPARE(said(collect(*stream, base_, 1)), QStringList{"unmounted " + path});
         QVERIFY(!names(DriveWatcher::mountedTeslaCamVolumes()).contains(QStringLiteral("USBSTICK")));
     }
     void realMoveIsARename()
@@ -270,11 +263,7 @@ private Q_SLOTS:
                  0);
         mounted_.removeAll(oldPath);
         mounted_ << newPath;
-        const std::vector<DriveEvent> events = collect(*stream, base_, 1);
-        QCOMPARE(events.size(), size_t(1));
-        QCOMPARE(events[0].kind(), DriveEvent::renamed);
-        QCOMPARE(events[0].candidate().volumeURL, newPath);
-        QCOMPARE(events[0].candidate().name, QStringLiteral("NEWNAME"));
+        QCOMPARE(said(collect(*stream, base_, 1)), QStringList{"renamed " + newPath + " NEWNAME"});
         QCOMPARE(deliveredOn, QCoreApplication::instance()->thread());
     }
     void realTeslaCamVolumeIsListedFirst()
@@ -283,16 +272,11 @@ private Q_SLOTS:
             QSKIP("Needs root to mount a tmpfs below /media.");
         QVERIFY(!mountTmpfs(QStringLiteral("aaa-plain")).isEmpty());
         QVERIFY(!mountTmpfs(QStringLiteral("BBB-plain")).isEmpty());
-        const QString car = mountTmpfs(QStringLiteral("zzz-car"));
-        QVERIFY(!car.isEmpty());
-        QVERIFY(QDir().mkpath(car + QStringLiteral("/TeslaCam")));
-        const QString otherCar = mountTmpfs(QStringLiteral("CAR"));
-        QVERIFY(!otherCar.isEmpty());
-        QVERIFY(QDir().mkpath(otherCar + QStringLiteral("/TeslaCam")));
-        const QString fileOnly = mountTmpfs(QStringLiteral("yyy-file"));
-        QFile stray(fileOnly + QStringLiteral("/TeslaCam"));
-        QVERIFY(stray.open(QIODevice::WriteOnly));
-        stray.close();
+        for (const QString &name : {QStringLiteral("zzz-car"), QStringLiteral("CAR")}) {
+            const QString car = mountTmpfs(name);
+            QVERIFY(!car.isEmpty() && QDir().mkpath(car + QStringLiteral("/TeslaCam")));
+        }
+        TeslaCamFixture::writeFile(mountTmpfs(QStringLiteral("yyy-file")) + QStringLiteral("/TeslaCam"), {});
 
         QStringList ours;
         for (const VolumeCandidate &c : DriveWatcher::mountedTeslaCamVolumes())
@@ -311,11 +295,7 @@ private Q_SLOTS:
         if (mkfs.isEmpty() || fuse.isEmpty() || !QFile::exists(QStringLiteral("/dev/fuse")))
             QSKIP("Needs exfatprogs, exfat-fuse and /dev/fuse.");
         const QString image = scratch_.filePath(QStringLiteral("drive.img"));
-        {
-            QFile img(image);
-            QVERIFY(img.open(QIODevice::WriteOnly));
-            QVERIFY(img.resize(16 * 1024 * 1024));
-        }
+        TeslaCamFixture::makeSparseFile(image, 16 * 1024 * 1024);
         QProcess losetup;
         losetup.start(QStringLiteral("losetup"), {QStringLiteral("-f"), QStringLiteral("--show"), image});
         QVERIFY(losetup.waitForFinished(10000));
@@ -331,34 +311,26 @@ private Q_SLOTS:
         QDir().mkpath(path);
         QCOMPARE(run(fuse, {loop, path}), 0);
         mounted_ << path;
-        std::vector<DriveEvent> events = collect(*stream, base_, 1);
-        QCOMPARE(events.size(), size_t(1));
-        QCOMPARE(events[0].kind(), DriveEvent::mounted);
-        QCOMPARE(events[0].candidate().name, QStringLiteral("TESLADRIVE"));
+        const std::vector<DriveEvent> events = collect(*stream, base_, 1);
+        QCOMPARE(said(events), QStringList{"mounted " + path + " TESLADRIVE"});
         QVERIFY(events[0].candidate().capacityBytes.has_value());
 
         // Relabelled and mounted again under its new name, as a desktop does:
         // the same device at a new place is a rename, and the old mount point
         // is never reported.
         QVERIFY(unmount(path));
-        mounted_.removeAll(path);
         QCOMPARE(run(QStringLiteral("exfatlabel"), {loop, QStringLiteral("DASHCAM")}), 0);
         const QString renamedPath = base_ + QStringLiteral("/DASHCAM");
         QDir().mkpath(renamedPath);
         QCOMPARE(run(fuse, {loop, renamedPath}), 0);
         mounted_ << renamedPath;
-        events = collect(*stream, base_, 1);
-        QCOMPARE(events.size(), size_t(1));
-        QCOMPARE(events[0].kind(), DriveEvent::renamed);
-        QCOMPARE(events[0].candidate().name, QStringLiteral("DASHCAM"));
-        QCOMPARE(events[0].candidate().volumeURL, renamedPath);
+        QCOMPARE(said(collect(*stream, base_, 1)), QStringList{"renamed " + renamedPath + " DASHCAM"});
 
         // Pulled for good: the unmount comes once the drive had its chance to
         // return, and nothing follows it.
         QElapsedTimer clock;
         clock.start();
         QVERIFY(unmount(renamedPath));
-        mounted_.removeAll(renamedPath);
         // Mounts elsewhere in the meantime (outside the removable-media
         // folders) don't cut its moment short.
         {
@@ -366,9 +338,7 @@ private Q_SLOTS:
             if (::mount("tmpfs", QFile::encodeName(elsewhere.path()).constData(), "tmpfs", 0, "size=1m") == 0)
                 QVERIFY(unmount(elsewhere.path()));
         }
-        events = collect(*stream, base_, 1);
-        QCOMPARE(events.size(), size_t(1));
-        QCOMPARE(events[0], DriveEvent::makeUnmounted(renamedPath));
+        QCOMPARE(said(collect(*stream, base_, 1)), QStringList{"unmounted " + renamedPath});
         QVERIFY(clock.elapsed() >= DriveWatcher::renameWindow.count() - 100);
 
         // Another drive arriving while one is held back: both, in order.
@@ -376,14 +346,10 @@ private Q_SLOTS:
         mounted_ << renamedPath;
         QCOMPARE(collect(*stream, base_, 1).size(), size_t(1));
         QVERIFY(unmount(renamedPath));
-        mounted_.removeAll(renamedPath);
         const QString other = mountTmpfs(QStringLiteral("OTHER"));
         QVERIFY(!other.isEmpty());
-        events = collect(*stream, base_, 2);
-        QCOMPARE(events.size(), size_t(2));
-        QCOMPARE(events[0], DriveEvent::makeUnmounted(renamedPath));
-        QCOMPARE(events[1].kind(), DriveEvent::mounted);
-        QCOMPARE(events[1].candidate().volumeURL, other);
+        QCOMPARE(said(collect(*stream, base_, 2)),
+                 QStringList({"unmounted " + renamedPath, "mounted " + other + " OTHER"}));
     }
     void finishedStreamStopsWatching()
     {
@@ -413,8 +379,9 @@ private:
     // Detached at once, as a pulled drive goes: the watcher may be looking at
     // the volume for a moment (statvfs, blkid) and would make a plain unmount
     // answer EBUSY.
-    static bool unmount(const QString &path)
+    bool unmount(const QString &path)
     {
+        mounted_.removeAll(path);
         return ::umount2(QFile::encodeName(path).constData(), MNT_DETACH) == 0;
     }
     // Mounts a small tmpfs at a fresh folder below /media; empty if not allowed.

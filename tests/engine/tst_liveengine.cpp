@@ -68,10 +68,13 @@ private Q_SLOTS:
             const QString folder = drive.addEvent(QStringLiteral("SentryClips"), name,
                                                   TeslaCamFixture::eventJson(name, QStringLiteral("sentry_aware_accel_0.5")),
                                                   false);
-            drive.addClip(folder, QStringLiteral("2024-06-03_10-%1-00").arg(i, 2, 10, QLatin1Char('0')),
-                          QStringLiteral("front"), 2 * 1024 * 1024);
+            drive.addClip(folder, name, QStringLiteral("front"), 2 * 1024 * 1024);
         }
         before_ = TreeSnapshot::take(drivePath());
+        const DriveScan scan = engine_.scanDrive(drivePath(), {}).result();
+        const TeslaEvent *withClips = findEvent(scan.events, QStringLiteral("sentry|2024-06-01_15-05-30"));
+        QVERIFY(withClips);
+        sentry_ = *withClips;
     }
 
     void scanRunsOffTheCallersThread()
@@ -90,7 +93,7 @@ private Q_SLOTS:
         QVERIFY(reportedOn.load() != QThread::currentThread());
         QCOMPARE(scan.teslaCamURL, drivePath());
         QCOMPARE(scan.events.size(), size_t(10));
-        QVERIFY(findEvent(scan.events, QStringLiteral("sentry|2024-06-01_15-05-30")));
+        QVERIFY(findEvent(scan.events, sentry_.id()));
     }
     // Errors cross the pools as the types the screens tell apart.
     void errorsKeepTheirType()
@@ -105,11 +108,8 @@ private Q_SLOTS:
         QFuture<std::vector<TeslaEvent>> vault = engine_.scanVault(dir_.filePath(QStringLiteral("no-vault")));
         QVERIFY_THROWS_EXCEPTION(VaultBrowser::VaultBrowserError, vault.waitForFinished());
 
-        const DriveScan scan = engine_.scanDrive(drivePath(), {}).result();
-        const TeslaEvent *sentry = findEvent(scan.events, QStringLiteral("sentry|2024-06-01_15-05-30"));
-        QVERIFY(sentry);
         QFuture<void> future =
-            engine_.exportFootage(Camera::leftPillar, *sentry, std::nullopt, dir_.filePath(QStringLiteral("x.mp4")), {});
+            engine_.exportFootage(Camera::leftPillar, sentry_, std::nullopt, dir_.filePath(QStringLiteral("x.mp4")), {});
         QCOMPARE(exportErrorOf([&] { future.waitForFinished(); }), std::optional(Exporter::ExportError::noClipsForCamera));
     }
     void archiveStopsWhenItsFutureIsCancelled()
@@ -164,13 +164,9 @@ private Q_SLOTS:
             ScanCache cache(scanCacheFile());
             TriageStore triage(triageFile());
             LiveEngine next(cache, triage);
-            const std::optional<DriveScan> cached = next.cachedScan(key).result();
-            QVERIFY(cached.has_value());
-            QCOMPARE(cached->teslaCamURL, drivePath());
-            QCOMPARE(cached->events.size(), scan.events.size());
-            const EngineFacade::TriageStates marks = next.loadAllTriageStates().result();
-            QCOMPARE(marks.size(), 2);
-            QCOMPARE(marks.value(id), TriageState::kept);
+            QVERIFY(next.cachedScan(key).result() == std::optional(scan));
+            QCOMPARE(next.loadAllTriageStates().result(),
+                     (EngineFacade::TriageStates{{id, TriageState::kept}, {"saved|2024-06-02_09-00-00", TriageState::dismissed}}));
         }
 
         const QString programsOwn = qEnvironmentVariable("XDG_DATA_HOME") + QStringLiteral("/Keelhold/");
@@ -179,9 +175,6 @@ private Q_SLOTS:
     }
     void combinedExportRunsOffTheCallerAndStopsClean()
     {
-        const DriveScan scan = engine_.scanDrive(drivePath(), {}).result();
-        const TeslaEvent *sentry = findEvent(scan.events, QStringLiteral("sentry|2024-06-01_15-05-30"));
-        QVERIFY(sentry);
         const QString folder = dir_.filePath(QStringLiteral("combined"));
         QVERIFY(QDir().mkpath(folder));
         CombinedExportOptions options;
@@ -191,7 +184,7 @@ private Q_SLOTS:
         std::atomic<bool> complete{false};
         const QString movie = folder + QStringLiteral("/grid.mp4");
         engine_
-            .exportCombined(*sentry, options, movie,
+            .exportCombined(sentry_, options, movie,
                             [&](const CombinedExportProgress &p) {
                                 reportedOn = QThread::currentThread();
                                 complete = complete || p.complete;
@@ -206,7 +199,7 @@ private Q_SLOTS:
         std::atomic<bool> cancelled{false};
         std::mutex mutex;
         std::unique_lock lock(mutex);
-        future = engine_.exportCombined(*sentry, options, folder + QStringLiteral("/stopped.mp4"),
+        future = engine_.exportCombined(sentry_, options, folder + QStringLiteral("/stopped.mp4"),
                                         [&](const CombinedExportProgress &p) {
                                             if (p.framesDone > 0 && !cancelled.exchange(true)) {
                                                 std::lock_guard held(mutex);
@@ -228,19 +221,12 @@ private Q_SLOTS:
     // the Vault finishes while they wait, and both stop when asked.
     void stuckDriveWorkStarvesNothingElse()
     {
-        if (!FaultyFs::available())
-            QSKIP("needs root and /dev/fuse");
+        KEELHOLD_FAULTY_FS(fs, mountPoint);
         const QString vault = dir_.filePath(QStringLiteral("vault-beside-a-dead-drive"));
-        const DriveScan scan = engine_.scanDrive(drivePath(), {}).result();
-        const TeslaEvent *sentry = findEvent(scan.events, QStringLiteral("sentry|2024-06-01_15-05-30"));
-        QVERIFY(sentry);
-        QVERIFY(engine_.runArchive(engine_.planArchive({*sentry}, VaultIndex()), vault, {}).result().failedFiles.empty());
+        QVERIFY(engine_.runArchive(engine_.planArchive({sentry_}, VaultIndex()), vault, {}).result().failedFiles.empty());
         const std::vector<TeslaEvent> kept = engine_.scanVault(vault).result();
         QCOMPARE(kept.size(), size_t(1));
 
-        QTemporaryDir mountPoint;
-        FaultyFs fs(mountPoint.path());
-        QVERIFY(fs.isMounted());
         for (const char *camera : {"front", "back", "left_repeater", "right_repeater", "left_pillar", "right_pillar"})
             fs.addHeldFile(QStringLiteral("TeslaCam/SentryClips/2024-06-05_10-00-00/2024-06-05_09-59-00-%1.mp4").arg(camera),
                            DriveBuilder::randomBytes(100000, 7));
@@ -282,6 +268,7 @@ private:
     QString triageFile() const { return dir_.filePath(QStringLiteral("triage.json")); }
     QTemporaryDir dir_;
     TreeSnapshot before_;
+    TeslaEvent sentry_; // the Sentry event with real clips
     ScanCache scanCache_{scanCacheFile()};
     TriageStore triage_{triageFile()};
     LiveEngine live_{scanCache_, triage_};

@@ -59,24 +59,17 @@ private Q_SLOTS:
     {
         const QString file = dir_.filePath(QStringLiteral("roundtrip.json"));
         const DriveScan scan = sampleScan(dir_.filePath(QStringLiteral("roundtrip-drive")));
-        QVERIFY(!scan.events.empty());
-        QVERIFY(!scan.issues.empty());
-        {
-            ScanCache first(file);
-            first.store(scan, QStringLiteral("UNTITLED|-1")).waitForFinished();
-        }
+        QVERIFY(!scan.events.empty() && !scan.issues.empty());
+        ScanCache(file).store(scan, QStringLiteral("UNTITLED|-1")).waitForFinished();
         // Compact JSON, keyed by the drive key, dates as plain numbers.
-        const QByteArray bytes = DriveBuilder::readQuietly(file);
-        QVERIFY(!bytes.contains('\n'));
+        QVERIFY(!DriveBuilder::readQuietly(file).contains('\n'));
         const QJsonObject root = readObject(file);
         QCOMPARE(root.keys(), QStringList{QStringLiteral("UNTITLED|-1")});
         QCOMPARE(root.value(QStringLiteral("UNTITLED|-1")).toObject().value(QStringLiteral("scannedAt")).toDouble(),
                  739000000.123456789);
 
         ScanCache second(file);
-        const std::optional<DriveScan> back = second.cached(QStringLiteral("UNTITLED|-1")).result();
-        QVERIFY(back.has_value());
-        QVERIFY(*back == scan);
+        QVERIFY(second.cached(QStringLiteral("UNTITLED|-1")).result() == std::optional(scan));
         QVERIFY(!second.cached(QStringLiteral("OTHER|-1")).result().has_value());
     }
     void scanCacheCorruptFileReadsEmptyAndIsReplaced()
@@ -155,15 +148,13 @@ private Q_SLOTS:
         QVERIFY(child.waitForFinished(30000));
         QCOMPARE(child.exitCode(), 0);
 
-        const QJsonObject root = readObject(file);
-        QCOMPARE(root.value(QStringLiteral("saved|2024-06-01_15-05-30")).toString(), QStringLiteral("kept"));
         // `new` is stored like any other state, not dropped.
-        QCOMPARE(root.value(QStringLiteral("sentry|2024-06-02_08-00-00")).toString(), QStringLiteral("new"));
+        QCOMPARE(readObject(file),
+                 QJsonObject({{"saved|2024-06-01_15-05-30", "kept"}, {"sentry|2024-06-02_08-00-00", "new"}}));
 
         TriageStore reader(file);
-        const TriageStore::States states = reader.allStates().result();
-        QCOMPARE(states.size(), 2);
-        QCOMPARE(states.value(QStringLiteral("saved|2024-06-01_15-05-30")), TriageState::kept);
+        QCOMPARE(reader.allStates().result(), (TriageStore::States{{"saved|2024-06-01_15-05-30", TriageState::kept},
+                                                                   {"sentry|2024-06-02_08-00-00", TriageState::new_}}));
         QCOMPARE(reader.state(QStringLiteral("saved|2024-06-01_15-05-30")).result(), TriageState::kept);
     }
     void triageUnknownValueEmptiesTheStore()
@@ -177,14 +168,11 @@ private Q_SLOTS:
             store.set(TriageState::reviewed, QStringLiteral("recent|d")).waitForFinished();
         }
         // The old marks are gone for good: only what this process set remains.
-        const QJsonObject root = readObject(file);
-        QCOMPARE(root.keys(), QStringList{QStringLiteral("recent|d")});
-        QCOMPARE(root.value(QStringLiteral("recent|d")).toString(), QStringLiteral("reviewed"));
+        QCOMPARE(readObject(file), QJsonObject({{"recent|d", "reviewed"}}));
 
         // A value of the wrong type spoils the file just the same.
         TeslaCamFixture::writeFile(file, R"({"sentry|a":"kept","sentry|b":1})");
-        TriageStore other(file);
-        QVERIFY(other.allStates().result().isEmpty());
+        QVERIFY(TriageStore(file).allStates().result().isEmpty());
     }
     void triageCallsFromManyThreadsAreSerialised()
     {
@@ -208,8 +196,7 @@ private Q_SLOTS:
     {
         const QString drive = dir_.filePath(QStringLiteral("drive/TeslaCam"));
         const QString vault = dir_.filePath(QStringLiteral("k-vault"));
-        QVERIFY(QDir().mkpath(drive));
-        QVERIFY(QDir().mkpath(vault));
+        QVERIFY(QDir().mkpath(drive) && QDir().mkpath(vault));
         BookmarkStore::save(drive + QStringLiteral("/"), BookmarkKey::teslaDrive);
         BookmarkStore::save(vault, BookmarkKey::vaultFolder);
         QCOMPARE(std::get<QString>(BookmarkStore::resolve(BookmarkKey::teslaDrive)), drive);

@@ -80,10 +80,8 @@ private Q_SLOTS:
     {
         const HealthReport r = HealthComputer::compute(scan(), VaultIndex());
         QVERIFY(!r.fullnessFraction.has_value());
-        QCOMPARE(r.corruptClipCount, 0);
-        QCOMPARE(r.probedClipCount, 0);
-        QCOMPARE(r.unarchivedEventCount, 0);
-        QVERIFY(!r.encryptedClipsPresent);
+        QCOMPARE(std::tuple(r.corruptClipCount, r.probedClipCount, r.unarchivedEventCount, r.encryptedClipsPresent),
+                 std::tuple(0, 0, 0, false));
         QCOMPARE(ids(r), QStringList{QStringLiteral("all-good")});
 
         // Encrypted footage replaces "all-good", as anything else said does.
@@ -140,9 +138,7 @@ private Q_SLOTS:
         QFETCH(QString, id);
         QFETCH(QString, title);
         QFETCH(int, severity);
-        std::vector<ClipRef> clips;
-        for (int i = 0; i < damaged; ++i)
-            clips.push_back(clip(ClipHealth::truncated));
+        const std::vector<ClipRef> clips(size_t(damaged), clip(ClipHealth::truncated));
         // Events recorded in the Vault without files, so only the clips speak.
         const TeslaEvent e = teslaEvent("2024-01-01_10-00-00", clips);
         VaultIndex vault;
@@ -150,8 +146,7 @@ private Q_SLOTS:
         const HealthReport r = HealthComputer::compute(scan({e}), vault);
         QCOMPARE(r.unarchivedEventCount, 0);
         QCOMPARE(ids(r), QStringList{id});
-        QCOMPARE(r.recommendations.front().title, title);
-        QCOMPARE(int(r.recommendations.front().severity), severity);
+        QCOMPARE(std::pair(r.recommendations.front().title, int(r.recommendations.front().severity)), std::pair(title, severity));
     }
     void probedAndCorruptCounts()
     {

@@ -6,9 +6,11 @@
 #include "playback/MediaSource.h"
 #include "playback/ThumbnailLoader.h"
 #include "support/DamagedHeaders.h"
+#include "support/DriveBuilder.h"
 #include "support/Mp4Boxes.h"
 #include "support/MovieFacts.h"
 #include "support/TelemetryClipWriter.h"
+#include "support/TeslaCamFixture.h"
 #include "support/TestClips.h"
 
 extern "C" {
@@ -26,21 +28,6 @@ extern "C" {
 using Verdict = HeaderCheck::ClipFacts::Verdict;
 
 namespace {
-
-QByteArray bytesOf(const QString &path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("could not read %s", qPrintable(path));
-    return file.readAll();
-}
-
-void writeBytes(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(bytes) != bytes.size())
-        qFatal("could not write %s", qPrintable(path));
-}
 
 HeaderCheck::ClipFacts factsOf(const QString &path)
 {
@@ -119,10 +106,9 @@ private Q_SLOTS:
         QCOMPARE(factsOf(good_).verdict, Verdict::sound);
         QVERIFY(std::abs(factsOf(good_).lengthSeconds - 2.0) < 0.01);
         const QString path = dir_.filePath(QStringLiteral("damaged-%1.mp4").arg(damage));
-        writeBytes(path, DamagedHeaders::damaged(damage, good_));
+        TeslaCamFixture::writeFile(path, DamagedHeaders::damaged(damage, good_));
         const HeaderCheck::ClipFacts facts = factsOf(path);
-        QVERIFY2(facts.verdict == Verdict::contradicted, qPrintable(facts.reason));
-        QVERIFY(!facts.reason.isEmpty());
+        QVERIFY2(facts.verdict == Verdict::contradicted && !facts.reason.isEmpty(), qPrintable(facts.reason));
     }
 
     // Data that stop short of the header's promise are used for what they
@@ -143,14 +129,14 @@ private Q_SLOTS:
         if (kind == QLatin1String("cut")) {
             TestClips::ClipOptions indexFirst;
             indexFirst.faststart = true;
-            bytes = DamagedHeaders::cutShort(bytesOf(TestClips::clip(indexFirst)), 0.2);
+            bytes = DamagedHeaders::cutShort(DriveBuilder::readQuietly(TestClips::clip(indexFirst)), 0.2);
         } else {
             Mp4Boxes boxes = Mp4Boxes::read(good_);
             boxes.setField32("moov/trak/mdia/minf/stbl/stsz", 8, 36);
             bytes = boxes.bytes();
         }
         const QString path = dir_.filePath(kind + QStringLiteral(".mp4"));
-        writeBytes(path, bytes);
+        TeslaCamFixture::writeFile(path, bytes);
         const HeaderCheck::ClipFacts facts = factsOf(path);
         QVERIFY2(facts.verdict == Verdict::shortened, qPrintable(facts.reason));
         // A cut lands within a picture, which is lost with the rest.
@@ -171,12 +157,9 @@ private Q_SLOTS:
             return std::optional(record);
         });
         const QString clip = dir_.filePath(QStringLiteral("2024-06-01_15-00-00-front.mp4"));
-        writeBytes(clip, scrambled(bytesOf(source)));
+        TeslaCamFixture::writeFile(clip, scrambled(DriveBuilder::readQuietly(source)));
         const QString thumb = dir_.filePath(QStringLiteral("thumb.png"));
-        QImage picture(320, 240, QImage::Format_RGB32);
-        picture.fill(Qt::red);
-        QVERIFY(picture.save(thumb));
-        writeBytes(thumb, scrambled(bytesOf(thumb)));
+        TeslaCamFixture::writeFile(thumb, scrambled(TeslaCamFixture::flatPng(QSize(320, 240), Qt::red)));
 
         QCOMPARE(ClipProber::probe(clipAt(clip)), ClipHealth::unreadable);
         QVERIFY(!ThumbnailLoader::loadNow(thumb));
@@ -194,9 +177,7 @@ private Q_SLOTS:
         const auto track = TelemetryReader::readClip(clipAt(clip));
         QVERIFY(track);
         QCOMPARE(track->records.size(), size_t(72));
-        const auto image = ThumbnailLoader::loadNow(thumb);
-        QVERIFY(image);
-        QCOMPARE(image->pixelColor(10, 10), QColor(Qt::red));
+        QCOMPARE(ThumbnailLoader::loadNow(thumb).value_or(QImage()).pixelColor(10, 10), QColor(Qt::red));
 
         MediaSource played(clip, {}, 1);
         double time = -1;

@@ -71,10 +71,7 @@ private Q_SLOTS:
         QCOMPARE(*e.earliestClipDate(), Date(1000));
         QCOMPARE(*e.latestClipDate(), Date(1120));
         QCOMPARE(e.approximateDuration(), 180.0);
-        const auto cams = e.cameras();
-        QCOMPARE(cams.size(), size_t(2));
-        QCOMPARE(cams[0], Camera::front);
-        QCOMPARE(cams[1], Camera::back);
+        QCOMPARE(e.cameras(), (std::vector<Camera>{Camera::front, Camera::back}));
 
         TeslaEvent one;
         one.clips = {clip("x", Camera::leftRepeater, 5, 1)};
@@ -171,7 +168,6 @@ private Q_SLOTS:
     {
         const VolumeFormat odd = VolumeFormat::makeOther(QStringLiteral("  Wéird FS \"x\" "));
         QCOMPARE(roundTrip(odd), odd);
-        QCOMPARE(roundTrip(odd).otherName(), odd.otherName());
         for (const char *text : {R"({})", R"({"exFAT":{},"apfs":{}})", R"({"ntfs":{}})", R"({"other":{}})"})
             QVERIFY_THROWS_EXCEPTION(JsonCoding::DecodingError, VolumeFormat::fromJson(JsonCoding::parseObject(text)));
 
@@ -206,9 +202,7 @@ private Q_SLOTS:
         scan.scannedAt = Date(816971552.9364347);
         const DriveScan back = roundTrip(scan);
         QCOMPARE(back, scan);
-        QCOMPARE(*back.freeBytes, 9'007'199'254'740'993LL);
-        QCOMPARE(back.unknownFileCount(), 1);
-        QCOMPARE(back.unknownCameraSuffixCount(), 0);
+        QCOMPARE(std::pair(back.unknownFileCount(), back.unknownCameraSuffixCount()), std::pair(1, 0));
         // A scan stored before the computer's own disk was told apart reads as a drive.
         QJsonObject stored = scan.toJson();
         stored.remove("onSystemDisk");

@@ -5,6 +5,7 @@
 
 #include "drive/TeslaCamParser.h"
 #include "moments/ActivityReader.h"
+#include "support/DriveBuilder.h"
 #include "support/FaultyFs.h"
 #include "support/HeldClip.h"
 #include "support/ParkedScene.h"
@@ -50,6 +51,13 @@ TeslaEvent onlyEvent(const QString &root)
     if (scan.events.size() != 1)
         throw std::runtime_error("expected one event");
     return scan.events.front();
+}
+
+// Sets a file's modification time, so its bytes can change behind an unchanged one.
+bool setModified(const QString &path, const QDateTime &time)
+{
+    QFile f(path);
+    return f.open(QIODevice::ReadWrite) && f.setFileTime(time, QFileDevice::FileModificationTime);
 }
 
 QSet<int> secondsOf(const std::vector<ActivityBurst> &bursts, Camera camera)
@@ -112,8 +120,7 @@ private Q_SLOTS:
         const double precision = found ? double(right) / found : 0, recall = moving ? double(right) / moving : 0;
         qInfo("activity: %d seconds found, %d of %d moving seconds; precision %.2f, recall %.2f", found, right, moving,
               precision, recall);
-        QVERIFY(precision >= 0.9);
-        QVERIFY(recall >= 0.9);
+        QVERIFY(precision >= 0.9 && recall >= 0.9);
 
         // The rows follow the grid; the second minute lies a minute on.
         QCOMPARE(activity.cameras.size(), size_t(4));
@@ -157,15 +164,8 @@ private Q_SLOTS:
         }
         // The same size and time, other bytes: a later run answers from the file.
         const QDateTime modified = QFileInfo(clip).lastModified();
-        const qint64 size = QFileInfo(clip).size();
-        {
-            QFile f(clip);
-            QVERIFY(f.open(QIODevice::WriteOnly));
-            f.write(QByteArray(size, 'x'));
-            f.close();
-            QVERIFY(f.open(QIODevice::ReadWrite));
-            QVERIFY(f.setFileTime(modified, QFileDevice::FileModificationTime));
-        }
+        TeslaCamFixture::writeFile(clip, QByteArray(QFileInfo(clip).size(), 'x'));
+        QVERIFY(setModified(clip, modified));
         ActivityCache reopened(cacheFile);
         const EventActivity cached = ActivityReader::load(teslaEvent, {&reopened});
         QVERIFY(!secondsOf(cached.bursts, Camera::leftRepeater).isEmpty());
@@ -173,34 +173,21 @@ private Q_SLOTS:
         const EventActivity read = ActivityReader::load(teslaEvent, {});
         QVERIFY(secondsOf(read.bursts, Camera::leftRepeater).isEmpty());
         // A new time is a new clip: read again, and found to be nothing.
-        {
-            QFile f(clip);
-            QVERIFY(f.open(QIODevice::ReadWrite));
-            QVERIFY(f.setFileTime(modified.addSecs(60), QFileDevice::FileModificationTime));
-        }
+        QVERIFY(setModified(clip, modified.addSecs(60)));
         const EventActivity changed = ActivityReader::load(teslaEvent, {&reopened});
         QVERIFY(secondsOf(changed.bursts, Camera::leftRepeater).isEmpty());
         // A torn cache file is no cache, not a failure.
-        QFile torn(cacheFile);
-        QVERIFY(torn.open(QIODevice::ReadWrite));
-        QVERIFY(torn.resize(torn.size() / 2));
-        torn.close();
-        ActivityCache fromTorn(cacheFile);
-        QCOMPARE(fromTorn.size(), 0);
+        QVERIFY(QFile::resize(cacheFile, QFileInfo(cacheFile).size() / 2));
+        QCOMPARE(ActivityCache(cacheFile).size(), 0);
     }
 
     // A clip cut short and one that stops answering cost their own cameras.
     void badClipsCostOnlyThemselves()
     {
-        if (!FaultyFs::available())
-            QSKIP("FUSE is needed for the failing drive");
-        QTemporaryDir mount;
-        FaultyFs drive(mount.path());
-        QVERIFY(drive.isMounted());
+        KEELHOLD_FAULTY_FS(drive, mount);
         const QString folder = QStringLiteral("TeslaCam/SentryClips/") + eventFolder + QLatin1Char('/');
-        QFile walked(dir_.filePath(QStringLiteral("left_repeater") + firstMinute + QStringLiteral(".mp4")));
-        QVERIFY(walked.open(QIODevice::ReadOnly));
-        const QByteArray walkedBytes = walked.readAll();
+        const QByteArray walkedBytes =
+            DriveBuilder::readQuietly(dir_.filePath(QStringLiteral("left_repeater") + firstMinute + QStringLiteral(".mp4")));
         drive.addFile(folder + firstMinute + QStringLiteral("-left_repeater.mp4"), walkedBytes);
         drive.addFile(folder + firstMinute + QStringLiteral("-back.mp4"), walkedBytes.left(walkedBytes.size() / 3));
         const QByteArray held = HeldClip::indexFirst(20, 36);

@@ -57,6 +57,12 @@ inline std::optional<FrameId> identify(QVideoFrame frame)
                    int(std::lround((cr - 60) / 25.0))};
 }
 
+// "clip/frame" of a picture, for failure messages; "-1/-1" for none.
+inline QString describe(const std::optional<FrameId> &id)
+{
+    return QStringLiteral("%1/%2").arg(id ? id->clip : -1).arg(id ? id->index : -1);
+}
+
 // The frame that must be on screen at timeline time t for a camera whose
 // clip k (of `count`) starts at starts[k]; none in a gap.
 inline std::optional<FrameId> expectedAt(double t, int camera, const std::vector<double> &starts,

@@ -3,7 +3,9 @@
 #include "base/EnginePools.h"
 #include "playback/SyncPlayerController.h"
 #include "support/DamagedHeaders.h"
+#include "support/DriveBuilder.h"
 #include "support/FaultyFs.h"
+#include "support/TeslaCamFixture.h"
 #include "support/TreeSnapshot.h"
 
 #include <QSignalSpy>
@@ -55,6 +57,8 @@ class TestSyncPlayerController : public QObject {
 
     using Tile = SyncPlayerController::Tile;
     using Outcome = SyncPlayerController::TileOutcome;
+    // Per camera, its clips' starts and ids.
+    using Layout = std::map<int, std::pair<std::vector<double>, std::vector<int>>>;
 
     QTemporaryDir tmp;
     std::vector<std::unique_ptr<QVideoSink>> sinks;
@@ -74,17 +78,14 @@ class TestSyncPlayerController : public QObject {
         return started;
     }
 
-    static bool waitSettled(SyncPlayerController &c, int ms = 20000)
+    static bool waitSettled(SyncPlayerController &c)
     {
-        QElapsedTimer t;
-        t.start();
-        while (t.elapsed() < ms) {
-            const auto playable = c.playableTiles();
-            if (std::none_of(playable.begin(), playable.end(), [](const Tile &x) { return x.player->isSeeking(); }))
-                return true;
-            QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
-        }
-        return false;
+        return QTest::qWaitFor(
+            [&] {
+                const auto playable = c.playableTiles();
+                return std::none_of(playable.begin(), playable.end(), [](const Tile &x) { return x.player->isSeeking(); });
+            },
+            20000);
     }
 
     static std::vector<double> starts3() { return {0, 3, 6}; }
@@ -113,8 +114,7 @@ class TestSyncPlayerController : public QObject {
 
     // Once no player is seeking, every camera shows the frame for t (or no
     // picture in its gaps).
-    void verifyAllAt(SyncPlayerController &c, double t,
-                     const std::map<int, std::pair<std::vector<double>, std::vector<int>>> &layout)
+    void verifyAllAt(SyncPlayerController &c, double t, const Layout &layout)
     {
         QVERIFY(waitSettled(c));
         for (size_t i = 0; i < c.tiles().size(); ++i) {
@@ -125,20 +125,16 @@ class TestSyncPlayerController : public QObject {
             const auto &[starts, ids] = layout.at(cam);
             const auto expected = expectedAt(t, cam, starts, ids);
             const auto shown = identify(sinks[i]->videoFrame());
-            QVERIFY2(shown == expected,
-                     qPrintable(QString("camera %1 at %2: shown %3/%4, expected %5/%6")
-                                    .arg(tile.camera.rawValue())
-                                    .arg(t)
-                                    .arg(shown ? shown->clip : -1)
-                                    .arg(shown ? shown->index : -1)
-                                    .arg(expected ? expected->clip : -1)
-                                    .arg(expected ? expected->index : -1)));
+            QVERIFY2(shown == expected, qPrintable(QString("camera %1 at %2: shown %3, expected %4")
+                                                       .arg(tile.camera.rawValue())
+                                                       .arg(t)
+                                                       .arg(describe(shown), describe(expected))));
         }
     }
 
-    std::map<int, std::pair<std::vector<double>, std::vector<int>>> fullLayout(const std::vector<Camera> &cams)
+    Layout fullLayout(const std::vector<Camera> &cams)
     {
-        std::map<int, std::pair<std::vector<double>, std::vector<int>>> m;
+        Layout m;
         for (Camera c : cams)
             m[int(c.value())] = {starts3(), {0, 1, 2}};
         return m;
@@ -176,12 +172,11 @@ private Q_SLOTS:
         QCOMPARE(c.duration(), 63.0);
 
         TeslaEvent e = b.event;
-        e.timestamp = origin.addingTimeInterval(-1); // before the first clip
-        c.loadEvent(e);
-        QCOMPARE(c.triggerOffset(), std::nullopt);
-        e.timestamp = origin.addingTimeInterval(64); // past the estimate
-        c.loadEvent(e);
-        QCOMPARE(c.triggerOffset(), std::nullopt);
+        for (const double outside : {-1.0, 64.0}) { // before the first clip, past the estimate
+            e.timestamp = origin.addingTimeInterval(outside);
+            c.loadEvent(e);
+            QCOMPARE(c.triggerOffset(), std::nullopt);
+        }
         e.timestamp = origin.addingTimeInterval(5);
         e.missingEventJSON = true;
         c.loadEvent(e);
@@ -221,12 +216,10 @@ private Q_SLOTS:
         {
             SyncPlayerController c(b.event);
             QTRY_VERIFY(!c.isLoadingTiles());
-            QCOMPARE(c.tiles().size(), size_t(4));
-            // Grid order: front, left repeater, right repeater, back.
-            QCOMPARE(c.tiles()[0].camera, Camera(Camera::front));
-            QCOMPARE(c.tiles()[1].camera, Camera(Camera::leftRepeater));
-            QCOMPARE(c.tiles()[2].camera, Camera(Camera::rightRepeater));
-            QCOMPARE(c.tiles()[3].camera, Camera(Camera::back));
+            QStringList order;
+            for (const Tile &t : c.tiles())
+                order << t.camera.rawValue();
+            QCOMPARE(order, QStringList({"front", "left_repeater", "right_repeater", "back"})); // the grid's order
             QCOMPARE(c.duration(), 9.0);
             QCOMPARE(c.tiles()[0].player.get(), c.primaryPlayer_.data());
             QVERIFY(attachSinksAndPause(c));
@@ -257,8 +250,7 @@ private Q_SLOTS:
             // Step frame by frame, across a clip boundary too.
             c.seek(2.98);
             QVERIFY(waitSettled(c));
-            const auto first = identify(sinks[0]->videoFrame());
-            QCOMPARE(first->index, 107);
+            QCOMPARE(identify(sinks[0]->videoFrame())->index, 107);
             c.stepFrame(+1);
             QTRY_VERIFY(identify(sinks[0]->videoFrame())->clip == 1);
             QVERIFY(waitSettled(c));
@@ -312,14 +304,9 @@ private Q_SLOTS:
         b.add(Camera::leftRepeater, 2, ClipHealth::unreadable);
         b.add(Camera::rightRepeater, 0, ClipHealth::zeroByte);
         b.add(Camera::leftPillar, 0, ClipHealth::encrypted);
-        ClipRef &junk = b.add(Camera::rightPillar, 0, ClipHealth::unknown);
-        QFile f(junk.url);
-        QVERIFY(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        f.write(QByteArray(4096, 'x'));
-        f.close();
+        TeslaCamFixture::writeFile(b.add(Camera::rightPillar, 0, ClipHealth::unknown).url, QByteArray(4096, 'x'));
         // A clip removed since the scan is skipped.
-        ClipRef &gone = b.add(Camera::back, 1);
-        QFile::remove(gone.url);
+        QFile::remove(b.add(Camera::back, 1).url);
 
         SyncPlayerController c(b.event);
         QCOMPARE(c.triggerOffset(), std::optional<double>(7.5));
@@ -328,9 +315,8 @@ private Q_SLOTS:
         std::map<QString, const Tile *> byCam;
         for (const Tile &t : c.tiles())
             byCam[t.camera.rawValue()] = &t;
-        QVERIFY(byCam["front"]->player);
-        QVERIFY(byCam["back"]->player);
-        QVERIFY(byCam["left_repeater"]->player);
+        for (const char *playing : {"front", "back", "left_repeater"})
+            QVERIFY2(byCam[playing]->player, playing);
         QCOMPARE(byCam["right_repeater"]->placeholderReason, SyncPlayerController::damagedReason);
         // The car's encrypted footage waits for its keys, under a lock.
         QCOMPARE(byCam["left_pillar"]->placeholderReason, EventTimeline::lockedReason());
@@ -347,11 +333,9 @@ private Q_SLOTS:
         QCOMPARE(c.triggerOffset(), std::optional<double>(7.5));
 
         QVERIFY(attachSinksAndPause(c));
-        std::map<int, std::pair<std::vector<double>, std::vector<int>>> layout{
-            {int(Camera::front), {{0, 3}, {0, 1}}},
-            {int(Camera::back), {{0, 6}, {0, 2}}},
-            {int(Camera::leftRepeater), {{3}, {1}}},
-        };
+        const Layout layout{{int(Camera::front), {{0, 3}, {0, 1}}},
+                            {int(Camera::back), {{0, 6}, {0, 2}}},
+                            {int(Camera::leftRepeater), {{3}, {1}}}};
         for (double t : {1.0, 4.0, 7.0, 0.0, 3.5}) {
             c.seek(t);
             verifyAllAt(c, t, layout);
@@ -444,8 +428,7 @@ private Q_SLOTS:
         QCoreApplication::processEvents();
         QCOMPARE(c.tiles().size(), size_t(1));
         QCOMPARE(c.tiles()[0].camera, Camera(Camera::leftPillar));
-        for (size_t n : seen)
-            QVERIFY(n <= 1);
+        QVERIFY(std::all_of(seen.begin(), seen.end(), [](size_t n) { return n <= 1; }));
         QCOMPARE(c.triggerOffset(), std::optional<double>(2.0));
     }
 
@@ -459,10 +442,8 @@ private Q_SLOTS:
         const std::vector<Camera> cameras{Camera::front, Camera::back};
         for (Camera camera : cameras)
             for (int k = 0; k < 6; ++k) {
-                QFile clip(frameClip(int(camera.value()), k));
-                QVERIFY(clip.open(QIODevice::ReadOnly));
                 const QString name = QString("%1-%2.mp4").arg(k).arg(camera.rawValue());
-                fs.addFile(name, clip.readAll());
+                fs.addFile(name, DriveBuilder::readQuietly(frameClip(int(camera.value()), k)));
                 b.event.clips.push_back(
                     clipRef(mount.path() + "/" + name, camera, origin.addingTimeInterval(clipSeconds * k)));
             }
@@ -612,7 +593,7 @@ private Q_SLOTS:
         c.tiles()[3].player->setDecodeDelay(std::chrono::milliseconds(40));
         for (const float rate : {1.0f, 4.0f}) {
             c.seek(1.5);
-            QVERIFY(waitSettled(c, 20000));
+            QVERIFY(waitSettled(c));
             c.setRate(rate);
             c.play();
             const quint64 slowBefore = c.tiles()[3].player->presentedFrameCount();
@@ -638,7 +619,7 @@ private Q_SLOTS:
         SyncPlayerController c(b.event);
         QTRY_VERIFY(!c.isLoadingTiles());
         QVERIFY(attachSinksAndPause(c));
-        QVERIFY(waitSettled(c, 20000));
+        QVERIFY(waitSettled(c));
         const auto layout = fullLayout(fourCameras);
 
         // Slow enough that the exact frame, 27 frames past the key frame,
@@ -658,7 +639,7 @@ private Q_SLOTS:
             bool all = true;
             for (size_t i = 0; i < c.tiles().size(); ++i) {
                 const auto shown = identify(sinks[i]->videoFrame());
-                seen += QString(" %1/%2").arg(shown ? shown->clip : -1).arg(shown ? shown->index : -1);
+                seen += QLatin1Char(' ') + describe(shown);
                 if (shown && shown->clip == 1 && shown->index != 0 && shown->index != 27)
                     between = seen;
                 all = all && shown && shown->clip == 1;
@@ -716,10 +697,7 @@ private Q_SLOTS:
         // A copy: the next clip may move the event's list of clips.
         const QString damaged = b.add(Camera::front, 1, ClipHealth::unknown).url;
         b.add(Camera::front, 2);
-        const QByteArray bytes = DamagedHeaders::damaged(damage, damaged);
-        QFile file(damaged);
-        QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate) && file.write(bytes) == bytes.size());
-        file.close();
+        TeslaCamFixture::writeFile(damaged, DamagedHeaders::damaged(damage, damaged));
 
         SyncPlayerController c(b.event);
         QTRY_VERIFY(!c.isLoadingTiles());
@@ -728,8 +706,7 @@ private Q_SLOTS:
         QCOMPARE(c.duration(), 9.0);
         QCOMPARE(c.tiles()[0].gaps, (std::vector<EventTimeline::Gap>{{3, 6, SyncPlayerController::damagedReason}}));
         QVERIFY(attachSinksAndPause(c));
-        const std::map<int, std::pair<std::vector<double>, std::vector<int>>> layout{
-            {int(Camera::front), {{0, 6}, {0, 2}}}};
+        const Layout layout{{int(Camera::front), {{0, 6}, {0, 2}}}};
         for (double t : {1.0, 4.0, 7.0}) {
             c.seek(t);
             verifyAllAt(c, t, layout);

@@ -243,15 +243,15 @@ private Q_SLOTS:
         const QString clip = TestClips::clip();
         QTemporaryDir tmp;
         TeslaCamFixture drive(tmp.filePath(QStringLiteral("drive/TeslaCam")));
-        QStringList names;
-        for (int i = 0; i < 4; ++i) {
-            const QString name = QStringLiteral("2024-06-0%1_10-00-00").arg(i + 1);
+        // A Sentry event of one clip on that day; its clip.
+        const auto addEvent = [&](const QString &day) {
             const QString folder = drive.addEvent(
-                QStringLiteral("SentryClips"), name,
-                TeslaCamFixture::eventJson(QStringLiteral("2024-06-0%1T10:00:00").arg(i + 1),
-                                           QStringLiteral("sentry_aware_object_detection")));
-            drive.addClip(folder, QStringLiteral("2024-06-0%1_09-59-00").arg(i + 1), QStringLiteral("front"), 0, clip);
-        }
+                QStringLiteral("SentryClips"), day + QStringLiteral("_10-00-00"),
+                TeslaCamFixture::eventJson(day + QStringLiteral("T10:00:00"), QStringLiteral("sentry_aware_object_detection")));
+            return drive.addClip(folder, day + QStringLiteral("_09-59-00"), QStringLiteral("front"), 0, clip);
+        };
+        for (int i = 0; i < 4; ++i)
+            addEvent(QStringLiteral("2024-06-0%1").arg(i + 1));
         const QString vault = tmp.filePath(QStringLiteral("vault"));
         QDir().mkpath(vault);
 
@@ -262,11 +262,7 @@ private Q_SLOTS:
         std::vector<TeslaEvent> events = state.driveScan()->events;
         QCOMPARE(events.size(), size_t(4));
         // One more event whose only clip vanishes before the copy.
-        const QString doomed = drive.addEvent(
-            QStringLiteral("SentryClips"), QStringLiteral("2024-05-01_10-00-00"),
-            TeslaCamFixture::eventJson(QStringLiteral("2024-05-01T10:00:00"), QStringLiteral("sentry_aware_object_detection")));
-        const QString doomedClip =
-            drive.addClip(doomed, QStringLiteral("2024-05-01_09-59-00"), QStringLiteral("front"), 0, clip);
+        const QString doomedClip = addEvent(QStringLiteral("2024-05-01"));
         state.beginScan(drive.root());
         QTRY_VERIFY_WITH_TIMEOUT(!state.isScanning() && !state.isRevalidatingScan(), 10000);
         QCOMPARE(state.driveScan()->events.size(), size_t(5));
@@ -332,22 +328,13 @@ private Q_SLOTS:
         const QString vault = tmp.filePath(QStringLiteral("vault"));
         ArchiveEngine::run(ArchiveEngine::plan(drive.scan(), VaultIndex{}), vault);
         LiveEngine engine;
-        {
-            // Kept yesterday: not due.
-            VaultIndex index = VaultIndex::load(vault);
-            index.events[0].archivedAt = Date::now().addingTimeInterval(-24 * 3600);
-            index.save(vault);
-            AppState state(engine);
-            state.setVaultURL(vault);
-            QTRY_COMPARE(state.vaultIndex(), index);
-            QVERIFY(!state.verifyVaultIfDue());
-        }
         VaultIndex index = VaultIndex::load(vault);
-        index.events[0].archivedAt = Date::now().addingTimeInterval(-8 * 24 * 3600);
-        index.save(vault);
-        // Switched off: never.
-        QSettings(QStringLiteral("Keelhold"), QStringLiteral("Keelhold")).setValue(AppState::verifyWeeklyKey, false);
-        {
+        // Kept yesterday: not due. Kept 8 days ago but switched off: never.
+        for (const bool switchedOff : {false, true}) {
+            index.events[0].archivedAt = Date::now().addingTimeInterval((switchedOff ? -8 : -1) * 24 * 3600);
+            index.save(vault);
+            if (switchedOff)
+                QSettings(QStringLiteral("Keelhold"), QStringLiteral("Keelhold")).setValue(AppState::verifyWeeklyKey, false);
             AppState state(engine);
             state.setVaultURL(vault);
             QTRY_COMPARE(state.vaultIndex(), index);
@@ -396,9 +383,8 @@ private Q_SLOTS:
         const ArchiveReport &report = *state.lastArchiveReport();
         QVERIFY(report.cancelled);
         QCOMPARE(report.stoppedBecause, std::optional(ArchiveReport::StopReason::driveDisconnected));
-        QCOMPARE(report.plannedEvents, 2);
-        QCOMPARE(report.completeEvents(), 1);
-        QCOMPARE(report.archivedEvents.size(), size_t(2));
+        QCOMPARE(std::tuple(report.plannedEvents, report.completeEvents(), report.archivedEvents.size()),
+                 std::tuple(2, 1, size_t(2)));
         QCOMPARE(state.triageState(events[0]), TriageState::kept);
         QVERIFY(state.triageState(events[1]) != TriageState::kept);
     }
@@ -498,16 +484,13 @@ private Q_SLOTS:
         // Only what hadn't arrived was read again.
         QCOMPARE(back.bytesServed(), 3 * clipSize + jsonBytes.value(names[1]) + jsonBytes.value(names[2]));
         const ArchiveReport &report = *state.lastArchiveReport();
-        QCOMPARE(report.plannedEvents, 3);
-        QCOMPARE(report.completeEvents(), 3);
-        QVERIFY(!report.stoppedBecause);
-        QVERIFY(!report.cancelled);
-        QVERIFY(report.failedFiles.empty());
-        for (const TeslaEvent &e : events)
-            QCOMPARE(state.triageState(e), TriageState::kept);
-        // Every kept clip holds the first drive's bytes.
+        QCOMPARE(std::tuple(report.plannedEvents, report.completeEvents(), report.stoppedBecause.has_value(), report.cancelled,
+                            report.failedFiles.size()),
+                 std::tuple(3, 3, false, false, size_t(0)));
+        // Every event kept, every kept clip with the first drive's bytes.
         const VaultIndex index = VaultIndex::load(vault);
         for (const TeslaEvent &e : events) {
+            QCOMPARE(state.triageState(e), TriageState::kept);
             const ArchivedEvent *newest = index.newestRecord(e.id());
             QVERIFY(newest && !newest->isIncomplete());
             for (const ArchivedFile &f : newest->files)

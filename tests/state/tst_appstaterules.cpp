@@ -123,12 +123,11 @@ QStringList damageMarks(const DriveScan &scan)
     return marks;
 }
 
-DriveScan scanWith(const std::vector<TeslaEvent> &events, const VolumeFormat &format, bool encrypted = false)
+// A scan with no events, of a drive in that format.
+DriveScan emptyScan(const VolumeFormat &format)
 {
     DriveScan s;
-    s.events = events;
     s.format = format;
-    s.encryptedClipsPresent = encrypted;
     return s;
 }
 
@@ -169,7 +168,7 @@ private Q_SLOTS:
         FormatEngine engine;
         const VolumeFormat ntfs = formatOf(QStringLiteral("ntfs"));
         if (cachedNtfs)
-            engine.cached = scanWith({}, ntfs);
+            engine.cached = emptyScan(ntfs);
         engine.freshFormat = formatOf(format);
         AppState state(engine);
         QSignalSpy failures(&state, &AppState::currentFailureChanged);
@@ -223,7 +222,7 @@ private Q_SLOTS:
         QCOMPARE(state.currentFailure(), DriveFailure::encryptedClipsOnly());
 
         // A cached empty scan shows emptyDrive; a revalidation with events clears it.
-        engine.cached = scanWith({}, VolumeFormat(VolumeFormat::exFAT));
+        engine.cached = emptyScan(VolumeFormat(VolumeFormat::exFAT));
         QSignalSpy failures(&state, &AppState::currentFailureChanged);
         state.beginScan(driveWithOneEvent(tmp, QStringLiteral("F")));
         QVERIFY(settled(state));

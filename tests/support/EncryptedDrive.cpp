@@ -50,7 +50,6 @@ EncryptedDrive::EncryptedDrive(const QString &teslaCamRoot, const QString &sourc
 
 QString EncryptedDrive::addClip(const QString &dir, const QString &stamp, const QString &camera, quint32 seed)
 {
-    TeslaCamFixture::makeDir(dir);
     const QString path = dir + QLatin1Char('/') + stamp + QLatin1Char('-') + camera + QStringLiteral(".mp4");
     const EcryptfsWriter::KeyBlock block = EcryptfsWriter::keyBlock(seed);
     TeslaCamFixture::writeFile(path, EcryptfsWriter::encrypt(plain_, EcryptfsWriter::fileKey(seed), block));

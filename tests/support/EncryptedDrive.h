@@ -28,8 +28,7 @@ public:
     const QString &root() const { return fixture_.root(); }
     TeslaCamFixture &fixture() { return fixture_; }
 
-    // The clips that can be unlocked, in the order written.
-    const QStringList &unlockable() const { return unlockable_; }
+    // The first clip that can be unlocked.
     QString sentryFront() const { return unlockable_.first(); }
     // The plain bytes every clip holds.
     const QByteArray &plain() const { return plain_; }

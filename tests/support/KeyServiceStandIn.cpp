@@ -110,10 +110,9 @@ private:
         Request request;
         const QList<QByteArray> lines = head.split('\n');
         request.path = lines.value(0).split(' ').value(1);
-        for (const QByteArray &line : lines) {
+        for (const QByteArray &line : lines)
             if (line.toLower().startsWith("authorization:"))
                 request.authorised = !state_->token.isEmpty() && line.mid(14).trimmed() == "Bearer " + state_->token;
-        }
         const QJsonArray items = QJsonDocument::fromJson(body).object().value(QLatin1String("items")).toArray();
         request.items = int(items.size());
         if (!items.isEmpty())
@@ -138,21 +137,16 @@ private:
         if (items.size() > 30)
             return response(400, R"({"error":"batch size exceeds maximum of 30"})");
         QJsonArray results;
-        for (const QJsonValue &v : items) {
-            const QJsonObject item = v.toObject();
-            QJsonObject result;
-            result.insert(QStringLiteral("id"), item.value(QLatin1String("id")));
-            const QByteArray wrapped = item.value(QLatin1String("wrapped_key")).toString().toLatin1();
-            const auto key = state_->keys.constFind(wrapped);
+        for (const QJsonValue &item : items) {
+            const auto key = state_->keys.constFind(item[QLatin1String("wrapped_key")].toString().toLatin1());
+            QJsonObject result{{QStringLiteral("id"), item[QLatin1String("id")]}};
             if (key != state_->keys.constEnd())
                 result.insert(QStringLiteral("key"), QString::fromLatin1(*key));
             else
                 result.insert(QStringLiteral("error"), QStringLiteral("error.unable_to_verify_ownership"));
             results.append(result);
         }
-        QJsonObject root;
-        root.insert(QStringLiteral("results"), results);
-        return response(200, json(root));
+        return response(200, json({{QStringLiteral("results"), results}}));
     }
 
     // authorize: straight back to the redirect address with a code, as the
@@ -189,10 +183,8 @@ private:
             return response(400, R"({"error":"unsupported_grant_type"})");
         }
         state_->liveRefresh = "refresh-" + QByteArray::number(++state_->issued);
-        QJsonObject tokens;
-        tokens.insert(QStringLiteral("access_token"), QString::fromLatin1(state_->token));
-        tokens.insert(QStringLiteral("refresh_token"), QString::fromLatin1(state_->liveRefresh));
-        return response(200, json(tokens));
+        return response(200, json({{QStringLiteral("access_token"), QString::fromLatin1(state_->token)},
+                                   {QStringLiteral("refresh_token"), QString::fromLatin1(state_->liveRefresh)}}));
     }
 
     std::shared_ptr<State> state_;

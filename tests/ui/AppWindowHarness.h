@@ -149,24 +149,22 @@ public:
         QTest::mouseClick(window(), button, Qt::NoModifier, centreOf(item));
     }
 
-    // The same without letting the event loop run first.
+    // With KEELHOLD_SCREENSHOT_DIR set, the window as it stands goes to
+    // <dir>/<name>.png, or <name>-<language>.png in another language.
+    void shot(const QString &name) const
+    {
+        if (qEnvironmentVariableIsEmpty("KEELHOLD_SCREENSHOT_DIR") || !window())
+            return;
+        waitForFrame();
+        const QString language = qEnvironmentVariable("KEELHOLD_TEST_LANGUAGE");
+        shotNow(language.isEmpty() || language == QLatin1String("en") ? name : name + QLatin1Char('-') + language);
+    }
+
+    // The same, in no language, without letting the event loop run first.
     void shotNow(const QString &name) const
     {
         const QString dir = qEnvironmentVariable("KEELHOLD_SCREENSHOT_DIR");
         if (!dir.isEmpty() && window())
             window()->grabWindow().save(dir + QLatin1Char('/') + name + QStringLiteral(".png"));
-    }
-
-    // With KEELHOLD_SCREENSHOT_DIR set, the window as it stands goes to
-    // <dir>/<name>.png, or <name>-<language>.png in another language.
-    void shot(const QString &name) const
-    {
-        const QString dir = qEnvironmentVariable("KEELHOLD_SCREENSHOT_DIR");
-        if (dir.isEmpty() || !window())
-            return;
-        waitForFrame();
-        const QString language = qEnvironmentVariable("KEELHOLD_TEST_LANGUAGE");
-        const QString suffix = language.isEmpty() || language == QLatin1String("en") ? QString() : QLatin1Char('-') + language;
-        window()->grabWindow().save(dir + QLatin1Char('/') + name + suffix + QStringLiteral(".png"));
     }
 };

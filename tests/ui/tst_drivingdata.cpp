@@ -101,10 +101,12 @@ class DrivingDataTest : public QObject {
             QTRY_VERIFY_WITH_TIMEOUT(drivingData()->hasData(), 20000);
     }
 
-    // The frame on screen, read from its pixels, against the record shown.
+    // The frame on screen, once exact, read from its pixels, against the
+    // record shown.
     void verifyOverlayMatchesPicture()
     {
         TrackPlayer *front = frontPlayer();
+        QTRY_VERIFY_WITH_TIMEOUT(!front->isSeeking() && !front->isShowingPreview(), 10000);
         const auto shown = PlaybackClips::identify(front->currentFrame());
         QVERIFY(shown);
         const TelemetryRecord *record = drivingData()->currentRecord();
@@ -193,19 +195,16 @@ private Q_SLOTS:
         // Seeks, forward and back, land on frames between the key frames.
         for (double t : {2.2, 0.7, 1.51}) {
             controller()->seek(t);
-            waitForExactFrame();
             verifyOverlayMatchesPicture();
         }
         // Frame steps each way.
         const quint64 before = drivingData()->currentRecord()->frameSequenceNumber;
         controller()->stepFrame(+1);
         QTRY_COMPARE_WITH_TIMEOUT(drivingData()->currentRecord()->frameSequenceNumber, before + 1, 5000);
-        waitForExactFrame();
         verifyOverlayMatchesPicture();
         controller()->stepFrame(-1);
         controller()->stepFrame(-1);
         QTRY_COMPARE_WITH_TIMEOUT(drivingData()->currentRecord()->frameSequenceNumber, before - 1, 5000);
-        waitForExactFrame();
         verifyOverlayMatchesPicture();
 
         // While playing, at half and double speed: at every frame the front
@@ -240,14 +239,12 @@ private Q_SLOTS:
     {
         open(frontEndsEarly);
         controller()->seek(1.0);
-        waitForExactFrame();
         verifyOverlayMatchesPicture();
         controller()->seek(PlaybackClips::clipSeconds + 1.5);
         QTRY_VERIFY_WITH_TIMEOUT(!drivingData()->currentRecord(), 10000);
         QTRY_COMPARE(item(QStringLiteral("speedValue"))->property("text").toString(), QStringLiteral("–"));
         // Back into the front footage, the overlay returns with its frame.
         controller()->seek(2.0);
-        waitForExactFrame();
         verifyOverlayMatchesPicture();
     }
 
@@ -258,7 +255,6 @@ private Q_SLOTS:
         open(withRecords);
         const TelemetryProfile::Profile &profile = drivingData()->profile();
         QCOMPARE(profile.topSpeed, 20.0f);
-        QVERIFY(!profile.slices.empty());
         auto sliceTime = [&](size_t i) { return (i + 0.5) * profile.duration / double(profile.slices.size()); };
 
         auto *strip = qobject_cast<SpeedStrip *>(item(QStringLiteral("speedStrip")));
@@ -287,10 +283,8 @@ private Q_SLOTS:
         QSignalSpy finished(drivingData(), &PlayerDrivingData::loadFinished);
         open(withoutRecords, false);
         QVERIFY(finished.count() > 0 || finished.wait(20000));
-        QVERIFY(!drivingData()->hasData());
-        QVERIFY(!drivingData()->hasRecord());
-        QVERIFY(!item(QStringLiteral("drivingDataOverlay")));
-        QVERIFY(!item(QStringLiteral("speedStrip")));
+        QVERIFY(!drivingData()->hasData() && !drivingData()->hasRecord());
+        QVERIFY(!item(QStringLiteral("drivingDataOverlay")) && !item(QStringLiteral("speedStrip")));
         QVERIFY(!item(QStringLiteral("drivingDataButton"))->isEnabled());
     }
 

@@ -136,8 +136,7 @@ private Q_SLOTS:
         QCOMPARE(project(0, -180, 1).x(), 0.0);
         for (auto [lat, lon] : {std::pair{59.91, 10.75}, {-33.86, 151.2}, {0.0, 0.0}, {37.77, -122.42}}) {
             const QPointF back = unproject(project(lat, lon, 12.5), 12.5);
-            QVERIFY(qAbs(back.x() - lon) < 1e-9);
-            QVERIFY(qAbs(back.y() - lat) < 1e-9);
+            QVERIFY(qAbs(back.x() - lon) < 1e-9 && qAbs(back.y() - lat) < 1e-9);
         }
         // Poles are clamped, not infinite.
         QVERIFY(std::isfinite(project(90, 0, 3).y()));
@@ -148,8 +147,7 @@ private Q_SLOTS:
         const QPointF c = project(v.centerLatitude, v.centerLongitude, v.zoom);
         for (const QPointF &p : pts) {
             const QPointF q = project(p.x(), p.y(), v.zoom) - c;
-            QVERIFY(qAbs(q.x()) <= 400 - 48 + 1e-6);
-            QVERIFY(qAbs(q.y()) <= 300 - 48 + 1e-6);
+            QVERIFY(qAbs(q.x()) <= 400 - 48 + 1e-6 && qAbs(q.y()) <= 300 - 48 + 1e-6);
         }
         const View one = fitting({{59.91, 10.75}}, 800, 600);
         QCOMPARE(one.zoom, 16.0);

@@ -147,22 +147,19 @@ private Q_SLOTS:
         QCOMPARE(app->screens.inbox()->content(), QStringLiteral("inbox"));
         QCOMPARE(rows()->count(), 500);
         auto *tokens = app->find(QStringLiteral("filterTokens"));
-        QVERIFY(tokens);
-        QVERIFY(!tokens->isVisible());
+        QVERIFY(tokens && !tokens->isVisible());
 
         // The pickers of the filter menu, as the user picks them.
         auto *filterButton = app->find(QStringLiteral("filterButton"));
         QVERIFY(filterButton);
         app->click(filterButton);
         QObject *menu = app->find<QObject>(QStringLiteral("filterMenu"));
-        QVERIFY(menu);
-        QTRY_VERIFY(menu->property("visible").toBool());
-        QObject *honk = AppWindowHarness::menuEntry(menu, QStringLiteral("pick_honk"));
-        QVERIFY(honk);
-        QMetaObject::invokeMethod(honk, "triggered");
-        QObject *sentry = AppWindowHarness::menuEntry(menu, QStringLiteral("pick_sentry"));
-        QVERIFY(sentry);
-        QMetaObject::invokeMethod(sentry, "triggered");
+        QTRY_VERIFY(menu && menu->property("visible").toBool());
+        for (const char *entry : {"pick_honk", "pick_sentry"}) {
+            QObject *item = AppWindowHarness::menuEntry(menu, QString::fromLatin1(entry));
+            QVERIFY2(item, entry);
+            QMetaObject::invokeMethod(item, "triggered");
+        }
         QMetaObject::invokeMethod(menu, "close");
         QCOMPARE(app->state.filterReason()->rawValue(), QStringLiteral("honk"));
         QCOMPARE(app->state.filterKind()->rawValue(), QStringLiteral("sentry"));
@@ -183,9 +180,7 @@ private Q_SLOTS:
         QVERIFY(app->screens.inbox()->filterMenuIcon() != app->ui.icon(QStringLiteral("line.3.horizontal.decrease.circle")));
 
         // A token's button clears that filter alone.
-        QQuickItem *kindToken = app->find(QStringLiteral("token_kind"));
-        QVERIFY(kindToken);
-        QQuickItem *remove = AppWindowHarness::findItem(kindToken, QStringLiteral("removeToken"));
+        QQuickItem *remove = AppWindowHarness::findItem(app->find(QStringLiteral("token_kind")), QStringLiteral("removeToken"));
         QVERIFY(remove);
         app->click(remove);
         QTRY_VERIFY(!app->state.filterKind());
@@ -230,8 +225,7 @@ private Q_SLOTS:
     void recentBannerFollowsTheFilters()
     {
         auto *banner = app->find(QStringLiteral("recentDrivingBanner"));
-        QVERIFY(banner);
-        QTRY_VERIFY(banner->isVisible());
+        QTRY_VERIFY(banner && banner->isVisible());
         QCOMPARE(app->screens.inbox()->recentCount(), 20);
         app->state.setFilterKind(EventKind::sentry);
         QTRY_VERIFY(!banner->isVisible());
@@ -337,8 +331,7 @@ private Q_SLOTS:
         QCOMPARE(lines.size(), 1);
         QVERIFY(lines.first().toMap().value(QStringLiteral("text")).toString().startsWith(
             QStringLiteral("3 events copied and verified, byte-for-byte.")));
-        auto *done = app->find(QStringLiteral("reportDone"));
-        app->click(done);
+        app->click(app->find(QStringLiteral("reportDone")));
         QTRY_VERIFY(!app->state.showArchiveReport());
     }
 
@@ -470,8 +463,7 @@ private Q_SLOTS:
         QQuickItem *badgeItem = AppWindowHarness::findItem(row, QStringLiteral("verificationBadge"));
         QVERIFY(badgeItem);
         QObject *popover = badgeItem->findChild<QObject *>(QStringLiteral("verificationPopover"));
-        QVERIFY(popover);
-        QTRY_VERIFY(popover->property("visible").toBool());
+        QTRY_VERIFY(popover && popover->property("visible").toBool());
         app->shot(QStringLiteral("vault-verification-popover"));
         const QVariantMap info = app->screens.vault()->verification(id);
         const QVariantList files = info.value(QStringLiteral("files")).toList();
@@ -484,8 +476,7 @@ private Q_SLOTS:
         QObject *item = pick(row, QStringLiteral("vaultRowMenu"), QStringLiteral("menuMoveToTrash"));
         QVERIFY(item);
         QObject *dialog = app->find<QObject>(QStringLiteral("trashConfirmation"));
-        QVERIFY(dialog);
-        QTRY_VERIFY(dialog->property("visible").toBool());
+        QTRY_VERIFY(dialog && dialog->property("visible").toBool());
         auto *message = app->find(QStringLiteral("removalMessage"));
         QVERIFY(message->property("text").toString().endsWith(
             QStringLiteral(" will move to your computer's Trash, where you can still recover it. Nothing on your Tesla "
@@ -565,8 +556,7 @@ private Q_SLOTS:
         app->click(partBadge);
         QObject *popover = AppWindowHarness::findItem(vaultRow(fresh[0]), QStringLiteral("verificationBadge"))
                                ->findChild<QObject *>(QStringLiteral("verificationPopover"));
-        QVERIFY(popover);
-        QTRY_VERIFY(popover->property("visible").toBool());
+        QTRY_VERIFY(popover && popover->property("visible").toBool());
         QCOMPARE(app->screens.vault()->verification(fresh[0].id()).value(QStringLiteral("title")).toString(),
                  QStringLiteral("Incomplete Copy"));
         app->shot(QStringLiteral("vault-incomplete"));

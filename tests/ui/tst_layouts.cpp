@@ -123,11 +123,8 @@ private Q_SLOTS:
                 hidden += both.width() * both.height();
             }
             const double share = hidden / (area.width() * area.height());
-            QVERIFY2(share <= 0.25, qPrintable(QStringLiteral("%1 is %2% covered at %3x%4")
-                                                    .arg(tile->objectName())
-                                                    .arg(qRound(share * 100))
-                                                    .arg(size.width())
-                                                    .arg(size.height())));
+            QVERIFY2(share <= 0.25, qPrintable(QStringLiteral("%1 is %2% covered at %3x%4").arg(tile->objectName())
+                                                   .arg(qRound(share * 100)).arg(size.width()).arg(size.height())));
         }
         // The toolbar and the transport whole and apart; the times, the
         // list's own buttons and every camera whole.
@@ -164,8 +161,7 @@ private Q_SLOTS:
         for (const QSize size : {QSize(900, 600), QSize(1920, 1080), QSize(1280, 800), QSize(900, 600),
                                  QSize(2560, 1440), QSize(900, 600)}) {
             app->window()->resize(size);
-            QVERIFY(app->waitForFrame());
-            QVERIFY(app->waitForFrame());
+            QVERIFY(app->waitForFrame() && app->waitForFrame());
         }
         // Maximised and back to the smallest, as a user's window manager does.
         for (int i = 0; i < 3; ++i) {
@@ -173,8 +169,7 @@ private Q_SLOTS:
             QVERIFY(app->waitForFrame());
             app->window()->showNormal();
             app->window()->resize(900, 600);
-            QVERIFY(app->waitForFrame());
-            QVERIFY(app->waitForFrame());
+            QVERIFY(app->waitForFrame() && app->waitForFrame());
         }
     }
 

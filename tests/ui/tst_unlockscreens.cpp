@@ -54,8 +54,7 @@ class UnlockScreensTest : public QObject {
         QVERIFY(box);
         box->setProperty("checked", remember);
         auto *button = app->find(QStringLiteral("unlockButton"));
-        QVERIFY(button);
-        QTRY_VERIFY(button->property("enabled").toBool());
+        QTRY_VERIFY(button && button->property("enabled").toBool());
         app->click(button);
         QTRY_VERIFY_WITH_TIMEOUT(!unlock().busy(), 30000);
         // Handed over, the token leaves the field at once.
@@ -116,8 +115,7 @@ private Q_SLOTS:
         QCOMPARE(rows()->data(sentry, EventListModel::ReasonLabelRole).toString(), QStringLiteral("Encrypted by your car"));
         QCOMPARE(rows()->data(sentry, EventListModel::CorruptCountRole).toInt(), 0);
         auto *notice = app->find(QStringLiteral("encryptedNotice"));
-        QVERIFY(notice);
-        QTRY_VERIFY(notice->isVisible());
+        QTRY_VERIFY(notice && notice->isVisible());
         QVERIFY(app->find(QStringLiteral("noticeText"))->property("text").toString().startsWith(QStringLiteral("3 events")));
         shots(QStringLiteral("unlock-inbox-locked"));
     }
@@ -126,8 +124,7 @@ private Q_SLOTS:
     {
         app->state.setSelectedEventID(EncryptedDrive::sentryID);
         auto *bar = app->find(QStringLiteral("lockedBar"));
-        QVERIFY(bar);
-        QTRY_VERIFY(bar->isVisible());
+        QTRY_VERIFY(bar && bar->isVisible());
         QQuickItem *tile = nullptr;
         QTRY_VERIFY((tile = app->find(QStringLiteral("cameraTile_front"))) != nullptr);
         auto *text = AppWindowHarness::findItem(tile, QStringLiteral("placeholderText"));

@@ -4,7 +4,6 @@
 #include "vault/VaultIndex.h"
 
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -59,9 +58,8 @@ private Q_SLOTS:
         QTemporaryDir vault;
         ArchiveEngine::run(ArchiveEngine::plan(drive.scan(), VaultIndex{}), vault.path());
         // A folder that no record knows is still an event; any year folder name is walked.
-        const QString extra = vault.filePath("someyear/saved/2026-07-20_08-00-00");
-        QDir().mkpath(extra);
-        QFile::copy(drive.scan()[0].clips[0].url, extra + "/2026-07-20_07-59-00-front.mp4");
+        const QByteArray clip = DriveBuilder::readQuietly(drive.scan()[0].clips[0].url);
+        TeslaCamFixture::writeFile(vault.filePath("someyear/saved/2026-07-20_08-00-00/2026-07-20_07-59-00-front.mp4"), clip);
         // A record whose folder is gone is not.
         VaultIndex index = VaultIndex::load(vault.path());
         ArchivedEvent ghost = index.events.at(0);
@@ -72,16 +70,13 @@ private Q_SLOTS:
         index.save(vault.path());
 
         // Passed over: unknown kinds, names off the pattern, hidden leftovers.
-        QDir().mkpath(vault.filePath("2024/other/2024-01-01_00-00-00"));
-        QFile::copy(drive.scan()[0].clips[0].url, vault.filePath("2024/other/2024-01-01_00-00-00/2024-01-01_00-00-00-front.mp4"));
-        QDir().mkpath(vault.filePath("2026/sentry/not-an-event"));
-        QFile::copy(drive.scan()[0].clips[0].url, vault.filePath("2026/sentry/not-an-event/2026-07-18_09-14-32-front.mp4"));
+        TeslaCamFixture::writeFile(vault.filePath("2024/other/2024-01-01_00-00-00/2024-01-01_00-00-00-front.mp4"), clip);
+        TeslaCamFixture::writeFile(vault.filePath("2026/sentry/not-an-event/2026-07-18_09-14-32-front.mp4"), clip);
         const QString keptFolder = vault.filePath("2026/sentry/2026-07-18_09-15-32");
         TeslaCamFixture::writeFile(keptFolder + "/.tmp-ABC-2026-07-18_09-13-32-back.mp4", "partial");
         // A keep cut off before any file of an event arrived: nothing kept, nothing shown.
-        const QString cutOff = vault.filePath("2026/saved/2026-07-02_00-00-00");
-        QDir().mkpath(cutOff);
-        TeslaCamFixture::writeFile(cutOff + "/.tmp-DEF-2026-07-01_23-59-00-front.mp4", "partial");
+        TeslaCamFixture::writeFile(vault.filePath("2026/saved/2026-07-02_00-00-00/.tmp-DEF-2026-07-01_23-59-00-front.mp4"),
+                                   "partial");
 
         for (int pass = 0; pass < 2; ++pass) {
             const auto kept = VaultBrowser::scanVault(vault.path());
@@ -98,7 +93,6 @@ private Q_SLOTS:
     {
         QTemporaryDir vault;
         const QString folder = vault.filePath("2026/recent/2026-07-18_09-10-00");
-        QDir().mkpath(folder);
         for (const char *name : {"2026-07-18_09-12-00-front.mp4", "2026-07-18_09-10-00-back.mp4",
                                  "2026-07-18_09-10-00-front.mp4", "2026-07-18_09-11-00-front.mp4"})
             TeslaCamFixture::writeFile(folder + "/" + name, "data");
@@ -110,8 +104,7 @@ private Q_SLOTS:
         const auto kept = VaultBrowser::scanVault(vault.path());
         QCOMPARE(kept.size(), size_t(1));
         const TeslaEvent &e = kept[0];
-        QCOMPARE(e.kind, EventKind(EventKind::recent));
-        QCOMPARE(e.folderName, QStringLiteral("2026-07-18_09-10-00"));
+        QCOMPARE(e.id(), QStringLiteral("recent|2026-07-18_09-10-00"));
         QCOMPARE(e.reason.category, ReasonCategory(ReasonCategory::recentDrive));
         QVERIFY(!e.reason.raw && !e.reasonRaw && !e.city && !e.thumbURL);
         QVERIFY(e.missingEventJSON);

@@ -54,8 +54,7 @@ private Q_SLOTS:
     {
         const auto kept = makeEvent(QStringLiteral("2026-07-18_09-15-32"),
                                     {{QStringLiteral("a-front.mp4"), 10, {}}, {QStringLiteral("event.json"), 5, {}}});
-        VaultIndex index;
-        index.events.push_back(kept);
+        const VaultIndex index{{kept}};
         QVERIFY(index.contains(kept));
         QCOMPARE(index.dedupeKeySet().size(), 1);
 
@@ -88,10 +87,9 @@ private Q_SLOTS:
     {
         QTemporaryDir dir;
         const QString vault = dir.filePath("new/parents/Vault");
-        VaultIndex index;
-        index.events.push_back(makeEvent(QStringLiteral("2026-07-18_09-15-32"),
-                                         {{QStringLiteral("a-front.mp4"), 5000000000LL, QString(64, 'a')}}));
-        index.events.push_back(makeEvent(QStringLiteral("2026-07-19_10-00-00"), {}, EventKind::sentry));
+        const VaultIndex index{{makeEvent(QStringLiteral("2026-07-18_09-15-32"),
+                                          {{QStringLiteral("a-front.mp4"), 5000000000LL, QString(64, 'a')}}),
+                                makeEvent(QStringLiteral("2026-07-19_10-00-00"), {}, EventKind::sentry)}};
         index.save(vault);
 
         const QByteArray bytes = DriveBuilder::readQuietly(vault + "/manifest.json");
@@ -129,9 +127,7 @@ private Q_SLOTS:
         QVERIFY(!counted.isIncomplete());
         QCOMPARE(counted.dedupeKey(), old.events[0].dedupeKey());
 
-        VaultIndex index = old;
-        index.events.push_back(part);
-        index.events.push_back(counted);
+        const VaultIndex index{{old.events[0], part, counted}};
         index.save(vault.path());
         QVERIFY(DriveBuilder::readQuietly(vault.filePath("manifest.json")).contains("\"expectedFileCount\":90"));
         QCOMPARE(VaultIndex::load(vault.path()), index);
@@ -190,9 +186,8 @@ private Q_SLOTS:
         QCOMPARE(index.events[0].files[0].size, qint64(10));
         index.save(vault.path());
         const QByteArray bytes = DriveBuilder::readQuietly(vault.filePath("manifest.json"));
-        QVERIFY(!bytes.contains("version"));
-        QVERIFY(!bytes.contains("extra"));
-        QVERIFY(!bytes.contains("note"));
+        for (const char *unknown : {"version", "extra", "note"})
+            QVERIFY2(!bytes.contains(unknown), unknown);
     }
 
     void saveReplacesTheWholeFileAndLeavesNoTemporaryBehind()
@@ -219,8 +214,7 @@ private Q_SLOTS:
         if (!disk.ok())
             QSKIP("needs root to mount a tmpfs");
         const QDir mountPoint(disk.path());
-        VaultIndex old;
-        old.events = {makeEvent(QStringLiteral("2026-07-18_09-15-32"), {{QStringLiteral("a-front.mp4"), 3, {}}})};
+        const VaultIndex old{{makeEvent(QStringLiteral("2026-07-18_09-15-32"), {{QStringLiteral("a-front.mp4"), 3, {}}})}};
         old.save(mountPoint.path());
         const QByteArray before = DriveBuilder::readQuietly(mountPoint.filePath("manifest.json"));
         {
@@ -280,8 +274,7 @@ private Q_SLOTS:
         auto part = kept;
         part.files.clear();
         const auto other = makeEvent(QStringLiteral("2026-07-19_10-00-00"), {});
-        VaultIndex index;
-        index.events = {part, other, kept};
+        const VaultIndex index{{part, other, kept}};
         index.save(vault.path());
         const QString clip = vault.filePath(kept.relativePath + "/a-front.mp4");
         QDir().mkpath(vault.filePath(kept.relativePath));
@@ -334,9 +327,7 @@ private Q_SLOTS:
         QDir().mkpath(dir.filePath("outside"));
         auto e = makeEvent(QStringLiteral("2026-07-18_09-15-32"), {});
         e.relativePath = relativePath;
-        VaultIndex index;
-        index.events = {e};
-        index.save(vault);
+        VaultIndex{{e}}.save(vault);
         QVERIFY_THROWS_EXCEPTION(VaultIndex::FileError, VaultIndex::removeEvent(e.eventID, vault));
         QVERIFY(QFileInfo::exists(vault + "/manifest.json"));
         QVERIFY(QFileInfo::exists(dir.filePath("outside")));
@@ -369,9 +360,7 @@ private Q_SLOTS:
         TeslaCamFixture::writeFile(mountPoint.filePath(".Trash"), "not a folder");
         const QString vault = mountPoint.filePath("Vault");
         const auto kept = makeEvent(QStringLiteral("2026-07-18_09-15-32"), {{QStringLiteral("a-front.mp4"), 3, {}}});
-        VaultIndex index;
-        index.events = {kept};
-        index.save(vault);
+        VaultIndex{{kept}}.save(vault);
         QDir().mkpath(vault + "/" + kept.relativePath);
 
         QVERIFY_THROWS_EXCEPTION(VaultIndex::FileError, VaultIndex::removeEvent(kept.eventID, vault));
