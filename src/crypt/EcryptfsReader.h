@@ -16,8 +16,8 @@ class PagePrefetcher;
 // 16-byte key, decrypting page by page as they are asked for: a seek
 // decrypts only the pages it lands on, and nothing decrypted is written
 // anywhere. Its read and seek are what a demuxer's clip reader needs. One
-// thread at a time; while a demuxer streams
-// through the file, a thread of its own decrypts the pages ahead.
+// thread at a time; while a demuxer streams through the file, a thread of
+// its own decrypts the pages ahead.
 class EcryptfsReader {
 public:
     // Null when the file can't be opened, isn't one of the car's encrypted
@@ -37,7 +37,6 @@ public:
     qint64 seek(qint64 offset, int whence);
     // Whether the key opens this file: its first page must read as an MP4's start.
     bool keyFits();
-
 
     // MD5 of the key, and of that with the page number in decimal, zero-padded
     // to 16 bytes: the IV of each page.
