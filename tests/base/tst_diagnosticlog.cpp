@@ -1,10 +1,10 @@
 #include "base/CancellationError.h"
 #include "base/DiagnosticLog.h"
 #include "base/LogCategories.h"
+#include "support/DriveBuilder.h"
 #include "support/IsolatedHome.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -16,12 +16,6 @@ class TestDiagnosticLog : public QObject {
 
     QTemporaryDir dir_;
 
-    QString read(const QString &path) const
-    {
-        QFile f(path);
-        return f.open(QIODevice::ReadOnly) ? QString::fromUtf8(f.readAll()) : QString();
-    }
-
 private Q_SLOTS:
     void initTestCase() { DiagnosticLog::install(dir_.filePath(QStringLiteral("state/Keelhold"))); }
 
@@ -32,7 +26,7 @@ private Q_SLOTS:
         qCDebug(lcDrive) << "a debug line";
         qCWarning(lcDrive) << "a clip could not be read";
         qCCritical(lcVault) << "the manifest could not be written";
-        const QString log = read(DiagnosticLog::filePath());
+        const QString log = QString::fromUtf8(DriveBuilder::readQuietly(DiagnosticLog::filePath()));
         QVERIFY(log.contains(QStringLiteral(" warning keelhold.drive: a clip could not be read\n")));
         QVERIFY(log.contains(QStringLiteral(" error keelhold.vault: the manifest could not be written\n")));
         QVERIFY(!log.contains(QStringLiteral("a debug line")));
@@ -66,7 +60,7 @@ private Q_SLOTS:
         QFETCH(QString, expected);
         QCOMPARE(DiagnosticLog::redacted(line), expected);
         qCWarning(lcBase).noquote() << line;
-        QVERIFY(read(DiagnosticLog::filePath()).contains(expected));
+        QVERIFY(QString::fromUtf8(DriveBuilder::readQuietly(DiagnosticLog::filePath())).contains(expected));
     }
 
     // A catch-all handler says what it caught; a cancellation is no error.

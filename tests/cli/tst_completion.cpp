@@ -1,3 +1,4 @@
+#include "support/CliRun.h"
 #include "support/DriveBuilder.h"
 #include "support/IsolatedHome.h"
 #include "support/ProgramRun.h"
@@ -59,9 +60,7 @@ private Q_SLOTS:
             QSKIP("bash-completion is not installed (scripts/setup installs it)");
         drive_.addEvent("SentryClips", "2026-07-18_09-15-32", 1, 4096);
         drive_.addEvent("SavedClips", "2026-07-19_10-00-00", 1, 4096);
-        const ProgramRun::Result kept = ProgramRun::run(
-            QStringLiteral(KEELHOLD_CLI_PATH),
-            {"keep", drive_.root(), "--vault", vault_, "--event", "saved|2026-07-19_10-00-00"});
+        const CliRun::Result kept = CliRun::run({"keep", drive_.root(), "--vault", vault_, "--event", "saved|2026-07-19_10-00-00"});
         QVERIFY2(kept.exitCode == 0, qPrintable(kept.err));
     }
 

@@ -46,15 +46,12 @@ private Q_SLOTS:
     void initTestCase()
     {
         TeslaCamFixture fx(tmp_.filePath(QStringLiteral("drive/TeslaCam")));
-        const QString sentry = fx.addEvent(QStringLiteral("SentryClips"), QStringLiteral("2024-06-01_15-05-00"),
-                                           TeslaCamFixture::eventJson(QStringLiteral("2024-06-01T15:05:00"),
-                                                                      QStringLiteral("sentry_aware_accel_0.52")));
+        const QString sentry = fx.addEvent("SentryClips", "2024-06-01_15-05-00",
+                                           TeslaCamFixture::eventJson("2024-06-01T15:05:00", "sentry_aware_accel_0.52"));
         const QString clip = TestClips::ffmpegAvailable() ? TestClips::clip() : QString();
-        fx.addClip(sentry, QStringLiteral("2024-06-01_15-04-00"), QStringLiteral("front"), 0, clip);
-        fx.addClip(sentry, QStringLiteral("2024-06-01_15-04-00"), QStringLiteral("back"), 0);
-        fx.addEvent(QStringLiteral("SavedClips"), QStringLiteral("2024-06-02_09-00-00"),
-                    TeslaCamFixture::eventJson(QStringLiteral("2024-06-02T09:00:00"),
-                                               QStringLiteral("user_interaction_honk")));
+        fx.addClip(sentry, "2024-06-01_15-04-00", "front", 0, clip);
+        fx.addClip(sentry, "2024-06-01_15-04-00", "back", 0);
+        fx.addEvent("SavedClips", "2024-06-02_09-00-00", TeslaCamFixture::eventJson("2024-06-02T09:00:00", "user_interaction_honk"));
         root_ = fx.root();
     }
 

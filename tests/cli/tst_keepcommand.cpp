@@ -8,7 +8,6 @@
 #include "vault/VerificationLog.h"
 
 #include <QDir>
-#include <QDirIterator>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -18,12 +17,7 @@
 #include <QTest>
 
 #include <csignal>
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <thread>
 #include <unistd.h>
-
-using namespace std::chrono_literals;
 
 namespace {
 
@@ -74,10 +68,8 @@ private Q_SLOTS:
         const Result r = CliRun::run({"keep", drive_.root(), "--vault", vault.path()});
         QCOMPARE(r.exitCode, 0);
         const ArchiveReport report = parseReport(r.out);
-        QCOMPARE(report.archivedEvents.size(), size_t(3));
-        QVERIFY(!report.cancelled);
-        QVERIFY(report.failedFiles.empty());
-        QCOMPARE(report.plannedEvents, 3);
+        QCOMPARE(std::tuple(report.archivedEvents.size(), report.cancelled, report.failedFiles.size(), report.plannedEvents),
+                 std::tuple(size_t(3), false, size_t(0), 3));
         for (const ArchivedEvent &e : report.archivedEvents)
             QCOMPARE(e.expectedFileCount, std::optional(int(e.files.size())));
         QCOMPARE(VaultIndex::load(vault.path()).events, report.archivedEvents);
@@ -88,8 +80,7 @@ private Q_SLOTS:
         QCOMPARE(again.exitCode, 0);
         QVERIFY(again.out.contains("\n    "));
         const ArchiveReport second = parseReport(again.out);
-        QCOMPARE(second.skippedDuplicates, 3);
-        QVERIFY(second.archivedEvents.empty());
+        QCOMPARE(std::tuple(second.skippedDuplicates, second.archivedEvents.size()), std::tuple(3, size_t(0)));
     }
 
     void showsALiveProgressLineOnATerminal()
@@ -137,8 +128,6 @@ private Q_SLOTS:
         QVERIFY(r.err.contains("never writes"));
         QVERIFY(!QFileInfo::exists(drive_.root() + "/Vault"));
 
-        r = CliRun::run({"keep", drive_.root()});
-        QCOMPARE(r.exitCode, 64);
         // Bad time limits are refused in one sentence before anything is written.
         for (const char *limit : {"soon", "nan", "inf", "-inf", "0", "-1", "1e9", ""}) {
             r = CliRun::run({"keep", drive_.root(), "--vault", vault.filePath("untouched"), "--timeout", limit});
@@ -146,8 +135,6 @@ private Q_SLOTS:
             QCOMPARE(r.err.count('\n'), 1);
             QVERIFY(!QFileInfo::exists(vault.filePath("untouched")));
         }
-        r = CliRun::run({"vault", "list"});
-        QCOMPARE(r.exitCode, 64);
         // A Vault folder that isn't there, for every vault command: one sentence.
         for (const QStringList &command : {QStringList{"vault", "list", vault.filePath("missing")},
                                            QStringList{"vault", "verify", vault.filePath("missing")},
@@ -293,14 +280,9 @@ private Q_SLOTS:
         // One byte changed in one file, another file gone.
         const QString sentry = vault.filePath("2026/sentry/2026-07-18_09-15-32");
         const QStringList clips = DriveBuilder::clipNames("2026-07-18_09-15-32", 3);
-        {
-            QFile f(sentry + "/" + clips[0]);
-            QVERIFY(f.open(QIODevice::ReadWrite));
-            f.seek(1000);
-            const char c = f.read(1).at(0);
-            f.seek(1000);
-            f.write(QByteArray(1, char(c ^ 1)));
-        }
+        QByteArray changed = DriveBuilder::readQuietly(sentry + "/" + clips[0]);
+        changed[1000] = char(changed[1000] ^ 1);
+        TeslaCamFixture::writeFile(sentry + "/" + clips[0], changed);
         QVERIFY(QFile::remove(sentry + "/" + clips[2]));
         r = CliRun::run({"vault", "verify", vault.path()});
         QCOMPARE(r.exitCode, 1);

@@ -61,28 +61,23 @@ private Q_SLOTS:
             QSKIP("the ffmpeg tool is needed to make test clips");
         TeslaCamFixture fixture(dir_.filePath(QStringLiteral("drive/TeslaCam")));
         root_ = fixture.root();
-        const QString sentry = fixture.addEvent(QStringLiteral("SentryClips"), QStringLiteral("2026-05-03_22-00-00"),
-                                                TeslaCamFixture::eventJson(QStringLiteral("2026-05-03T22:00:00"),
-                                                                           QStringLiteral("sentry_aware_object_detection")));
+        const QString sentry = fixture.addEvent(
+            "SentryClips", "2026-05-03_22-00-00", TeslaCamFixture::eventJson("2026-05-03T22:00:00", "sentry_aware_object_detection"));
         const QString walked = dir_.filePath(QStringLiteral("walked.mp4"));
         const QString quiet = dir_.filePath(QStringLiteral("quiet.mp4"));
         ParkedScene::generate({20, 8, {{6, 9}}}, walked);
         ParkedScene::generate({20, 8, {}}, quiet);
-        fixture.addClip(sentry, QStringLiteral("2026-05-03_21-59-50"), QStringLiteral("left_repeater"), 0, walked);
-        fixture.addClip(sentry, QStringLiteral("2026-05-03_21-59-50"), QStringLiteral("back"), 0, quiet);
+        fixture.addClip(sentry, "2026-05-03_21-59-50", "left_repeater", 0, walked);
+        fixture.addClip(sentry, "2026-05-03_21-59-50", "back", 0, quiet);
 
-        TestClips::ClipOptions options;
-        options.width = 160;
-        options.height = 120;
-        options.seconds = 30;
         const QString drivingClip = dir_.filePath(QStringLiteral("driving.mp4"));
-        TelemetryClipWriter::remux(TestClips::clip(options), drivingClip, [](int, double t) {
+        const QString plain = TestClips::clip({.seconds = 30, .width = 160, .height = 120});
+        TelemetryClipWriter::remux(plain, drivingClip, [](int, double t) {
             return std::optional(TelemetryClipWriter::FrameRecord{driving(t)});
         });
-        const QString saved = fixture.addEvent(QStringLiteral("SavedClips"), QStringLiteral("2026-05-04_08-00-00"),
-                                               TeslaCamFixture::eventJson(QStringLiteral("2026-05-04T08:00:25"),
-                                                                          QStringLiteral("user_interaction_honk")));
-        fixture.addClip(saved, QStringLiteral("2026-05-04_08-00-00"), QStringLiteral("front"), 0, drivingClip);
+        const QString saved = fixture.addEvent(
+            "SavedClips", "2026-05-04_08-00-00", TeslaCamFixture::eventJson("2026-05-04T08:00:25", "user_interaction_honk"));
+        fixture.addClip(saved, "2026-05-04_08-00-00", "front", 0, drivingClip);
         before_ = TreeSnapshot::take(root_);
     }
 
@@ -105,8 +100,7 @@ private Q_SLOTS:
 
     void everyScriptedMomentOfTheDriveAndNoOther()
     {
-        const CliRun::Result run = moments({root_, QStringLiteral("--event"), savedId, QStringLiteral("--format"),
-                                            QStringLiteral("json")});
+        const CliRun::Result run = moments({root_, "--event", savedId, "--format", "json"});
         QCOMPARE(run.exitCode, 0);
         const QJsonArray found = QJsonDocument::fromJson(run.out).object().value(QStringLiteral("moments")).toArray();
         QStringList kinds;
@@ -123,8 +117,7 @@ private Q_SLOTS:
 
     void csvHasOneRowPerBurstOrMoment()
     {
-        const CliRun::Result sentry = moments({root_, QStringLiteral("--event"), sentryId, QStringLiteral("--format"),
-                                               QStringLiteral("csv")});
+        const CliRun::Result sentry = moments({root_, "--event", sentryId, "--format", "csv"});
         QCOMPARE(sentry.exitCode, 0);
         const QStringList rows = QString::fromUtf8(sentry.out).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
         QCOMPARE(rows.value(0), QStringLiteral("type,camera,start,end,peak,time,kind,speed_mps"));
@@ -133,24 +126,18 @@ private Q_SLOTS:
         QCOMPARE(rows[1].count(QLatin1Char(',')), 7);
         QVERIFY(rows[1].endsWith(QStringLiteral(",,,")));
 
-        const CliRun::Result saved = moments({root_, QStringLiteral("--event"), savedId, QStringLiteral("--format"),
-                                              QStringLiteral("csv")});
+        const CliRun::Result saved = moments({root_, "--event", savedId, "--format", "csv"});
         const QStringList drive = QString::fromUtf8(saved.out).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
         QCOMPARE(drive.size(), 4);
         QVERIFY(drive[2].startsWith(QStringLiteral("moment,,,,,")));
         QVERIFY(drive[2].contains(QStringLiteral(",hardBraking,")));
     }
 
-    void mistakesAreSaidPlainly()
+    void anUnknownEventIsSaidPlainly()
     {
-        const CliRun::Result format = moments({root_, QStringLiteral("--event"), sentryId, QStringLiteral("--format"),
-                                               QStringLiteral("gpx")});
-        QCOMPARE(format.exitCode, 64);
-        QVERIFY(format.err.contains(QStringLiteral("json or csv")));
-        const CliRun::Result missing = moments({root_, QStringLiteral("--event"), QStringLiteral("sentry|2020-01-01_00-00-00")});
+        const CliRun::Result missing = moments({root_, "--event", "sentry|2020-01-01_00-00-00"});
         QCOMPARE(missing.exitCode, 2);
         QVERIFY(!missing.err.isEmpty());
-        QCOMPARE(moments({root_}).exitCode, 64);
     }
 
     void cleanupTestCase()

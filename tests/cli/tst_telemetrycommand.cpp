@@ -74,29 +74,22 @@ private Q_SLOTS:
     {
         if (!TestClips::ffmpegAvailable())
             QSKIP("the ffmpeg tool is needed to make test clips");
-        TestClips::ClipOptions options;
-        options.width = 160;
-        options.height = 120;
-        options.seconds = 3.0;
-        const QString plain = TestClips::clip(options);
+        const QString plain = TestClips::clip({.seconds = 3.0, .width = 160, .height = 120});
         TeslaCamFixture fixture(path(QStringLiteral("drive/TeslaCam")));
         root_ = fixture.root();
         const QString saved = fixture.addEvent(
-            QStringLiteral("SavedClips"), QStringLiteral("2024-06-02_09-00-00"),
-            TeslaCamFixture::eventJson(QStringLiteral("2024-06-02T09:00:00"), QStringLiteral("user_interaction_honk")));
+            "SavedClips", "2024-06-02_09-00-00", TeslaCamFixture::eventJson("2024-06-02T09:00:00", "user_interaction_honk"));
         for (int clip = 0; clip < 2; ++clip) {
             const QString source = path(QStringLiteral("records-%1.mp4").arg(clip));
             // The first clip's header says it began at 13:59 UTC (the car's
             // clock in its name is five hours behind); the second's says nothing.
             TelemetryClipWriter::remux(plain, source, [clip](int frame, double) { return record(clip, frame); }, false,
                                        clip ? QString() : QStringLiteral("2024-06-02T13:59:00Z"));
-            fixture.addClip(saved, clip ? QStringLiteral("2024-06-02_08-59-10") : QStringLiteral("2024-06-02_08-59-00"),
-                            QStringLiteral("front"), 0, source);
+            fixture.addClip(saved, clip ? "2024-06-02_08-59-10" : "2024-06-02_08-59-00", "front", 0, source);
         }
-        fixture.addClip(saved, QStringLiteral("2024-06-02_08-59-00"), QStringLiteral("back"), 0, plain);
-        const QString sentry = fixture.addEvent(QStringLiteral("SentryClips"), QStringLiteral("2024-06-01_15-05-00"),
-                                                TeslaCamFixture::eventJson(QStringLiteral("2024-06-01T15:05:00"),
-                                                                           QStringLiteral("sentry_aware_object_detection")));
+        fixture.addClip(saved, "2024-06-02_08-59-00", "back", 0, plain);
+        const QString sentry = fixture.addEvent(
+            "SentryClips", "2024-06-01_15-05-00", TeslaCamFixture::eventJson("2024-06-01T15:05:00", "sentry_aware_object_detection"));
         fixture.addClip(sentry, QStringLiteral("2024-06-01_15-04-00"), QStringLiteral("front"), 0, plain);
         before_ = TreeSnapshot::take(root_);
     }
@@ -131,8 +124,7 @@ private Q_SLOTS:
 
     void jsonCarriesTheSameFields()
     {
-        const CliRun::Result run = cli({root_, QStringLiteral("--event"), savedId, QStringLiteral("--format"),
-                                        QStringLiteral("json")});
+        const CliRun::Result run = cli({root_, "--event", savedId, "--format", "json"});
         QCOMPARE(run.exitCode, 0);
         const QJsonObject doc = QJsonDocument::fromJson(run.out).object();
         QCOMPARE(doc.value(QStringLiteral("event")).toString(), savedId);
@@ -192,8 +184,7 @@ private Q_SLOTS:
     void theSameFromTheVault()
     {
         const QString vault = path(QStringLiteral("Vault"));
-        const CliRun::Result kept = CliRun::run({QStringLiteral("keep"), root_, QStringLiteral("--vault"), vault,
-                                                 QStringLiteral("--event"), savedId});
+        const CliRun::Result kept = CliRun::run({"keep", root_, "--vault", vault, "--event", savedId});
         QCOMPARE(kept.exitCode, 0);
         const CliRun::Result fromDrive = cli({root_, QStringLiteral("--event"), savedId});
         const CliRun::Result fromVault = cli({vault, QStringLiteral("--event"), savedId});
@@ -237,7 +228,6 @@ private Q_SLOTS:
         QCOMPARE(run.err.trimmed(),
                  QStringLiteral("Keelhold never writes to your Tesla drive, so save the driving data somewhere else."));
         QVERIFY(!QFile::exists(inside));
-        QCOMPARE(cli({root_}).exitCode, 64);
         const QString changes = before_.differences(TreeSnapshot::take(root_), true);
         QVERIFY2(changes.isEmpty(), qPrintable(changes));
     }

@@ -1,14 +1,10 @@
 #include "crypt/KeyStore.h"
-#include "media/MediaClip.h"
-
-extern "C" {
-#include <libavformat/avformat.h>
-}
 #include "support/CliRun.h"
 #include "support/DriveBuilder.h"
 #include "support/EncryptedDrive.h"
 #include "support/IsolatedHome.h"
 #include "support/KeyServiceStandIn.h"
+#include "support/MovieFacts.h"
 #include "support/SecretStoreSession.h"
 #include "support/TestClips.h"
 #include "support/TreeSnapshot.h"
@@ -48,16 +44,6 @@ QProcessEnvironment withoutSecretStore()
 CliRun::Result cli(const QStringList &arguments)
 {
     return CliRun::run(arguments, withoutSecretStore());
-}
-
-CliRun::Result cliWithInput(const QStringList &arguments, const QByteArray &input)
-{
-    QProcess process;
-    process.setProcessEnvironment(withoutSecretStore());
-    process.start(QStringLiteral(KEELHOLD_CLI_PATH), arguments);
-    process.write(input);
-    process.closeWriteChannel();
-    return CliRun::finish(process);
 }
 
 constexpr auto readAll = &DriveBuilder::readQuietly;
@@ -145,7 +131,12 @@ private Q_SLOTS:
         QVERIFY(service_.requests()[0].authorised);
         QCOMPARE(service_.requests()[0].items, 0);
 
-        const auto piped = cliWithInput({"unlock", "--token-file", "-"}, token + "\n");
+        QProcess pipe;
+        pipe.setProcessEnvironment(withoutSecretStore());
+        pipe.start(QStringLiteral(KEELHOLD_CLI_PATH), {"unlock", "--token-file", "-"});
+        pipe.write(token + "\n");
+        pipe.closeWriteChannel();
+        const auto piped = CliRun::finish(pipe);
         QCOMPARE(piped.exitCode, 0);
 
         const QString stale = dir_.filePath(QStringLiteral("stale.txt"));
@@ -157,7 +148,6 @@ private Q_SLOTS:
         const auto onTheLine = cli({"unlock", QString::fromLatin1(token)});
         QCOMPARE(onTheLine.exitCode, 64);
         QVERIFY(!onTheLine.err.contains(QString::fromLatin1(token)));
-        QCOMPARE(cli({"unlock"}).exitCode, 64);
         QCOMPARE(cli({"unlock", "--token-file", dir_.filePath("missing.txt")}).exitCode, 2);
         QCOMPARE(cli({"unlock", "--forget"}).exitCode, 2); // no store to forget in
         for (const auto *r : {&accepted, &piped, &refused})
@@ -214,10 +204,9 @@ private Q_SLOTS:
         const auto r = cli({"export", drive_->root(), "--event", EncryptedDrive::sentryID, "--camera", "front", "-o",
                             movie});
         QVERIFY2(r.exitCode == 0, qPrintable(r.err));
-        const auto exported = MediaClip::open(movie, {}, MediaClip::Options{});
-        QVERIFY(exported->isOpened() && exported->video());
-        const auto source = MediaClip::open(plain_, {}, MediaClip::Options{});
-        QCOMPARE(exported->video()->codecpar->width, source->video()->codecpar->width);
+        const MovieFacts exported = MovieFacts::read(movie, false);
+        QVERIFY(exported.firstOf("video"));
+        QCOMPARE(exported.firstOf("video")->width, MovieFacts::read(plain_, false).firstOf("video")->width);
 
         // Still locked without its key, the same camera of another event is no movie.
         const auto locked = cli({"export", drive_->root(), "--event", EncryptedDrive::recentID, "--camera", "front",

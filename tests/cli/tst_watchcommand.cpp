@@ -1,7 +1,9 @@
+#include "support/CliRun.h"
 #include "support/DriveBuilder.h"
 #include "support/IsolatedHome.h"
 #include "support/MountedVolume.h"
 #include "support/NotificationServiceStandIn.h"
+#include "support/ProgramRun.h"
 #include "support/TmpfsMount.h"
 
 #include <QDir>
@@ -17,13 +19,13 @@ namespace {
 // keelhold-cli watch in its own process, its output gathered as it comes.
 class Watch {
 public:
-    explicit Watch(const QStringList &arguments, const QString &program = QStringLiteral(KEELHOLD_CLI_PATH))
+    explicit Watch(const QStringList &arguments)
     {
         QObject::connect(&process_, &QProcess::readyReadStandardOutput,
                          [this] { out_ += QString::fromUtf8(process_.readAllStandardOutput()); });
         QObject::connect(&process_, &QProcess::readyReadStandardError,
                          [this] { err_ += QString::fromUtf8(process_.readAllStandardError()); });
-        process_.start(program, arguments);
+        process_.start(QStringLiteral(KEELHOLD_CLI_PATH), arguments);
     }
     ~Watch()
     {
@@ -73,8 +75,7 @@ private Q_SLOTS:
         QTemporaryDir vault;
 
         // Only this test's drive, whatever else is mounted on the machine.
-        Watch watch({QStringLiteral("watch"), QStringLiteral("--vault"), vault.path(), QStringLiteral("--under"),
-                     drive.path()});
+        Watch watch({"watch", "--vault", vault.path(), "--under", drive.path()});
         QTRY_VERIFY_WITH_TIMEOUT(watch.err().contains(QStringLiteral("Watching for TeslaCam drives")), 20000);
 
         QVERIFY(drive.plugIn());
@@ -114,8 +115,7 @@ private Q_SLOTS:
         if (!vault.ok())
             QSKIP("could not mount a small tmpfs");
 
-        Watch watch({QStringLiteral("watch"), QStringLiteral("--vault"), vault.path(), QStringLiteral("--under"),
-                     drive.path()});
+        Watch watch({"watch", "--vault", vault.path(), "--under", drive.path()});
         QTRY_VERIFY_WITH_TIMEOUT(watch.err().contains(QStringLiteral("Watching")), 20000);
         QVERIFY(drive.plugIn());
         QTRY_COMPARE_WITH_TIMEOUT(watch.lines().size(), 1, 60000);
@@ -146,21 +146,16 @@ private Q_SLOTS:
         TeslaCamFixture::writeFile(copy, unit.toUtf8());
         QDir(dir.path()).mkdir(QStringLiteral("run"));
         QFile::setPermissions(dir.filePath(QStringLiteral("run")), QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
-        QProcess verify;
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
         env.insert(QStringLiteral("XDG_RUNTIME_DIR"), dir.filePath(QStringLiteral("run")));
-        verify.setProcessEnvironment(env);
-        verify.start(QStringLiteral("systemd-analyze"), {QStringLiteral("verify"), QStringLiteral("--user"),
-                                                         QStringLiteral("--man=no"), copy});
-        QVERIFY(verify.waitForFinished(60000));
-        const QString complaints = QString::fromUtf8(verify.readAllStandardError());
-        QVERIFY2(verify.exitCode() == 0 && complaints.isEmpty(), qPrintable(complaints));
+        const ProgramRun::Result verify =
+            ProgramRun::run(QStringLiteral("systemd-analyze"), {"verify", "--user", "--man=no", copy}, env);
+        QVERIFY2(verify.exitCode == 0 && verify.err.isEmpty(), qPrintable(verify.err));
 
         // The command itself, with no Vault chosen yet: a sentence, not a hang.
-        Watch unchosen(command.captured(2).split(QLatin1Char(' ')));
-        QVERIFY(unchosen.process().waitForFinished(20000));
-        QCOMPARE(unchosen.process().exitCode(), 2);
-        QTRY_VERIFY(unchosen.err().contains(QStringLiteral("No Vault folder is chosen yet")));
+        const CliRun::Result unchosen = CliRun::run(command.captured(2).split(QLatin1Char(' ')));
+        QCOMPARE(unchosen.exitCode, 2);
+        QVERIFY(unchosen.err.contains(QStringLiteral("No Vault folder is chosen yet")));
 
         // With the app's choice in this home's settings.
         QTemporaryDir vault;

@@ -1,9 +1,10 @@
 #include "drive/DriveIdentity.h"
 #include "drive/TeslaCamParser.h"
+#include "support/MountedVolume.h"
+#include "support/ProgramRun.h"
 #include "support/TeslaCamFixture.h"
 #include "support/TreeSnapshot.h"
 
-#include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -12,12 +13,10 @@
 namespace {
 QString run(const QString &program, const QStringList &args, int *exitCode = nullptr)
 {
-    QProcess p;
-    p.start(program, args);
-    p.waitForFinished(60000);
+    const ProgramRun::Result r = ProgramRun::run(program, args);
     if (exitCode)
-        *exitCode = p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1;
-    return QString::fromUtf8(p.readAllStandardOutput()).trimmed();
+        *exitCode = r.exitCode;
+    return QString::fromUtf8(r.out).trimmed();
 }
 } // namespace
 
@@ -77,9 +76,8 @@ private Q_SLOTS:
         const TreeSnapshot before = TreeSnapshot::take(fx.root());
 
         const DriveScan scan = TeslaCamParser::scan(fx.root());
-        QCOMPARE(scan.format, VolumeFormat(VolumeFormat::exFAT));
-        QCOMPARE(scan.format.displayName(), QStringLiteral("exFAT"));
-        QCOMPARE(scan.volumeName, QStringLiteral("TESLA CAM"));
+        QCOMPARE(std::tuple(scan.format, scan.format.displayName(), scan.volumeName),
+                 std::tuple(VolumeFormat(VolumeFormat::exFAT), QStringLiteral("exFAT"), QStringLiteral("TESLA CAM")));
         QVERIFY(scan.capacityBytes);
         // The volume's size, within the file system's own overhead.
         QVERIFY2(*scan.capacityBytes > 90LL * 1024 * 1024 && *scan.capacityBytes <= 96LL * 1024 * 1024,
@@ -97,9 +95,8 @@ private Q_SLOTS:
     {
         const auto first = DriveIdentity::of(mountPoint_ + "/TeslaCam");
         QVERIFY(first);
-        QCOMPARE(first->mountPoint, mountPoint_);
+        QCOMPARE(std::pair(first->mountPoint, first->drive.name), std::pair(mountPoint_, QStringLiteral("TESLA CAM")));
         QVERIFY(first->drive.uuid && !first->drive.uuid->isEmpty());
-        QCOMPARE(first->drive.name, QStringLiteral("TESLA CAM"));
 
         int code = 0;
         run("umount", {mountPoint_}, &code);
@@ -115,22 +112,13 @@ private Q_SLOTS:
         QCOMPARE(again->mountPoint, mountPoint_);
         QVERIFY(again->drive.isSameDrive(first->drive));
 
-        const QString otherImage = tmp_.path() + "/other.img";
-        run("truncate", {"-s", "96M", otherImage}, &code);
-        run("mkfs.exfat", {"-L", "TESLA CAM", otherImage}, &code);
-        QCOMPARE(code, 0);
-        const QString otherLoop = run("losetup", {"-f", "--show", otherImage}, &code);
-        if (code != 0 || otherLoop.isEmpty())
-            QSKIP("no second free loop device here");
-        const QString otherMount = tmp_.path() + "/other";
-        QDir().mkpath(otherMount);
-        run("mount.exfat-fuse", {otherLoop, otherMount}, &code);
-        const auto other = code == 0 ? DriveIdentity::of(otherMount) : std::nullopt;
-        run("umount", {otherMount});
-        run("losetup", {"-d", otherLoop});
+        const MountedVolume otherDrive(QStringLiteral("exfat"), QStringLiteral("TESLA CAM"), 96LL * 1024 * 1024);
+        if (!otherDrive.ok())
+            QSKIP("no second exFAT drive could be mounted here");
+        const auto other = DriveIdentity::of(otherDrive.path());
         QVERIFY(other);
-        QCOMPARE(other->drive.name, first->drive.name);
-        QCOMPARE(other->drive.capacityBytes, first->drive.capacityBytes);
+        QCOMPARE(std::pair(other->drive.name, other->drive.capacityBytes),
+                 std::pair(first->drive.name, first->drive.capacityBytes));
         QVERIFY(other->drive.uuid != first->drive.uuid);
         QVERIFY(!other->drive.isSameDrive(first->drive));
     }

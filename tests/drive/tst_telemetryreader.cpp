@@ -126,9 +126,23 @@ private Q_SLOTS:
         QCOMPARE(track->wallClock(0.5), Date(0.5));
     }
 
+    void aBadRecordCostsItsFrameOnly_data()
+    {
+        QTest::addColumn<QString>("codec");
+        QTest::addColumn<int>("frames");
+        QTest::newRow("H.264") << QStringLiteral("libx264") << 72;
+        QTest::newRow("H.265") << QStringLiteral("libx265") << 36;
+    }
+
     void aBadRecordCostsItsFrameOnly()
     {
-        const QString path = writeClip(QStringLiteral("damaged.mp4"), [](int frame, double) -> std::optional<FrameRecord> {
+        QFETCH(QString, codec);
+        QFETCH(int, frames);
+        TestClips::ClipOptions options = smallClip();
+        options.codec = codec;
+        options.seconds = frames / 36.0;
+        const QString name = codec + QStringLiteral("-damaged.mp4");
+        const QString path = writeClip(name, [](int frame, double) -> std::optional<FrameRecord> {
             FrameRecord record{driving(frame)};
             switch (frame) {
             case 5: return std::nullopt;
@@ -142,10 +156,10 @@ private Q_SLOTS:
             case 10: record.markerLength = 7; break;
             }
             return record;
-        });
+        }, options);
         const auto track = TelemetryReader::readClip(clipAt(path));
         QVERIFY(track);
-        QCOMPARE(std::tuple(track->frameTimes.size(), track->records.size()), std::tuple(size_t(72), size_t(72 - 4)));
+        QCOMPARE(std::tuple(track->frameTimes.size(), track->records.size()), std::tuple(size_t(frames), size_t(frames - 4)));
         for (int frame = 5; frame <= 8; ++frame) {
             QVERIFY(!track->recordOfFrame(frame));
             QVERIFY(!track->recordAt(frame / 36.0 + 0.001));
@@ -198,23 +212,6 @@ private Q_SLOTS:
         QVERIFY(!TelemetryReader::readClip(clipAt(fifo)));
     }
 
-    void h265ClipsToo()
-    {
-        TestClips::ClipOptions options = smallClip();
-        options.codec = QStringLiteral("libx265");
-        options.seconds = 1.0;
-        const QString path = writeClip(QStringLiteral("hevc.mp4"), [](int frame, double) -> std::optional<FrameRecord> {
-            if (frame == 3)
-                return std::nullopt;
-            return FrameRecord{driving(frame)};
-        }, options);
-        const auto track = TelemetryReader::readClip(clipAt(path));
-        QVERIFY(track);
-        QCOMPARE(std::tuple(track->frameTimes.size(), track->records.size()), std::tuple(size_t(36), size_t(35)));
-        QVERIFY(!track->recordOfFrame(3));
-        QVERIFY(sameFields(*track->recordOfFrame(20), driving(20)));
-    }
-
     // A drive that fails with EIO part-way through a clip: the frames
     // before the failure keep their records.
     void aReadFailingPartWayKeepsWhatCameBefore()
@@ -232,8 +229,7 @@ private Q_SLOTS:
         fs.failReadsFrom(QStringLiteral("clip.mp4"), bytes.size() * 2 / 3);
         const auto track = TelemetryReader::readClip(clipAt(mount.filePath(QStringLiteral("clip.mp4"))));
         QVERIFY(track);
-        QVERIFY(track->records.size() > 10);
-        QVERIFY(track->records.size() < 72);
+        QVERIFY2(track->records.size() > 10 && track->records.size() < 72, qPrintable(QString::number(track->records.size())));
         QVERIFY(sameFields(track->records[5], driving(5)));
     }
 

@@ -146,10 +146,9 @@ private Q_SLOTS:
 
         QVERIFY(MountTable::parse(QByteArray()).empty());
         QVERIFY(MountTable::parse("garbage\n1 2 3\n- - -\n").empty());
-    }
-    void removableMountsOnlyBelowTheMediaFolders()
-    {
-        const std::vector<MountTable::Entry> removable = MountTable::removableMounts(MountTable::parse(recordedTable));
+
+        // Removable mounts are only those below the media folders.
+        const std::vector<MountTable::Entry> removable = MountTable::removableMounts(table);
         QStringList points;
         for (const auto &e : removable)
             points << e.mountPoint;

@@ -89,10 +89,8 @@ private Q_SLOTS:
                                                   ++reports;
                                               })
                                    .result();
-        QVERIFY(reports.load() > 0);
-        QVERIFY(reportedOn.load() != QThread::currentThread());
-        QCOMPARE(scan.teslaCamURL, drivePath());
-        QCOMPARE(scan.events.size(), size_t(10));
+        QVERIFY(reports.load() > 0 && reportedOn.load() != QThread::currentThread());
+        QCOMPARE(std::pair(scan.teslaCamURL, scan.events.size()), std::pair(drivePath(), size_t(10)));
         QVERIFY(findEvent(scan.events, sentry_.id()));
     }
     // Errors cross the pools as the types the screens tell apart.
@@ -135,8 +133,7 @@ private Q_SLOTS:
             handle = future;
         }
         QTRY_VERIFY_WITH_TIMEOUT(future.isFinished(), 20000);
-        QVERIFY(future.isCanceled());
-        QVERIFY(cancelled.load());
+        QVERIFY(future.isCanceled() && cancelled.load());
         // The work really stopped: the run merged what it had done and no more.
         QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(vault + QStringLiteral("/manifest.json")), 5000);
         QVERIFY(engine_.loadVaultIndex(vault).events.size() < total);
@@ -190,8 +187,7 @@ private Q_SLOTS:
                                 complete = complete || p.complete;
                             })
             .waitForFinished();
-        QVERIFY(complete.load());
-        QVERIFY(reportedOn.load() != QThread::currentThread());
+        QVERIFY(complete.load() && reportedOn.load() != QThread::currentThread());
         QVERIFY(QFileInfo(movie).size() > 1000);
 
         // Cancelling the future once frames are going: no movie, nothing hidden.

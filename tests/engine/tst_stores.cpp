@@ -3,6 +3,7 @@
 
 #include "support/DriveBuilder.h"
 #include "support/IsolatedHome.h"
+#include "support/ProgramRun.h"
 #include "support/TeslaCamFixture.h"
 #include "drive/TeslaCamParser.h"
 #include "engine/BookmarkStore.h"
@@ -13,12 +14,9 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 #include <QSettings>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QtConcurrent/QtConcurrentRun>
@@ -141,12 +139,9 @@ private Q_SLOTS:
         // same isolated home, as the application does.
         const QString file = TriageStore::shared().filePath();
         QFile::remove(file);
-        QProcess child;
-        child.start(QCoreApplication::applicationFilePath(),
-                    {QStringLiteral("--set-triage"), QStringLiteral("saved|2024-06-01_15-05-30"), QStringLiteral("kept"),
-                     QStringLiteral("sentry|2024-06-02_08-00-00"), QStringLiteral("new")});
-        QVERIFY(child.waitForFinished(30000));
-        QCOMPARE(child.exitCode(), 0);
+        const QStringList marks{QStringLiteral("--set-triage"), QStringLiteral("saved|2024-06-01_15-05-30"), QStringLiteral("kept"),
+                                QStringLiteral("sentry|2024-06-02_08-00-00"), QStringLiteral("new")};
+        QCOMPARE(ProgramRun::run(QCoreApplication::applicationFilePath(), marks).exitCode, 0);
 
         // `new` is stored like any other state, not dropped.
         QCOMPARE(readObject(file),

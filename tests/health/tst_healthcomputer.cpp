@@ -76,7 +76,7 @@ class TestHealthComputer : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void emptyDriveIsAllGood()
+    void emptyDriveIsAllGoodAndFullnessNeedsItsFigures()
     {
         const HealthReport r = HealthComputer::compute(scan(), VaultIndex());
         QVERIFY(!r.fullnessFraction.has_value());
@@ -88,16 +88,14 @@ private Q_SLOTS:
         DriveScan s = scan();
         s.encryptedClipsPresent = true;
         const HealthReport encrypted = HealthComputer::compute(s, {});
-        QVERIFY(encrypted.encryptedClipsPresent);
-        QCOMPARE(ids(encrypted), QStringList{QStringLiteral("encrypted")});
-    }
-    void fullnessNeedsBothFiguresAndACapacity()
-    {
+        QCOMPARE(std::pair(encrypted.encryptedClipsPresent, ids(encrypted)), std::pair(true, QStringList{"encrypted"}));
+
+        // Fullness needs both figures and a capacity.
         QVERIFY(!HealthComputer::compute(scan({}, VolumeFormat::exFAT, qint64(0), qint64(0)), {}).fullnessFraction);
         QVERIFY(!HealthComputer::compute(scan({}, VolumeFormat::exFAT, qint64(100), std::nullopt), {}).fullnessFraction);
         QVERIFY(!HealthComputer::compute(scan({}, VolumeFormat::exFAT, std::nullopt, qint64(5)), {}).fullnessFraction);
-        const HealthReport r = HealthComputer::compute(scan({}, VolumeFormat::exFAT, qint64(400), qint64(100)), {});
-        QCOMPARE(r.fullnessFraction, std::optional<double>(0.75));
+        QCOMPARE(HealthComputer::compute(scan({}, VolumeFormat::exFAT, qint64(400), qint64(100)), {}).fullnessFraction,
+                 std::optional<double>(0.75));
     }
     void fullnessThresholdsUseTheUnroundedFraction_data()
     {
@@ -118,8 +116,7 @@ private Q_SLOTS:
         QFETCH(QString, id);
         QFETCH(QString, title);
         const HealthReport r = HealthComputer::compute(filled(used), {});
-        QCOMPARE(ids(r), QStringList{id});
-        QCOMPARE(r.recommendations.front().title, title);
+        QCOMPARE(std::pair(ids(r), r.recommendations.front().title), std::pair(QStringList{id}, title));
     }
     void damagedClipTitlesAndSeverities_data()
     {
@@ -144,9 +141,9 @@ private Q_SLOTS:
         VaultIndex vault;
         vault.events.push_back(record(e, {}));
         const HealthReport r = HealthComputer::compute(scan({e}), vault);
-        QCOMPARE(r.unarchivedEventCount, 0);
-        QCOMPARE(ids(r), QStringList{id});
-        QCOMPARE(std::pair(r.recommendations.front().title, int(r.recommendations.front().severity)), std::pair(title, severity));
+        const Recommendation &first = r.recommendations.front();
+        QCOMPARE(std::tuple(r.unarchivedEventCount, ids(r), first.title, int(first.severity)),
+                 std::tuple(0, QStringList{id}, title, severity));
     }
     void probedAndCorruptCounts()
     {
@@ -154,9 +151,9 @@ private Q_SLOTS:
                                    {clip(ClipHealth::unknown), clip(ClipHealth::ok), clip(ClipHealth::encrypted),
                                     clip(ClipHealth::timedOut), clip(ClipHealth::zeroByte), clip(ClipHealth::unreadable)});
         const HealthReport r = HealthComputer::compute(scan({e, teslaEvent("2024-01-02_10-00-00", {clip(ClipHealth::truncated)})}), {});
-        // Encrypted counts as probed but not as damage; timed out counts as both.
-        QCOMPARE(r.probedClipCount, 6);
-        QCOMPARE(r.corruptClipCount, 4); // the unprobed one is neither
+        // Encrypted counts as probed but not as damage; timed out counts as
+        // both; the unprobed one is neither.
+        QCOMPARE(std::pair(r.probedClipCount, r.corruptClipCount), std::pair(6, 4));
     }
     void warningsComeFirstAndTableOrderHolds()
     {
@@ -180,14 +177,13 @@ private Q_SLOTS:
         vault.events.push_back(record(a, {ArchivedFile{QStringLiteral("clip-0.mp4"), 30000000, QString(64, '0')}}));
         vault.events.push_back(record(b, {ArchivedFile{QStringLiteral("clip-0.mp4"), 30000000, QString(64, '0')}}));
         const HealthReport both = HealthComputer::compute(scan({a, b}), vault);
-        QCOMPARE(both.unarchivedEventCount, 2);
-        QCOMPARE(ids(both), QStringList{QStringLiteral("backup-new")});
-        QCOMPARE(both.recommendations.front().title, QStringLiteral("Back up 2 new events"));
+        QCOMPARE(std::tuple(both.unarchivedEventCount, ids(both), both.recommendations.front().title),
+                 std::tuple(2, QStringList{"backup-new"}, QStringLiteral("Back up 2 new events")));
         // A record without files matches, whatever its volume or dates say.
         vault.events.push_back(record(b, {}));
         const HealthReport r = HealthComputer::compute(scan({a, b}), vault);
-        QCOMPARE(r.unarchivedEventCount, 1);
-        QCOMPARE(r.recommendations.front().title, QStringLiteral("Back up 1 new event"));
+        QCOMPARE(std::pair(r.unarchivedEventCount, r.recommendations.front().title),
+                 std::pair(1, QStringLiteral("Back up 1 new event")));
         // The kind takes part in the match.
         TeslaEvent sameFolderOtherKind = b;
         sameFolderOtherKind.kind = EventKind::sentry;

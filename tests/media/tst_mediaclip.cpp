@@ -17,7 +17,6 @@ extern "C" {
 #include <libavutil/log.h>
 }
 
-#include <QDateTime>
 #include <QFile>
 #include <QImage>
 #include <QScopeGuard>

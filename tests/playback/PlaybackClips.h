@@ -21,19 +21,12 @@ constexpr double clipSeconds = 3.0;
 // Lossless flat frames: luma = 20 + 2 × frame index, Cb by clip, Cr by camera.
 inline QString frameClip(int camera, int clip, double seconds = clipSeconds, int width = 160, int height = 120)
 {
-    TestClips::ClipOptions options;
-    options.seconds = seconds;
-    options.width = width;
-    options.height = height;
-    options.fps = fps;
-    options.gop = fps;
-    options.pattern = QStringLiteral("nullsrc");
-    options.filter = QStringLiteral("format=yuv420p,geq=lum='min(20+2*N,234)':cb=%1:cr=%2")
-                      .arg(50 + 30 * clip)
-                      .arg(60 + 25 * camera);
-    options.lossless = true;
-    options.pixelFormat = QStringLiteral("yuv420p");
-    return TestClips::clip(options);
+    return TestClips::clip({.seconds = seconds, .width = width, .height = height, .fps = fps,
+                            .pixelFormat = QStringLiteral("yuv420p"), .gop = fps, .pattern = QStringLiteral("nullsrc"),
+                            .filter = QStringLiteral("format=yuv420p,geq=lum='min(20+2*N,234)':cb=%1:cr=%2")
+                                          .arg(50 + 30 * clip)
+                                          .arg(60 + 25 * camera),
+                            .lossless = true});
 }
 
 struct FrameId {

@@ -1,10 +1,10 @@
 #include "report/EvidencePackage.h"
 
-#include "base/CancellationError.h"
 #include "base/IOWatchdog.h"
 #include "report/ReportError.h"
 #include "support/DriveBuilder.h"
 #include "support/FaultyFs.h"
+#include "support/ProgramRun.h"
 #include "support/TestClips.h"
 #include "support/TmpfsMount.h"
 #include "support/TreeSnapshot.h"
@@ -12,7 +12,6 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QProcess>
 #include <QScopeGuard>
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -42,8 +41,7 @@ struct Sources {
     }
 };
 
-// The message of the ReportError that write threw; "cancelled" for a stop,
-// an empty string when it didn't fail.
+// The message of the ReportError that write threw; empty when it didn't fail.
 QString failureOf(const std::vector<Item> &items, const QString &destination,
                   const EvidencePackage::Options &options = {})
 {
@@ -51,8 +49,6 @@ QString failureOf(const std::vector<Item> &items, const QString &destination,
         EvidencePackage::write(items, destination, options);
     } catch (const ReportError &e) {
         return e.message().isEmpty() ? QStringLiteral("(empty message)") : e.message();
-    } catch (const CancellationError &) {
-        return QStringLiteral("cancelled");
     }
     return {};
 }
@@ -63,23 +59,14 @@ QStringList namesIn(const QString &folder)
     return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
 }
 
-struct Run {
-    int exitCode = -1;
-    QString out;
-};
-
-Run runIn(const QString &folder, const QString &program, const QStringList &arguments)
+// What a tool run in folder said, out and errors; its exit code, -1 for a crash.
+// Info-ZIP's unzip spells non-ASCII names as "#U00fc" outside a UTF-8 locale.
+std::pair<int, QString> runIn(const QString &folder, const QString &program, const QStringList &arguments)
 {
-    QProcess p;
-    p.setWorkingDirectory(folder);
-    // Info-ZIP's unzip spells non-ASCII names as "#U00fc" outside a UTF-8 locale.
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
-    p.setProcessEnvironment(environment);
-    p.start(program, arguments);
-    if (!p.waitForFinished(120000) || p.exitStatus() != QProcess::NormalExit)
-        return {};
-    return {p.exitCode(), QString::fromUtf8(p.readAllStandardOutput() + p.readAllStandardError())};
+    const QStringList inFolder{QStringLiteral("--chdir=") + folder, QStringLiteral("LC_ALL=C.UTF-8"), program};
+    const ProgramRun::Result run =
+        ProgramRun::run(QStringLiteral("env"), inFolder + arguments, QProcessEnvironment::systemEnvironment(), 120000);
+    return {run.exitCode, QString::fromUtf8(run.out) + run.err};
 }
 
 constexpr auto contentOf = &DriveBuilder::readQuietly;
@@ -123,19 +110,19 @@ private Q_SLOTS:
         QVERIFY(progress.front() > 0.0 && progress.front() < 1.0);
         QCOMPARE(progress.back(), 1.0);
 
-        const Run listing = runIn(out.path(), QStringLiteral("unzip"), {QStringLiteral("-v"), destination});
-        QCOMPARE(listing.exitCode, 0);
-        QCOMPARE(listing.out.count(QStringLiteral(" Stored ")), int(sources.items.size()) + 1);
-        QVERIFY2(!listing.out.contains(QStringLiteral("Defl")), qPrintable(listing.out));
+        const auto [listed, listing] = runIn(out.path(), QStringLiteral("unzip"), {QStringLiteral("-v"), destination});
+        QCOMPARE(listed, 0);
+        QCOMPARE(listing.count(QStringLiteral(" Stored ")), int(sources.items.size()) + 1);
+        QVERIFY2(!listing.contains(QStringLiteral("Defl")), qPrintable(listing));
 
         const QString unpacked = out.filePath(QStringLiteral("unpacked"));
-        const Run unzip = runIn(out.path(), QStringLiteral("unzip"), {QStringLiteral("-q"), destination,
-                                                                       QStringLiteral("-d"), unpacked});
-        QVERIFY2(unzip.exitCode == 0, qPrintable(unzip.out));
-        const Run check = runIn(unpacked, QStringLiteral("sha256sum"),
-                                {QStringLiteral("--strict"), QStringLiteral("-c"), QStringLiteral("SHA256SUMS")});
-        QVERIFY2(check.exitCode == 0, qPrintable(check.out));
-        QCOMPARE(check.out.count(QStringLiteral(": OK\n")), int(sources.items.size()));
+        const auto [unzipped, unzipSaid] =
+            runIn(out.path(), QStringLiteral("unzip"), {QStringLiteral("-q"), destination, QStringLiteral("-d"), unpacked});
+        QVERIFY2(unzipped == 0, qPrintable(unzipSaid));
+        const auto [checked, check] = runIn(unpacked, QStringLiteral("sha256sum"),
+                                            {QStringLiteral("--strict"), QStringLiteral("-c"), QStringLiteral("SHA256SUMS")});
+        QVERIFY2(checked == 0, qPrintable(check));
+        QCOMPARE(check.count(QStringLiteral(": OK\n")), int(sources.items.size()));
 
         // The sums list the items in their order, and each file came out
         // byte for byte as it went in.

@@ -9,6 +9,7 @@
 #include "support/EncryptedDrive.h"
 #include "support/IsolatedHome.h"
 #include "support/LocalTileServer.h"
+#include "support/ProgramRun.h"
 #include "support/TeslaCamFixture.h"
 #include "support/TelemetryClipWriter.h"
 #include "support/TestClips.h"
@@ -59,15 +60,14 @@ std::optional<TelemetryClipWriter::FrameRecord> steppedSpeed(int frame, double t
     return r;
 }
 
-QString run(const QString &program, const QStringList &arguments, int *exitCode = nullptr, const QString &in = {})
+QString run(const QString &program, const QStringList &arguments, int *exitCode = nullptr,
+            const QString &in = QStringLiteral("."))
 {
-    QProcess p;
-    p.setWorkingDirectory(in);
-    p.start(program, arguments);
-    p.waitForFinished(60000);
+    const ProgramRun::Result r =
+        ProgramRun::run(QStringLiteral("env"), QStringList{QStringLiteral("--chdir=") + in, program} + arguments);
     if (exitCode)
-        *exitCode = p.exitCode();
-    return QString::fromUtf8(p.readAllStandardOutput());
+        *exitCode = r.exitCode;
+    return QString::fromUtf8(r.out);
 }
 
 QString pdfText(const QString &pdf, int page = 0)
@@ -216,8 +216,6 @@ private Q_SLOTS:
         QVERIFY2(text.contains(QStringLiteral("2026-07-21 21:30:12 UTC")), "the moment by the GPS clock");
         QVERIFY2(!text.contains(QStringLiteral("set wrong")), "seven hours apart is a time zone, not a wrong clock");
         QCOMPARE(text.count(QStringLiteral("Driving data")), 1); // no hidden copy at a page's foot
-        // Wrapped wherever the date's length puts the line's end.
-        QVERIFY2(text.simplified().contains(QStringLiteral("nothing on it was changed")), "the last words are on the last page");
 
         // The map lies on the tile server's tiles, asked for by name.
         const QImage first = pageWith(pdf, QStringLiteral("Where"), 40, tmp_.path());
@@ -276,6 +274,7 @@ private Q_SLOTS:
                                     QStringLiteral("2026-07-20_10-00-00-right_repeater.mp4"),
                                     DriveBuilder::sha256Hex(QByteArray()), QStringLiteral("didn't record properly")}),
                  QStringList());
+        // Wrapped wherever the date's length puts the line's end.
         QVERIFY(text.simplified().contains(QStringLiteral("nothing on it was changed")));
     }
 
@@ -337,7 +336,6 @@ private Q_SLOTS:
         QTest::addColumn<int>("offsetSeconds");
         QTest::addColumn<bool>("disagree");
         QTest::newRow("same") << 0 << false;
-        QTest::newRow("seven hours west") << -7 * 3600 << false;
         QTest::newRow("Nepal") << (5 * 3600 + 45 * 60) << false;
         QTest::newRow("half a minute off") << (3600 + 30) << false;
         QTest::newRow("thirteen minutes off") << (-7 * 3600 + 13 * 60) << true;
@@ -421,13 +419,8 @@ private Q_SLOTS:
                 if (f > (package ? 0.3 : 0.4)) // the package: once its copying began
                     stop.request_stop();
             };
-            bool stopped = false;
-            try {
-                IncidentReport::make(*event, out.filePath(QStringLiteral("r.out")), options);
-            } catch (const CancellationError &) {
-                stopped = true;
-            }
-            QVERIFY2(stopped, package ? "package" : "report");
+            QVERIFY_THROWS_EXCEPTION(CancellationError,
+                                     IncidentReport::make(*event, out.filePath(QStringLiteral("r.out")), options));
             QVERIFY2(QDir(out.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot).isEmpty(),
                      package ? "package" : "report");
         }

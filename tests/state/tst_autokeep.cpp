@@ -74,9 +74,8 @@ private Q_SLOTS:
         QVERIFY(!state.isKeepAutomatic());
         other.release();
         QTRY_COMPARE_WITH_TIMEOUT(ended.size(), 2, 60000);
-        QCOMPARE(ended[0][1].toBool(), false);
-        QCOMPARE(ended[1][1].toBool(), true);
-        QCOMPARE(ended[1][3].toString(), QStringLiteral("KHAUTO"));
+        QCOMPARE(std::tuple(ended[0][1].toBool(), ended[1][1].toBool(), ended[1][3].toString()),
+                 std::tuple(false, true, QStringLiteral("KHAUTO")));
         state.setShowArchiveReport(false);
         QCOMPARE(state.lastArchiveReport()->completeEvents(), 2);
         QVERIFY(!state.showArchiveReport());
@@ -89,8 +88,8 @@ private Q_SLOTS:
         drive.pull();
         QVERIFY(drive.plugIn());
         QTRY_COMPARE_WITH_TIMEOUT(ended.size(), 3, 60000);
-        QCOMPARE(ended[2][0].value<ArchiveReport>().completeEvents(), 1);
-        QCOMPARE(ended[2][0].value<ArchiveReport>().plannedEvents, 1);
+        const ArchiveReport third = ended[2][0].value<ArchiveReport>();
+        QCOMPARE(std::pair(third.completeEvents(), third.plannedEvents), std::pair(1, 1));
     }
 
     // A keep the user asked for, or an export, is told only when it ran long
@@ -146,8 +145,7 @@ private Q_SLOTS:
         QSignalSpy ended(&state, &AppState::keepEnded);
         state.rootViewAppeared();
         QTRY_COMPARE_WITH_TIMEOUT(ended.size(), 1, 60000);
-        QCOMPARE(ended[0][1].toBool(), true);
-        QCOMPARE(ended[0][3].toString(), QStringLiteral("KHSTART"));
+        QCOMPARE(std::pair(ended[0][1].toBool(), ended[0][3].toString()), std::pair(true, QStringLiteral("KHSTART")));
         QCOMPARE(state.lastArchiveReport()->archivedEvents.size(), size_t(1));
         QCOMPARE(state.lastArchiveReport()->archivedEvents[0].eventID, QStringLiteral("sentry|2026-07-14_10-00-00"));
     }

@@ -16,7 +16,7 @@ class TestComposition : public QObject {
 private Q_SLOTS:
     // Appending, gaps and a clip spliced into the one before are played
     // through real clips in the telemetry timeline's test; here the rest.
-    void insertingIntoAnEmptyStretchMovesWhatFollows()
+    void insertingMovesWhatFollowsAndRefusesEmptyRanges()
     {
         Composition g;
         g.addMutableTrack();
@@ -32,10 +32,8 @@ private Q_SLOTS:
         QVERIFY(gap.insertTimeRange("z.mp4", s(0), s(1), s(0)));
         QCOMPARE(gap.segments[0].file, QString("z.mp4"));
         QCOMPARE(gap.segments[1].timelineStart, s(1));
-    }
 
-    void rejectsEmptyOrNegativeRanges()
-    {
+        // Empty or negative ranges are refused and change nothing.
         Composition c;
         c.addMutableTrack();
         QVERIFY(!c.track(0).insertTimeRange("a.mp4", s(0), s(0), s(0)));

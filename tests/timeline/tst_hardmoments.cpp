@@ -88,8 +88,7 @@ private Q_SLOTS:
                 s.assist = Assist::trafficAwareCruise;
             return s;
         };
-        TeslaEvent event;
-        const auto moments = HardMoments::find(drive(60, script), event, 60);
+        const auto moments = HardMoments::find(drive(60, script), {}, 60);
         // Each kind, and the time it should be found near.
         const std::vector<std::pair<Kind, double>> expected{{Kind::autopilotOff, 10}, {Kind::hardBraking, 20},
                                                             {Kind::swerve, 30},       {Kind::hardBraking, 52},
@@ -126,10 +125,9 @@ private Q_SLOTS:
     // braking is made up across it.
     void nothingIsMeasuredAcrossAMissingStretch()
     {
-        TeslaEvent event;
         const auto telemetry = drive(20, [](double t) { return State{t < 10 ? 20.0 : 0.0, 0, 0}; },
                                      {{0, 0, 0, 9.99}, {0, 70, 10.0, 10}});
-        QVERIFY(HardMoments::find(telemetry, event, 80).empty());
+        QVERIFY(HardMoments::find(telemetry, {}, 80).empty());
     }
 
     // The car's own emergency braking marks its trigger, with records or without.

@@ -49,11 +49,7 @@ private Q_SLOTS:
     {
         EventTelemetry telemetry;
         telemetry.tracks.push_back(track(2, [](double) { return driving(10); }));
-        telemetry.tracks.push_back(track(2, [](double t) -> std::optional<TelemetryRecord> {
-            if (t < 1)
-                return std::nullopt;
-            return driving(20);
-        }));
+        telemetry.tracks.push_back(track(2, [](double t) { return t < 1 ? std::nullopt : std::optional(driving(20)); }));
         telemetry.pieces = {{0, 0, 0, 2}, {1, 4, 0, 2}};
         const auto profile = TelemetryProfile::make(telemetry, 6, 240); // 25 ms a slice
         QCOMPARE(profile.slices.size(), size_t(240));
@@ -95,11 +91,10 @@ private Q_SLOTS:
                 const bool inside = t > 2.3 && t < 3.7;
                 const bool outside = t < 1.7 || t > 4.3;
                 const auto &s = profile.slices[i];
-                if (inside) {
+                if (inside)
                     QVERIFY2(s.braking == c.braking && s.hardBraking == c.hard, c.name);
-                } else if (outside) {
+                else if (outside)
                     QVERIFY2(!s.braking && !s.hardBraking, c.name);
-                }
             }
         }
     }

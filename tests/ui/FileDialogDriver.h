@@ -20,9 +20,8 @@ namespace FileDialogDriver {
 inline QFileDialog *waitForDialog(int ms = 10000)
 {
     QFileDialog *dialog = nullptr;
-    if (!QTest::qWaitFor([&] { return (dialog = FileChooser::current()) && dialog->isVisible(); }, ms))
-        return nullptr;
-    return dialog;
+    const bool shown = QTest::qWaitFor([&] { return (dialog = FileChooser::current()) && dialog->isVisible(); }, ms);
+    return shown ? dialog : nullptr;
 }
 
 // The line of guidance over the dialog, empty when there is none.

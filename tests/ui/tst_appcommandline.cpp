@@ -57,7 +57,9 @@ private Q_SLOTS:
         QVERIFY(app({"--help"}, noDisplay()).out.contains("\n  64 "));
     }
 
-    // Qt's own options (-platform, -name and the like) are Qt's, not unknown ones.
+    // Qt's own options (-platform, -name and the like) are Qt's, not unknown
+    // ones; and the screenshot hook's section choice reaches the window: the
+    // sidebar's chosen row (Drive first, Drive Health fourth) is the blue one.
     void qtOptionsReachQt()
     {
         if (qEnvironmentVariableIsEmpty("DISPLAY"))
@@ -66,21 +68,15 @@ private Q_SLOTS:
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
         env.insert(QStringLiteral("KEELHOLD_SCREENSHOT"), dir.filePath(QStringLiteral("window.png")));
         env.insert(QStringLiteral("KEELHOLD_SCREENSHOT_MS"), QStringLiteral("500"));
+        env.insert(QStringLiteral("KEELHOLD_SECTION"), QStringLiteral("3"));
         const ProgramRun::Result r = app({"-name", "keelhold-test", "--sample"}, env);
         QVERIFY2(r.exitCode == 0, qPrintable(r.err));
-        const QImage drive(dir.filePath(QStringLiteral("window.png")));
-        QVERIFY(!drive.isNull());
-        // The screenshot hook's section choice reaches the window: the
-        // sidebar's chosen row (Drive first, Drive Health fourth) is the blue one.
-        env.insert(QStringLiteral("KEELHOLD_SECTION"), QStringLiteral("3"));
-        QCOMPARE(app({"--sample"}, env).exitCode, 0);
-        const QImage health(dir.filePath(QStringLiteral("window.png")));
-        const auto chosen = [](const QImage &shot, int row) {
+        const QImage shot(dir.filePath(QStringLiteral("window.png")));
+        const auto chosen = [&shot](int row) {
             const QColor c = shot.pixelColor(145, 70 + 30 * row);
             return c.blue() > 180 && c.red() < 100;
         };
-        QVERIFY(chosen(drive, 0) && !chosen(drive, 3));
-        QVERIFY(chosen(health, 3) && !chosen(health, 0));
+        QVERIFY(chosen(3) && !chosen(0));
     }
 };
 

@@ -101,27 +101,26 @@ class DrivingDataTest : public QObject {
             QTRY_VERIFY_WITH_TIMEOUT(drivingData()->hasData(), 20000);
     }
 
+    void waitForExactFrame()
+    {
+        QTRY_VERIFY_WITH_TIMEOUT(!frontPlayer()->isSeeking() && !frontPlayer()->isShowingPreview(), 10000);
+    }
+
     // The frame on screen, once exact, read from its pixels, against the
     // record shown.
     void verifyOverlayMatchesPicture()
     {
-        TrackPlayer *front = frontPlayer();
-        QTRY_VERIFY_WITH_TIMEOUT(!front->isSeeking() && !front->isShowingPreview(), 10000);
-        const auto shown = PlaybackClips::identify(front->currentFrame());
+        waitForExactFrame();
+        const auto shown = PlaybackClips::identify(frontPlayer()->currentFrame());
         QVERIFY(shown);
         const TelemetryRecord *record = drivingData()->currentRecord();
         QVERIFY2(record, qPrintable(QStringLiteral("no record at frame %1").arg(shown->index)));
         QCOMPARE(record->frameSequenceNumber, firstSequence + quint64(shown->index));
         // And the window says the same.
         const Message expected = recordOfFrame(shown->index);
-        const double kmh = expected.vehicle_speed_mps() * 3.6;
-        QTRY_COMPARE(item(QStringLiteral("speedValue"))->property("text").toString(), QString::number(qRound(kmh)));
+        QTRY_COMPARE(item(QStringLiteral("speedValue"))->property("text").toString(),
+                     QString::number(qRound(expected.vehicle_speed_mps() * 3.6)));
         QCOMPARE(item(QStringLiteral("steeringWheel"))->rotation(), double(expected.steering_wheel_angle()));
-    }
-
-    void waitForExactFrame()
-    {
-        QTRY_VERIFY_WITH_TIMEOUT(!frontPlayer()->isSeeking() && !frontPlayer()->isShowingPreview(), 10000);
     }
 
 private Q_SLOTS:
@@ -288,9 +287,10 @@ private Q_SLOTS:
         QVERIFY(!item(QStringLiteral("drivingDataButton"))->isEnabled());
     }
 
-    // T and the toolbar button hide and show it; the choice is in the
-    // settings for the next run.
-    void keyAndButtonToggleTheOverlay()
+    // T and the toolbar button hide and show it; the locale picks the unit
+    // until the user clicks the speed, then the choice stays, whatever the
+    // locale. Both are in the settings for the next run.
+    void overlayAndSpeedUnitAreRemembered()
     {
         open(withRecords);
         QTRY_VERIFY_WITH_TIMEOUT(item(QStringLiteral("drivingDataOverlay")), 20000);
@@ -305,14 +305,7 @@ private Q_SLOTS:
         app_->click(button);
         QTRY_VERIFY(item(QStringLiteral("drivingDataOverlay")));
         QCOMPARE(QSettings().value(DrivingDataPreferences::showOverlayKey).toBool(), true);
-    }
 
-    // The locale picks the unit until the user clicks the speed; then the
-    // choice stays, whatever the locale.
-    void speedUnitFollowsLocaleUntilChosen()
-    {
-        open(withRecords);
-        QTRY_VERIFY_WITH_TIMEOUT(item(QStringLiteral("drivingDataOverlay")), 20000);
         const QLocale original;
         const auto restore = qScopeGuard([&] { QLocale::setDefault(original); });
         QSettings().remove(DrivingDataPreferences::speedUnitKey);

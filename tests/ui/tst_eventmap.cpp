@@ -10,10 +10,8 @@
 #include "support/TeslaCamFixture.h"
 #include "support/TestClips.h"
 
-#include <QGuiApplication>
 #include <QSettings>
 #include <QTcpServer>
-#include <QTcpSocket>
 
 // The map in the real window: tiles from a local server are asked for with
 // the application's User-Agent and drawn; pins stand where their events

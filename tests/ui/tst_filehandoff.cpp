@@ -1,4 +1,5 @@
 #include "FileHandOff.h"
+#include "support/TeslaCamFixture.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -48,11 +49,9 @@ private:
 
     void program(const QString &name, const QByteArray &body)
     {
-        QFile f(bin() + QLatin1Char('/') + name);
-        QVERIFY(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        f.write("#!/bin/sh\n" + body + "\n");
-        f.close();
-        f.setPermissions(f.permissions() | QFileDevice::ExeOwner);
+        const QString path = bin() + QLatin1Char('/') + name;
+        TeslaCamFixture::writeFile(path, "#!/bin/sh\n" + body + "\n");
+        QVERIFY(QFile::setPermissions(path, QFile::permissions(path) | QFileDevice::ExeOwner));
     }
     void noteTaker(const QString &name, int exitCode)
     {
@@ -73,10 +72,7 @@ private Q_SLOTS:
         QVERIFY(prctl(PR_SET_CHILD_SUBREAPER, 1) == 0);
         QVERIFY(dir_.isValid());
         QVERIFY(QDir().mkpath(bin()));
-        QVERIFY(QDir().mkpath(dir_.filePath(QStringLiteral("out"))));
-        QFile f(exported());
-        QVERIFY(f.open(QIODevice::WriteOnly));
-        f.write("mp4");
+        TeslaCamFixture::writeFile(exported(), "mp4");
         oldPath_ = qgetenv("PATH");
         qputenv("PATH", QFile::encodeName(bin()));
     }
@@ -84,8 +80,7 @@ private Q_SLOTS:
     void init()
     {
         QFile::remove(notes());
-        for (const QString &name : QDir(bin()).entryList(QDir::Files))
-            QFile::remove(bin() + QLatin1Char('/') + name);
+        QVERIFY(QDir(bin()).removeRecursively() && QDir().mkpath(bin()));
     }
 
     void fileManagerSelectsTheFile()

@@ -106,7 +106,6 @@ private Q_SLOTS:
         TeslaEvent located = event(EventKind::sentry, QStringLiteral("a"));
         located.latitude = 59.9;
         located.longitude = 10.7;
-        located.reason.category = ReasonCategory::impact;
         TeslaEvent halfLocated = event(EventKind::saved, QStringLiteral("b"));
         halfLocated.latitude = 60.0; // latitude without longitude gets no pin
         TeslaEvent vaultOnly = event(EventKind::saved, QStringLiteral("c"));
@@ -125,7 +124,6 @@ private Q_SLOTS:
         QCOMPARE(s[0].events.size(), size_t(1));
         QVERIFY(sections({}).empty());
 
-        QCOMPARE(pinTint(located), QStringLiteral("red"));
         QCOMPARE(pinTint(vaultOnly), QStringLiteral("accent"));
     }
 

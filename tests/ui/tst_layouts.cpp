@@ -1,11 +1,8 @@
 #include "AppWindowHarness.h"
 #include "support/IsolatedHome.h"
 
-#include <QQuickItem>
-#include <QQuickWindow>
 #include <QSettings>
 #include <QRegularExpression>
-#include <QtTest>
 
 // The player's screen holds together at the sizes people use: the smallest
 // window, a laptop, and full HD. The driving-data readings and the route
@@ -117,9 +114,8 @@ private Q_SLOTS:
             const QRectF area = sceneRect(tile);
             double hidden = 0;
             for (QQuickItem *over : covering) {
-                // The overlay may be drawn scaled from its corner.
-                const QRectF drawn = over->mapRectToScene(QRectF(0, 0, over->width(), over->height()));
-                const QRectF both = area.intersected(drawn);
+                // As drawn: the overlay may be scaled from its corner.
+                const QRectF both = area.intersected(sceneRect(over));
                 hidden += both.width() * both.height();
             }
             const double share = hidden / (area.width() * area.height());

@@ -1,20 +1,13 @@
 #include "AppWindowHarness.h"
 #include "FileDialogDriver.h"
-#include "FileChooser.h"
 #include "support/IsolatedHome.h"
 #include "support/MountedVolume.h"
 
 #include <QDir>
-#include <QDirIterator>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QProcess>
-#include <QQuickItem>
-#include <QQuickWindow>
 #include <QSettings>
 #include <QTemporaryDir>
-#include <QTimer>
-#include <QtTest>
 
 #include <atomic>
 #include <chrono>
@@ -185,19 +178,6 @@ struct WalkerBusy {
     }
 };
 
-bool copyTree(const QString &from, const QString &to)
-{
-    QDirIterator it(from, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
-    while (it.hasNext()) {
-        const QString source = it.next();
-        const QString target = to + source.mid(from.size());
-        QDir().mkpath(QFileInfo(target).path());
-        if (!QFile::copy(source, target))
-            return false;
-    }
-    return true;
-}
-
 bool isClickable(QQuickItem *item)
 {
     if (item->inherits("QQuickAbstractButton") || item->inherits("QQuickMouseArea"))
@@ -235,17 +215,11 @@ class MonkeyTest : public QObject {
         QQuickItem *root = window()->contentItem(); // popups too: the overlay is its child
         const QRectF bounds(0, 0, window()->width(), window()->height());
         for (QQuickItem *item : AppWindowHarness::itemsUnder(root)) {
-            if (!item->isVisible() || !item->isEnabled() || item->width() < 3 || item->height() < 3)
-                continue;
-            if (!isClickable(item))
+            if (!item->isVisible() || !item->isEnabled() || item->width() < 3 || item->height() < 3 || !isClickable(item))
                 continue;
             const QPointF centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
-            if (!bounds.contains(centre))
-                continue;
-            const QString text = item->property("text").toString();
-            if (text.contains(QLatin1String("Quit")))
-                continue;
-            out << item;
+            if (bounds.contains(centre) && !item->property("text").toString().contains(QLatin1String("Quit")))
+                out << item;
         }
         return out;
     }
@@ -270,13 +244,14 @@ class MonkeyTest : public QObject {
         QTest::mouseClick(window(), Qt::LeftButton, Qt::NoModifier, at);
     }
 
+    void clickCentre(QQuickItem *item) { clickAt(item, QPointF(item->width() / 2, item->height() / 2)); }
+
     bool clickNamed(const QString &name)
     {
         QQuickItem *item = shown(name);
-        if (!item)
-            return false;
-        clickAt(item, QPointF(item->width() / 2, item->height() / 2));
-        return true;
+        if (item)
+            clickCentre(item);
+        return item;
     }
 
     // A file dialog takes the whole application: it is answered first, with
@@ -324,7 +299,7 @@ class MonkeyTest : public QObject {
                 return;
             QQuickItem *row = now[below(int(now.size()))];
             noteStep(QStringLiteral("quick switch to %1").arg(row->objectName()));
-            clickAt(row, QPointF(row->width() / 2, row->height() / 2));
+            clickCentre(row);
             pause(between(30, 190));
         }
     }
@@ -360,7 +335,7 @@ class MonkeyTest : public QObject {
             return;
         QQuickItem *item = sections[below(int(sections.size()))];
         noteStep(QStringLiteral("section %1").arg(item->objectName()));
-        clickAt(item, QPointF(item->width() / 2, item->height() / 2));
+        clickCentre(item);
     }
 
     void keepSome()
@@ -385,7 +360,7 @@ class MonkeyTest : public QObject {
         if (!layouts.isEmpty() && below(2) == 0) {
             QQuickItem *layout = layouts[below(int(layouts.size()))];
             noteStep(QStringLiteral("export: %1").arg(layout->objectName()));
-            clickAt(layout, QPointF(layout->width() / 2, layout->height() / 2));
+            clickCentre(layout);
         }
         noteStep(QStringLiteral("export: start"));
         clickNamed(QStringLiteral("startExportButton"));
@@ -472,6 +447,7 @@ class MonkeyTest : public QObject {
         else {
             const int ms = between(0, 1200);
             noteStep(QStringLiteral("wait %1 ms").arg(ms));
+            pause(ms);
         }
         pause(between(0, 250));
     }
@@ -500,7 +476,6 @@ private Q_SLOTS:
             QFile f(bin + QLatin1Char('/') + QLatin1String(tool));
             QVERIFY(f.open(QIODevice::WriteOnly));
             f.write("#!/bin/sh\nexit 0\n");
-            f.close();
             f.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
         }
         qputenv("PATH", (bin + QLatin1Char(':')).toLocal8Bit() + qgetenv("PATH"));
@@ -525,7 +500,9 @@ private Q_SLOTS:
             drive = std::make_unique<MountedVolume>(QStringLiteral("exfat"), QStringLiteral("KHMONKEY"),
                                                     qint64(768) * 1024 * 1024);
             if (drive->ok())
-                QVERIFY(copyTree(sample, drive->path() + QStringLiteral("/TeslaCam")));
+                QCOMPARE(QProcess::execute(QStringLiteral("cp"),
+                                           {QStringLiteral("-r"), sample, drive->path() + QStringLiteral("/TeslaCam")}),
+                         0);
             else
                 drive.reset();
         }

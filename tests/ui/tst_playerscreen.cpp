@@ -4,14 +4,12 @@
 
 #include "AppWindowHarness.h"
 #include "FileDialogDriver.h"
-#include "EventPlayerPresenter.h"
 #include "ActivityStrip.h"
 #include "ExportFlow.h"
-#include "KeelholdApp.h"
 #include "KeyboardHints.h"
 #include "playback/SyncPlayerController.h"
 #include "playback/TrackPlayer.h"
-#include "state/AppState.h"
+#include "support/DriveBuilder.h"
 #include "support/FaultyFs.h"
 #include "support/IsolatedHome.h"
 #include "support/MovieFacts.h"
@@ -19,16 +17,12 @@
 #include "support/TestClips.h"
 
 #include <QElapsedTimer>
-#include <QImage>
 #include <QQmlApplicationEngine>
 #include <QQmlContext>
-#include <QQuickItem>
-#include <QQuickWindow>
 #include <QScopeGuard>
 #include <QSet>
 #include <QSettings>
 #include <QTemporaryDir>
-#include <QtTest>
 
 namespace {
 
@@ -166,6 +160,7 @@ class PlayerScreenTest : public QObject {
         QTRY_VERIFY2_WITH_TIMEOUT(tilesShowPictures(prefix, &why), qPrintable(why), 10000);
     }
 
+    // A picture on each tile that has a player, and none on the others.
     bool tilesShowPictures(const QString &prefix, QString *why)
     {
         const QImage shot = window_->grabWindow();
@@ -179,7 +174,7 @@ class PlayerScreenTest : public QObject {
                 *why = prefix + tile.camera.rawValue() + QStringLiteral(" is not shown");
                 return false;
             }
-            if (!showsPicture(shot, item, why))
+            if (showsPicture(shot, item, why) != bool(tile.player))
                 return false;
         }
         return true;
@@ -240,8 +235,7 @@ private Q_SLOTS:
         QVERIFY(!named.empty());
         QCOMPARE(named.front().camera, Camera(Camera::leftRepeater));
         QQuickItem *row = shown(QStringLiteral("eventRow_") + sixCameraEvent);
-        QVERIFY(row);
-        QTRY_VERIFY(findItem(row, QStringLiteral("activityLine")));
+        QTRY_VERIFY(row && findItem(row, QStringLiteral("activityLine")));
         QVERIFY(findItem(row, QStringLiteral("activityLine"))->property("text").toString().startsWith(
             QStringLiteral("Activity: Left Side ") + SyncPlayerController::timeString(named.front().start)));
 
@@ -331,17 +325,18 @@ private Q_SLOTS:
 
         // On a slow computer a seek shows each camera's key frame first and
         // says so under the timeline until the exact frame is in.
-        for (const auto &tile : c->tiles())
-            if (tile.player)
-                tile.player->setDecodeDelay(std::chrono::milliseconds(60));
+        const auto decodeDelay = [c](int ms) {
+            for (const auto &tile : c->tiles())
+                if (tile.player)
+                    tile.player->setDecodeDelay(std::chrono::milliseconds(ms));
+        };
+        decodeDelay(60);
         c->seek(100.5);
         QTRY_VERIFY_WITH_TIMEOUT(c->isShowingApproximateFrames() && shown(QStringLiteral("approximateFramesNote")), 10000);
         QCOMPARE(shown(QStringLiteral("approximateFramesNote"))->property("text").toString(),
                  QStringLiteral("Finding the exact frame…"));
         saveShot(QStringLiteral("player-finding-exact-frame.png"), false);
-        for (const auto &tile : c->tiles())
-            if (tile.player)
-                tile.player->setDecodeDelay(std::chrono::milliseconds(0));
+        decodeDelay(0);
         QTRY_VERIFY_WITH_TIMEOUT(!c->isShowingApproximateFrames(), 10000);
 
         // M: ten seconds before the moment, playing.
@@ -458,8 +453,7 @@ private Q_SLOTS:
         QVERIFY(flow);
         QCOMPARE(flow->selectedCamera(), std::optional<Camera>(Camera::front));
         QCOMPARE(flow->stateName(), QStringLiteral("choosing"));
-        QQuickItem *promise = shown(QStringLiteral("exportPromise"));
-        QVERIFY(promise && promise->isVisible());
+        QVERIFY(shown(QStringLiteral("exportPromise")));
         // Player keys don't act behind the sheet: no change of the player
         // while the export runs to its end, many turns later.
         QSignalSpy playingBehind(c, &SyncPlayerController::isPlayingChanged);
@@ -477,7 +471,6 @@ private Q_SLOTS:
         saveShot(QStringLiteral("export-ready.png"));
 
         const QString destination = work_.filePath(QStringLiteral("Videos/front.mp4"));
-        QDir().mkpath(QFileInfo(destination).path());
         TeslaCamFixture::writeFile(destination, "an older file in the way");
         // The real save dialog: at the Videos folder with the movie's name;
         // a name typed over it, and the file in the way replaced on request.
@@ -557,11 +550,7 @@ private Q_SLOTS:
     {
         QTemporaryDir drive;
         TeslaCamFixture fx(drive.filePath(QStringLiteral("TeslaCam")));
-        TestClips::ClipOptions options;
-        options.seconds = 30;
-        options.fps = 10;
-        options.gop = 10;
-        const QString source = TestClips::clip(options);
+        const QString source = TestClips::clip({.seconds = 30, .fps = 10, .gop = 10});
         const QString dir = fx.addEvent(QStringLiteral("SavedClips"), QStringLiteral("2026-03-05_10-00-15"),
                                         TeslaCamFixture::eventJson(QStringLiteral("2026-03-05T10:00:15"),
                                                                    QStringLiteral("user_interaction_honk")));
@@ -587,8 +576,7 @@ private Q_SLOTS:
         // The moment is 15 s in: the custom part starts out as its 5 to 30 s.
         click(QStringLiteral("exportRange_custom"));
         QCOMPARE(flow->range(), ExportFlow::Range::custom);
-        QCOMPARE(flow->customStart(), 5.0);
-        QCOMPARE(flow->customEnd(), 30.0);
+        QCOMPARE(std::pair(flow->customStart(), flow->customEnd()), std::pair(5.0, 30.0));
         // An end before the start is refused in words, and Export waits.
         typeInto(QStringLiteral("exportRangeEnd"), QStringLiteral("0:04"));
         QTRY_COMPARE(flow->customEnd(), 4.0);
@@ -596,8 +584,7 @@ private Q_SLOTS:
         QVERIFY(!shown(QStringLiteral("startExportButton"))->isEnabled());
         typeInto(QStringLiteral("exportRangeStart"), QStringLiteral("20"));
         typeInto(QStringLiteral("exportRangeEnd"), QStringLiteral("0:24"));
-        QTRY_COMPARE(flow->customEnd(), 24.0);
-        QCOMPARE(flow->customStart(), 20.0);
+        QTRY_COMPARE(std::pair(flow->customStart(), flow->customEnd()), std::pair(20.0, 24.0));
         QTRY_VERIFY(!shown(QStringLiteral("exportRangeProblem")));
         QCOMPARE(sheetOverflow(), QString());
 
@@ -659,24 +646,21 @@ private Q_SLOTS:
             (void)QTest::qWaitFor([&] { return controller() == nullptr; }, 5000);
             (void)QTest::qWaitFor([] { return TrackPlayer::runningWorkers() == 0; }, 10000); // stopped players go a little later
         });
-        TestClips::ClipOptions options;
-        options.seconds = 4;
-        QFile sourceFile(TestClips::clip(options));
-        QVERIFY(sourceFile.open(QIODevice::ReadOnly));
-        const QByteArray clip = sourceFile.readAll();
-        const QString later = QStringLiteral("TeslaCam/SavedClips/2026-03-04_10-00-30/");
-        fs.addFile(later + "event.json",
-                   TeslaCamFixture::eventJson(QStringLiteral("2026-03-04T10:00:20"), QStringLiteral("user_interaction_honk")));
-        for (const char *camera : {"front", "back", "left_repeater", "right_repeater"})
-            fs.addFile(later + "2026-03-04_10-00-00-" + camera + ".mp4", clip);
-        const QString held = later + "2026-03-04_10-00-00-right_repeater.mp4";
+        const QByteArray clip = DriveBuilder::readQuietly(TestClips::clip({.seconds = 4}));
+        QVERIFY(!clip.isEmpty());
+        // A honk event of the given day with these cameras.
+        const auto addEvent = [&](const QString &day, const QStringList &cameras) {
+            const QString folder = QStringLiteral("TeslaCam/SavedClips/%1_10-00-30/").arg(day);
+            fs.addFile(folder + "event.json",
+                       TeslaCamFixture::eventJson(day + QStringLiteral("T10:00:20"), QStringLiteral("user_interaction_honk")));
+            for (const QString &camera : cameras)
+                fs.addFile(folder + day + "_10-00-00-" + camera + ".mp4", clip);
+        };
+        addEvent(QStringLiteral("2026-03-04"), {"front", "back", "left_repeater", "right_repeater"});
+        const QString held = QStringLiteral("TeslaCam/SavedClips/2026-03-04_10-00-30/2026-03-04_10-00-00-right_repeater.mp4");
         // An earlier event, opened first: the screen is up before the load
         // that is measured.
-        const QString earlier = QStringLiteral("TeslaCam/SavedClips/2026-03-03_10-00-30/");
-        fs.addFile(earlier + "event.json",
-                   TeslaCamFixture::eventJson(QStringLiteral("2026-03-03T10:00:20"), QStringLiteral("user_interaction_honk")));
-        for (const char *camera : {"front", "back"})
-            fs.addFile(earlier + "2026-03-03_10-00-00-" + camera + ".mp4", clip);
+        addEvent(QStringLiteral("2026-03-03"), {"front", "back"});
 
         state_->setSelectedSection(SidebarSection::drive);
         state_->beginScan(drive.filePath(QStringLiteral("TeslaCam")));
@@ -732,19 +716,8 @@ private Q_SLOTS:
         QCOMPARE(tiles, (QStringList{"back", "front", "left_repeater", "right_repeater (why)"}));
         // 4 tiles: two columns; the placeholder keeps its place and says why.
         QTRY_VERIFY(shown(QStringLiteral("gridLayout")));
-        const auto picturesWherePlayers = [&](QString *why) {
-            const QImage shot = window_->grabWindow();
-            for (const auto &tile : c->tiles()) {
-                QQuickItem *item = shown(QStringLiteral("cameraTile_") + tile.camera.rawValue());
-                if (!item || showsPicture(shot, item, why) != bool(tile.player)) {
-                    *why = tile.camera.rawValue() + QStringLiteral(": ") + *why;
-                    return false;
-                }
-            }
-            return true;
-        };
         QString why;
-        QTRY_VERIFY2_WITH_TIMEOUT(picturesWherePlayers(&why), qPrintable(why), 10000);
+        QTRY_VERIFY2_WITH_TIMEOUT(tilesShowPictures(QStringLiteral("cameraTile_"), &why), qPrintable(why), 10000);
         QQuickItem *front = shown(QStringLiteral("cameraTile_front"));
         QQuickItem *right = shown(QStringLiteral("cameraTile_right_repeater"));
         QVERIFY(front && right);

@@ -77,7 +77,9 @@ private Q_SLOTS:
         QVERIFY(face.property("lockStates").toMap().isEmpty()); // the demo drive is clear
     }
 
-    void rowModelMovesOnlyTheRowsThatChange()
+    // The rows move only where they change; the keys walk the visible list
+    // and act on its selection; the roles follow ticks, selection and access.
+    void rowModelFollowsTheStateAndTheKeys()
     {
         MockEngine engine;
         AppState state(engine);
@@ -119,15 +121,28 @@ private Q_SLOTS:
         state.setTriage(TriageState::kept, rows->idAt(0));
         QCOMPARE(rows->data(rows->index(0), EventListModel::OverlayKindRole).toString(), QStringLiteral("kept"));
         QCOMPARE(rows->data(rows->index(1), EventListModel::OverlayKindRole).toString(), QStringLiteral("dot"));
-    }
 
-    void rowRolesFollowTicksSelectionAndAccess()
-    {
-        MockEngine engine;
-        AppState state(engine);
-        InboxViewModel inbox(&state);
-        EventListModel *rows = inbox.rows();
-        scanDemo(state);
+        // K and D with nothing selected do nothing.
+        inbox.keepSelected();
+        inbox.dismissSelected();
+        QVERIFY(!state.isArchiving());
+        QCOMPARE(ids(state.visibleInboxEvents()).size(), rows->count());
+
+        inbox.moveSelection(-1); // from nothing: the first row
+        QCOMPARE(*state.selectedEventID(), rows->idAt(0));
+        inbox.moveSelection(-1); // stays at the top
+        QCOMPARE(*state.selectedEventID(), rows->idAt(0));
+        for (int i = 0; i < 20; ++i)
+            inbox.moveSelection(1); // stops at the end
+        QCOMPARE(*state.selectedEventID(), rows->idAt(rows->count() - 1));
+
+        // A selection the filters hide is not acted on.
+        state.setSelectedEventID(rows->idAt(1));
+        state.setFilterState(TriageState::kept);
+        inbox.dismissSelected();
+        state.setFilterState(std::nullopt);
+        QCOMPARE(state.triageState(rows->idAt(1)).rawValue(), QStringLiteral("new"));
+
         const QModelIndex first = rows->index(0);
         const QString id = rows->idAt(0);
         QVERIFY(!rows->data(first, EventListModel::IsBulkSelectedRole).toBool());
@@ -153,35 +168,6 @@ private Q_SLOTS:
         }
     }
 
-    void keysWalkTheVisibleListAndActOnTheSelection()
-    {
-        MockEngine engine;
-        AppState state(engine);
-        InboxViewModel inbox(&state);
-        EventListModel *rows = inbox.rows();
-        scanDemo(state);
-        // K and D with nothing selected do nothing.
-        inbox.keepSelected();
-        inbox.dismissSelected();
-        QVERIFY(!state.isArchiving());
-        QCOMPARE(ids(state.visibleInboxEvents()).size(), rows->count());
-
-        inbox.moveSelection(-1); // from nothing: the first row
-        QCOMPARE(*state.selectedEventID(), rows->idAt(0));
-        inbox.moveSelection(-1); // stays at the top
-        QCOMPARE(*state.selectedEventID(), rows->idAt(0));
-        for (int i = 0; i < 20; ++i)
-            inbox.moveSelection(1); // stops at the end
-        QCOMPARE(*state.selectedEventID(), rows->idAt(rows->count() - 1));
-
-        // A selection the filters hide is not acted on.
-        state.setSelectedEventID(rows->idAt(0));
-        state.setFilterState(TriageState::kept);
-        inbox.dismissSelected();
-        state.setFilterState(std::nullopt);
-        QCOMPARE(state.triageState(rows->idAt(0)).rawValue(), QStringLiteral("new"));
-    }
-
     void vaultTextsCountAndPluralise()
     {
         TeslaEvent one;
@@ -193,28 +179,32 @@ private Q_SLOTS:
                  QStringLiteral("1 event · ") + QLocale().formattedDataSize(1500000, 1, QLocale::DataSizeTraditionalFormat));
         QCOMPARE(VaultViewModel::summaryFor({}, std::nullopt), QStringLiteral("0 events · 0 bytes"));
 
+        // The sheet's heading, then its lines.
+        const auto sheet = [](const ArchiveReport &report) {
+            const QVariantMap r = VaultViewModel::reportFor(report);
+            QStringList out{r.value(QStringLiteral("heading")).toString()};
+            for (const QVariant &line : r.value(QStringLiteral("lines")).toList())
+                out << line.toMap().value(QStringLiteral("text")).toString();
+            return out;
+        };
         // Cancelled at once with nothing new: the heading alone.
         ArchiveReport nothing;
         nothing.cancelled = true;
-        QVariantMap r = VaultViewModel::reportFor(nothing);
-        QCOMPARE(r.value(QStringLiteral("heading")).toString(), QStringLiteral("Backup Stopped"));
-        QVERIFY(r.value(QStringLiteral("lines")).toList().isEmpty());
+        QCOMPARE(sheet(nothing), QStringList{QStringLiteral("Backup Stopped")});
 
+        const QString copied = QStringLiteral(" copied and verified, byte-for-byte. The original on your drive is untouched.");
+        const QString unread = QStringLiteral(" couldn't be read — your drive may be failing. Nothing was deleted or "
+                                              "changed; you can try again.");
         ArchiveReport some;
         some.archivedEvents.resize(1);
-        some.skippedDuplicates = 1;
+        some.skippedDuplicates = 2;
         some.failedFiles.resize(1);
-        r = VaultViewModel::reportFor(some);
-        QCOMPARE(r.value(QStringLiteral("heading")).toString(), QStringLiteral("Backup Complete"));
-        QCOMPARE(r.value(QStringLiteral("lines")).toList().size(), 3);
+        QCOMPARE(sheet(some), (QStringList{"Backup Complete", "1 event" + copied,
+                                           "2 were already in your Vault, so we skipped them.", "1 file" + unread}));
         some.archivedEvents.resize(2);
         some.skippedDuplicates = 0;
         some.failedFiles.resize(3);
-        r = VaultViewModel::reportFor(some);
-        const QVariantList twoLines = r.value(QStringLiteral("lines")).toList();
-        QCOMPARE(twoLines.size(), 2);
-        QVERIFY(twoLines[0].toMap().value(QStringLiteral("text")).toString().startsWith(QStringLiteral("2 events copied")));
-        QVERIFY(twoLines[1].toMap().value(QStringLiteral("text")).toString().startsWith(QStringLiteral("3 files couldn't")));
+        QCOMPARE(sheet(some), (QStringList{"Backup Complete", "2 events" + copied, "3 files" + unread}));
 
         // Cut off by the drive: the event kept in part is never counted as
         // kept or verified, and the heading says what happened.
@@ -229,23 +219,21 @@ private Q_SLOTS:
         cut.archivedEvents.back().expectedFileCount = 90;
         cut.failedFiles.resize(1);
         cut.stoppedBecause = ArchiveReport::StopReason::driveDisconnected;
-        r = VaultViewModel::reportFor(cut);
-        QCOMPARE(r.value(QStringLiteral("heading")).toString(), QStringLiteral("Drive disconnected — 5 of 6 events kept completely"));
-        const QVariantList cutLines = r.value(QStringLiteral("lines")).toList();
-        QCOMPARE(cutLines.size(), 3);
-        QVERIFY(cutLines[0].toMap().value(QStringLiteral("text")).toString().startsWith(QStringLiteral("5 events copied and verified")));
-        QVERIFY(cutLines[1].toMap().value(QStringLiteral("text")).toString().contains(QStringLiteral("(44 of 90 files)")));
+        QCOMPARE(sheet(cut), (QStringList{"Drive disconnected — 5 of 6 events kept completely", "5 events" + copied,
+                                          "1 event reached your Vault only in part (44 of 90 files), so it isn't a "
+                                          "verified copy. Keep it again to finish it.",
+                                          "1 file couldn't be read as the drive went away."}));
         // Not cut off, but one event short: no "Complete" either.
         cut.stoppedBecause.reset();
-        QVERIFY(VaultViewModel::reportFor(cut).value(QStringLiteral("heading")).toString().startsWith(QStringLiteral("Backup Incomplete — 5 of 6")));
+        QCOMPARE(sheet(cut).first(), QStringLiteral("Backup Incomplete — 5 of 6 events kept completely"));
         QCOMPARE(VaultViewModel::progressLineFor(ArchiveProgress{10, 100, 3, 7, std::nullopt}, true),
                  QStringLiteral("Paused at 3 of 7 events — plug the drive back in to go on"));
     }
 
-    // The mark of a kept event: its newest record, then its last check if
-    // that came after the record (the marks a check gives are read in the
-    // Vault's window test).
-    void vaultMarksNeverClaimMoreThanWasChecked()
+    // A check from before an event was kept again says nothing of it (the
+    // marks a check gives, of part of an event too, are read in the Vault's
+    // window test); the line says where the copy came from.
+    void vaultMarkAndArchivedLine()
     {
         ArchivedEvent again;
         again.eventID = QStringLiteral("recent|2026-07-18_09-10-00");
@@ -253,30 +241,12 @@ private Q_SLOTS:
                        ArchivedFile{QStringLiteral("a-back.mp4"), 10, QString(64, QLatin1Char('b'))}};
         again.archivedAt = Date(3000);
         again.expectedFileCount = 2;
-        const auto badge = [](const ArchivedEvent &e, const EventCheck *c) {
-            return VaultViewModel::verificationFor(e, c).value(QStringLiteral("badge")).toString();
-        };
-        // A check from before the event was kept again says nothing of it.
+        again.sourceVolume = QStringLiteral("TESLADRIVE");
         EventCheck check{again.eventID, Date(2000), 2, {}, {}, {}, 2, 2};
         check.missing = QStringList{QStringLiteral("a-front.mp4")};
-        QCOMPARE(badge(again, &check), QStringLiteral("Verified copy"));
-        // Part of an event is never a verified copy, checked or not.
-        again.files.pop_back();
-        QCOMPARE(badge(again, nullptr), QStringLiteral("Incomplete — 1 of 2 files"));
-        check.checkedAt = Date(4000);
-        check.missing.clear();
-        QCOMPARE(badge(again, &check), QStringLiteral("Incomplete — 1 of 2 files"));
-    }
-
-    void vaultArchivedLineAndFreeSpace()
-    {
-        ArchivedEvent a;
-        a.eventID = QStringLiteral("sentry|2024-05-01_10-00-00");
-        a.sourceVolume = QStringLiteral("TESLADRIVE");
-        a.files = {ArchivedFile{QStringLiteral("front.mp4"), 10, QString(64, QLatin1Char('a'))}};
-        const QVariantMap v = VaultViewModel::verificationFor(a);
-        QVERIFY(v.value(QStringLiteral("archivedLine")).toString().endsWith(QStringLiteral(" from TESLADRIVE")));
-
+        const QVariantMap mark = VaultViewModel::verificationFor(again, &check);
+        QCOMPARE(mark.value(QStringLiteral("badge")).toString(), QStringLiteral("Verified copy"));
+        QVERIFY(mark.value(QStringLiteral("archivedLine")).toString().endsWith(QStringLiteral(" from TESLADRIVE")));
         QVERIFY(!VaultViewModel::freeBytesAt(QString()));
         // (Choosing the folder and the empty Vault's screens are clicked
         // through in the shell's window test.)

@@ -3,10 +3,10 @@
 #include "base/DiagnosticLog.h"
 #include "base/LogCategories.h"
 #include "drive/DriveBoundary.h"
-#include "KeelholdApp.h"
 #include "playback/MediaSource.h"
 #include "engine/BookmarkStore.h"
 #include "playback/TrackPlayer.h"
+#include "support/DriveBuilder.h"
 #include "support/FaultyFs.h"
 #include "support/IsolatedHome.h"
 #include "support/MountedVolume.h"
@@ -18,13 +18,9 @@
 #include <QJsonDocument>
 #include <QGuiApplication>
 #include <QQmlApplicationEngine>
-#include <QQuickItem>
-#include <QQuickWindow>
 #include <QScopeGuard>
 #include <QSettings>
 #include <QTemporaryDir>
-#include <QtTest>
-#include <memory>
 #include <unistd.h>
 
 // The real application in this process, on a temporary home: the wizard's
@@ -57,10 +53,7 @@ QStringList shownTexts(QQuickWindow *window)
 {
     QStringList out;
     for (QQuickItem *item : allItems(window)) {
-        if (!item->isVisible() || item->opacity() == 0)
-            continue;
-        const char *cls = item->metaObject()->className();
-        if (qstrcmp(cls, "QQuickText") != 0 && !item->inherits("QQuickText"))
+        if (!item->isVisible() || item->opacity() == 0 || !item->inherits("QQuickText"))
             continue;
         const QString t = item->property("text").toString();
         if (!t.isEmpty())
@@ -95,7 +88,7 @@ bool clickMenuTitle(QQuickWindow *window, const QString &title)
 
 void setOnboardingDone(bool done)
 {
-    QSettings(QStringLiteral("Keelhold"), QStringLiteral("Keelhold")).setValue(AppState::onboardingKey, done);
+    QSettings().setValue(AppState::onboardingKey, done);
 }
 
 void shoot(QQuickWindow *window, const QString &name)
@@ -108,15 +101,16 @@ void shoot(QQuickWindow *window, const QString &name)
     window->grabWindow().save(dir + QLatin1Char('/') + name + QStringLiteral(".png"));
 }
 
-
-// A drive with one Sentry event of one sparse clip under `root`.
-void addOneEvent(const QString &teslaCamRoot)
+// A drive with one Sentry event of one sparse clip under the TeslaCam
+// folder given; that folder.
+QString addOneEvent(const QString &teslaCamRoot)
 {
     TeslaCamFixture drive(teslaCamRoot);
     const QString folder = drive.addEvent(
         QStringLiteral("SentryClips"), QStringLiteral("2024-06-01_10-00-00"),
         TeslaCamFixture::eventJson(QStringLiteral("2024-06-01T10:00:00"), QStringLiteral("sentry_aware_object_detection")));
     drive.addClip(folder, QStringLiteral("2024-06-01_09-59-00"), QStringLiteral("front"), 64 * 1024);
+    return teslaCamRoot;
 }
 
 QString tag() { return QString::number(QCoreApplication::applicationPid()); }
@@ -168,7 +162,7 @@ private Q_SLOTS:
     {
         if (qEnvironmentVariableIsEmpty("DISPLAY"))
             QSKIP("needs a display (run the suite under xvfb-run)");
-        QSettings(QStringLiteral("Keelhold"), QStringLiteral("Keelhold")).clear();
+        QSettings().clear();
         qunsetenv(DrivePicker::answerEnv);
     }
 
@@ -197,13 +191,10 @@ private Q_SLOTS:
         shoot(window, QStringLiteral("health-no-report"));
 
         // The two menu items and what they do.
-        QQuickItem *helpItem = anyItem(window, QStringLiteral("menuHelp"));
-        QQuickItem *sampleItem = anyItem(window, QStringLiteral("menuSample"));
-        QVERIFY(helpItem && sampleItem);
-        QVERIFY(QMetaObject::invokeMethod(helpItem, "triggered"));
+        QVERIFY(QMetaObject::invokeMethod(anyItem(window, QStringLiteral("menuHelp")), "triggered"));
         QTRY_VERIFY(app->help().window() && app->help().window()->isVisible());
         app->help().window()->close();
-        QVERIFY(QMetaObject::invokeMethod(sampleItem, "triggered"));
+        QVERIFY(QMetaObject::invokeMethod(anyItem(window, QStringLiteral("menuSample")), "triggered"));
         QVERIFY(app->appState().isSampleMode());
         QCOMPARE(app->appState().selectedSection(), SidebarSection::drive);
         QTRY_VERIFY_WITH_TIMEOUT(!app->appState().isScanning(), 20000);
@@ -213,9 +204,7 @@ private Q_SLOTS:
         // the home folder never spelled out.
         DiagnosticLog::install(QDir::homePath() + QStringLiteral("/.local/state/Keelhold"));
         qCWarning(lcUi) << "a test warning about" << QDir::homePath() + QStringLiteral("/Videos/movie.mp4");
-        QQuickItem *diagnosticsItem = anyItem(window, QStringLiteral("menuCopyDiagnostics"));
-        QVERIFY(diagnosticsItem);
-        QVERIFY(QMetaObject::invokeMethod(diagnosticsItem, "triggered"));
+        QVERIFY(QMetaObject::invokeMethod(anyItem(window, QStringLiteral("menuCopyDiagnostics")), "triggered"));
         const QString copied = QGuiApplication::clipboard()->text();
         QVERIFY2(copied.startsWith(QStringLiteral("Keelhold ")), qPrintable(copied));
         QVERIFY(copied.contains(QStringLiteral("\nFFmpeg ")));
@@ -236,8 +225,7 @@ private Q_SLOTS:
         shoot(window, QStringLiteral("playback-menu"));
         QVERIFY(click(window, QStringLiteral("menuHardwareDecoding")));
         QTRY_VERIFY(!MediaSource::hardwareDecodingEnabled());
-        QCOMPARE(QSettings(QStringLiteral("Keelhold"), QStringLiteral("Keelhold")).value(QStringLiteral("KHHardwareDecoding")).toBool(),
-                 false);
+        QCOMPARE(QSettings().value(QStringLiteral("KHHardwareDecoding")).toBool(), false);
         MediaSource::setHardwareDecoding(true);
     }
 
@@ -252,7 +240,7 @@ private Q_SLOTS:
         QTRY_VERIFY(!app->appState().showOnboarding());
         QVERIFY(app->appState().isSampleMode());
         QVERIFY(!app->appState().hasCompletedOnboarding());
-        QVERIFY(!QSettings(QStringLiteral("Keelhold"), QStringLiteral("Keelhold")).value(AppState::onboardingKey).toBool());
+        QVERIFY(!QSettings().value(AppState::onboardingKey).toBool());
         QTRY_VERIFY(!visibleItem(window, QStringLiteral("wizardView")));
         QTRY_VERIFY(showing(QStringLiteral("You're exploring sample footage · Connect your Tesla drive anytime")));
 
@@ -271,8 +259,7 @@ private Q_SLOTS:
     void wizardPickerPath()
     {
         QTemporaryDir tmp;
-        addOneEvent(tmp.filePath(QStringLiteral("USBSTICK/TeslaCam")));
-        const QString root = tmp.filePath(QStringLiteral("USBSTICK/TeslaCam"));
+        const QString root = addOneEvent(tmp.filePath(QStringLiteral("USBSTICK/TeslaCam")));
         start();
         QVERIFY(click(window, QStringLiteral("getStarted")));
         QTRY_VERIFY(showing(QStringLiteral("Show Me Your Tesla Drive")));
@@ -301,7 +288,7 @@ private Q_SLOTS:
     void realDialogsChooseTheDriveAndTheVault()
     {
         QTemporaryDir tmp;
-        addOneEvent(tmp.filePath(QStringLiteral("USBSTICK/TeslaCam")));
+        const QString drive = addOneEvent(tmp.filePath(QStringLiteral("USBSTICK/TeslaCam")));
         start();
         AppState &state = app->appState();
         toDriveStep();
@@ -328,7 +315,7 @@ private Q_SLOTS:
         QVERIFY(click(window, QStringLiteral("chooseManually")));
         QVERIFY(FileDialogDriver::answer(tmp.filePath(QStringLiteral("USBSTICK"))));
         QTRY_VERIFY_WITH_TIMEOUT(!state.showOnboarding(), 10000);
-        QCOMPARE(state.driveRootURL().value_or(QString()), tmp.filePath(QStringLiteral("USBSTICK/TeslaCam")));
+        QCOMPARE(state.driveRootURL().value_or(QString()), drive);
         QTRY_VERIFY(state.driveScan() && state.driveScan()->events.size() == 1);
 
         // The Vault: no folder yet, then one chosen in the dialog.
@@ -352,7 +339,7 @@ private Q_SLOTS:
         // The car's drive itself is refused with the reason, and the dialog
         // opens again from there.
         QVERIFY(click(window, QStringLiteral("emptyStateAction")));
-        QVERIFY(FileDialogDriver::answer(tmp.filePath(QStringLiteral("USBSTICK/TeslaCam"))));
+        QVERIFY(FileDialogDriver::answer(drive));
         QTRY_VERIFY_WITH_TIMEOUT(showing(DriveBoundary::vaultRefusal), 10000);
         QCOMPARE(state.vaultURL().value_or(QString()), vault);
         shoot(window, QStringLiteral("vault-choice-refused"));
@@ -370,13 +357,12 @@ private Q_SLOTS:
     void firstKeepAsksForAVaultFolderAndGoesOn()
     {
         QTemporaryDir tmp;
-        addOneEvent(tmp.filePath(QStringLiteral("USBSTICK/TeslaCam")));
-        setOnboardingDone(true);
+        const QString drive = addOneEvent(tmp.filePath(QStringLiteral("USBSTICK/TeslaCam")));
         // No Vault folder yet: not even one an earlier test chose and removed.
         BookmarkStore::clear(BookmarkKey::vaultFolder);
-        start();
+        start(true);
         AppState &state = app->appState();
-        state.beginScan(tmp.filePath(QStringLiteral("USBSTICK/TeslaCam")));
+        state.beginScan(drive);
         QTRY_VERIFY(state.driveScan() && state.driveScan()->events.size() == 1 && !state.isScanning());
         const QString id = state.driveScan()->events.front().id();
         QVERIFY(!state.vaultURL());
@@ -424,9 +410,8 @@ private Q_SLOTS:
             window = nullptr;
             app.reset();
         });
-        QFile source(TestClips::clip());
-        QVERIFY(source.open(QIODevice::ReadOnly));
-        const QByteArray clip = source.readAll();
+        const QByteArray clip = DriveBuilder::readQuietly(TestClips::clip());
+        QVERIFY(!clip.isEmpty());
         const QByteArray json = TeslaCamFixture::eventJson(QStringLiteral("2026-05-01T10:00:30"), QStringLiteral("user_interaction_honk"));
         fs.addFile(QStringLiteral("TeslaCam/SavedClips/2026-05-01_10-00-30/event.json"), json);
         fs.addFile(QStringLiteral("TeslaCam/SavedClips/2026-05-01_10-00-30/2026-05-01_10-00-00-front.mp4"), clip);

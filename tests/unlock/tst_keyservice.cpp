@@ -168,15 +168,14 @@ private Q_SLOTS:
         const auto outcomes = QCoro::waitFor(unlocker.unlock({held, readable}, token));
         fuse.release();
         QCOMPARE(outcomesOf(outcomes), (std::vector<Outcome>{Outcome::unreadable, Outcome::key}));
-        QVERIFY(outcomes[1].fetched);
-        QVERIFY(!outcomes[1].saved);
+        QCOMPARE(std::pair(outcomes[1].fetched, outcomes[1].saved), std::pair(true, false));
         QCOMPARE(service.requests().size(), size_t(1));
         QCOMPARE(service.requests()[0].items, 1);
         QCOMPARE(KeyRing::keyFor(readable, Ecryptfs::read(readable), full), EcryptfsWriter::fileKey(700));
         const QStringList sentences = Unlocker::sentences(outcomes);
         QCOMPARE(sentences.size(), 2);
         QCOMPARE(sentences.first(), KeyService::sentence(Outcome::unreadable));
-        QVERIFY(sentences.last().contains(QLatin1String("couldn't be saved")));
+        QVERIFY2(sentences.last().contains(QLatin1String("couldn't be saved")), qPrintable(sentences.last()));
     }
 
     void nothingIsSentWithoutATokenOrToAPlainRemoteAddress()
@@ -189,12 +188,12 @@ private Q_SLOTS:
         QCOMPARE(outcomesOf(unlock(service, one, QByteArray())), std::vector<Outcome>{Outcome::notSignedIn});
         QVERIFY(service.requests().empty());
 
-        QVERIFY(KeyService::isAllowed(QUrl("https://dashcam.tesla.com/api/1/decrypt/batch")));
-        QVERIFY(KeyService::isAllowed(QUrl("http://127.0.0.1:8765/x")));
-        QVERIFY(KeyService::isAllowed(QUrl("http://[::1]:8765/x")));
-        QVERIFY(!KeyService::isAllowed(QUrl("http://dashcam.tesla.com/x")));
-        QVERIFY(!KeyService::isAllowed(QUrl("http://192.168.1.5/x")));
-        QVERIFY(!KeyService::isAllowed(QUrl("ftp://127.0.0.1/x")));
+        // Plain HTTP only to this machine.
+        for (const char *allowed :
+             {"https://dashcam.tesla.com/api/1/decrypt/batch", "http://127.0.0.1:8765/x", "http://[::1]:8765/x"})
+            QVERIFY2(KeyService::isAllowed(QUrl(allowed)), allowed);
+        for (const char *refused : {"http://dashcam.tesla.com/x", "http://192.168.1.5/x", "ftp://127.0.0.1/x"})
+            QVERIFY2(!KeyService::isAllowed(QUrl(refused)), refused);
         Unlocker remote(network_, QUrl("http://example.com/api/1/decrypt/batch"));
         const auto refused = QCoro::waitFor(remote.unlock({one.first()}, token));
         QCOMPARE(refused[0].outcome, Outcome::refused);
@@ -252,10 +251,9 @@ private Q_SLOTS:
         const std::optional<QByteArray> freshCode = SignInLink::codeFrom(landing(), attempt, &error);
         QVERIFY(freshCode);
         const SignInLink::Tokens tokens = QCoro::waitFor(SignInLink::exchange(network_, attempt, *freshCode));
-        QCOMPARE(tokens.access, token);
         QVERIFY(!tokens.refresh.isEmpty());
         const SignInLink::Tokens renewed = QCoro::waitFor(SignInLink::refresh(network_, tokens.refresh));
-        QCOMPARE(renewed.access, token);
+        QCOMPARE(std::pair(tokens.access, renewed.access), std::pair(token, token));
         QVERIFY(renewed.refresh != tokens.refresh);
         QVERIFY(!QCoro::waitFor(SignInLink::refresh(network_, tokens.refresh)).error.isEmpty());
         KeyServiceClient client(network_, urlOf(service));
