@@ -132,19 +132,3 @@ std::vector<ActivityBurst> EventActivity::highlights(int count) const
     std::stable_sort(strongest.begin(), strongest.end(), [](const ActivityBurst &a, const ActivityBurst &b) { return a.start < b.start; });
     return strongest;
 }
-
-std::optional<ActivityBurst> EventActivity::next(double time, double slack) const
-{
-    for (const ActivityBurst &burst : bursts)
-        if (burst.start > time + slack)
-            return burst;
-    return std::nullopt;
-}
-
-std::optional<ActivityBurst> EventActivity::previous(double time, double slack) const
-{
-    for (auto it = bursts.rbegin(); it != bursts.rend(); ++it)
-        if (it->start < time - slack)
-            return *it;
-    return std::nullopt;
-}

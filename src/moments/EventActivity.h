@@ -12,7 +12,6 @@
 #include "moments/ClipActivity.h"
 
 #include <QMetaType>
-#include <optional>
 #include <utility>
 #include <vector>
 
@@ -65,10 +64,6 @@ struct EventActivity {
 
     // The strongest burst of each camera, by time; at most `count`.
     std::vector<ActivityBurst> highlights(int count) const;
-    // The first burst starting after time, the last starting before it
-    // (ignoring one starting within slack of it, where a jump just landed).
-    std::optional<ActivityBurst> next(double time, double slack = 0.5) const;
-    std::optional<ActivityBurst> previous(double time, double slack = 0.5) const;
 
     bool operator==(const EventActivity &) const = default;
 };

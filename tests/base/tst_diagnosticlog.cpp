@@ -4,7 +4,6 @@
 #include "support/DriveBuilder.h"
 #include "support/IsolatedHome.h"
 
-#include <QDir>
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -49,8 +48,6 @@ private Q_SLOTS:
                                       << QStringLiteral("{\"refresh_token\": \"[token]\", \"n\": 1}");
         QTest::newRow("a query") << QStringLiteral("https://host/cb?code=NA_123&state=s")
                                  << QStringLiteral("https://host/cb?code=[token]&state=s");
-        QTest::newRow("the home folder") << QDir::homePath() + QStringLiteral("/Videos/Vault/a.mp4")
-                                         << QStringLiteral("~/Videos/Vault/a.mp4");
         QTest::newRow("a drive") << QStringLiteral("/media/TESLA/TeslaCam") << QStringLiteral("/media/TESLA/TeslaCam");
     }
 

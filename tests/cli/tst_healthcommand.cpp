@@ -26,14 +26,6 @@ Result runCli(const QStringList &args)
     const CliRun::Result r = CliRun::run(args);
     return {r.exitCode, QJsonDocument::fromJson(r.out).object(), r.err};
 }
-
-QStringList recommendationIDs(const QJsonObject &report)
-{
-    QStringList ids;
-    for (const auto &r : report.value(QStringLiteral("recommendations")).toArray())
-        ids << r.toObject().value(QStringLiteral("id")).toString();
-    return ids;
-}
 } // namespace
 
 class HealthCommandTest : public QObject {
@@ -55,7 +47,7 @@ private Q_SLOTS:
         root_ = fx.root();
     }
 
-    void reportsTheDriveWithoutAVault()
+    void reportsTheDriveWithoutAVaultAndItsFormat()
     {
         const Result r = runCli({QStringLiteral("health"), root_});
         QCOMPARE(r.exitCode, 0);
@@ -64,24 +56,21 @@ private Q_SLOTS:
         QCOMPARE(r.json.value(QStringLiteral("probedClipCount")).toInt(), 0);
         QCOMPARE(r.json.value(QStringLiteral("corruptClipCount")).toInt(), 0);
         QVERIFY(r.json.contains(QStringLiteral("fullnessFraction")));
-        QCOMPARE(recommendationIDs(r.json).value(0), QStringLiteral("backup-new"));
+        const QJsonArray recommendations = r.json.value(QStringLiteral("recommendations")).toArray();
+        QCOMPARE(recommendations.first().toObject().value(QStringLiteral("id")).toString(), QStringLiteral("backup-new"));
         // This suite's drive is a temporary folder on the computer's own disk.
         QVERIFY(r.json.value(QStringLiteral("formatVerdict")).toString().contains(QStringLiteral("nothing to reformat")));
-    }
 
-    void formatCardOfADrive()
-    {
         if (::geteuid() != 0)
             QSKIP("needs root to mount a drive");
-        // A drive plugged in, of a format the car can't record to (hidden from
-        // the drive lists of tests running beside this one).
+        // A plugged-in drive of a format the car can't record to (hidden from the drive lists of parallel tests).
         const TmpfsMount plugged(QStringLiteral("/media"), QStringLiteral(".keelhold-drive-XXXXXX"));
         QVERIFY(plugged.ok());
         TeslaCamFixture drive(plugged.path() + QStringLiteral("/TeslaCam"));
         drive.addRecentClip(QStringLiteral("2024-06-03_08-00-00"), QStringLiteral("front"), 1000);
-        const Result r = runCli({QStringLiteral("health"), drive.root()});
-        QCOMPARE(r.exitCode, 0);
-        QVERIFY(r.json.value(QStringLiteral("formatVerdict")).toString().contains(QStringLiteral("formatted tmpfs")));
+        const Result card = runCli({QStringLiteral("health"), drive.root()});
+        QCOMPARE(card.exitCode, 0);
+        QVERIFY(card.json.value(QStringLiteral("formatVerdict")).toString().contains(QStringLiteral("formatted tmpfs")));
     }
 
     void probeCountsDamagedClips()
@@ -92,7 +81,6 @@ private Q_SLOTS:
         QCOMPARE(r.exitCode, 0);
         QCOMPARE(r.json.value(QStringLiteral("probedClipCount")).toInt(), 2);
         QCOMPARE(r.json.value(QStringLiteral("corruptClipCount")).toInt(), 1);
-        QVERIFY(recommendationIDs(r.json).contains(QStringLiteral("some-corrupt")));
     }
 
     void vaultIndexTakesPart()
@@ -106,16 +94,11 @@ private Q_SLOTS:
         record.relativePath = QStringLiteral("2024/saved/2024-06-02_09-00-00");
         index.events.push_back(record);
         index.save(vault);
-        const Result r = runCli({QStringLiteral("health"), root_, QStringLiteral("--vault"), vault});
+        Result r = runCli({QStringLiteral("health"), root_, QStringLiteral("--vault"), vault});
         QCOMPARE(r.exitCode, 0);
         QCOMPARE(r.json.value(QStringLiteral("unarchivedEventCount")).toInt(), 1);
-    }
 
-    void plainSentencesOnFailure()
-    {
-        Result r = runCli({QStringLiteral("health"), tmp_.filePath(QStringLiteral("missing/TeslaCam"))});
-        QCOMPARE(r.exitCode, 2);
-        QVERIFY(r.err.contains(QStringLiteral("There is no folder at")));
+        // A missing Vault is said plainly (a missing drive folder: the scan command's test, same reader).
         r = runCli({QStringLiteral("health"), root_, QStringLiteral("--vault"), tmp_.filePath(QStringLiteral("nope"))});
         QCOMPARE(r.exitCode, 2);
         QVERIFY(r.err.contains(QStringLiteral("There is no Vault folder at")));

@@ -23,8 +23,7 @@ namespace {
 const QString sentryId = QStringLiteral("sentry|2026-05-03_22-00-00");
 const QString savedId = QStringLiteral("saved|2026-05-04_08-00-00");
 
-// Autosteer until 5 s, a hard brake from 20 to 10 m/s over 10–12 s (0.51 g),
-// the wheel thrown over and back at 20 s.
+// Autosteer until 5 s, a hard brake 20 to 10 m/s over 10–12 s (0.51 g), the wheel thrown over and back at 20 s.
 Message driving(double t)
 {
     Message m;
@@ -81,7 +80,7 @@ private Q_SLOTS:
         before_ = TreeSnapshot::take(root_);
     }
 
-    void jsonNamesTheCameraAndTheSeconds()
+    void aBurstNamesItsCameraAndSeconds()
     {
         const CliRun::Result run = moments({root_, QStringLiteral("--event"), sentryId});
         QCOMPARE(run.exitCode, 0);
@@ -96,6 +95,15 @@ private Q_SLOTS:
         const double peak = burst.value(QStringLiteral("peak")).toDouble();
         QVERIFY(peak > 0 && peak <= 1);
         QVERIFY(doc.value(QStringLiteral("moments")).toArray().isEmpty());
+
+        const CliRun::Result csv = moments({root_, "--event", sentryId, "--format", "csv"});
+        QCOMPARE(csv.exitCode, 0);
+        const QStringList rows = QString::fromUtf8(csv.out).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+        QCOMPARE(rows.value(0), QStringLiteral("type,camera,start,end,peak,time,kind,speed_mps"));
+        QCOMPARE(rows.size(), 2);
+        QVERIFY(rows[1].startsWith(QStringLiteral("activity,left_repeater,")));
+        QCOMPARE(rows[1].count(QLatin1Char(',')), 7);
+        QVERIFY(rows[1].endsWith(QStringLiteral(",,,")));
     }
 
     void everyScriptedMomentOfTheDriveAndNoOther()
@@ -113,21 +121,9 @@ private Q_SLOTS:
         QVERIFY(std::abs(braking.value(QStringLiteral("deceleration_mps2")).toDouble() - 5) < 0.5);
         QCOMPARE(found.at(0).toObject().value(QStringLiteral("assistance")).toString(), QStringLiteral("autosteer"));
         QVERIFY(std::abs(found.at(2).toObject().value(QStringLiteral("time")).toDouble() - 20) < 0.5);
-    }
 
-    void csvHasOneRowPerBurstOrMoment()
-    {
-        const CliRun::Result sentry = moments({root_, "--event", sentryId, "--format", "csv"});
-        QCOMPARE(sentry.exitCode, 0);
-        const QStringList rows = QString::fromUtf8(sentry.out).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-        QCOMPARE(rows.value(0), QStringLiteral("type,camera,start,end,peak,time,kind,speed_mps"));
-        QCOMPARE(rows.size(), 2);
-        QVERIFY(rows[1].startsWith(QStringLiteral("activity,left_repeater,")));
-        QCOMPARE(rows[1].count(QLatin1Char(',')), 7);
-        QVERIFY(rows[1].endsWith(QStringLiteral(",,,")));
-
-        const CliRun::Result saved = moments({root_, "--event", savedId, "--format", "csv"});
-        const QStringList drive = QString::fromUtf8(saved.out).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+        const CliRun::Result csv = moments({root_, "--event", savedId, "--format", "csv"});
+        const QStringList drive = QString::fromUtf8(csv.out).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
         QCOMPARE(drive.size(), 4);
         QVERIFY(drive[2].startsWith(QStringLiteral("moment,,,,,")));
         QVERIFY(drive[2].contains(QStringLiteral(",hardBraking,")));

@@ -6,7 +6,6 @@
 #include "support/TreeSnapshot.h"
 
 #include <QDir>
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -22,10 +21,8 @@ namespace {
 const QString savedId = QStringLiteral("saved|2024-06-02_09-00-00");
 const QString sentryId = QStringLiteral("sentry|2024-06-01_15-05-00");
 
-// Driving at 12.5 m/s in the first clip, where the GPS gives a new fix every
-// fourth frame, and standing in the second. Frame 7 of every clip carries a
-// record the car mangled, frame 9 none, and frame 0 is parked (so it sends
-// neither speed nor gear).
+// 12.5 m/s in the first clip, a new GPS fix every fourth frame, standing in the second. In every clip frame 7 holds
+// a record the car mangled, frame 9 none, and frame 0 is parked (so it sends neither speed nor gear).
 std::optional<FrameRecord> record(int clip, int frame)
 {
     if (frame == 9)
@@ -68,8 +65,7 @@ class TestTelemetryCommand : public QObject {
     QString path(const QString &name) const { return dir_.filePath(name); }
 
 private Q_SLOTS:
-    // A saved event of two 3-second front clips ten seconds apart, with
-    // records, and a back clip without; a Sentry event without records.
+    // A saved event: two 3 s front clips 10 s apart with records, a back clip without; a Sentry event without records.
     void initTestCase()
     {
         if (!TestClips::ffmpegAvailable())
@@ -81,8 +77,7 @@ private Q_SLOTS:
             "SavedClips", "2024-06-02_09-00-00", TeslaCamFixture::eventJson("2024-06-02T09:00:00", "user_interaction_honk"));
         for (int clip = 0; clip < 2; ++clip) {
             const QString source = path(QStringLiteral("records-%1.mp4").arg(clip));
-            // The first clip's header says it began at 13:59 UTC (the car's
-            // clock in its name is five hours behind); the second's says nothing.
+            // Clip one's header says 13:59 UTC (its name's car clock is five hours behind); clip two's says nothing.
             TelemetryClipWriter::remux(plain, source, [clip](int frame, double) { return record(clip, frame); }, false,
                                        clip ? QString() : QStringLiteral("2024-06-02T13:59:00Z"));
             fixture.addClip(saved, clip ? "2024-06-02_08-59-10" : "2024-06-02_08-59-00", "front", 0, source);
@@ -170,9 +165,8 @@ private Q_SLOTS:
                 times << xml.readElementText();
         }
         QVERIFY2(!xml.hasError(), qPrintable(xml.errorString()));
-        // One line per clip, ten seconds apart; one point per new fix, and
-        // one for all the time the car stood. Times are UTC from the header,
-        // whatever the computer's zone, and a clip without one gives none.
+        // One line per clip, 10 s apart; a point per new fix and one for the whole stand. Times are UTC from the
+        // header, whatever the computer's zone; a clip without one gives none.
         QCOMPARE(segments, 2);
         QCOMPARE(points.size(), 27 + 1);
         QCOMPARE(points.first(), QStringLiteral("30.5 -97.75"));
@@ -208,6 +202,9 @@ private Q_SLOTS:
                                            "right_repeater, left_pillar, right_pillar, rear_backup.";
         QTest::newRow("no such format") << QStringList{"--event", savedId, "--format", "kml"}
                                         << "\u201ckml\u201d is not a format; use csv, json or gpx.";
+        QTest::newRow("a file on the drive")
+            << QStringList{"--event", savedId, "-o", root_ + "/drive.csv"}
+            << "Keelhold never writes to your Tesla drive, so save the driving data somewhere else.";
     }
 
     void oneSentenceWhenThereIsNothingToGive()
@@ -220,16 +217,13 @@ private Q_SLOTS:
         QCOMPARE(run.err.trimmed(), sentence);
     }
 
-    void nothingIsWrittenToTheDrive()
+    // Whatever was asked, the drive is as it was, access times too.
+    void cleanupTestCase()
     {
-        const QString inside = root_ + QStringLiteral("/drive.csv");
-        const CliRun::Result run = cli({root_, QStringLiteral("--event"), savedId, QStringLiteral("-o"), inside});
-        QCOMPARE(run.exitCode, 2);
-        QCOMPARE(run.err.trimmed(),
-                 QStringLiteral("Keelhold never writes to your Tesla drive, so save the driving data somewhere else."));
-        QVERIFY(!QFile::exists(inside));
-        const QString changes = before_.differences(TreeSnapshot::take(root_), true);
-        QVERIFY2(changes.isEmpty(), qPrintable(changes));
+        if (!root_.isEmpty()) {
+            const QString changes = before_.differences(TreeSnapshot::take(root_), true);
+            QVERIFY2(changes.isEmpty(), qPrintable(changes));
+        }
     }
 };
 

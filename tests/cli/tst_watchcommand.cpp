@@ -53,14 +53,11 @@ private:
 
 } // namespace
 
-// The watch against real drives (exFAT images mounted under /media, which
-// needs root) and a notification service on the test's own session bus.
+// The watch on real drives (exFAT images under /media, root only) and notifications on the test's own session bus.
 class TestWatchCommand : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    // A drive that comes in is kept, told in one line and one notification;
-    // the same drive again has nothing new; the watch outlives both and
-    // stops cleanly when asked.
+    // Each drive kept, told in a line and a notification; the same again has nothing new; the watch stops when asked.
     void keepsEachDriveAsItComes()
     {
         NotificationServiceStandIn desktop;
@@ -128,8 +125,7 @@ private Q_SLOTS:
         QCOMPARE(watch.stop(), 0);
     }
 
-    // The user unit as installed: systemd finds nothing wrong with it, and
-    // its command, run as it runs it, keeps into the Vault chosen in the app.
+    // The installed user unit: systemd finds nothing wrong, and its command keeps into the Vault chosen in the app.
     void theUserUnitRunsTheWatch()
     {
         QString unit =

@@ -1,6 +1,5 @@
 #include "drive/ClipProber.h"
 #include "base/ReadPriority.h"
-#include "drive/TeslaCamParser.h"
 #include "base/CancellationError.h"
 #include "support/CliRun.h"
 #include "support/DamagedHeaders.h"
@@ -97,8 +96,7 @@ private:
         return path;
     }
 
-    // On a dead drive, a clip no read of which answers (until the test ends);
-    // the most reads the drive held at once is how many probes waited on it.
+    // On a dead drive, a clip whose reads never answer; the drive's most held reads count the probes waiting on it.
     QString heldClip(FaultyFs &drive)
     {
         const QString name = QStringLiteral("2026-07-21_02-11-05-front-%1.mp4").arg(++counter_);
@@ -160,84 +158,58 @@ private Q_SLOTS:
         QCOMPARE(int(result.health), expected);
         QVERIFY(!result.duration);
 
-        // The scanned size alone decides: a FIFO under that size would hang
-        // anything that opened it, yet the answer comes at once.
+        // The scanned size alone decides: a FIFO under it would hang an opener, yet the answer comes at once.
         const QString hanging = fifo();
         const auto start = Clock::now();
         QCOMPARE(int(ClipProber::probe(clipAt(hanging, size), 5s)), expected);
         QVERIFY(secondsSince(start) < 1.0);
     }
 
-    void realClipsAreOkWithTheirLength_data()
-    {
-        QTest::addColumn<bool>("hevc");
-        QTest::newRow("H.264") << false;
-        QTest::newRow("H.265") << true;
-    }
-
-    void realClipsAreOkWithTheirLength()
-    {
-        QFETCH(bool, hevc);
-        const QString path = copyOf(hevc ? h265_ : h264_);
-        QVERIFY(ClipProber::sniffFtyp(path));
-        const ClipProber::ProbeResult result = ClipProber::probeDetailed(clipAt(path));
-        QCOMPARE(result.health, ClipHealth::ok);
-        QVERIFY2(qAbs(result.duration.value_or(0) - 2.0) < 0.1, qPrintable(QString::number(result.duration.value_or(0))));
-    }
-
-    void refusedFilesByTheirBeginning_data()
+    void filesByTheirBeginning_data()
     {
         QTest::addColumn<QByteArray>("bytes");
         QTest::addColumn<bool>("signature");
+        QTest::addColumn<bool>("ecryptfs");
         QTest::addColumn<int>("expected");
-        QTest::newRow("65,536 random bytes") << randomBytes(65536, 1) << false << int(ClipHealth::unreadable);
-        QTest::newRow("ftyp at 4, then garbage") << withSignatureAt(4) << true << int(ClipHealth::encrypted);
-        QTest::newRow("ftyp at 8, then garbage") << withSignatureAt(8) << false << int(ClipHealth::unreadable);
+        // Real clips are ok, with their length.
+        QTest::newRow("H.264") << DriveBuilder::readQuietly(h264_) << true << false << int(ClipHealth::ok);
+        QTest::newRow("H.265") << DriveBuilder::readQuietly(h265_) << true << false << int(ClipHealth::ok);
+        QTest::newRow("65,536 random bytes") << randomBytes(65536, 1) << false << false << int(ClipHealth::unreadable);
+        QTest::newRow("ftyp at 4, then garbage") << withSignatureAt(4) << true << false << int(ClipHealth::encrypted);
+        QTest::newRow("ftyp at 8, then garbage") << withSignatureAt(8) << false << false << int(ClipHealth::unreadable);
         // Starts well but lost its index: the one-file rule reads it as encrypted.
-        QTest::newRow("moov cut off") << withoutMoov() << true << int(ClipHealth::encrypted);
+        QTest::newRow("moov cut off") << withoutMoov() << true << false << int(ClipHealth::encrypted);
+        // Today's encrypted clips are eCryptfs files, each known by itself; one marker bit off, and it is plain damage.
+        QByteArray sealed = EcryptfsWriter::encrypt(randomBytes(512 * 1024, 7), EcryptfsWriter::fileKey(1),
+                                                    EcryptfsWriter::keyBlock(1));
+        QTest::newRow("eCryptfs") << sealed << false << true << int(ClipHealth::encrypted);
+        sealed[15] = char(sealed[15] ^ 1);
+        QTest::newRow("eCryptfs, a bit off") << sealed << false << false << int(ClipHealth::unreadable);
     }
 
-    void refusedFilesByTheirBeginning()
+    void filesByTheirBeginning()
     {
         QFETCH(QByteArray, bytes);
         QFETCH(bool, signature);
+        QFETCH(bool, ecryptfs);
         QFETCH(int, expected);
         const QString path = write(bytes);
         QVERIFY(QFileInfo(path).size() >= ClipProber::minimumBelievableSize);
-        QCOMPARE(ClipProber::sniffFtyp(path), signature);
+        QCOMPARE(std::pair(ClipProber::sniffFtyp(path), ClipProber::sniffEcryptfs(path)), std::pair(signature, ecryptfs));
         const ClipProber::ProbeResult result = ClipProber::probeDetailed(clipAt(path));
         QCOMPARE(int(result.health), expected);
-        QVERIFY(!result.duration);
+        const double length = result.duration.value_or(0);
+        if (expected == int(ClipHealth::ok))
+            QVERIFY2(qAbs(length - 2.0) < 0.1, qPrintable(QString::number(length)));
+        else
+            QVERIFY(!result.duration);
         // Alone in a pass, the mass rule leaves it as it is.
         const auto events = ClipProber::probeAll({eventWith({clipAt(path)})}, 5s, 4);
         QCOMPARE(int(events[0].clips[0].health), expected);
     }
 
-    // Current firmware's encrypted clips are eCryptfs files: each is known
-    // by itself, not only when half the drive fails alike.
-    void ecryptfsClipIsEncryptedByItself()
-    {
-        QByteArray lower = EcryptfsWriter::encrypt(randomBytes(512 * 1024, 7), EcryptfsWriter::fileKey(1),
-                                                   EcryptfsWriter::keyBlock(1));
-        const QString path = write(lower);
-        QVERIFY(ClipProber::sniffEcryptfs(path));
-        QVERIFY(!ClipProber::sniffFtyp(path));
-        QCOMPARE(ClipProber::probe(clipAt(path)), ClipHealth::encrypted);
-        const auto events = ClipProber::probeAll({eventWith({clipAt(path), clipAt(copyOf(h264_))})}, 5s, 2);
-        QCOMPARE(healthsOf(events), (std::vector<ClipHealth>{ClipHealth::encrypted, ClipHealth::ok}));
-
-        // One bit of the marker's words off, and it is damage like any other unreadable file.
-        lower[15] = char(lower[15] ^ 1);
-        const QString near = write(lower);
-        QVERIFY(!ClipProber::sniffEcryptfs(near));
-        QCOMPARE(ClipProber::probe(clipAt(near)), ClipHealth::unreadable);
-        QVERIFY(!ClipProber::sniffEcryptfs(copyOf(h264_)));
-    }
-
-    // A clip that opens but whose header its data contradict, or whose data
-    // stop short of what the header promises, is truncated, not ok: the
-    // inbox marks it and the health report counts it. Among good clips it
-    // stays what it is.
+    // A header its data contradict, or data short of what it promises: truncated, not ok, as the inbox and health
+    // report count it; among good clips it stays what it is.
     void headerTheDataContradictIsTruncated_data()
     {
         DamagedHeaders::addRows();
@@ -349,14 +321,12 @@ private Q_SLOTS:
         ClipRef empty = clipAt(write({}));
         empty.duration = 12.0;
         const std::vector<TeslaEvent> input{eventWith({refused, playable, empty})};
-        const std::vector<TeslaEvent> copy = input;
 
         const auto events = ClipProber::probeAll(input, 5s, 4);
-        QCOMPARE(input, copy);
         const std::optional<double> measured = events[0].clips[1].duration;
         QVERIFY(measured && qAbs(*measured - 2.0) < 0.1);
         // Health written back; nothing else about the events changes.
-        auto expected = copy;
+        auto expected = input;
         expected[0].clips[0].health = ClipHealth::unreadable;
         expected[0].clips[1].health = ClipHealth::ok;
         expected[0].clips[1].duration = measured;
@@ -364,7 +334,7 @@ private Q_SLOTS:
         QCOMPARE(events, expected);
     }
 
-    void progressCountsFromTheCallingThread()
+    void progressCountsFromTheCallingThreadOnlyForProbes()
     {
         std::vector<ClipRef> clips;
         for (int i = 0; i < 7; ++i)
@@ -372,16 +342,25 @@ private Q_SLOTS:
         std::vector<std::pair<int, int>> calls;
         bool sameThread = true;
         const auto caller = std::this_thread::get_id();
-        ClipProber::probeAll({eventWith(clips)}, 5s, 3, [&](int completed, int total) {
+        const auto count = [&](int completed, int total) {
             sameThread = sameThread && std::this_thread::get_id() == caller;
             calls.emplace_back(completed, total);
-        });
+        };
+        ClipProber::probeAll({eventWith(clips)}, 5s, 3, count);
         QVERIFY(sameThread);
         QCOMPARE(calls, (std::vector<std::pair<int, int>>{{1, 7}, {2, 7}, {3, 7}, {4, 7}, {5, 7}, {6, 7}, {7, 7}}));
+
+        // No probes allowed, or nothing to probe: no calls, nothing changed.
+        calls.clear();
+        const std::vector<TeslaEvent> input{eventWith({clips[0], clips[1]})};
+        QCOMPARE(ClipProber::probeAll(input, 5s, 0, count), input);
+        const std::vector<TeslaEvent> empty{eventWith({}), eventWith({}, QStringLiteral("2026-07-21_03-00-00"))};
+        QCOMPARE(ClipProber::probeAll(empty, 5s, 4, count), empty);
+        QCOMPARE(ClipProber::probeAll({}, 5s, 4, count), std::vector<TeslaEvent>{});
+        QVERIFY(calls.empty());
     }
 
-    // While an event opens the pass waits between clips, and goes on when
-    // the opening is done; waiting has a limit, and hears stop.
+    // The pass waits between clips while an event opens and goes on after; waiting has a limit, and hears stop.
     void passYieldsToAnOpeningEvent()
     {
         std::vector<ClipRef> clips;
@@ -417,8 +396,7 @@ private Q_SLOTS:
         std::vector<ClipRef> clips;
         for (int i = 0; i < 4; ++i)
             clips.push_back(clipAt(heldClip(drive), 30'000'000));
-        // Two at a time: the second pair begins only once the first pair
-        // was given up on, its reads left behind.
+        // Two at a time: the second pair begins only once the first was given up on, its reads left behind.
         std::vector<TeslaEvent> events;
         std::jthread pass([&] { events = ClipProber::probeAll({eventWith(clips)}, 1s, 2); });
         QVERIFY(drive.waitUntilHeld(2));
@@ -428,27 +406,13 @@ private Q_SLOTS:
         QCOMPARE(drive.mostHeldRequests(), 4);
     }
 
-    void capZeroAndNoClipsChangeNothing()
-    {
-        const std::vector<TeslaEvent> input{eventWith({clipAt(copyOf(h264_)), clipAt(randomClip())})};
-        int calls = 0;
-        const auto count = [&](int, int) { ++calls; };
-        QCOMPARE(ClipProber::probeAll(input, 5s, 0, count), input);
-        const std::vector<TeslaEvent> empty{eventWith({}), eventWith({}, QStringLiteral("2026-07-21_03-00-00"))};
-        QCOMPARE(ClipProber::probeAll(empty, 5s, 4, count), empty);
-        QCOMPARE(ClipProber::probeAll({}, 5s, 4, count), std::vector<TeslaEvent>{});
-        QCOMPARE(calls, 0);
-    }
-
     void stopRequestEndsThePass()
     {
         KEELHOLD_FAULTY_FS(drive, mount);
         std::vector<ClipRef> clips;
         for (int i = 0; i < 6; ++i)
             clips.push_back(clipAt(heldClip(drive), 30'000'000));
-        // A cap above the count starts all six at once. The reads never
-        // answer; the pass must end soon after the stop, not after each
-        // clip's own 10 seconds.
+        // A cap above the count starts all six; reads never answer: the pass ends soon after stop, not per clip's 10 s.
         std::stop_source stop;
         std::atomic<bool> allHeld{false};
         std::jthread stopper([&] {
@@ -471,7 +435,8 @@ private Q_SLOTS:
                                                       stop.get_token()));
     }
 
-    void driveStaysUntouched()
+    // Every clip's health after the scan, the drive left as it was, access times too (each open asks O_NOATIME).
+    void commandLineProbesAfterTheScan()
     {
         QTemporaryDir drive;
         TeslaCamFixture fixture(drive.filePath(QStringLiteral("TeslaCam")));
@@ -483,49 +448,32 @@ private Q_SLOTS:
         TeslaCamFixture::writeFile(event + QStringLiteral("/2026-07-21_02-10-05-left_repeater.mp4"),
                                    withSignatureAt(4));
         TeslaCamFixture::writeFile(event + QStringLiteral("/2026-07-21_02-10-05-right_repeater.mp4"), {});
-        fixture.addRecentClip(QStringLiteral("2026-07-21_01-00-00"), QStringLiteral("front"), 0, h264_);
+        fixture.addRecentClip(QStringLiteral("2026-07-21_01-00-00"), QStringLiteral("front"), 0, h265_);
         TeslaCamFixture::writeFile(fixture.path(QStringLiteral("RecentClips/2026-07-21_01-00-00-back.mp4")),
                                    randomBytes(200000, 11));
-        // Access times too: every open must have asked for O_NOATIME.
         const TreeSnapshot before = TreeSnapshot::take(drive.path());
 
-        const DriveScan scan = TeslaCamParser::scan(fixture.root());
-        const auto events = ClipProber::probeAll(scan.events, ClipProber::defaultTimeout, 4);
+        const CliRun::Result r = CliRun::run({QStringLiteral("scan"), fixture.root(), QStringLiteral("--probe"),
+                                              QStringLiteral("--timeout"), QStringLiteral("5")});
+        QCOMPARE(r.exitCode, 0);
         QStringList healths;
-        for (const auto &e : events)
-            for (const auto &clip : e.clips)
-                healths << clip.fileName() + QLatin1Char(' ') + clip.health.rawValue();
+        double duration = 0;
+        for (const auto &e : QJsonDocument::fromJson(r.out).object().value(QStringLiteral("events")).toArray())
+            for (const auto &value : e.toObject().value(QStringLiteral("clips")).toArray()) {
+                const QJsonObject clip = value.toObject();
+                const QString name = QFileInfo(clip.value(QStringLiteral("url")).toString()).fileName();
+                healths << name + QLatin1Char(' ') + clip.value(QStringLiteral("health")).toString();
+                if (name == QLatin1String("2026-07-21_01-00-00-front.mp4"))
+                    duration = clip.value(QStringLiteral("duration")).toDouble();
+            }
         healths.sort();
         QCOMPARE(healths, (QStringList{"2026-07-21_01-00-00-back.mp4 unreadable", "2026-07-21_01-00-00-front.mp4 ok",
                                        "2026-07-21_02-10-05-back.mp4 ok", "2026-07-21_02-10-05-front.mp4 ok",
                                        "2026-07-21_02-10-05-left_repeater.mp4 encrypted",
                                        "2026-07-21_02-10-05-right_repeater.mp4 zeroByte"}));
-
+        QVERIFY(qAbs(duration - 2.0) < 0.1);
         const QString changes = before.differences(TreeSnapshot::take(drive.path()), true);
         QVERIFY2(changes.isEmpty(), qPrintable(changes));
-    }
-
-    void commandLineProbesAfterTheScan()
-    {
-        QTemporaryDir drive;
-        TeslaCamFixture fixture(drive.filePath(QStringLiteral("TeslaCam")));
-        fixture.addRecentClip(QStringLiteral("2026-07-21_01-00-00"), QStringLiteral("front"), 0, h265_);
-        TeslaCamFixture::writeFile(fixture.path(QStringLiteral("RecentClips/2026-07-21_01-00-00-back.mp4")),
-                                   randomBytes(70000, 13));
-        CliRun::Result r = CliRun::run({QStringLiteral("scan"), fixture.root(), QStringLiteral("--probe"),
-                                        QStringLiteral("--timeout"), QStringLiteral("5")});
-        QCOMPARE(r.exitCode, 0);
-        const QJsonObject scan = QJsonDocument::fromJson(r.out).object();
-        QMap<QString, QJsonObject> byName;
-        for (const auto &event : scan.value(QStringLiteral("events")).toArray())
-            for (const auto &clip : event.toObject().value(QStringLiteral("clips")).toArray())
-                byName.insert(QFileInfo(clip.toObject().value(QStringLiteral("url")).toString()).fileName(),
-                              clip.toObject());
-        const QJsonObject front = byName.value(QStringLiteral("2026-07-21_01-00-00-front.mp4"));
-        QCOMPARE(front.value(QStringLiteral("health")).toString(), QStringLiteral("ok"));
-        QVERIFY(qAbs(front.value(QStringLiteral("duration")).toDouble() - 2.0) < 0.1);
-        QCOMPARE(byName.value(QStringLiteral("2026-07-21_01-00-00-back.mp4")).value(QStringLiteral("health")).toString(),
-                 QStringLiteral("unreadable"));
 
         // A limit that isn't a positive number of seconds, or one without --probe, is a usage error.
         for (const QStringList &limit : {QStringList{"--probe", "--timeout", "soon"}, QStringList{"--probe", "--timeout", "0"},

@@ -51,6 +51,10 @@ private Q_SLOTS:
         QVERIFY(!decode(R"({"camera":1.5})").cameraRaw && !decode(R"({"camera":false})").cameraRaw);
         const auto p = decode(R"({"timestamp":5,"city":["x"],"reason":{"a":1},"est_lon":"7.25"})");
         QVERIFY(!p.timestampRaw && !p.city && !p.reason);
+        // No reason at all is an unknown one, with no text of the car's to show.
+        const PlainReason absent = ReasonMapper::map(p.reason);
+        QCOMPARE(std::pair(absent.category, absent.raw),
+                 std::pair(ReasonCategory(ReasonCategory::unknown), std::optional<QString>()));
         QCOMPARE(p.estLon, std::optional<double>(7.25));
         // Decoding fails only for what isn't an object.
         QVERIFY(EventJSONPayload::decode("{}"));
@@ -106,13 +110,6 @@ private Q_SLOTS:
         QCOMPARE(int(r.category.value()), category);
         QCOMPARE(r.raw, std::optional<QString>(raw));
         QCOMPARE(r.accelValue, accel ? std::optional(accel) : std::nullopt);
-    }
-
-    void absentReason()
-    {
-        const PlainReason absent = ReasonMapper::map(std::nullopt);
-        QCOMPARE(std::pair(absent.category, absent.raw),
-                 std::pair(ReasonCategory(ReasonCategory::unknown), std::optional<QString>()));
     }
 };
 

@@ -29,8 +29,7 @@ int sleepUnlessStopped(std::stop_token stop, std::chrono::milliseconds total, in
     return value;
 }
 
-// Far beyond how long any of this work takes, however busy the machine:
-// a call that ends before it did not wait for its limit.
+// Far beyond any of this work, however busy the machine: a call that ends before it did not wait for its limit.
 constexpr auto longLimit = 60s;
 } // namespace
 
@@ -70,8 +69,7 @@ private Q_SLOTS:
 
     void workStuckPastTheGraceIsLeftBehindWithWhatItHolds()
     {
-        // Stands for a read stuck in the kernel: it hears no stop and ends
-        // only when the gate opens, long after the caller has gone on.
+        // A read stuck in the kernel: deaf to stop, it ends only when the gate opens, long after the caller went on.
         auto gate = std::make_shared<std::latch>(1);
         auto held = std::make_shared<QString>(QStringLiteral("still mine"));
         auto seenByWork = std::make_shared<std::atomic<bool>>(false);
@@ -126,9 +124,7 @@ private Q_SLOTS:
         QVERIFY2(*ended, "the owner went before its thread ended");
         QCOMPARE(IOWatchdog::abandonedThreads(), 0);
 
-        // Deaf to the stop, as a read in the kernel is: the owner goes
-        // after the grace (or at once when it had asked to stop before) and
-        // the thread is counted until it ends.
+        // Deaf to stop like a kernel read: the owner goes after the grace (at once if told first); counted until done.
         auto gate = std::make_shared<std::latch>(1);
         for (bool askedBefore : {false, true}) {
             QElapsedTimer timer;
@@ -204,8 +200,7 @@ private Q_SLOTS:
 
     void nothingOfFinishedWorkOutlivesTheCall()
     {
-        // What the work holds (an open file, say) is released before run
-        // returns, which it does at once, not at the limit.
+        // What the work holds (an open file) is released before run returns, which it does at once, not at the limit.
         QElapsedTimer timer;
         timer.start();
         for (int i = 0; i < 200; ++i) {

@@ -1,7 +1,6 @@
 #include "base/IOWatchdog.h"
 #include "drive/SeiTelemetry.h"
 #include "drive/TelemetryReader.h"
-#include "base/CancellationError.h"
 #include "support/DriveBuilder.h"
 #include "support/FaultyFs.h"
 #include "support/TelemetryClipWriter.h"
@@ -98,9 +97,7 @@ private Q_SLOTS:
         QVERIFY(tmp_.isValid());
     }
 
-    // Frames stored out of presentation order (B-frames): each record still
-    // belongs to the frame it was written in front of, and the encoder's own
-    // user-data message on the first frame is passed over.
+    // B-frames: each record belongs to the frame it preceded; the encoder's own user data on frame one is skipped.
     void everyFrameReadsBackAtItsTime()
     {
         TestClips::ClipOptions options = smallClip();
@@ -199,8 +196,7 @@ private Q_SLOTS:
         QCOMPARE(QByteArray(reinterpret_cast<const char *>(back.data()), qsizetype(back.size())), tricky);
     }
 
-    // A clip without records is the telemetry timeline's test; files that
-    // are no movie give nothing, quickly.
+    // A clip without records is the telemetry timeline's test; files that are no movie give nothing, quickly.
     void filesThatAreNoMovie()
     {
         const QString junk = tmp_.filePath(QStringLiteral("junk.mp4"));
@@ -212,13 +208,11 @@ private Q_SLOTS:
         QVERIFY(!TelemetryReader::readClip(clipAt(fifo)));
     }
 
-    // A drive that fails with EIO part-way through a clip: the frames
-    // before the failure keep their records.
+    // A drive failing with EIO mid-clip: the frames before the failure keep their records.
     void aReadFailingPartWayKeepsWhatCameBefore()
     {
         KEELHOLD_FAULTY_FS(fs, mount);
-        // Large enough that the failure lies beyond the first reads, and the
-        // index first, so that the failure hits the samples.
+        // Large, and index first, so the failure lies beyond the first reads, in the samples.
         TestClips::ClipOptions options;
         options.lossless = true;
         const QString source = tmp_.filePath(QStringLiteral("failing-source.mp4"));
@@ -233,25 +227,18 @@ private Q_SLOTS:
         QVERIFY(sameFields(track->records[5], driving(5)));
     }
 
-    // A read held by a dead drive ends when its watchdog gives up, and the
-    // caller's stop ends it at once.
+    // Ends when its watchdog gives up (the caller's stop: the telemetry engine's cancellingStopsAStuckLoad).
     void aHangingReadIsLeftBehind()
     {
         KEELHOLD_FAULTY_FS(fs, mount);
-        const QString held = fs.addHeldFile(QStringLiteral("held-front.mp4"), QByteArray(128 * 1024, 'x'));
-        const ClipRef clip = clipAt(held);
+        const ClipRef clip = clipAt(fs.addHeldFile(QStringLiteral("held-front.mp4"), QByteArray(128 * 1024, 'x')));
         QVERIFY_THROWS_EXCEPTION(IOWatchdog::TimedOut, IOWatchdog::run(200ms, [clip](std::stop_token stop) {
             return TelemetryReader::readClip(clip, stop);
         }));
-        std::stop_source caller;
-        caller.request_stop();
-        QVERIFY_THROWS_EXCEPTION(CancellationError, TelemetryReader::readClip(clip, caller.get_token()));
         fs.release();
     }
 
-    // While playing, libavcodec hands each frame's user data over already
-    // unescaped; our own reading of the record agrees with the decoder's
-    // reading of the SEI.
+    // Playing, libavcodec hands user data over unescaped; our reading of the record agrees with its reading of the SEI.
     void theDecoderFindsTheSameRecords()
     {
         const QString path = writeClip(QStringLiteral("decoded.mp4"), [](int frame, double) {

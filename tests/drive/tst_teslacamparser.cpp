@@ -170,9 +170,7 @@ private Q_SLOTS:
                  std::pair(fx.path("RecentClips/event.json"), fx.path("RecentClips/old")));
     }
 
-    // The car's encrypted footage is read by the same rules as the clear,
-    // and stands beside it; its clips are taken as encrypted by where they
-    // lie, and its event.json, which only the car can read, is no issue.
+    // Same rules as clear footage, beside it: clips encrypted by where they lie; the car-only event.json is no fault.
     void encryptedClipsAreListedBesideClearOnes()
     {
         QTemporaryDir tmp;
@@ -220,9 +218,7 @@ private Q_SLOTS:
         QVERIFY(!open->toJson().contains("encrypted"));
     }
 
-    // A missing root, or one that is a file, is the scan command's test;
-    // below the root, a file where a folder should be costs that folder
-    // only, and a FIFO called event.json does not block the read.
+    // Below the root a file where a folder should be costs that folder only; a FIFO named event.json doesn't block.
     void oddEntriesCostOnlyThemselves()
     {
         QTemporaryDir tmp;
@@ -307,20 +303,14 @@ private Q_SLOTS:
         QVERIFY(!ClipNames::parseTimestamp(u"\u0662\u0660\u0662\u0664-07-21", u"02-11-05"));
     }
 
+    // The temporary folder and a tmpfs below /media: the health command's
+    // reportsTheDriveWithoutAVaultAndItsFormat.
     void computersOwnDiskOrAPluggedInDrive()
     {
-        // A folder of the computer's own: where the tests' temporary folders live.
-        QTemporaryDir tmp;
-        QVERIFY(TeslaCamParser::scan(TeslaCamFixture(tmp.path() + "/TeslaCam").root()).onSystemDisk);
         if (::geteuid() != 0)
             QSKIP("needs root to mount drives");
-
-        // A tmpfs where plugged-in drives are mounted is one of them; the dot
-        // keeps it out of the drive lists of other tests running beside this one.
-        const TmpfsMount plugged(QStringLiteral("/media"), QStringLiteral(".keelhold-drive-XXXXXX"));
-        QVERIFY(plugged.ok());
-        QVERIFY(!TeslaCamParser::scan(TeslaCamFixture(plugged.path() + "/TeslaCam").root()).onSystemDisk);
         // Elsewhere a tmpfs is the computer's own, as a sandbox's is.
+        QTemporaryDir tmp;
         const TmpfsMount own(tmp.path(), QStringLiteral("own-XXXXXX"));
         QVERIFY(own.ok());
         QVERIFY(TeslaCamParser::scan(TeslaCamFixture(own.path() + "/TeslaCam").root()).onSystemDisk);

@@ -11,7 +11,6 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
@@ -65,8 +64,7 @@ QStringList names(const std::vector<VolumeCandidate> &candidates)
     return out;
 }
 
-// Events in words, to compare whole: the kind, then the mount point and name
-// (an unmount carries only its mount point).
+// Events in words to compare whole: kind, mount point, name (an unmount carries only its mount point).
 QStringList said(const std::vector<DriveEvent> &events)
 {
     const QStringList kinds{QStringLiteral("mounted"), QStringLiteral("unmounted"), QStringLiteral("renamed")};
@@ -78,8 +76,7 @@ QStringList said(const std::vector<DriveEvent> &events)
     return out;
 }
 
-// Collects the stream's events that concern paths below prefix, until count
-// have come or the time is up; then waits a little more to catch extras.
+// Collects events below prefix until count came or the time is up, then waits a little longer to catch extras.
 std::vector<DriveEvent> collect(DriveEventStream &stream, const QString &prefix, size_t count, int ms = 20000)
 {
     std::vector<DriveEvent> got;
@@ -173,21 +170,19 @@ private Q_SLOTS:
         // Gone and back between two looks: both are reported, each once.
         const auto aAgain = entry(7, "0:43", "/media/A");
         QCOMPARE(MountTable::diff({a}, {aAgain}), (std::vector<C>{{C::unmounted, "/media/A"}, {C::mounted, "/media/A"}}));
-        // Another part of the same device is not the same volume. (A plain
-        // mount, unmount, move or relabel: the real mounts below.)
+        // Another part of the same device is not the same volume (mount, move, relabel: the real mounts below).
         const auto otherRoot = entry(10, "0:40", "/media/Z", "/sub");
         QCOMPARE(MountTable::diff({a}, {otherRoot}),
                  (std::vector<C>{{C::unmounted, "/media/A"}, {C::mounted, "/media/Z"}}));
     }
     void candidateOfAFolderThatIsNoMountPoint()
     {
-        // A folder that isn't a mount point of its own: its figures can't be
-        // read, so they stay unknown, and it is still a candidate.
+        // A folder that isn't a mount of its own: its figures stay unknown, and it is still a candidate.
         const QString folder = scratch_.filePath(QStringLiteral("PLAIN"));
         TeslaCamFixture::writeFile(folder + QStringLiteral("/TeslaCam"), {});
         const auto c = DriveWatcher::volumeCandidate(folder);
         // A file named TeslaCam is not the folder.
-        QCOMPARE(c, std::optional(VolumeCandidate{folder, QStringLiteral("PLAIN")}));
+        QCOMPARE(c, std::optional(VolumeCandidate{folder, QStringLiteral("PLAIN"), false, {}, {}}));
         QCOMPARE(c->id(), folder);
 
         QVERIFY(QFile::remove(folder + QStringLiteral("/TeslaCam")));
@@ -202,7 +197,6 @@ private Q_SLOTS:
             QSKIP("Needs root to mount a tmpfs below /media.");
         DriveWatcher watcher;
         const auto stream = watcher.events();
-        QCOMPARE(watcher.events(), stream); // one stream per watcher
         // A reader that waits before anything happens gets the first event.
         QFuture<std::optional<DriveEvent>> first = stream->next();
 
@@ -219,10 +213,8 @@ private Q_SLOTS:
         // It is listed among the mounted volumes.
         QVERIFY(names(DriveWatcher::mountedTeslaCamVolumes()).contains(QStringLiteral("USBSTICK")));
 
-        // Away and back while the main thread is busy, its event loop not
-        // running: each reported once, in order. Only the watcher's own calls
-        // are let through, and the drive returns once the reader thread has seen
-        // it leave (back at once, it may get the same ids and look unchanged).
+        // Away and back while the main loop is busy: each reported once, in order. Only the watcher's calls pass; the
+        // drive returns once the reader saw it leave (back at once, it may get the same ids and look unchanged).
         QVERIFY(unmount(path));
         std::vector<DriveEvent> away;
         const QDeadlineTimer seen(20000);
@@ -281,8 +273,7 @@ private Q_SLOTS:
         for (const VolumeCandidate &c : DriveWatcher::mountedTeslaCamVolumes())
             if (c.volumeURL.startsWith(base_))
                 ours << c.name + (c.hasTeslaCamFolder ? QStringLiteral("+") : QString());
-        // Drives with a TeslaCam folder first, then by plain text comparison:
-        // upper case sorts before lower case.
+        // TeslaCam drives first, then plain text order: upper case sorts before lower case.
         QCOMPARE(ours, (QStringList{"CAR+", "zzz-car+", "BBB-plain", "aaa-plain", "yyy-file"}));
     }
     void realExfatLabelAndRelabel()
@@ -295,11 +286,10 @@ private Q_SLOTS:
             QSKIP("Needs exfatprogs, exfat-fuse and /dev/fuse.");
         const QString image = scratch_.filePath(QStringLiteral("drive.img"));
         TeslaCamFixture::makeSparseFile(image, 16 * 1024 * 1024);
-        QProcess losetup;
-        losetup.start(QStringLiteral("losetup"), {QStringLiteral("-f"), QStringLiteral("--show"), image});
-        QVERIFY(losetup.waitForFinished(10000));
-        const QString loop = QString::fromUtf8(losetup.readAllStandardOutput()).trimmed();
-        if (losetup.exitCode() != 0 || loop.isEmpty())
+        const ProgramRun::Result losetup =
+            ProgramRun::run(QStringLiteral("losetup"), {QStringLiteral("-f"), QStringLiteral("--show"), image});
+        const QString loop = QString::fromUtf8(losetup.out).trimmed();
+        if (losetup.exitCode != 0 || loop.isEmpty())
             QSKIP("No loop device available.");
         loopDevices_ << loop;
         QCOMPARE(run(mkfs, {QStringLiteral("-L"), QStringLiteral("TESLADRIVE"), loop}), 0);
@@ -314,9 +304,7 @@ private Q_SLOTS:
         QCOMPARE(said(events), QStringList{"mounted " + path + " TESLADRIVE"});
         QVERIFY(events[0].candidate().capacityBytes.has_value());
 
-        // Relabelled and mounted again under its new name, as a desktop does:
-        // the same device at a new place is a rename, and the old mount point
-        // is never reported.
+        // Relabelled and remounted under its new name, as a desktop does: a rename; the old mount point never shows.
         QVERIFY(unmount(path));
         QCOMPARE(run(QStringLiteral("exfatlabel"), {loop, QStringLiteral("DASHCAM")}), 0);
         const QString renamedPath = base_ + QStringLiteral("/DASHCAM");
@@ -325,13 +313,11 @@ private Q_SLOTS:
         mounted_ << renamedPath;
         QCOMPARE(said(collect(*stream, base_, 1)), QStringList{"renamed " + renamedPath + " DASHCAM"});
 
-        // Pulled for good: the unmount comes once the drive had its chance to
-        // return, and nothing follows it.
+        // Pulled for good: the unmount comes once the drive had its chance to return, and nothing follows.
         QElapsedTimer clock;
         clock.start();
         QVERIFY(unmount(renamedPath));
-        // Mounts elsewhere in the meantime (outside the removable-media
-        // folders) don't cut its moment short.
+        // Mounts outside the removable-media folders meanwhile don't cut its moment short.
         {
             QTemporaryDir elsewhere;
             if (::mount("tmpfs", QFile::encodeName(elsewhere.path()).constData(), "tmpfs", 0, "size=1m") == 0)
@@ -360,8 +346,7 @@ private Q_SLOTS:
         stream->finish();
         QVERIFY(waiting.isFinished());
         QVERIFY(!waiting.result().has_value());
-        // A second watcher sees the next mount; the first, had it still been
-        // watching, would have queued its own report to this thread before.
+        // A second watcher sees the next mount; the first, if still watching, would have queued its report here before.
         DriveWatcher other;
         const auto otherStream = other.events();
         QFuture<std::optional<DriveEvent>> seen = otherStream->next();
@@ -369,15 +354,13 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(seen.isFinished(), 20000);
         QCOMPARE(seen.result()->kind(), DriveEvent::mounted);
         QCOMPARE(stream->pendingCount(), 0);
-        // The same finished stream keeps being answered.
+        // One stream per watcher, finished or not, and it keeps being answered.
         QCOMPARE(watcher.events(), stream);
         QVERIFY(!stream->next().result().has_value());
     }
 
 private:
-    // Detached at once, as a pulled drive goes: the watcher may be looking at
-    // the volume for a moment (statvfs, blkid) and would make a plain unmount
-    // answer EBUSY.
+    // Detached at once, as a pulled drive goes: the watcher's brief statvfs/blkid would make a plain unmount EBUSY.
     bool unmount(const QString &path)
     {
         mounted_.removeAll(path);

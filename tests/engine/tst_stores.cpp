@@ -70,7 +70,7 @@ private Q_SLOTS:
         QVERIFY(second.cached(QStringLiteral("UNTITLED|-1")).result() == std::optional(scan));
         QVERIFY(!second.cached(QStringLiteral("OTHER|-1")).result().has_value());
     }
-    void scanCacheCorruptFileReadsEmptyAndIsReplaced()
+    void scanCacheDamagedFileReadsEmptyAndUnwritableIsSilent()
     {
         const QString file = dir_.filePath(QStringLiteral("corrupt.json"));
         const DriveScan scan = sampleScan(dir_.filePath(QStringLiteral("corrupt-drive")));
@@ -88,6 +88,14 @@ private Q_SLOTS:
         QVERIFY(!again.cached(QStringLiteral("C|3")).result().has_value());
         again.store(scan, QStringLiteral("D|4")).waitForFinished();
         QCOMPARE(readObject(file).keys(), QStringList{QStringLiteral("D|4")});
+
+        // Below a plain file it can never be written: quietly, the change stays in memory for the process's life.
+        const QString unwritable = file + QStringLiteral("/scan-cache.json");
+        ScanCache cache(unwritable);
+        cache.store(scan, QStringLiteral("A|1")).waitForFinished();
+        cache.invalidate(QStringLiteral("B|1")).waitForFinished();
+        QVERIFY(cache.cached(QStringLiteral("A|1")).result().has_value());
+        QVERIFY(!QFile::exists(unwritable));
     }
     // Every store and invalidation rewrites the whole map, even when the key is
     // unknown; a first lookup writes nothing; the file is read once per instance.
@@ -113,30 +121,14 @@ private Q_SLOTS:
 
         ScanCache reader(file);
         QCOMPARE(reader.cached(QStringLiteral("B|2")).result()->volumeName, QStringLiteral("LATER"));
-        // Another writer changes the file behind this instance's back: this
-        // process keeps what it loaded.
+        // Another writer changes the file behind this instance's back: this process keeps what it loaded.
         TeslaCamFixture::writeFile(file, "{}");
         QVERIFY(reader.cached(QStringLiteral("B|2")).result().has_value());
-    }
-    void scanCacheWriteFailureIsSilent()
-    {
-        // A file path whose folder is a plain file can never be written.
-        const QString blocker = dir_.filePath(QStringLiteral("blocker"));
-        TeslaCamFixture::writeFile(blocker, "x");
-        const QString file = blocker + QStringLiteral("/scan-cache.json");
-        const DriveScan scan = sampleScan(dir_.filePath(QStringLiteral("silent-drive")));
-        ScanCache cache(file);
-        cache.store(scan, QStringLiteral("A|1")).waitForFinished();
-        cache.invalidate(QStringLiteral("B|1")).waitForFinished();
-        // The change stays in memory for the life of the process.
-        QVERIFY(cache.cached(QStringLiteral("A|1")).result().has_value());
-        QVERIFY(!QFile::exists(file));
     }
 
     void triageSurvivesIntoAnotherProcess()
     {
-        // The child process uses the shared store on the default file of this
-        // same isolated home, as the application does.
+        // The child uses the shared store on this isolated home's default file, as the application does.
         const QString file = TriageStore::shared().filePath();
         QFile::remove(file);
         const QStringList marks{QStringLiteral("--set-triage"), QStringLiteral("saved|2024-06-01_15-05-30"), QStringLiteral("kept"),
@@ -213,8 +205,7 @@ private Q_SLOTS:
         QVERIFY(QDir().mkpath(folder));
         BookmarkStore::save(folder, BookmarkKey::vaultFolder);
         QVERIFY(QDir(folder).removeRecursively());
-        // Gone, it is stale (the window's failureScreensFromRealDrives); a file
-        // where the folder was is no better. Stale is not repaired.
+        // Gone, or a file where the folder was: stale, and stale is not repaired.
         TeslaCamFixture::writeFile(folder, "not a folder");
         QCOMPARE(std::get<BookmarkError>(BookmarkStore::resolve(BookmarkKey::vaultFolder)).errorCase(),
                  BookmarkError::stale);

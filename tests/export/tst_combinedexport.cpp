@@ -86,8 +86,7 @@ QStringList everythingIn(const QString &folder)
     return QDir(folder).entryList(QDir::Files | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
 }
 
-// Words drawn by the ffmpeg tool's drawtext on a black canvas, to compare
-// a movie's picture with. drawtext: the filter's options after the text.
+// Words drawn by ffmpeg's drawtext (its options after the text) on a black canvas, to compare a picture with.
 QImage rendering(const QString &folder, QSize canvas, const QString &words, const QString &drawtext)
 {
     const QString textFile = folder + QStringLiteral("/text.txt");
@@ -153,9 +152,7 @@ private Q_SLOTS:
         av_log_set_level(AV_LOG_QUIET);
     }
 
-    // Every camera of a newer car in its cell of the player's grid, the
-    // shown time right on every frame checked, and a movie that decodes
-    // end to end with the frames, size and length asked for.
+    // Each camera in its grid cell, the right time on each frame, and a clean movie of the asked size and length.
     void gridShowsEveryCameraInItsCell()
     {
         EventFootage footage;
@@ -198,8 +195,7 @@ private Q_SLOTS:
         QVERIFY(everythingIn(footage.outputs()) == QStringList{QStringLiteral("movie.mp4")});
     }
 
-    // The front large on top, the others in one row below, each undistorted:
-    // the front's picture keeps its shape, with black beside it.
+    // The front large on top, the others in a row below; the front keeps its shape, with black beside it.
     void frontAndSidesPutsTheFrontOnTop()
     {
         EventFootage footage;
@@ -211,8 +207,7 @@ private Q_SLOTS:
         const auto grab = FrameGrab::at(footage.output(), 0.5);
         QVERIFY(grab);
         QCOMPARE(grab->rgb.size(), QSize(1280, 720));
-        // Top: 1280x480, the 320x208 front scaled to 738x480 in its middle;
-        // below, in grid order: left side, right side, rear.
+        // Top 1280x480: the 320x208 front scaled to 738x480 in its middle; below: left side, right side, rear.
         const QColor front = colourOf(Camera::front), black(Qt::black);
         const std::vector<std::tuple<int, int, QColor>> spots{
             {640, 240, front}, {640 - 360, 240, front}, {640 - 380, 240, black}, {640 + 380, 240, black},
@@ -222,9 +217,7 @@ private Q_SLOTS:
             QVERIFY2(near(grab->meanColour(x, y), colour), qPrintable(QStringLiteral("at %1, %2").arg(x).arg(y)));
     }
 
-    // Where a camera has no footage its cell is black with its name, and the
-    // time carries on from the camera that has; after the gap the clip's
-    // own start date counts again.
+    // A gap is black with the camera's name; the time runs on from the other camera, then from the clip's own date.
     void missingFootageIsBlackWithTheName()
     {
         EventFootage footage;
@@ -255,9 +248,7 @@ private Q_SLOTS:
         QVERIFY(shown->meanLuma(front.x + front.width / 4, top, front.width / 2, band) > 50); // red, no words
     }
 
-    // A clip that isn't a movie, or whose header its own data contradict,
-    // costs its own stretch, black with the camera's name; the movie ends
-    // where the good footage ends and decodes cleanly throughout.
+    // A non-movie or self-contradicting clip costs only its own stretch, shown black; the rest decodes cleanly.
     void damagedHeadersCostTheirOwnStretch_data()
     {
         DamagedHeaders::addRows();
@@ -287,8 +278,7 @@ private Q_SLOTS:
         }
     }
 
-    // One camera re-encoded, at the picture's own shape; a stretch of the
-    // event's axis gives that many frames. Full size keeps the pixels.
+    // Full size keeps the pixels, and where no graphics hardware answers, x264 makes the same movie.
     void singleCameraSizesAndStretch()
     {
         EventFootage footage;
@@ -315,14 +305,16 @@ private Q_SLOTS:
         options.camera = Camera::back;
         options.range.reset();
         options.timeMarker = false;
+        options.encoder = CombinedExportOptions::Encoder::automatic;
+        options.hardwareDevice = footage.outputs() + QStringLiteral("/no-such-render-node");
         CombinedExport::exportMovie(footage.event, options, footage.output(QStringLiteral("full.mp4")), {});
         facts = MovieFacts::read(footage.output(QStringLiteral("full.mp4")));
         video = facts.firstOf(QStringLiteral("video"));
-        QCOMPARE(std::tuple(video->width, video->height, video->decodedFrames), std::tuple(160, 104, 4 * fps));
+        QCOMPARE(std::tuple(video->width, video->height, video->decodedFrames, video->decodeErrors),
+                 std::tuple(160, 104, 4 * fps, 0));
     }
 
-    // Clips at another rate are taken at their own times: the movie runs
-    // at the fastest camera's rate and every camera keeps up.
+    // The movie runs at the fastest camera's rate; slower clips are taken at their own times.
     void camerasOfDifferentRatesStayInStep()
     {
         EventFootage footage;
@@ -336,9 +328,7 @@ private Q_SLOTS:
         QCOMPARE(qint64(markerOf(*grab, layout).value_or(0)), qint64(1050));
     }
 
-    // The car's records, read from the front camera's clip, make a panel
-    // whose speed is the record of the frame shown (in the unit asked
-    // for); frames without a record get no panel, not the last one seen.
+    // Frames without a record get no panel, not the last one seen.
     void timeAndDrivingDataShowEachFramesOwn()
     {
         EventFootage footage;
@@ -395,9 +385,7 @@ private Q_SLOTS:
         const QRect band(0, 0, layout.width() / 2, layout.margin() + layout.timeTextSize() * 2);
         QVERIFY(area.y > band.height());
 
-        // The time drawn is the clip's start date plus the frame's own media
-        // time: the band matches the ffmpeg tool's rendering of that text on
-        // the same black canvas far better than one of the second after it.
+        // The clip's start date plus the frame's media time: closer to that rendering than to the next second's.
         const auto timeText = [&](double seconds) {
             return rendering(footage.outputs(), QSize(layout.width(), layout.height()),
                              OverlayText::frameTime(footage.base().addingTimeInterval(seconds)),
@@ -432,15 +420,12 @@ private Q_SLOTS:
         QVERIFY2(german.contains(QStringLiteral("10:05:07")) && german.contains(QStringLiteral("01.06.24")),
                  qPrintable(german));
         QVERIFY(!german.contains(QStringLiteral("AM")));
-        // The car's clock keeps no zone and the computer's is not the car's:
-        // no zone is named, neither the computer's nor UTC.
+        // The car's clock keeps no zone and the computer's is not the car's, so no zone is named.
         for (const QString &zone : {QStringLiteral("CDT"), QStringLiteral("CST"), QStringLiteral("UTC"),
                                     QStringLiteral("GMT"), QStringLiteral("Central")})
             QVERIFY2(!us.contains(zone) && !german.contains(zone), qPrintable(us + QLatin1Char('|') + german));
     }
 
-    // What each part of the overlay adds is drawn where asked and nowhere
-    // when switched off.
     void overlayPartsSwitchOnAndOff()
     {
         EventFootage footage;
@@ -470,8 +455,6 @@ private Q_SLOTS:
         QVERIFY(std::abs(drawn->meanLuma(320, 300, 40, 40) - bare->meanLuma(320, 300, 40, 40)) < 3);
     }
 
-    // Whatever the sizes, every picture keeps its shape, sits inside its
-    // cell, and the cells tile the canvas without overlapping.
     void layoutsKeepShapesAndTileTheCanvas_data()
     {
         QTest::addColumn<int>("layout");
@@ -528,20 +511,13 @@ private Q_SLOTS:
         }
     }
 
-    // Nothing but damaged clips fails; and never over a file already there,
-    // nor onto the car's drive. (A camera without footage, a stretch outside
-    // it: the command line's failuresSayWhyInOneSentence.)
+    // Other failures: the command line's failuresSayWhyInOneSentence and interruptStopsAndLeavesNothing; the sheet's
+    // exportFailureAndStop.
     void failuresSayWhyAndLeaveNothing()
     {
         EventFootage footage;
         footage.add(Camera::front, colourClip(Camera::front, 1.0), 0);
         const CombinedExportOptions options = optionsFor(Layout::grid);
-        footage.addBytes(Camera::back, QByteArray(4096, 'x'), 0);
-        TeslaEvent damaged = footage.event;
-        damaged.clips = {footage.event.clips.back()};
-        QCOMPARE(exportErrorOf([&] { CombinedExport::exportMovie(damaged, options, footage.output(), {}); }),
-                 std::optional(ExportError::exportFailed));
-
         TeslaCamFixture::writeFile(footage.output(QStringLiteral("taken.mp4")), "mine");
         QVERIFY(messageOf([&] {
             CombinedExport::exportMovie(footage.event, options, footage.output(QStringLiteral("taken.mp4")), {});
@@ -551,19 +527,20 @@ private Q_SLOTS:
             CombinedExport::exportMovie(footage.event, options, footage.folder() + QStringLiteral("/movie.mp4"), {});
         }), DriveBoundary::exportRefusal);
         QCOMPARE(before.differences(TreeSnapshot::take(footage.root())), QString());
+        std::stop_source early;
+        early.request_stop();
+        QVERIFY_THROWS_EXCEPTION(CancellationError,
+                                 CombinedExport::exportMovie(footage.event, options, footage.output(), {}, early.get_token()));
         QCOMPARE(everythingIn(footage.outputs()), QStringList{QStringLiteral("taken.mp4")});
     }
 
-    // The disk filling up mid-way fails the export with a sentence, and the
-    // half-written movie is gone.
     void fullDiskLeavesNothing()
     {
         EventFootage footage;
-        TestClips::ClipOptions busy; // pictures that take room, unlike flat colours
-        busy.seconds = 3.0;
-        busy.fps = busy.gop = fps;
+        // Pictures that take room, unlike flat colours.
+        const QString busy = TestClips::clip({.seconds = 3.0, .fps = fps, .gop = fps});
         for (const Camera camera : sixCameras)
-            footage.add(camera, TestClips::clip(busy), 0);
+            footage.add(camera, busy, 0);
         TmpfsMount small(footage.outputs(), QStringLiteral("small-XXXXXX"), QStringLiteral("size=64k"));
         if (!small.ok())
             QSKIP("needs root to mount a tmpfs");
@@ -575,41 +552,7 @@ private Q_SLOTS:
         QCOMPARE(everythingIn(small.path()), QStringList());
     }
 
-    // Stopped mid-way, from the progress: the export's own cancellation, the
-    // drive untouched and nothing left in the folder. (Stopped while the drive
-    // holds a read: the command line's interruptStopsAndLeavesNothing.)
-    void stopMidwayLeavesNothing()
-    {
-        EventFootage footage;
-        for (const Camera camera : {Camera::front, Camera::back})
-            footage.add(camera, colourClip(camera, 3.0), 0);
-        const TreeSnapshot before = TreeSnapshot::take(footage.root());
-        std::stop_source stop;
-        const auto error = exportErrorOf([&] {
-            CombinedExport::exportMovie(
-                footage.event, optionsFor(Layout::grid), footage.output(),
-                [&](const CombinedExportProgress &p) {
-                    if (p.framesDone >= 10)
-                        stop.request_stop();
-                },
-                stop.get_token());
-        });
-        QCOMPARE(error, std::optional(ExportError::cancelled));
-        QCOMPARE(everythingIn(footage.outputs()), QStringList());
-        QCOMPARE(before.differences(TreeSnapshot::take(footage.root())), QString());
-
-        std::stop_source early;
-        early.request_stop();
-        QVERIFY_THROWS_EXCEPTION(CancellationError,
-                                 CombinedExport::exportMovie(footage.event, optionsFor(Layout::grid),
-                                                             footage.output(), {}, early.get_token()));
-        QCOMPARE(everythingIn(footage.outputs()), QStringList());
-    }
-
-    // The drive stops answering in the middle of one camera's clip: that
-    // camera's cell goes black for the rest of the clip once the read limit
-    // passes, its next clip plays, the other camera goes on, and the movie
-    // is whole.
+    // The drive stops answering mid-clip: that cell is black till the clip ends, then plays on; the movie is whole.
     void aReadThatNeverAnswersCostsOnlyItsClip()
     {
         KEELHOLD_FAULTY_FS(fs, mountPoint);
@@ -646,20 +589,6 @@ private Q_SLOTS:
             const bool held = t == 5.7;
             QVERIFY2(held ? backLuma < 20 : backLuma > 40, qPrintable(QStringLiteral("%1 s: %2").arg(t).arg(backLuma)));
         }
-    }
-
-    // Where no graphics hardware answers, x264 makes the same movie.
-    void hardwareThatIsntThereFallsBackToSoftware()
-    {
-        EventFootage footage;
-        footage.add(Camera::front, colourClip(Camera::front, 1.0), 0);
-        CombinedExportOptions options = optionsFor(Layout::single);
-        options.encoder = CombinedExportOptions::Encoder::automatic;
-        options.hardwareDevice = footage.outputs() + QStringLiteral("/no-such-render-node");
-        CombinedExport::exportMovie(footage.event, options, footage.output(), {});
-        const MovieFacts facts = MovieFacts::read(footage.output());
-        const MovieFacts::Stream *video = facts.firstOf(QStringLiteral("video"));
-        QCOMPARE(std::pair(video->decodedFrames, video->decodeErrors), std::pair(fps, 0));
     }
 };
 

@@ -1,6 +1,5 @@
 #include "export/Exporter.h"
 #include "drive/DriveBoundary.h"
-#include "base/CancellationError.h"
 #include "support/DamagedHeaders.h"
 #include "support/DriveBuilder.h"
 #include "support/EventFootage.h"
@@ -28,15 +27,6 @@ using Exporter::ExportError;
 
 namespace {
 
-TestClips::ClipOptions clipOptions(double seconds, int width = 320, int height = 240)
-{
-    TestClips::ClipOptions s;
-    s.seconds = seconds;
-    s.width = width;
-    s.height = height;
-    return s;
-}
-
 QByteArray extradataOf(const QString &path)
 {
     const MovieFacts facts = MovieFacts::read(path, false);
@@ -44,8 +34,7 @@ QByteArray extradataOf(const QString &path)
     return video ? video->extradata : QByteArray();
 }
 
-// A clip on the test drive, `minute` minutes after the event's first, whose
-// reads hang from heldFrom on.
+// A clip `minute` minutes after the event's first, whose reads hang from heldFrom on.
 void addHeldClip(FaultyFs &fs, EventFootage &footage, int minute, const QByteArray &bytes, qint64 heldFrom)
 {
     ClipRef stuck = footage.event.clips.front();
@@ -53,14 +42,6 @@ void addHeldClip(FaultyFs &fs, EventFootage &footage, int minute, const QByteArr
     stuck.startDate = footage.event.clips.front().startDate.addingTimeInterval(60.0 * minute);
     stuck.fileSize = bytes.size();
     footage.event.clips.push_back(stuck);
-}
-
-// The front camera's export on a thread of its own.
-ExportThread frontExport(const TeslaEvent &event, const QString &output)
-{
-    return ExportThread([event, output](std::stop_token stop) {
-        Exporter::exportFootage(Camera::front, event, std::nullopt, output, {}, stop);
-    });
 }
 
 } // namespace
@@ -78,8 +59,7 @@ private Q_SLOTS:
         av_log_set_level(AV_LOG_QUIET);
     }
 
-    // In the computer's own zone (the command line's test checks a whole
-    // name in UTC), and nothing a file system would refuse.
+    // In the computer's own zone (the command line's test checks one in UTC), with nothing a file system refuses.
     void suggestedFileNameIsInTheLocalZone()
     {
         TeslaEvent event;
@@ -93,9 +73,7 @@ private Q_SLOTS:
         QCOMPARE(name, QStringLiteral("Tesla Sentry 2024-06-01 10.05 AM \u2014 Front.mp4"));
     }
 
-    // A damaged middle minute, cut off in its data or with a header its own
-    // data contradict, costs its clip: the movie holds the two good minutes
-    // around it, copied sample for sample, and no more time than they last.
+    // A damaged middle minute costs its clip: the two good ones around it are copied sample for sample, nothing more.
     void damagedMinuteClosesUp_data()
     {
         DamagedHeaders::addRows();
@@ -105,7 +83,7 @@ private Q_SLOTS:
     {
         QFETCH(int, damage);
         EventFootage footage;
-        const QString source = TestClips::clip(clipOptions(2.0));
+        const QString source = TestClips::clip();
         footage.add(Camera::front, source, 120);
         const QByteArray cutOff = DriveBuilder::readQuietly(source).left(6000);
         footage.addBytes(Camera::front, damage < 0 ? cutOff : DamagedHeaders::damaged(damage, source), 180);
@@ -133,9 +111,7 @@ private Q_SLOTS:
         QCOMPARE(before.differences(TreeSnapshot::take(footage.root())), QString());
     }
 
-    // The movie's own damage costs only its clip: the muxer turns down a
-    // sample lasting longer than an MP4 can say, and a table naming fewer
-    // samples than its clock covers is trusted only as far as the samples go.
+    // The muxer turns down a sample longer than an MP4 can say; a short table is trusted only as far as it goes.
     void damagedSampleTablesCostOnlyTheirClip_data()
     {
         QTest::addColumn<QByteArray>("box");
@@ -154,7 +130,7 @@ private Q_SLOTS:
         QFETCH(quint32, value);
         QFETCH(int, frames);
         EventFootage footage;
-        const QString source = TestClips::clip(clipOptions(2.0));
+        const QString source = TestClips::clip();
         footage.add(Camera::front, source, 120);
         // One flipped field, as one bad byte on a failing drive would make it.
         Mp4Boxes damaged = Mp4Boxes::read(source);
@@ -173,21 +149,18 @@ private Q_SLOTS:
         QVERIFY2(std::abs(facts.duration - video->decodedFrames / 36.0) < 0.05,
                  qPrintable(QStringLiteral("%1 s, %2 frames").arg(facts.duration).arg(video->decodedFrames)));
         QVERIFY(video->dtsStrictlyIncreasing);
-        // No hole where the clip was; a lone picture between reordered ones
-        // may shift its neighbours a frame or two.
+        // No hole where the clip was; a lone picture between reordered ones may shift its neighbours a frame or two.
         QVERIFY2(video->largestDtsStep < 3.5 / 36, qPrintable(QString::number(video->largestDtsStep * 36)));
     }
 
-    // Clip order comes from the start dates, not from the list; the first
-    // clip with sound starts the sound track at its place on the timeline.
+    // Clip order comes from the start dates, not from the list.
     void soundStartsWithTheFirstClipThatHasIt()
     {
         EventFootage footage;
-        TestClips::ClipOptions withSound = clipOptions(2.0);
-        withSound.audio = true;
+        const TestClips::ClipOptions withSound{.audio = true};
         footage.add(Camera::front, TestClips::clip(withSound), 180);
         footage.add(Camera::front, TestClips::clip(withSound), 240);
-        footage.add(Camera::front, TestClips::clip(clipOptions(2.0)), 120); // silent, and first by date
+        footage.add(Camera::front, TestClips::clip(), 120); // silent, and first by date
 
         Exporter::exportFootage(Camera::front, footage.event, std::nullopt, footage.output(), {});
 
@@ -198,16 +171,15 @@ private Q_SLOTS:
         QVERIFY2(std::abs(audio->firstPts - 2.0) < 0.1, qPrintable(QString::number(audio->firstPts)));
         QCOMPARE(std::tuple(audio->codec, audio->dtsStrictlyIncreasing, video->dtsStrictlyIncreasing, video->decodedFrames),
                  std::tuple(QStringLiteral("aac"), true, true, 216));
-        QCOMPARE(video->extradata, extradataOf(TestClips::clip(clipOptions(2.0))));
+        QCOMPARE(video->extradata, extradataOf(TestClips::clip()));
         QVERIFY(std::abs(facts.duration - 6.0) < 0.1);
     }
 
-    // A clip whose media starts seconds into its own time (an empty edit
-    // first) still goes straight behind the one before it.
+    // A clip whose media starts seconds in (an empty edit first) still goes straight behind the one before it.
     void clipStartingLateClosesUp()
     {
         EventFootage footage;
-        const QString source = TestClips::clip(clipOptions(2.0));
+        const QString source = TestClips::clip();
         footage.add(Camera::front, source, 120);
         const QString late = footage.output(QStringLiteral("late.mp4"));
         const QStringList lateStart{QStringLiteral("-loglevel"), QStringLiteral("error"), QStringLiteral("-i"), source,
@@ -229,9 +201,7 @@ private Q_SLOTS:
     void h265JoinsByCopy()
     {
         EventFootage footage;
-        TestClips::ClipOptions hevc = clipOptions(1.5);
-        hevc.codec = QStringLiteral("libx265");
-        const QString source = TestClips::clip(hevc);
+        const QString source = TestClips::clip({.seconds = 1.5, .codec = QStringLiteral("libx265")});
         footage.add(Camera::front, source, 120);
         footage.add(Camera::front, source, 180);
 
@@ -262,10 +232,9 @@ private Q_SLOTS:
         QFETCH(int, height);
         QFETCH(QString, pixelFormat);
         EventFootage footage;
-        const QString small = TestClips::clip(clipOptions(1.0));
-        TestClips::ClipOptions otherOptions = clipOptions(1.0, width, height);
-        otherOptions.pixelFormat = pixelFormat;
-        const QString other = TestClips::clip(otherOptions);
+        const QString small = TestClips::clip({.seconds = 1.0});
+        const QString other =
+            TestClips::clip({.seconds = 1.0, .width = width, .height = height, .pixelFormat = pixelFormat});
         footage.add(Camera::front, small, 120);
         footage.add(Camera::front, other, 180);
         footage.add(Camera::front, small, 240);
@@ -297,8 +266,7 @@ private Q_SLOTS:
         QCOMPARE(before.differences(TreeSnapshot::take(footage.root())), QString());
     }
 
-    // A stretch is clamped to the footage; one with nothing of it in it
-    // fails (expected: no length) and leaves no file.
+    // A stretch with no footage in it fails (expected: no length) and leaves no file.
     void rangeIsClampedToTheFootage_data()
     {
         QTest::addColumn<double>("from");
@@ -317,7 +285,7 @@ private Q_SLOTS:
         QFETCH(double, to);
         QFETCH(double, expected);
         EventFootage footage;
-        const QString source = TestClips::clip(clipOptions(2.0));
+        const QString source = TestClips::clip();
         footage.add(Camera::front, source, 120);
         footage.add(Camera::front, source, 180);
         const auto range = std::make_pair(from, to);
@@ -339,13 +307,11 @@ private Q_SLOTS:
         QCOMPARE(video->extradata, extradataOf(source));
     }
 
-    // A camera without clips fails before any file is opened, proven with a
-    // stop already requested: had a clip been looked at, the stop would have
-    // won. One whose clips are all unusable fails the same.
+    // Stop already requested: had a clip been looked at before failing, the stop would have won.
     void noUsableClipFails()
     {
         EventFootage footage;
-        const QString source = TestClips::clip(clipOptions(1.0));
+        const QString source = TestClips::clip({.seconds = 1.0});
         const QByteArray index = HeldClip::indexFirst(1.0, 36);
         const qint64 moov = TestClips::topLevelBoxOffset(index, "moov");
         const qint64 samples = TestClips::topLevelBoxOffset(index, "mdat");
@@ -373,40 +339,15 @@ private Q_SLOTS:
         QCOMPARE(before.differences(TreeSnapshot::take(footage.root())), QString());
     }
 
-    // Stopped while clips are still being looked at: the same cancellation,
-    // and the movie file was never made. The drive holds the second clip's
-    // first read until the stop has been asked for, so the export is surely
-    // still preparing then.
-    void cancelledWhilePreparingIsACancellation()
-    {
-        KEELHOLD_FAULTY_FS(fs, mountPoint);
-        EventFootage footage;
-        const QString source = TestClips::clip(clipOptions(1.0));
-        footage.add(Camera::front, source, 0);
-        addHeldClip(fs, footage, 1, DriveBuilder::readQuietly(source), 0);
-        footage.add(Camera::front, source, 120);
-
-        ExportThread worker = frontExport(footage.event, footage.output());
-        QVERIFY(fs.waitUntilHeld());
-        worker.stop.request_stop(); // the drive never answers
-        worker.thread.join();
-        QVERIFY(worker.error);
-        QVERIFY_THROWS_EXCEPTION(CancellationError, std::rethrow_exception(worker.error));
-        QVERIFY(!QFile::exists(footage.output()));
-    }
-
-    // The drive stops answering in the middle of a clip's pictures and the
-    // read is left behind: after the read limit the held clip loses the rest
-    // of its footage like a damaged one, and the clip after it closes up.
+    // A read left hanging mid-clip: after the read limit that clip is cut like a damaged one and the next closes up.
     // (A stop while the read is held: the command line's interruptStopsAndLeavesNothing.)
     void aReadThatNeverAnswersCostsTheRestOfItsClip()
     {
         KEELHOLD_FAULTY_FS(fs, mountPoint);
         EventFootage footage;
-        const QString source = TestClips::clip(clipOptions(8.0, 640, 480));
+        const QString source = TestClips::clip({.seconds = 8.0, .width = 640, .height = 480});
         footage.add(Camera::front, source, 0);
-        // 8 s of 640x480 held past its first 512 KiB, past what judging it
-        // and the reader's first 256 KiB read: the hold comes in its pictures.
+        // Held past 512 KiB, beyond what judging it and the reader's first 256 KiB read: the hold is in its pictures.
         const QByteArray bytes = HeldClip::indexFirst(8.0, 36);
         QVERIFY(bytes.size() > 600 * 1024);
         addHeldClip(fs, footage, 1, bytes, 512 * 1024);
@@ -423,8 +364,6 @@ private Q_SLOTS:
         QCOMPARE(video->extradata, extradataOf(source));
     }
 
-    // Stopped while samples are written, or while the index moves to the
-    // front: the export's own cancelled case, and what was written stays.
     void cancelledWhileWritingIsAnExportError_data()
     {
         QTest::addColumn<double>("stopAt");
@@ -435,7 +374,7 @@ private Q_SLOTS:
     {
         QFETCH(double, stopAt);
         EventFootage footage;
-        const QString source = TestClips::clip(clipOptions(2.0));
+        const QString source = TestClips::clip();
         for (int minute = 2; minute < 6; ++minute)
             footage.add(Camera::front, source, 60 * minute);
         const TreeSnapshot before = TreeSnapshot::take(footage.root());
@@ -461,7 +400,7 @@ private Q_SLOTS:
     void destinationMustBeNew()
     {
         EventFootage footage;
-        footage.add(Camera::front, TestClips::clip(clipOptions(1.0)), 120);
+        footage.add(Camera::front, TestClips::clip({.seconds = 1.0}), 120);
         TeslaCamFixture::writeFile(footage.output(), "keep me");
         const auto failure = [&](const QString &output) {
             try {
@@ -478,8 +417,7 @@ private Q_SLOTS:
         QCOMPARE(failure(footage.output(QStringLiteral("no-such-folder/out.mp4"))).first,
                  std::optional(ExportError::exportFailed));
 
-        // Called without the screen's or the command line's check, the
-        // exporter itself still never writes onto the car's drive.
+        // Even without the screen's or command line's check, the exporter never writes onto the car's drive.
         const TreeSnapshot drive = TreeSnapshot::take(footage.root());
         QCOMPARE(failure(footage.root() + QStringLiteral("/out.mp4")).second, DriveBoundary::exportRefusal);
         QCOMPARE(drive.differences(TreeSnapshot::take(footage.root())), QString());

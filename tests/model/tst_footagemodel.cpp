@@ -168,29 +168,22 @@ private Q_SLOTS:
         for (const char *text : {R"({})", R"({"exFAT":{},"apfs":{}})", R"({"ntfs":{}})", R"({"other":{}})"})
             QVERIFY_THROWS_EXCEPTION(JsonCoding::DecodingError, VolumeFormat::fromJson(JsonCoding::parseObject(text)));
 
-        // Absent optionals are omitted, and read back as absent.
-        TeslaEvent bare;
-        bare.folderURL = "/x";
-        bare.folderName = "x";
-        const QJsonObject b = bare.toJson();
+        // Absent optionals are omitted, and read back as absent (the scan's
+        // second event): the scan below holds every type.
+        TeslaEvent empty;
+        empty.folderURL = "/media/user/TESLA/TeslaCam/SentryClips/2024-01-01_00-00-00";
+        empty.folderName = "2024-01-01_00-00-00";
+        const QJsonObject b = empty.toJson();
         for (const char *key : {"city", "latitude", "longitude", "reasonRaw", "triggerCameraRaw", "thumbURL"})
             QVERIFY2(!b.contains(QLatin1String(key)), key);
-        QCOMPARE(roundTrip(bare), bare);
 
         const TeslaEvent e = sampleEvent();
-        QCOMPARE(roundTrip(e), e);
-        QCOMPARE(roundTrip(e.clips[0]), e.clips[0]);
-        QCOMPARE(roundTrip(e.reason), e.reason);
-
         DriveScan scan;
         scan.teslaCamURL = "/media/user/TESLA/TeslaCam";
         scan.volumeName = "TESLA";
         scan.format = VolumeFormat::makeOther("ext4");
         scan.capacityBytes = 256'060'514'304LL;
         scan.freeBytes = 9'007'199'254'740'993LL; // above 2^53: must stay exact
-        TeslaEvent empty;
-        empty.folderURL = "/media/user/TESLA/TeslaCam/SentryClips/2024-01-01_00-00-00";
-        empty.folderName = "2024-01-01_00-00-00";
         scan.events = {e, empty};
         scan.encryptedClipsPresent = true;
         scan.onSystemDisk = true;

@@ -1,7 +1,6 @@
 #pragma once
 
-// Shared by the playback tests: clips whose every frame tells which frame,
-// which clip and which camera it is, and events built from them.
+// Clips whose every frame tells which frame, clip and camera it is, and events built from them.
 
 #include "model/TeslaEvent.h"
 #include "timeline/Composition.h"
@@ -56,8 +55,7 @@ inline QString describe(const std::optional<FrameId> &id)
     return QStringLiteral("%1/%2").arg(id ? id->clip : -1).arg(id ? id->index : -1);
 }
 
-// The frame that must be on screen at timeline time t for a camera whose
-// clip k (of `count`) starts at starts[k]; none in a gap.
+// The frame due on screen at timeline time t for a camera whose clip k starts at starts[k]; none in a gap.
 inline std::optional<FrameId> expectedAt(double t, int camera, const std::vector<double> &starts,
                                          const std::vector<int> &clipIds)
 {

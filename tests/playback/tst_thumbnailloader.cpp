@@ -77,8 +77,7 @@ private Q_SLOTS:
     {
         const QString path = writeImage("one.png", QSize(10, 10));
         for (int i = 0; i < 1005; ++i) {
-            // Hard links: a thousand paths to one small picture (symbolic
-            // links are never followed on a drive).
+            // Hard links, since symbolic links are never followed on a drive.
             const QString link = dir.filePath(QString("l%1.png").arg(i));
             QVERIFY(::link(QFile::encodeName(path).constData(), QFile::encodeName(link).constData()) == 0);
             QVERIFY(ThumbnailLoader::loadNow(link));

@@ -79,8 +79,7 @@ private Q_SLOTS:
             QCOMPARE(player.currentSeconds(), std::max(0.0, t));
         }
 
-        // Stepping and short forward seeks go on from frames already decoded
-        // instead of going back to the keyframe each time, and stay exact.
+        // Short forward seeks go on from frames already decoded instead of from the keyframe, and stay exact.
         const auto verifyAt = [&](double t) {
             QVERIFY2(seekAndWait(player, t), qPrintable(QString::number(t)));
             const auto expected = expectedAt(t, 0, starts, clipIds);
@@ -95,8 +94,7 @@ private Q_SLOTS:
             QTRY_VERIFY(player.nextFrameTime().has_value());
             verifyAt(MediaTime::fromTicks(qint64(std::ceil(*player.nextFrameTime() * 600 - 1e-6))).seconds());
         }
-        // Going back to the keyframe every time would decode half a second
-        // of frames per step; a busy machine may cost a few such seeks.
+        // Going back to the keyframe would decode half a second per step; a busy machine may cost a few such seeks.
         const quint64 decoded = player.decodedFrameCount() - before;
         QVERIFY2(decoded < quint64(steps) * 3, qPrintable(QString("%1 frames for %2 steps").arg(decoded).arg(steps)));
 
@@ -112,9 +110,7 @@ private Q_SLOTS:
         verifyAt(s(1.55).seconds());
     }
 
-    // With graphics-hardware decoding asked for, every camera still shows
-    // its exact frames: on the device where there is one that takes the
-    // stream, in software where the device is missing or fails.
+    // Exact frames on a device that takes the stream, and in software where the device is missing or fails.
     void hardwareDecodingShowsTheSameFramesOrFallsBack_data()
     {
         QTest::addColumn<int>("device");
@@ -142,8 +138,7 @@ private Q_SLOTS:
         }
     }
 
-    // Frames say the clip's colour space and range; H.265, which some older
-    // cars wrote, plays too.
+    // H.265, which some older cars wrote, plays too.
     void playsTheClipsColoursAndCodecs()
     {
         const std::vector<std::tuple<QString, QString, QVideoFrameFormat::ColorRange>> clips{
@@ -151,11 +146,7 @@ private Q_SLOTS:
             {QStringLiteral("libx264"), QStringLiteral("yuv420p"), QVideoFrameFormat::ColorRange_Video},
             {QStringLiteral("libx265"), QStringLiteral("yuv420p"), QVideoFrameFormat::ColorRange_Video}};
         for (const auto &[codec, format, range] : clips) {
-            TestClips::ClipOptions options;
-            options.seconds = 1;
-            options.codec = codec;
-            options.pixelFormat = format;
-            const Composition c = oneClip(TestClips::clip(options), 1);
+            const Composition c = oneClip(TestClips::clip({.seconds = 1, .codec = codec, .pixelFormat = format}), 1);
             TrackPlayer player(c);
             QTRY_VERIFY(player.hasPicture());
             const auto f = player.currentFrame().surfaceFormat();
@@ -222,10 +213,7 @@ private Q_SLOTS:
         QVERIFY(!player.hasPicture());
     }
 
-    // A player on a read that never ends is never ready and answers a seek
-    // at once. One stopped and let go, as the controller does when the event
-    // changes, goes at once: the window's thread never waits for its stuck
-    // worker, which ends by itself once the read does.
+    // Let go as when the event changes, it goes at once: the window's thread never waits for its stuck worker.
     void playerOnAHangingFile()
     {
         KEELHOLD_FAULTY_FS(fs, mountPoint);

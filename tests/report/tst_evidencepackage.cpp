@@ -77,9 +77,7 @@ class TestEvidencePackage : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    // Info-ZIP's unzip and coreutils' sha256sum, not our own code, read the
-    // package back: stored entries, nested and non-ASCII names, files that
-    // end on a block's edge or are empty.
+    // unzip and sha256sum, not our code, read it back: stored entries, nested, non-ASCII, edge-sized and empty files.
     void packageUnpacksAndItsSumsCheckWithTheUsualTools()
     {
         if (QStandardPaths::findExecutable(QStringLiteral("unzip")).isEmpty())
@@ -124,8 +122,7 @@ private Q_SLOTS:
         QVERIFY2(checked == 0, qPrintable(check));
         QCOMPARE(check.count(QStringLiteral(": OK\n")), int(sources.items.size()));
 
-        // The sums list the items in their order, and each file came out
-        // byte for byte as it went in.
+        // The sums list the items in order, and each file came out byte for byte as it went in.
         const QList<QByteArray> lines = contentOf(unpacked + QStringLiteral("/SHA256SUMS")).split('\n');
         QCOMPARE(lines.size(), qsizetype(sources.items.size()) + 1);
         for (size_t i = 0; i < sources.items.size(); ++i) {
@@ -135,9 +132,7 @@ private Q_SLOTS:
         }
     }
 
-    // A file that isn't what the report printed, or that is gone, fails the
-    // whole package: nothing is left, and a file that was at the
-    // destination stays as it was.
+    // A file unlike what the report printed, or gone, fails it all: nothing is left; a file at the destination stays.
     void fileThatChangedFailsThePackageAndLeavesNothing()
     {
         Sources sources;
@@ -167,8 +162,7 @@ private Q_SLOTS:
         QCOMPARE(contentOf(earlier), QByteArray("an earlier package"));
         QCOMPARE(namesIn(out.path()), QStringList{QStringLiteral("earlier.zip")});
 
-        // Names a reader would put outside its folder, or that would clash
-        // in SHA256SUMS, are refused too.
+        // Names a reader would put outside its folder, or that clash in SHA256SUMS, are refused too.
         sources.items.pop_back();
         for (const QString &bad : {QStringLiteral("../escape.mp4"), QStringLiteral("/etc/escape"),
                                    QStringLiteral("SHA256SUMS"), QStringLiteral("two\nlines"), clipName}) {
@@ -179,9 +173,7 @@ private Q_SLOTS:
         }
     }
 
-    // A failing drive: a read that never answers fails the package within
-    // the read limit and its grace, as does one that errs or a file that
-    // grows as it is read; nothing is left either way.
+    // A read never answering fails it within the read limit and grace, as do an erring read and a growing file.
     void failingDriveFailsThePackageInTimeNamingTheFile()
     {
         KEELHOLD_FAULTY_FS(fs, mountPoint);
@@ -256,9 +248,7 @@ private Q_SLOTS:
         QCOMPARE(namesIn(small.path()), QStringList());
     }
 
-    // Even called without its caller's check, the package never lands on
-    // the drive of the events it holds: inside TeslaCam, or beside it on
-    // the same drive.
+    // Even without its caller's check it never lands on the events' drive: inside TeslaCam, or beside it.
     void neverWrittenOntoTheCarsDrive()
     {
         QTemporaryDir home;

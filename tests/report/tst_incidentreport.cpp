@@ -29,8 +29,7 @@ namespace {
 const QString savedId = QStringLiteral("saved|2026-07-21_14-30-00");
 const QString roughId = QStringLiteral("sentry|2026-07-20_10-00-00");
 
-// Each camera's colour while the moment shows: grey before and after, so a
-// still from the wrong time shows grey.
+// Each camera's colour while the moment shows; grey before and after, so a still from the wrong time shows grey.
 const std::vector<std::pair<QString, QColor>> cameraColours{
     {QStringLiteral("front"), QColor(220, 30, 30)},
     {QStringLiteral("back"), QColor(30, 200, 40)},
@@ -168,8 +167,7 @@ private Q_SLOTS:
         QSettings().setValue(QStringLiteral("KHMapTileURLTemplate"), tiles_.urlTemplate());
         root_ = tmp_.filePath(QStringLiteral("TeslaCam"));
         TeslaCamFixture fixture(root_);
-        // A saved event with a street and place, driving data on the front,
-        // and a GPS clock seven hours from the car's (a time zone, no note).
+        // Saved event: street, place, driving data on front, a GPS clock seven hours off the car's (a zone, no note).
         savedFolder_ = fixture.addEvent(
             QStringLiteral("SavedClips"), QStringLiteral("2026-07-21_14-30-00"),
             QByteArrayLiteral("{\"timestamp\":\"2026-07-21T14:30:12\",\"city\":\"Taylor\",\"street\":\"Main Street\","
@@ -183,8 +181,7 @@ private Q_SLOTS:
                 QVERIFY(QFile::copy(colourClip(colour), path));
             TestClips::padTo(path);
         }
-        // A Sentry event without event.json or driving data: one camera
-        // empty, one cut off, and the rear with no footage at all.
+        // A Sentry event without event.json or driving data: one camera empty, one cut off, the rear without footage.
         const QString rough = fixture.addEventFolder(QStringLiteral("SentryClips"), QStringLiteral("2026-07-20_10-00-00"));
         const QString front = QDir(rough).filePath(QStringLiteral("2026-07-20_10-00-00-front.mp4"));
         QVERIFY(QFile::copy(colourClip(Qt::red), front));
@@ -194,8 +191,7 @@ private Q_SLOTS:
                                    DriveBuilder::randomBytes(200 * 1024, 7));
     }
 
-    // What a reader checks first: the words, the place, the times and every
-    // file with the digest of its bytes.
+    // What a reader checks first: words, place, times, and every file with the digest of its bytes.
     void reportSaysWhatWhenWhereAndWhichFiles()
     {
         int code = -1;
@@ -227,8 +223,7 @@ private Q_SLOTS:
         for (const auto &[camera, colour] : cameraColours)
             QVERIFY2(countNear(stills, colour) > 500, qPrintable(camera));
 
-        // The speed line steps to twice its height at the moment, on the
-        // panel's scale up to 80 km/h (72 km/h is the fastest reading).
+        // The speed line doubles its height at the moment, on the panel's 80 km/h scale (72 km/h the fastest reading).
         const QImage chart = pageWith(pdf, QStringLiteral("Driving data"), 150, tmp_.path());
         const QColor speed(0x15, 0x65, 0xC0), frame(0x9E, 0x9E, 0x9E), moment(0xE6, 0x51, 0x00);
         // The topmost pixel of a colour in column x.
@@ -259,8 +254,7 @@ private Q_SLOTS:
         QVERIFY2(std::abs((bottom - yAfter) / full - 72.0 / 80) < 0.04, qPrintable(QString::number((bottom - yAfter) / full)));
     }
 
-    // Damage, a camera without pictures, no place and no driving data each
-    // cost their own part; the report is still whole.
+    // Damage, a camera without pictures, no place and no driving data each cost their own part only.
     void roughEventStillGivesAWholeReport()
     {
         int code = -1;
@@ -278,8 +272,7 @@ private Q_SLOTS:
         QVERIFY(text.simplified().contains(QStringLiteral("nothing on it was changed")));
     }
 
-    // The sample's five minutes of recent driving: twenty files and a chart
-    // from the recording's start, over four pages, whole to the last words.
+    // The sample's five minutes of driving: twenty files and a chart over four pages, whole to the last words.
     void longEventIsWholeToItsLastPage()
     {
         const QString sample = QStringLiteral(KEELHOLD_BUILD_DIR "/resources/SampleTeslaCam/TeslaCam");
@@ -301,8 +294,7 @@ private Q_SLOTS:
         QVERIFY2(pdfText(pdf, pageCount(pdf)).simplified().contains(QStringLiteral("nothing on it was changed")), "the last words");
     }
 
-    // A kept event's files are compared with the Vault's records; a changed
-    // copy is said in words.
+    // A kept event's files are compared with the Vault's records; a changed copy is said in words.
     void keptEventIsComparedWithTheVault()
     {
         const QString vault = tmp_.filePath(QStringLiteral("Vault"));
@@ -329,8 +321,7 @@ private Q_SLOTS:
                  QStringList());
     }
 
-    // The car's clock keeps no zone: a whole number of quarter hours from
-    // the GPS clock is a zone; anything else over a minute is a wrong clock.
+    // The car's clock keeps no zone: whole quarter hours off GPS are a zone; else over a minute is a wrong clock.
     void clocksDisagreeBeyondAZone_data()
     {
         QTest::addColumn<int>("offsetSeconds");
@@ -354,9 +345,7 @@ private Q_SLOTS:
         QVERIFY(!content.clocksDisagree());
     }
 
-    // The car's encrypted footage goes in as the car wrote it: locked
-    // cameras say so, and the keys go in only when asked for. The package
-    // unpacks with another tool and its SHA256SUMS checks.
+    // Encrypted footage goes in as written: locked cameras say so, keys only if asked; unzip unpacks it, sums check.
     void encryptedEventGoesInAsItIs()
     {
         const QString plain = tmp_.filePath(QStringLiteral("plain.mp4"));

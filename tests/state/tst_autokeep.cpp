@@ -13,9 +13,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-// The real app state on the live engine, a real exFAT drive mounted under
-// /media (root only), and the desktop's notification service played on the
-// test's own session bus.
+// Real app state and live engine, a real exFAT drive under /media (root only), notifications on the test's own bus.
 class TestAutoKeep : public QObject {
     Q_OBJECT
 private Q_SLOTS:
@@ -43,8 +41,7 @@ private Q_SLOTS:
         state.rootViewAppeared();
         QSignalSpy ended(&state, &AppState::keepEnded);
 
-        // Not chosen yet: the desktop hears that Sentry events wait, a click
-        // opens the drive, and nothing is copied.
+        // Not chosen yet: the desktop hears Sentry events wait, a click opens the drive, nothing is copied.
         QVERIFY(drive.plugIn());
         QTRY_COMPARE_WITH_TIMEOUT(desktop.received().size(), size_t(1), 30000);
         QCOMPARE(desktop.received()[0].title, QStringLiteral("1 Sentry event not kept yet"));
@@ -55,8 +52,7 @@ private Q_SLOTS:
         QCOMPARE(ended.size(), 0);
         drive.pull();
 
-        // Chosen, and the user is busy keeping another drive when it comes
-        // in: it waits its turn, then keeps itself without a sheet.
+        // Chosen, while the user keeps another drive: it waits its turn, then keeps itself without a sheet.
         state.autoKeep().set(identity->drive, true, false);
         QTemporaryDir faultyAt;
         FaultyFs other(faultyAt.path());
@@ -92,8 +88,7 @@ private Q_SLOTS:
         QCOMPARE(std::pair(third.completeEvents(), third.plannedEvents), std::pair(1, 1));
     }
 
-    // A keep the user asked for, or an export, is told only when it ran long
-    // (and the export only behind other windows); a short one the user saw end.
+    // Told only when it ran long (an export only behind other windows); a short one the user saw end.
     void longWorkIsToldOnlyWhenLong()
     {
         NotificationServiceStandIn desktop;
@@ -121,8 +116,7 @@ private Q_SLOTS:
         QCOMPARE(desktop.received()[1].body, QStringLiteral("long.mp4 is ready."));
     }
 
-    // Plugged in before Keelhold opened: a drive that keeps itself is kept
-    // once the Vault is known; any other is left alone.
+    // Plugged in before Keelhold opened: a self-keeping drive is kept once the Vault is known; any other is left alone.
     void aDriveAlreadyMountedAtStart()
     {
         MountedVolume drive(QStringLiteral("exfat"), QStringLiteral("KHSTART"));
@@ -146,8 +140,8 @@ private Q_SLOTS:
         state.rootViewAppeared();
         QTRY_COMPARE_WITH_TIMEOUT(ended.size(), 1, 60000);
         QCOMPARE(std::pair(ended[0][1].toBool(), ended[0][3].toString()), std::pair(true, QStringLiteral("KHSTART")));
-        QCOMPARE(state.lastArchiveReport()->archivedEvents.size(), size_t(1));
-        QCOMPARE(state.lastArchiveReport()->archivedEvents[0].eventID, QStringLiteral("sentry|2026-07-14_10-00-00"));
+        const auto &kept = state.lastArchiveReport()->archivedEvents;
+        QCOMPARE(std::pair(kept.size(), kept.at(0).eventID), std::pair(size_t(1), QStringLiteral("sentry|2026-07-14_10-00-00")));
     }
 };
 

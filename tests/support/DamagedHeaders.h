@@ -24,8 +24,7 @@ void addRows();
 // That damage done to a copy of the clip at path.
 QByteArray damaged(int damage, const QString &clipPath);
 
-// The clip's data cut short with its header intact: index first, then
-// only `fraction` of its samples.
+// The clip's data cut short, header intact: index first, then only `fraction` of its samples.
 QByteArray cutShort(const QByteArray &indexFirstClip, double fraction);
 
 } // namespace DamagedHeaders

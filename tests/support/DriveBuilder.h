@@ -7,8 +7,7 @@
 #include <QString>
 #include <vector>
 
-// A TeslaCam drive whose clips hold distinct random bytes, for tests that
-// copy footage and check digests.
+// A TeslaCam drive whose clips hold distinct random bytes, for tests that copy footage and check digests.
 class DriveBuilder {
 public:
     explicit DriveBuilder(const QString &teslaCamRoot);
@@ -16,9 +15,8 @@ public:
     TeslaCamFixture &fixture() { return fixture_; }
     const QString &root() const { return fixture_.root(); }
 
-    // An event folder ("SentryClips" or "SavedClips", name like
-    // "2026-07-18_09-15-32") with event.json, a thumbnail and `clips`
-    // clips of clipSize random bytes, one camera after another.
+    // An event folder ("SentryClips" or "SavedClips", named like "2026-07-18_09-15-32") with event.json, a thumbnail
+    // and `clips` clips of clipSize random bytes, one camera after another.
     QString addEvent(const QString &kindFolder, const QString &folderName, int clips, qint64 clipSize);
 
     // Events as the scanner reads them, newest first.

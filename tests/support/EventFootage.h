@@ -53,8 +53,7 @@ std::optional<Exporter::ExportError::Case> exportErrorOf(F &&f)
     return std::nullopt;
 }
 
-// An export on a thread of its own, for a test to stop while the drive holds
-// one of its reads; stopped and joined when it goes.
+// An export on its own thread, for a test to stop while the drive holds a read; stopped and joined when it goes.
 struct ExportThread {
     std::stop_source stop;
     std::exception_ptr error;

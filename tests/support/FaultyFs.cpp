@@ -1,5 +1,4 @@
-// The 3.12 interface: older ones read the loop's configuration in an older
-// layout, which leaves no idle worker once a few requests are held.
+// FUSE 3.12: older interfaces read the loop's config in an older layout, leaving no idle worker once requests are held.
 #define FUSE_USE_VERSION 312
 #include "support/FaultyFs.h"
 
@@ -80,8 +79,7 @@ bool waitWhileHeld(FaultyFs::State &s, std::unique_lock<std::mutex> &lock)
 
 void *onInit(fuse_conn_info *, fuse_config *config)
 {
-    // No caching anywhere: every read and lookup must reach us, so that a
-    // fault set during a test takes effect at once.
+    // No caching anywhere: every read and lookup must reach us, so a fault set mid-test takes effect at once.
     config->entry_timeout = 0;
     config->attr_timeout = 0;
     config->negative_timeout = 0;
@@ -193,8 +191,7 @@ int onRead(const char *path, char *buffer, size_t size, off_t offset, fuse_file_
         s.vanished = true;
     lock.unlock();
     if (const qint64 rate = s.readRate.load(); rate > 0) {
-        // One read at a time through the drive's bandwidth: each waits for
-        // those granted before it.
+        // One read at a time through the drive's bandwidth: each waits for those granted before it.
         std::chrono::steady_clock::time_point done;
         {
             std::lock_guard rateLock(s.rateMutex);
@@ -213,8 +210,7 @@ int onStatfs(const char *, struct statvfs *out)
     std::unique_lock lock(s.mutex);
     if (s.hangStatfs && !s.releasing && !waitWhileHeld(s, lock))
         return -EIO;
-    // What libfuse answers when a file system has no statfs of its own,
-    // unless the test gave the drive a size.
+    // What libfuse answers when a file system has no statfs of its own, unless the test gave the drive a size.
     std::memset(out, 0, sizeof *out);
     out->f_namemax = 255;
     out->f_bsize = 512;
@@ -263,8 +259,7 @@ FaultyFs::FaultyFs(const QString &mountPoint) : state_(std::make_unique<State>()
     state_->mountPoint = mountPoint;
     if (!available())
         return;
-    // The kernel's FUSE control folder, through which a teardown can abort
-    // the connection; mounted once if the system hasn't.
+    // The kernel's FUSE control folder, through which teardown can abort the connection; mounted once if not yet.
     {
         QFile mounts(QStringLiteral("/proc/self/mounts"));
         if (mounts.open(QIODevice::ReadOnly) && !mounts.readAll().contains(" fusectl "))
@@ -286,8 +281,7 @@ FaultyFs::FaultyFs(const QString &mountPoint) : state_(std::make_unique<State>()
         return;
     }
     state_->mounted = true;
-    // Read from the mount table, not by asking the file system itself,
-    // which may not answer by the time the test ends.
+    // From the mount table, not the file system itself, which may not answer by the time the test ends.
     QFile mountInfo(QStringLiteral("/proc/self/mountinfo"));
     if (mountInfo.open(QIODevice::ReadOnly))
         for (const QByteArray &line : mountInfo.readAll().split('\n')) {
@@ -298,8 +292,7 @@ FaultyFs::FaultyFs(const QString &mountPoint) : state_(std::make_unique<State>()
                     state_->connection = device[1].toInt();
             }
         }
-    // Several threads, so that several held reads wait at once while the
-    // rest of the drive still answers.
+    // Several threads, so several held reads wait at once while the rest of the drive still answers.
     state_->loop = std::thread([h = state_->handle] {
         fuse_loop_config *config = fuse_loop_cfg_create();
         fuse_loop_cfg_set_max_threads(config, 64);
@@ -316,10 +309,8 @@ FaultyFs::~FaultyFs()
         return;
     // A hung read must answer before the file system can go.
     release();
-    // Unmounting ends the loop: its read of /dev/fuse fails once the
-    // kernel drops the connection. A file something of the test still holds
-    // open would keep the connection up, and the loop with it: the
-    // connection is aborted then, so the test ends whatever it left open.
+    // Unmounting ends the loop (its /dev/fuse read fails once the kernel drops the connection); a file the test still
+    // holds open would keep the connection up, so it is aborted then.
     fuse_exit(state_->handle);
     fuse_unmount(state_->handle);
     if (state_->connection >= 0) {

@@ -15,8 +15,7 @@ namespace HeldClip {
 // A generated 640x480 H.264 clip, index first, as bytes.
 QByteArray indexFirst(double seconds, int framesPerSecond);
 
-// Puts bytes on the drive as name, every read from heldFrom on held until
-// the drive is released; the file's path as the drive shows it.
+// Puts bytes on the drive as name, reads from heldFrom on held until release; the path as the drive shows it.
 QString add(FaultyFs &drive, const QString &name, const QByteArray &bytes, qint64 heldFrom);
 
 } // namespace HeldClip

@@ -32,12 +32,9 @@ QString setUp();
         return QTest::qExec(&tc, argc, argv);                                                                          \
     }
 
-// The same for tests of the application's window (in English, or in the
-// language KEELHOLD_TEST_LANGUAGE names, as the layouts are checked in German): an application named as
-// the app is (its settings land where the app's would), with widgets where
-// linked, since the file dialogs are widgets. Without a display the
-// offscreen platform lets the process come up to say what it skips. No
-// desktop's platform theme: the dialogs the tests drive are Qt's own.
+// The same for the window's tests (English, or KEELHOLD_TEST_LANGUAGE's language: layouts are checked in German),
+// named as the app so settings land where its would, with widgets where linked (file dialogs are widgets). Offscreen
+// without a display, to say what it skips; no platform theme, as the tests drive Qt's own dialogs.
 #define KEELHOLD_APP_TEST_MAIN(TestObject)                                                                             \
     int main(int argc, char **argv)                                                                                    \
     {                                                                                                                  \

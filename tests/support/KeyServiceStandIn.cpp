@@ -22,8 +22,7 @@ struct KeyServiceStandIn::State {
     QHash<QByteArray, QByteArray> keys; // base64 wrapped key -> base64 file key
     Mode mode = Mode::keys;
     std::vector<Request> requests;
-    // The sign-in service: codes given out, with the challenge each answers;
-    // the one refresh token that is good now.
+    // Sign-in: the codes given out with the challenge each answers, and the one refresh token good now.
     QHash<QByteArray, QByteArray> challenges;
     int issued = 0;
     QByteArray liveRefresh;
@@ -149,9 +148,8 @@ private:
         return response(200, json({{QStringLiteral("results"), results}}));
     }
 
-    // authorize: straight back to the redirect address with a code, as the
-    // browser lands after a sign-in; token: the code (with its verifier) or
-    // a refresh token for the tokens.
+    // authorize: back to the redirect address with a code, as the browser lands after a sign-in;
+    // token: the code (with its verifier) or a refresh token for the tokens.
     QByteArray signIn(const QByteArray &target, const QJsonObject &body)
     {
         const QUrl url(QString::fromLatin1(target));

@@ -127,9 +127,8 @@ static void track(int fd, int on)
         atomic_store(&tracked[fd], on);
 }
 
-// Counts an open of a watched path and follows the descriptor it gives; a
-// number reused after a close that didn't pass here starts afresh. All four
-// opens go to the next openat: open(path) is openat(AT_FDCWD, path).
+// Counts an open of a watched path and follows its descriptor; a number reused after an unseen close starts afresh.
+// All four opens go to the next openat: open(path) is openat(AT_FDCWD, path).
 static int openWatched(const char *call, int dirfd, const char *path, int flags, mode_t mode)
 {
     const int isWatched = watched(dirfd, path);

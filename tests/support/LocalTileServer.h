@@ -5,8 +5,7 @@
 #include <QStringList>
 #include <QTcpServer>
 
-// A map tile server on 127.0.0.1 for the tests: every tile is one flat
-// colour. It answers from the event loop of the thread that made it.
+// A map tile server on 127.0.0.1, every tile one flat colour, answering from the event loop of the thread that made it.
 class LocalTileServer : public QObject {
 public:
     static inline const QColor colour{205, 228, 196};

@@ -19,8 +19,7 @@ public:
     bool ok() const { return mounted_; }
     const QString &path() const { return mountPoint_; }
 
-    // Pulled out: unmounted lazily, open files or not. The image stays, so
-    // plugIn() brings the same drive back.
+    // Pulled out: unmounted lazily, open files or not; the image stays, so plugIn() brings the same drive back.
     void pull();
     // The same exFAT image mounted again at the same place.
     bool plugIn();
@@ -28,8 +27,7 @@ public:
     void unmount();
 
     static bool run(const QString &program, const QStringList &args, QString *out = nullptr, int timeoutMs = 60000);
-    // Unmounts and removes what a test process that died left of its drives
-    // of this label (its process id is in their names); returns how many.
+    // Unmounts and removes drives of this label a dead test process left (its id is in their names); returns how many.
     static int sweepLeftovers(const QString &label);
 
 private:

@@ -14,8 +14,7 @@ public:
     // The clip at path, read whole.
     static Mp4Boxes read(const QString &path);
 
-    // A path of box types from the top, "moov/trak/mdia/mdhd", each the first
-    // of its type; a type may carry an index, "moov/trak[1]/tkhd".
+    // A path of box types from the top, each the first of its type unless indexed: "moov/trak[1]/tkhd".
     bool has(const QByteArray &path) const;
     // The bytes after the box's 8-byte header.
     QByteArray payload(const QByteArray &path) const;

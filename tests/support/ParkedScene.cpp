@@ -11,9 +11,7 @@ void generate(const Options &o, const QString &dest)
 {
     constexpr int fps = 36;
     constexpr int walkerWidth = 24, walkerHeight = 80;
-    // Static texture (noise without its temporal flag stays put), the
-    // sensor's noise over it, and a brightness that rises by a step every
-    // few seconds.
+    // A still texture (noise without its temporal flag stays put), sensor noise over it, brightness rising in steps.
     QString graph = QStringLiteral("[0]noise=alls=40:allf=u,noise=alls=%1:allf=t,eq=brightness='-0.1+0.003*t':eval=frame[s0]")
                         .arg(o.noise);
     QStringList inputs{QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"),

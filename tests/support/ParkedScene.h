@@ -25,8 +25,7 @@ struct Options {
 // Throws std::runtime_error when the movie can't be made.
 void generate(const Options &options, const QString &dest);
 
-// The seconds in which someone moves in view: from each walker's entering
-// second up to the one it has left by.
+// The seconds in which someone moves in view: each walker's entering second up to the one it has left by.
 std::vector<int> movingSeconds(const Options &options);
 
 } // namespace ParkedScene

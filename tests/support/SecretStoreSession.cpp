@@ -7,8 +7,7 @@
 #include <unistd.h>
 
 namespace {
-// The daemons end with the test, even one that crashes, and hold none of its
-// open files (a build lock among them) past it.
+// The daemons end with the test, even a crashed one, and hold none of its open files (a build lock among them).
 void childSetUp()
 {
     ::prctl(PR_SET_PDEATHSIG, SIGKILL);

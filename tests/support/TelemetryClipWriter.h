@@ -28,8 +28,7 @@ struct FrameRecord {
     Message message;
     Damage damage = Damage::none;
     int markerLength = 3; // 0x42 bytes before the 0x69
-    // Another user-data message of 300 bytes goes first in the same unit,
-    // so its size is coded with 0xFF continuation bytes.
+    // A 300-byte user-data message first in the same unit, so its size is coded with 0xFF continuation bytes.
     bool afterLongMessage = false;
 };
 
@@ -45,8 +44,7 @@ void remux(const QString &source, const QString &dest, const RecordFor &recordFo
 
 // The user-data payload: marker and message, damaged as asked.
 QByteArray payload(const FrameRecord &record);
-// A whole SEI NAL unit (header, messages, trailing bits) with emulation
-// prevention applied. hevc: a prefix SEI with its two-byte header.
+// A whole SEI NAL unit (header, messages, trailing bits), emulation prevented; hevc: a prefix SEI, two-byte header.
 QByteArray seiUnit(const FrameRecord &record, bool hevc = false);
 // 00 00 0x (x ≤ 3) becomes 00 00 03 0x.
 QByteArray escape(const QByteArray &rbsp);

@@ -32,12 +32,6 @@ QString key(const ClipOptions &s)
         + QStringLiteral("|%1|%2|%3|%4").arg(s.filter).arg(s.lossless).arg(s.faststart).arg(s.bFrames);
     return QString::fromLatin1(QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Md5).toHex());
 }
-} // namespace
-
-bool ffmpegAvailable()
-{
-    return !QStandardPaths::findExecutable(QStringLiteral("ffmpeg")).isEmpty();
-}
 
 void generate(const ClipOptions &s, const QString &dest)
 {
@@ -70,6 +64,13 @@ void generate(const ClipOptions &s, const QString &dest)
     p.start(QStringLiteral("ffmpeg"), args);
     if (!p.waitForFinished(120000) || p.exitStatus() != QProcess::NormalExit || p.exitCode() != 0)
         throw std::runtime_error(("ffmpeg failed: " + QString::fromUtf8(p.readAllStandardError())).toStdString());
+}
+
+} // namespace
+
+bool ffmpegAvailable()
+{
+    return !QStandardPaths::findExecutable(QStringLiteral("ffmpeg")).isEmpty();
 }
 
 QString clip(const ClipOptions &options)

@@ -2,8 +2,7 @@
 
 #include <QString>
 
-// Real movie files for tests, made with the ffmpeg tool and cached per
-// parameter set for the life of the test process.
+// Real movie files for tests, made with the ffmpeg tool and cached per parameter set for the process's life.
 namespace TestClips {
 
 struct ClipOptions {
@@ -16,7 +15,7 @@ struct ClipOptions {
     bool audio = false;
     int gop = 36;
     QString pattern = QStringLiteral("testsrc2"); // lavfi source
-    QString filter;        // video filters after the source, e.g. "geq=lum='N'"
+    QString filter = {};   // video filters after the source, e.g. "geq=lum='N'"
     bool lossless = false; // H.264 at qp 0, so pixel values survive exactly
     bool faststart = false; // the index (moov) before the samples (mdat)
     int bFrames = 0;        // H.264: frames stored out of presentation order
@@ -24,12 +23,9 @@ struct ClipOptions {
 
 // Path of a generated clip matching options (do not modify it; copy it).
 QString clip(const ClipOptions &options = ClipOptions());
-// Generates into dest directly.
-void generate(const ClipOptions &options, const QString &dest);
 bool ffmpegAvailable();
 
-// Appends a "free" box so the movie is at least this many bytes: a clip
-// smaller than a real one is taken for a cut-short file and never opened.
+// Appends a "free" box up to this size: a clip smaller than a real one is taken for cut short and never opened.
 void padTo(const QString &path, qint64 size = 100 * 1024);
 
 // Where the top-level box of a type starts in a movie file's bytes; -1 if none.

@@ -7,7 +7,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-TreeSnapshot TreeSnapshot::take(const QString &root, bool withDigests)
+TreeSnapshot TreeSnapshot::take(const QString &root)
 {
     TreeSnapshot snap;
     QDirIterator it(root, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
@@ -22,7 +22,7 @@ TreeSnapshot TreeSnapshot::take(const QString &root, bool withDigests)
         e.mtimeNs = qint64(st.st_mtim.tv_sec) * 1000000000 + st.st_mtim.tv_nsec;
         e.atimeNs = qint64(st.st_atim.tv_sec) * 1000000000 + st.st_atim.tv_nsec;
         e.isDirectory = S_ISDIR(st.st_mode);
-        if (withDigests && S_ISREG(st.st_mode)) {
+        if (S_ISREG(st.st_mode)) {
             // O_NOATIME so that taking the snapshot doesn't disturb it.
             const int fd = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NOATIME | O_CLOEXEC);
             if (fd >= 0) {

@@ -4,8 +4,7 @@
 #include <QMap>
 #include <QString>
 
-// Names, sizes, times and digests of every entry under a folder, to prove
-// that nothing under it was created, changed, renamed or removed.
+// Names, sizes, times and digests of all under a folder, to prove nothing was created, changed, renamed or removed.
 struct TreeSnapshot {
     struct Entry {
         qint64 size = 0;
@@ -17,8 +16,7 @@ struct TreeSnapshot {
     };
     QMap<QString, Entry> entries;
 
-    // withAccessTimes: also compare atimes (needs a file system that keeps them).
-    static TreeSnapshot take(const QString &root, bool withDigests = true);
-    // A readable list of differences; empty when equal.
+    static TreeSnapshot take(const QString &root);
+    // A readable list of differences, empty when equal; compareAccessTimes needs a file system that keeps them.
     QString differences(const TreeSnapshot &after, bool compareAccessTimes = false) const;
 };

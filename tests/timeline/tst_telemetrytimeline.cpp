@@ -112,10 +112,7 @@ private Q_SLOTS:
         const auto route = telemetry.route();
         QCOMPARE(route.size(), size_t(4 * 72 - 5));
         QCOMPARE(route.front(), *first);
-    }
 
-    void otherCameras()
-    {
         // The back camera's clip carries no records; the left one has no clips.
         const EventTelemetry back = TelemetryTimeline::load(event_, Camera::back);
         QCOMPARE(back.tracks.size(), size_t(1));

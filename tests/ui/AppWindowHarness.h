@@ -29,8 +29,7 @@ public:
 
     QQuickWindow *window() const { return keelhold.mainWindow(); }
 
-    // By object name, through the object tree and then the item tree (list
-    // delegates and open popups are reachable only through the latter).
+    // Then through the item tree: list delegates and open popups are reachable only through it.
     template <typename T = QQuickItem> T *find(const QString &name) const
     {
         if (!window())
@@ -53,8 +52,7 @@ public:
         return nullptr;
     }
 
-    // Every item under root, root first; from the content item that takes
-    // in open popups (the overlay is its child).
+    // From the content item this takes in open popups (the overlay is its child).
     static QList<QQuickItem *> itemsUnder(QQuickItem *root)
     {
         QList<QQuickItem *> out;
@@ -66,8 +64,6 @@ public:
         return out;
     }
 
-    // The items on screen (visible, with a width) named so, or whose name
-    // starts so.
     QList<QQuickItem *> shownItems(const QString &name, bool prefix = false) const
     {
         QList<QQuickItem *> out;
@@ -108,8 +104,7 @@ public:
         return item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
     }
 
-    // Until the window has laid out and drawn a frame asked for after the
-    // call. Nothing is drawn while the scene stands still, hence the update.
+    // Nothing is drawn while the scene stands still, hence the update.
     static bool waitForFrame(QQuickWindow *window, int timeout = 20000)
     {
         if (!window)
@@ -125,8 +120,7 @@ public:
     }
     bool waitForFrame() const { return waitForFrame(window()); }
 
-    // Until the item stands still from one frame to the next: layouts place
-    // items at the next frame, and transitions move them frame by frame.
+    // Layouts place items at the next frame, and transitions move them frame by frame.
     static bool settle(QQuickWindow *window, QQuickItem *item)
     {
         QPoint last = centreOf(item);
@@ -149,8 +143,7 @@ public:
         QTest::mouseClick(window(), button, Qt::NoModifier, centreOf(item));
     }
 
-    // With KEELHOLD_SCREENSHOT_DIR set, the window as it stands goes to
-    // <dir>/<name>.png, or <name>-<language>.png in another language.
+    // With KEELHOLD_SCREENSHOT_DIR set: <dir>/<name>.png, or <name>-<language>.png in another language.
     void shot(const QString &name) const
     {
         if (qEnvironmentVariableIsEmpty("KEELHOLD_SCREENSHOT_DIR") || !window())

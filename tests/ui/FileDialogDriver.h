@@ -48,8 +48,7 @@ inline QString typedName(QFileDialog *dialog)
 
 enum class ReplaceExisting { no, yes };
 
-// True once the dialog took the answer and went. Saving over a file asks
-// first; `replace` answers that question.
+// True once the dialog took the answer and went; `replace` answers whether to save over a file.
 inline bool answer(const QString &path, ReplaceExisting replace = ReplaceExisting::no)
 {
     QFileDialog *dialog = waitForDialog();

@@ -50,8 +50,7 @@ class EventMapTest : public QObject {
         drive.addClip(folder, QStringLiteral("2024-05-09_09-59-00"), QStringLiteral("front"), 16 * 1024);
         unlocated = QStringLiteral("saved|2024-05-09_10-00-00");
 
-        // Clips with the car's records: a saved event whose event.json has
-        // only the coarse place, and recent driving with no place at all.
+        // A saved event whose event.json has only the coarse place, and recent driving with no place at all.
         if (!TestClips::ffmpegAvailable())
             return;
         TestClips::ClipOptions options;
@@ -202,8 +201,7 @@ private Q_SLOTS:
 
     void withoutTilesThePinsStandOnAPlainBackground()
     {
-        // Every tile asked of the working server has landed: one landing
-        // after the failures below would clear them.
+        // Every tile of the working server has landed: one landing after the failures below would clear them.
         QTRY_COMPARE_WITH_TIMEOUT(TileSource::shared()->tilesArrived(), TileSource::shared()->requestsStarted(), 30000);
         // A port where nothing answers.
         QTcpServer closed;
@@ -225,10 +223,7 @@ private Q_SLOTS:
             QVERIFY(app->find(QStringLiteral("pin_") + id)->isVisible());
     }
 
-    // Clips with GPS fixes pin their event at the first fix, not at the
-    // coarse place of its event.json, and pin recent driving that has no
-    // place at all; their routes are drawn in the colours of the driver
-    // assistance. Clips without fixes keep the pins they had.
+    // The first GPS fix beats event.json's coarse place; clips without fixes keep the pins they had.
     void clipsWithFixesPinPreciselyAndDrawTheirRoutes()
     {
         if (!TestClips::ffmpegAvailable())
@@ -252,8 +247,7 @@ private Q_SLOTS:
         QCOMPARE(pinOf(located.first()).value(QStringLiteral("latitude")).toDouble(), 30.25);
         QVERIFY(pinOf(unlocated).isEmpty());
 
-        // Two routes, each blue (Autopilot) then green (cruise), the map
-        // fitted afresh to take them in as they arrive, their key shown.
+        // Each route blue (Autopilot) then green (cruise); the map refits to take them in as they arrive.
         QTRY_COMPARE(app->screens.map()->routesForQml().value<MapRoutes>().size(), 2);
         auto allInView = [&] {
             for (const TileMap::Stroke &stroke : map()->strokes())

@@ -118,8 +118,7 @@ private Q_SLOTS:
         QTRY_COMPARE(readNotes(), QStringList{QStringLiteral("xdg-open ") + dir_.filePath(QStringLiteral("out"))});
     }
 
-    // A bus that never answers must not freeze the window: the call
-    // returns at once and the folder opens after the limit.
+    // A bus that never answers must not freeze the window; the folder opens after the limit.
     void silentFileManagerNeverHoldsTheCaller()
     {
         program(QStringLiteral("dbus-send"), "exec /bin/sleep 30");

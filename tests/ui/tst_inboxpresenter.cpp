@@ -32,12 +32,11 @@ private Q_SLOTS:
     {
         using namespace InboxPresenter;
         // A failure hides even a filled scan; scanning beats a missing scan.
-        QCOMPARE(columnContent(true, true, true, 10), ColumnContent::failure);
-        QCOMPARE(columnContent(false, true, true, 10), ColumnContent::scanning);
-        QCOMPARE(columnContent(false, true, false, 0), ColumnContent::scanning);
-        QCOMPARE(columnContent(false, false, false, 0), ColumnContent::noDrive);
-        QCOMPARE(columnContent(false, false, true, 0), ColumnContent::emptyDrive);
-        QCOMPARE(columnContent(false, false, true, 1), ColumnContent::inbox);
+        QCOMPARE((QList{columnContent(true, true, true, 10), columnContent(false, true, true, 10),
+                        columnContent(false, true, false, 0), columnContent(false, false, false, 0),
+                        columnContent(false, false, true, 0), columnContent(false, false, true, 1)}),
+                 (QList{ColumnContent::failure, ColumnContent::scanning, ColumnContent::scanning, ColumnContent::noDrive,
+                        ColumnContent::emptyDrive, ColumnContent::inbox}));
     }
 
     void secondLineFallsBackInOrder()

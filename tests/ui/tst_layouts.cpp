@@ -43,8 +43,7 @@ class LayoutsTest : public QObject {
         return {};
     }
 
-    // Every control named is shown whole inside the window and on top of
-    // no other; layouts settle over a frame or two, so this is polled.
+    // Layouts settle over a frame or two, so this is polled.
     bool controlsHold(const QStringList &names, QString *why) const
     {
         const QRectF bounds(QPointF(0, 0), QSizeF(app->window()->size()));
@@ -122,8 +121,6 @@ private Q_SLOTS:
             QVERIFY2(share <= 0.25, qPrintable(QStringLiteral("%1 is %2% covered at %3x%4").arg(tile->objectName())
                                                    .arg(qRound(share * 100)).arg(size.width()).arg(size.height())));
         }
-        // The toolbar and the transport whole and apart; the times, the
-        // list's own buttons and every camera whole.
         QString why;
         QTRY_VERIFY2(controlsHold({QStringLiteral("keepButton"), QStringLiteral("dismissButton"), QStringLiteral("exportButton"),
                                    QStringLiteral("focusModeButton"), QStringLiteral("stepBackButton"),
@@ -146,9 +143,7 @@ private Q_SLOTS:
         app->shot(QStringLiteral("player-%1x%2").arg(size.width()).arg(size.height()));
     }
 
-    // Jumps between the largest and smallest windows, the readings moving
-    // between over the cameras and below them, settle in one layout pass
-    // each: no polish loop.
+    // The readings move between over the cameras and below them, in one layout pass each: no polish loop.
     void sizeJumpsSettleWithoutALoop()
     {
         QTest::failOnWarning(QRegularExpression(QStringLiteral("Polish loop")));
@@ -169,9 +164,7 @@ private Q_SLOTS:
         }
     }
 
-    // The window at full size before any event opens, as when the app starts
-    // maximised: the transport lays out its whole row, nothing on top of
-    // anything.
+    // Full size before any event opens, as when the app starts maximised.
     void transportHoldsWhenTheWindowIsLargeFromTheStart()
     {
         app->state.setSelectedEventID(std::nullopt);

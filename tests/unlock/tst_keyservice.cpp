@@ -118,7 +118,6 @@ private Q_SLOTS:
         QTest::newRow("500") << int(M::status500) << token << int(Outcome::refused);
         QTest::newRow("malformed") << int(M::malformed) << token << int(Outcome::malformedAnswer);
         QTest::newRow("no answer in time") << int(M::silent) << token << int(Outcome::unreachable);
-        QTest::newRow("wrong token") << int(M::keys) << QByteArray("not-the-token") << int(Outcome::signInExpired);
     }
 
     void serviceFailuresBecomeOneSentenceEach()

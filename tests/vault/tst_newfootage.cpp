@@ -51,8 +51,7 @@ std::vector<QString> ids(const std::vector<TeslaEvent> &events)
 class TestNewFootage : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    // Sentry and saved events: new until the Vault's newest record of the
-    // event holds every clip at the same size.
+    // Sentry and saved events: new until the Vault's newest record holds every clip at the same size.
     void eventsAreJudgedByTheirFiles()
     {
         const QString f = QStringLiteral("/media/CAR/TeslaCam/SentryClips/a");
@@ -71,9 +70,7 @@ private Q_SLOTS:
         QCOMPARE(ids(NewFootage::unkept({whole}, vault, false)), std::vector<QString>{whole.id()});
     }
 
-    // Recent driving rolls: the same drive comes back under a new id with
-    // its oldest minutes gone and new ones added. Only the new minutes are
-    // taken, as drives of their own, and only when asked for.
+    // Recent driving rolls: back under a new id, oldest minutes gone; only new minutes are taken, as drives, if asked.
     void recentDrivingTakesOnlyNewMinutes()
     {
         const QString folder = QStringLiteral("/media/CAR/TeslaCam/RecentClips");
@@ -103,8 +100,7 @@ private Q_SLOTS:
         QVERIFY(NewFootage::unkept({rolled}, vault, true).empty());
     }
 
-    // A keep told as kept, as full and as nothing new is heard word for
-    // word in the watch's and the auto-keep's tests; a pulled drive only here.
+    // Told as kept, full or nothing new in the watch's and auto-keep's tests; a pulled drive only here.
     void aKeepCutOffByAPulledDriveSaysSo()
     {
         ArchiveReport report;
